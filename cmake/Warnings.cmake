@@ -1,0 +1,14 @@
+# The compiler options that every target of ours is built with. Warnings are errors everywhere.
+add_library(folionet_warnings INTERFACE)
+target_compile_options(folionet_warnings INTERFACE
+  -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wnon-virtual-dtor -Wold-style-cast -Woverloaded-virtual -Werror)
+
+if(FOLIONET_SANITIZE)
+  add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=address,undefined)
+endif()
+
+# g++ 12 sees an overlap in "literal" + std::string that is not there.
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
+  target_compile_options(folionet_warnings INTERFACE -Wno-restrict)
+endif()

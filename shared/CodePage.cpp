@@ -1,0 +1,271 @@
+#include "CodePage.h"
+
+#include <unicode/uchar.h>
+#include <unicode/ucnv.h>
+#include <unicode/utf8.h>
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+#include "RunTimeError.h"
+
+namespace folionet {
+namespace {
+
+constexpr char kDefaultName[] = "windows-1252";
+constexpr UChar32 kUndecodable = -1;
+
+bool IsAscii(std::string_view text) {
+  return std::all_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+}
+
+char MapAscii(char c, bool upper) {
+  if (upper) return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
+  return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+}
+
+void AppendUtf8(std::string& text, UChar32 character) {
+  std::array<char, U8_MAX_LENGTH> buffer{};
+  int32_t length = 0;
+  U8_APPEND_UNSAFE(buffer.data(), length, character);
+  text.append(buffer.data(), static_cast<std::size_t>(length));
+}
+
+// One character of a text, or one byte of it that is no character.
+struct Piece {
+  UChar32 character;  // kUndecodable for a lone byte
+  std::string_view bytes;
+};
+
+// The character at the start of a text, with its length in bytes; negative for a byte that is no character.
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wconversion"  // ICU's macro narrows on purpose
+UChar32 FirstUtf8(std::string_view text, int32_t& length) {
+  UChar32 character = 0;
+  length = 0;
+  U8_NEXT(text.data(), length, static_cast<int32_t>(text.size()), character);
+  return character;
+}
+#pragma GCC diagnostic pop
+
+// Splits UTF-8 into characters, calling take(Piece) for each.
+template <typename Take>
+void ForEachUtf8(std::string_view text, Take take) {
+  std::size_t at = 0;
+  while (at < text.size()) {
+    int32_t next = 0;
+    const UChar32 character = FirstUtf8(text.substr(at, U8_MAX_LENGTH), next);
+    const std::size_t length = character < 0 ? 1 : static_cast<std::size_t>(next);
+    take(Piece{character < 0 ? kUndecodable : character, text.substr(at, length)});
+    at += length;
+  }
+}
+
+bool IsStatelessType(UConverterType type) {
+  return type == UCNV_SBCS || type == UCNV_MBCS || type == UCNV_DBCS || type == UCNV_UTF8 || type == UCNV_LATIN_1 ||
+         type == UCNV_US_ASCII;
+}
+
+}  // namespace
+
+// Opens ICU's converter at the first text that is not plain ASCII: most runs over English text never need it.
+class CodePage::Converter {
+ public:
+  explicit Converter(std::string name) : m_name(std::move(name)), m_isUtf8(m_name == "utf-8") {}
+
+  const std::string& Name() const { return m_name; }
+  bool IsUtf8() const { return m_isUtf8; }
+
+  // Whether the name is usable at all. Opens the converter.
+  bool IsUsable() const {
+    UErrorCode error = U_ZERO_ERROR;
+    const std::unique_ptr<UConverter, Close> converter(ucnv_open(m_name.c_str(), &error));
+    return U_SUCCESS(error) && IsStatelessType(ucnv_getType(converter.get())) && HoldsAscii(converter.get());
+  }
+
+  template <typename Take>
+  void ForEach(std::string_view bytes, Take take) const {
+    if (m_isUtf8) {
+      ForEachUtf8(bytes, take);
+      return;
+    }
+    UConverter* converter = Handle();
+    const char* at = bytes.data();
+    const char* const end = at + bytes.size();
+    while (at < end) {
+      UErrorCode error = U_ZERO_ERROR;
+      const char* next = at;
+      ucnv_resetToUnicode(converter);
+      UChar32 character = ucnv_getNextUChar(converter, &next, end, &error);
+      if (U_FAILURE(error)) {
+        character = kUndecodable;
+        next = at + 1;
+      }
+      take(Piece{character, {at, static_cast<std::size_t>(next - at)}});
+      at = next;
+    }
+  }
+
+  // Appends the bytes of a character; false when the code page lacks it.
+  bool Append(std::string& bytes, UChar32 character) const {
+    if (m_isUtf8 || character < 0x80) {
+      AppendUtf8(bytes, character);
+      return true;
+    }
+    std::array<UChar, 2> units{};
+    int32_t length = 0;
+    U16_APPEND_UNSAFE(units.data(), length, character);
+    std::array<char, 16> buffer{};
+    UErrorCode error = U_ZERO_ERROR;
+    UConverter* converter = Handle();
+    ucnv_resetFromUnicode(converter);
+    const int32_t written =
+        ucnv_fromUChars(converter, buffer.data(), static_cast<int32_t>(buffer.size()), units.data(), length, &error);
+    if (U_FAILURE(error)) return false;
+    bytes.append(buffer.data(), static_cast<std::size_t>(written));
+    return true;
+  }
+
+ private:
+  struct Close {
+    void operator()(UConverter* converter) const { ucnv_close(converter); }
+  };
+
+  static bool HoldsAscii(UConverter* converter) {
+    for (int c = 1; c < 0x80; ++c) {
+      const char byte = static_cast<char>(c);
+      const char* at = &byte;
+      UErrorCode error = U_ZERO_ERROR;
+      ucnv_resetToUnicode(converter);
+      if (ucnv_getNextUChar(converter, &at, &byte + 1, &error) != c || U_FAILURE(error)) return false;
+    }
+    return true;
+  }
+
+  UConverter* Handle() const {
+    if (m_handle == nullptr) {
+      UErrorCode error = U_ZERO_ERROR;
+      m_handle.reset(ucnv_open(m_name.c_str(), &error));
+      if (U_FAILURE(error)) throw RunTimeError(kOutOfMemory, m_name, u_errorName(error));
+      ucnv_setToUCallBack(m_handle.get(), UCNV_TO_U_CALLBACK_STOP, nullptr, nullptr, nullptr, &error);
+      ucnv_setFromUCallBack(m_handle.get(), UCNV_FROM_U_CALLBACK_STOP, nullptr, nullptr, nullptr, &error);
+      ucnv_setFallback(m_handle.get(), false);
+    }
+    return m_handle.get();
+  }
+
+  std::string m_name;
+  bool m_isUtf8;
+  mutable std::unique_ptr<UConverter, Close> m_handle;
+};
+
+CodePage::CodePage(std::string_view charset) {
+  std::string name(charset);
+  std::transform(name.begin(), name.end(), name.begin(), [](char c) { return MapAscii(c, false); });
+  if (name == "utf8") name = "utf-8";
+  auto converter = std::make_shared<Converter>(name);
+  // The two names that nearly every site uses need no asking.
+  if (name != kDefaultName && name != "utf-8" && (name.empty() || !converter->IsUsable())) {
+    converter = std::make_shared<Converter>(kDefaultName);
+  }
+  m_converter = std::move(converter);
+}
+
+const std::string& CodePage::Name() const { return m_converter->Name(); }
+
+std::string CodePage::Encode(std::string_view utf8) const {
+  if (m_converter->IsUtf8() || IsAscii(utf8)) return std::string(utf8);
+  std::string bytes;
+  bytes.reserve(utf8.size());
+  ForEachUtf8(utf8, [&](const Piece& piece) {
+    if (piece.character == kUndecodable) {
+      bytes += piece.bytes;
+    } else if (!m_converter->Append(bytes, piece.character)) {
+      bytes += "&#" + std::to_string(piece.character) + ";";
+    }
+  });
+  return bytes;
+}
+
+std::string CodePage::Decode(std::string_view bytes) const {
+  if (m_converter->IsUtf8() || IsAscii(bytes)) return std::string(bytes);
+  std::string text;
+  text.reserve(bytes.size() * 2);
+  m_converter->ForEach(bytes, [&](const Piece& piece) {
+    if (piece.character == kUndecodable) {
+      text += piece.bytes;
+    } else {
+      AppendUtf8(text, piece.character);
+    }
+  });
+  return text;
+}
+
+std::string CodePage::DecodeForDisplay(std::string_view bytes) const {
+  if (IsAscii(bytes)) return std::string(bytes);
+  std::string text;
+  m_converter->ForEach(bytes, [&](const Piece& piece) {
+    AppendUtf8(text, piece.character == kUndecodable ? 0xFFFD : piece.character);
+  });
+  return text;
+}
+
+std::size_t CodePage::FindUndecodable(std::string_view bytes) const {
+  if (IsAscii(bytes)) return std::string_view::npos;
+  std::size_t found = std::string_view::npos;
+  m_converter->ForEach(bytes, [&](const Piece& piece) {
+    if (piece.character == kUndecodable && found == std::string_view::npos) {
+      found = static_cast<std::size_t>(piece.bytes.data() - bytes.data());
+    }
+  });
+  return found;
+}
+
+namespace {
+
+template <typename Converter>
+std::string MapCase(const Converter& converter, std::string_view bytes, bool upper) {
+  std::string mapped;
+  mapped.reserve(bytes.size());
+  if (IsAscii(bytes)) {
+    for (const char c : bytes) mapped += MapAscii(c, upper);
+    return mapped;
+  }
+  converter.ForEach(bytes, [&](const Piece& piece) {
+    const UChar32 other = piece.character == kUndecodable ? kUndecodable
+                          : upper                         ? u_toupper(piece.character)
+                                                          : u_tolower(piece.character);
+    if (other == piece.character || !converter.Append(mapped, other)) mapped += piece.bytes;
+  });
+  return mapped;
+}
+
+}  // namespace
+
+std::string CodePage::ToLower(std::string_view bytes) const { return MapCase(*m_converter, bytes, false); }
+
+std::string CodePage::ToUpper(std::string_view bytes) const { return MapCase(*m_converter, bytes, true); }
+
+bool IsUtf8(std::string_view text) {
+  bool wellFormed = true;
+  ForEachUtf8(text, [&](const Piece& piece) { wellFormed = wellFormed && piece.character != kUndecodable; });
+  return wellFormed;
+}
+
+bool EqualIgnoringCase(std::string_view left, std::string_view right) {
+  const auto fold = [](std::string_view text) {
+    std::string folded;
+    ForEachUtf8(text, [&](const Piece& piece) {
+      if (piece.character == kUndecodable) {
+        folded += piece.bytes;
+      } else {
+        AppendUtf8(folded, u_foldCase(piece.character, U_FOLD_CASE_DEFAULT));
+      }
+    });
+    return folded;
+  };
+  return left == right || fold(left) == fold(right);
+}
+
+}  // namespace folionet

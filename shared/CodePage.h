@@ -1,0 +1,49 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+
+namespace folionet {
+
+// The character set that a site's bytes are in. Texts of Versalia's files and of pages are bytes in it; texts that a
+// person types or sees are UTF-8. Copies share one converter; use one CodePage from one thread only.
+class CodePage {
+ public:
+  // The code page that a page charset names ("iso-8859-7", "utf-8"), when ICU knows it, it is stateless and it holds
+  // ASCII as ASCII; windows-1252 otherwise.
+  explicit CodePage(std::string_view charset = "windows-1252");
+
+  // The name that the code page was found under.
+  const std::string& Name() const;
+
+  // UTF-8 to bytes. A character that the code page lacks becomes a decimal character reference ("&#8212;"); bytes that
+  // are not UTF-8 are kept as they are.
+  std::string Encode(std::string_view utf8) const;
+
+  // Bytes to UTF-8. Bytes that do not decode are kept as they are, so that Encode gives them back.
+  std::string Decode(std::string_view bytes) const;
+
+  // Bytes to UTF-8 for showing: bytes that do not decode become U+FFFD.
+  std::string DecodeForDisplay(std::string_view bytes) const;
+
+  // The place of the first byte that does not decode, npos when all do.
+  std::size_t FindUndecodable(std::string_view bytes) const;
+
+  // Simple case mapping of each character, in no language's manner. A character whose other case the code page lacks,
+  // and bytes that do not decode, stay as they are.
+  std::string ToLower(std::string_view bytes) const;
+  std::string ToUpper(std::string_view bytes) const;
+
+ private:
+  class Converter;
+  std::shared_ptr<const Converter> m_converter;
+};
+
+// Whether a text is well-formed UTF-8.
+bool IsUtf8(std::string_view text);
+
+// Two UTF-8 texts compared ignoring case, character by character.
+bool EqualIgnoringCase(std::string_view left, std::string_view right);
+
+}  // namespace folionet

@@ -1,0 +1,100 @@
+#include "LineReader.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+
+#include <cerrno>
+#include <cstring>
+
+#include "CodePage.h"
+#include "Numbers.h"
+#include "RunTimeError.h"
+
+namespace folionet {
+namespace {
+
+constexpr std::size_t kChunk = std::size_t{128} << 10;
+constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+
+}  // namespace
+
+LineReader::LineReader(const std::string& path)
+    // A pipe in the place of a file must not block the opening.
+    : m_path(path), m_file(open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK)) {
+  if (!m_file.IsOpen()) throw RunTimeError::FromErrno(errno, path);
+  struct stat status {};
+  if (fstat(m_file.Get(), &status) != 0) throw RunTimeError::FromErrno(errno, path);
+  if (!S_ISREG(status.st_mode)) throw RunTimeError(kPathFileAccessError, path, "It is not a regular file.");
+  m_buffer.resize(kChunk);
+  Fill();
+  if (std::string_view(m_buffer.data(), m_end).starts_with(kByteOrderMark)) m_begin = kByteOrderMark.size();
+}
+
+bool LineReader::Fill() {
+  if (m_begin > 0) {
+    std::memmove(m_buffer.data(), m_buffer.data() + m_begin, m_end - m_begin);
+    m_end -= m_begin;
+    m_begin = 0;
+  }
+  if (m_end == m_buffer.size()) m_buffer.resize(m_buffer.size() * 2);
+  while (m_end < m_buffer.size()) {
+    const ssize_t count = read(m_file.Get(), m_buffer.data() + m_end, m_buffer.size() - m_end);
+    if (count < 0 && errno == EINTR) continue;
+    if (count < 0) throw RunTimeError::FromErrno(errno, m_path);
+    if (count == 0) {
+      m_atEnd = true;
+      break;
+    }
+    m_end += static_cast<std::size_t>(count);
+  }
+  return m_end > 0;
+}
+
+bool LineReader::Next(std::string_view& line) {
+  std::size_t searched = m_begin;
+  for (;;) {
+    if (const void* found = std::memchr(m_buffer.data() + searched, '\n', m_end - searched)) {
+      const auto end = static_cast<std::size_t>(static_cast<const char*>(found) - m_buffer.data());
+      line = {m_buffer.data() + m_begin, end - m_begin};
+      m_begin = end + 1;
+      break;
+    }
+    const std::size_t pending = m_end - m_begin;
+    if (pending > kLongestLine) {
+      ++m_lineNumber;
+      Fail(kOutOfMemory, "The line is longer than " + std::to_string(kLongestLine) + " bytes.");
+    }
+    if (m_atEnd) {
+      if (pending == 0) return false;
+      line = {m_buffer.data() + m_begin, pending};
+      m_begin = m_end;
+      break;
+    }
+    Fill();
+    searched = m_begin + pending;
+  }
+  if (!line.empty() && line.back() == '\r') line.remove_suffix(1);
+  ++m_lineNumber;
+  return true;
+}
+
+bool LineReader::NextNotBlank(std::string_view& line) {
+  while (Next(line)) {
+    if (!TrimBlanks(line).empty()) return true;
+  }
+  return false;
+}
+
+void LineReader::Fail(int number, const std::string& detail) const {
+  throw RunTimeError(number, m_path, detail, m_lineNumber);
+}
+
+std::string Quoted(std::string_view text) {
+  constexpr std::size_t kShown = 60;
+  std::string shown;
+  for (const char c : text.substr(0, kShown)) shown += static_cast<unsigned char>(c) < 0x20 ? '?' : c;
+  if (!IsUtf8(shown)) shown = CodePage().DecodeForDisplay(shown);
+  return "\"" + shown + (text.size() > kShown ? "..." : "") + "\"";
+}
+
+}  // namespace folionet

@@ -1,0 +1,49 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+#include "FileHandle.h"
+
+namespace folionet {
+
+// Reads a text file line by line, in constant memory. Lines end in CR LF or LF; the last one need not end; a UTF-8
+// byte-order mark at the start is skipped; every other byte, NUL included, is passed on as it is.
+class LineReader {
+ public:
+  // A longer line is refused with kOutOfMemory.
+  static constexpr std::size_t kLongestLine = std::size_t{4} << 20;
+
+  // Opens the file; throws RunTimeError when that fails or when it is no regular file.
+  explicit LineReader(const std::string& path);
+
+  // Gives the next line without its end; false at the end of the file. The line is valid until the next call. Throws
+  // RunTimeError when reading fails.
+  bool Next(std::string_view& line);
+
+  // As Next, passing over lines that hold nothing but blanks.
+  bool NextNotBlank(std::string_view& line);
+
+  const std::string& Path() const { return m_path; }
+  std::size_t LineNumber() const { return m_lineNumber; }  // of the line last given, from 1
+
+  // Throws the error `number` for the line last given.
+  [[noreturn]] void Fail(int number, const std::string& detail) const;
+
+ private:
+  bool Fill();
+
+  std::string m_path;
+  FileHandle m_file;
+  std::string m_buffer;
+  std::size_t m_begin = 0;
+  std::size_t m_end = 0;
+  std::size_t m_lineNumber = 0;
+  bool m_atEnd = false;
+};
+
+// A text of a file, shortened to a length that a message can show, in double quotes.
+std::string Quoted(std::string_view text);
+
+}  // namespace folionet

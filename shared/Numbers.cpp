@@ -1,0 +1,55 @@
+#include "Numbers.h"
+
+#include <charconv>
+#include <cmath>
+
+#include "RunTimeError.h"
+
+namespace folionet {
+
+std::string_view TrimBlanks(std::string_view text) {
+  const std::size_t first = text.find_first_not_of(" \t");
+  if (first == std::string_view::npos) return {};
+  return text.substr(first, text.find_last_not_of(" \t") - first + 1);
+}
+
+IntegerReading ReadInteger(std::string_view text, std::int64_t lowest, std::int64_t highest) {
+  std::string_view digits = TrimBlanks(text);
+  if (!digits.empty() && digits.front() == '+') {
+    digits.remove_prefix(1);
+    if (!digits.empty() && digits.front() == '-') return {0, kTypeMismatch};
+  }
+  IntegerReading reading;
+  const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), reading.value);
+  if (error == std::errc::invalid_argument || end != digits.data() + digits.size()) return {0, kTypeMismatch};
+  if (error == std::errc::result_out_of_range || reading.value < lowest || reading.value > highest) {
+    return {0, kOverflow};
+  }
+  return reading;
+}
+
+double RoundHalfEven(double value) {
+  const double floor = std::floor(value);
+  const double rest = value - floor;
+  if (rest < 0.5) return floor;
+  if (rest > 0.5) return floor + 1;
+  return std::fmod(floor, 2.0) == 0.0 ? floor : floor + 1;
+}
+
+std::optional<std::int16_t> LeadingInteger(std::string_view text) {
+  const std::size_t first = text.find_first_not_of(" \t");
+  if (first == std::string_view::npos) return 0;
+  text.remove_prefix(first);
+  if (text.front() == '+') text.remove_prefix(1);
+  double value = 0;
+  const auto [end, error] =
+      std::from_chars(text.data(), text.data() + text.size(), value, std::chars_format::fixed);
+  if (error == std::errc::invalid_argument) return 0;
+  if (error == std::errc::result_out_of_range) return std::nullopt;
+  if (std::isnan(value)) return 0;
+  const double rounded = RoundHalfEven(value);
+  if (!(rounded >= kInt16Min && rounded <= kInt16Max)) return std::nullopt;
+  return static_cast<std::int16_t>(rounded);
+}
+
+}  // namespace folionet

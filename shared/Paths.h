@@ -1,0 +1,37 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace folionet {
+
+// Paths are UTF-8 (any bytes that the file system gives are kept). Stored and typed paths may use "\" or "/"; the
+// routines here take both.
+
+inline constexpr char kFolderSeparator = '/';
+
+// The path with the platform's separators.
+std::string NativePath(std::string_view path);
+
+// Whether the path ends in a separator of either kind.
+bool EndsInSeparator(std::string_view path);
+
+// The path with a separator at its end; one that is there already is not doubled.
+std::string WithSeparator(std::string_view path);
+
+// True when `path` is a file that can be opened for reading; false on any failure, a folder included.
+bool FileExists(const std::string& path);
+
+// True when `path` is a folder.
+bool FolderExists(const std::string& path);
+
+// Where the file or folder `name` (which may hold separators) under `folder` really is: the exact name when it is
+// there, else the first, in sorted order, that differs from it in letter case only, each component of `name` for
+// itself. The exact path when there is neither, so that an error names what was looked for.
+std::string LocateIgnoringCase(const std::string& folder, std::string_view name);
+
+// The names of a folder's entries, sorted ignoring case. Throws RunTimeError when the folder cannot be read.
+std::vector<std::string> ListFolder(const std::string& folder);
+
+}  // namespace folionet

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "LineReader.h"
+
+namespace folionet {
+
+// Reads comma-separated records, one a line, as the companion application writes them:
+//
+//   1,0,"King James Version","KJV"
+//
+// A field may stand in double quotes, a quote inside being doubled; blanks around a field do not count. Lines that
+// hold nothing but blanks are skipped.
+class RecordReader {
+ public:
+  explicit RecordReader(const std::string& path) : m_lines(path) {}
+
+  // Reads the next record into `fields`, which must be as many as the record has; false at the end of the file. Throws
+  // RunTimeError: kInputPastEnd when the record has fewer fields or a quote is not closed, kInvalidProcedureCall when
+  // it has more or text follows a closing quote. Fields read before the failure are kept, the others are empty.
+  bool Next(std::span<std::string> fields);
+
+  // A field of the record last read as a whole number within limits; throws kTypeMismatch or kOverflow.
+  std::int64_t Integer(const std::string& field, std::int64_t lowest, std::int64_t highest) const;
+
+  const LineReader& Lines() const { return m_lines; }
+
+ private:
+  std::string TakeField(std::string_view line, std::size_t& at) const;
+
+  LineReader m_lines;
+};
+
+// The line, ended by CR LF, of a record whose fields are all quoted: "big5","(Traditional Chinese - Big 5)"
+std::string QuotedRecord(std::span<const std::string> fields);
+
+}  // namespace folionet

@@ -1,0 +1,68 @@
+#pragma once
+
+#include <cstddef>
+#include <exception>
+#include <string>
+#include <string_view>
+
+namespace folionet {
+
+// The numbers by which failures are known to a person; StandardMessage gives each one's text.
+inline constexpr int kInvalidProcedureCall = 5;
+inline constexpr int kOverflow = 6;
+inline constexpr int kOutOfMemory = 7;
+inline constexpr int kSubscriptOutOfRange = 9;
+inline constexpr int kTypeMismatch = 13;
+inline constexpr int kBadFileName = 52;
+inline constexpr int kFileNotFound = 53;
+inline constexpr int kFileAlreadyOpen = 55;
+inline constexpr int kDeviceIoError = 57;
+inline constexpr int kDiskFull = 61;
+inline constexpr int kInputPastEnd = 62;
+inline constexpr int kTooManyFiles = 67;
+inline constexpr int kDeviceUnavailable = 68;
+inline constexpr int kPermissionDenied = 70;
+inline constexpr int kDiskNotReady = 71;
+inline constexpr int kPathFileAccessError = 75;
+inline constexpr int kPathNotFound = 76;
+
+// The fixed text of an error number, without a full stop; numbers outside the table share one general text.
+std::string_view StandardMessage(int number);
+
+// A statement that failed. Only the routines that carry a report label catch it: they hand it to
+// UserInterface::ShowErrorReport and leave.
+class RunTimeError : public std::exception {
+ public:
+  // `item` is the path or the thing at hand; `line` counts from 1, 0 meaning that there is none; `detail` is the
+  // system's own message or what was expected.
+  RunTimeError(int number, std::string item, std::string detail = {}, std::size_t line = 0);
+
+  // The error that stands for `systemError` (a value of errno) met while working on `path`. A missing file in a
+  // folder that exists is 53, in a missing folder 76.
+  static RunTimeError FromErrno(int systemError, const std::string& path);
+
+  int Number() const { return m_number; }
+  const std::string& Item() const { return m_item; }
+  const std::string& Detail() const { return m_detail; }
+  std::size_t Line() const { return m_line; }
+
+  // What the report's extra information tells of this error, as lines joined by CR LF:
+  //   /lib/Index/KJV.TXT.INDEX
+  //   Line 12
+  //   a number was expected: "x1"
+  std::string Extra() const;
+
+  const char* what() const noexcept override { return m_what.c_str(); }
+
+ private:
+  int m_number;
+  std::string m_item;
+  std::string m_detail;
+  std::size_t m_line;
+  std::string m_what;
+};
+
+// Leaves a run whose failure has been reported already; the labelled routine that catches it says nothing more.
+class AlreadyReported : public std::exception {};
+
+}  // namespace folionet

@@ -1,0 +1,58 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "Colours.h"
+#include "PageOptions.h"
+
+namespace folionet {
+
+enum class MessageIcon { kInformation, kWarning, kCritical };
+
+struct Message {
+  MessageIcon icon = MessageIcon::kInformation;
+  std::string title;
+  std::string text;       // lines joined by CR LF
+  bool isResult = false;  // what was asked for: the command line gives it on standard output
+};
+
+struct InputBox {
+  std::string prompt;
+  std::string title;
+  std::string defaultText;
+};
+
+// The one way to the person who uses the program. The form shows boxes, the command line prints the same words, tests
+// script the answers. All texts are UTF-8; names from Versalia's files are decoded before they get here.
+class UserInterface {
+ public:
+  virtual ~UserInterface() = default;
+
+  virtual void ShowMessage(const Message& message) = 0;
+
+  // A yes/no question whose default button is No. True for Yes; false where nobody can be asked.
+  virtual bool AskYesNo(const std::string& title, const std::string& text) = 0;
+
+  // The text entered; empty when the person cancelled; nothing where nobody can be asked.
+  virtual std::optional<std::string> AskText(const InputBox& box) = 0;
+
+  // The one error report. Returns when the person has closed it.
+  virtual void ShowErrorReport(int errorNumber, std::string_view moduleLabel, const std::string& extraInfo) = 0;
+
+  // Sets a panel of the status bar, counted from 1.
+  virtual void SetPanel(int panel, std::string_view text) = 0;
+
+  // Puts the focus on the control of that name; only a form has one.
+  virtual void FocusControl(std::string_view /*name*/) {}
+
+  // The choosers. Each gives back what it was given when the person cancels or where there is nobody to choose.
+  virtual Colour ChooseColour(Colour initial) { return initial; }
+  virtual SampleText ChooseFont(const SampleText& initial) { return initial; }
+  virtual std::string ChooseFile(const std::string& /*filter*/, const std::string& previous) { return previous; }
+  virtual std::string ChooseFolder(const std::string& initial) { return initial; }
+};
+
+}  // namespace folionet

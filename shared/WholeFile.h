@@ -1,0 +1,24 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace folionet {
+
+// Reads a whole regular file as it is. Throws RunTimeError; a file over `longest` bytes is kOutOfMemory.
+std::string ReadWholeFile(const std::string& path, std::size_t longest = std::size_t{64} << 20);
+
+// Gives the file `path` the content `bytes`, old or new and never a part: the bytes go to "<path>.new" beside it,
+// which then takes its place. A link is followed. Throws RunTimeError, and the old content stands.
+void ReplaceWholeFile(const std::string& path, std::string_view bytes);
+
+// Adds bytes at the end of a file, which is made when missing, with the same promise.
+void AppendToFile(const std::string& path, std::string_view bytes);
+
+// Writes all bytes to an open file at an offset, however often the system takes a part only. False with errno set.
+bool WriteAll(int descriptor, std::string_view bytes, std::size_t offset);
+
+// Reads up to `wanted` bytes from an offset; fewer only at the file's end. False with errno set.
+bool ReadAll(int descriptor, std::string& bytes, std::size_t wanted, std::size_t offset);
+
+}  // namespace folionet

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace folionet {
+
+inline constexpr int kBooks = 66;
+
+// One record of the chapter index.
+struct ChapterEntry {
+  std::uint8_t Book = 0;
+  std::uint8_t Chapter = 0;
+  std::uint8_t Verses = 0;
+};
+
+// The values that the whole program shares, made in main and handed down by reference. Names and titles are the bytes
+// of Versalia's files; folders are paths.
+struct ModGlob {
+  std::string InstallPath;  // Versalia's folder, ending in a separator as Versalia stores it
+  std::string ModulesPath;  // holds "Bible"
+  std::string SysdefsPath;  // holds the catalogue and the book titles
+
+  std::vector<std::string> BibleNames;  // display names; one spare element at the end
+  std::vector<std::string> BibleFiles;  // file stems, parallel to BibleNames
+
+  std::array<std::string, kBooks + 1> BookCodes;              // element 0 is unused
+  std::array<std::int16_t, kBooks + 1> ChaptersInBook{};      // by order of appearance; element 0 is unused
+  std::vector<ChapterEntry> ChapterIndex{1, ChapterEntry{}};  // the last element is all zero
+
+  // The items of the lists. A translation's place in cboBibleName is its place in BibleNames.
+  std::vector<std::string> cboBibleName;
+  std::vector<std::string> cboLang;       // file names (UTF-8)
+  std::vector<std::string> cboStartBook;  // item i is the title of book i + 1
+  std::vector<std::string> cboEndBook;
+
+  std::string OutputFolder;  // ends in the folder separator
+};
+
+}  // namespace folionet

@@ -1,0 +1,39 @@
+#include "CustomHtml.h"
+
+#include "Paths.h"
+#include "RunTimeError.h"
+#include "WholeFile.h"
+
+namespace folionet {
+namespace {
+
+void Report(const RunTimeError& error, const CustomHtmlKind& kind, std::string_view label, UserInterface& ui) {
+  ui.ShowErrorReport(error.Number(), label, std::string(kind.fileName) + "\r\n" + error.Extra());
+}
+
+}  // namespace
+
+bool LoadCustomHtml(const std::string& programFolder, const CustomHtmlKind& kind, const CodePage& codePage,
+                    std::string& text, UserInterface& ui) {
+  const std::string path = programFolder + std::string(kind.fileName);
+  try {
+    if (FileExists(path)) text = codePage.Decode(ReadWholeFile(path));
+    return true;
+  } catch (const RunTimeError& error) {
+    Report(error, kind, kind.loadLabel, ui);
+    return false;
+  }
+}
+
+bool SaveCustomHtml(const std::string& programFolder, const CustomHtmlKind& kind, const CodePage& codePage,
+                    std::string_view text, UserInterface& ui) {
+  try {
+    ReplaceWholeFile(programFolder + std::string(kind.fileName), codePage.Encode(text) + "\r\n");
+    return true;
+  } catch (const RunTimeError& error) {
+    Report(error, kind, "Unload_Form", ui);
+    return false;
+  }
+}
+
+}  // namespace folionet

@@ -1,0 +1,189 @@
+#include "OptionRecords.h"
+
+#include <array>
+
+#include "Numbers.h"
+#include "RunTimeError.h"
+#include "SettingsKeys.h"
+
+namespace folionet {
+namespace {
+
+struct SwatchKey {
+  std::string_view key;
+  Swatch EffectsOptions::*swatch;
+};
+
+constexpr std::array kSwatches{
+    SwatchKey{"lblHyperlink", &EffectsOptions::lblHyperlink},
+    SwatchKey{"lblActive", &EffectsOptions::lblActive},
+    SwatchKey{"lblFollowed", &EffectsOptions::lblFollowed},
+    SwatchKey{"lblRColor", &EffectsOptions::lblRColor},
+};
+
+std::string_view DefaultText(std::string_view key) { return FindSettingKey(key)->defaultText; }
+
+Colour DefaultColour(std::string_view key) {
+  return static_cast<Colour>(ReadInteger(DefaultText(key), kInt32Min, kInt32Max).value);
+}
+
+bool IsKnownAlignment(std::string_view text) { return text == "Left" || text == "Center" || text == "Justify"; }
+
+void LoadHyperlinkOptions(const SettingsStore& store, EffectsOptions& options) {
+  for (const auto& [key, swatch] : kSwatches) {
+    (options.*swatch).colour = store.ColourOf(key);
+    if ((options.*swatch).colour == DefaultColour(key)) (options.*swatch).isDefault = true;
+  }
+  options.cboFont = store.Text("cboFont");
+  options.cboSize = store.Text("cboSize");
+  options.cboStyle = store.Text("cboStyle");
+  options.chkSmallCaps = store.Flag("chkSmallCaps");
+  options.chkAllCaps = store.Flag("chkAllCaps");
+  options.chkUnderline = store.Flag("chkUnderline");
+  options.chkRollover = store.Flag("chkRollover");
+}
+
+void ResetHyperlinkOptions(EffectsOptions& options) {
+  for (const auto& [key, swatch] : kSwatches) options.*swatch = {DefaultColour(key), true};
+  options.cboFont = DefaultText("cboFont");
+  options.cboSize = DefaultText("cboSize");
+  options.cboStyle = DefaultText("cboStyle");
+  options.chkSmallCaps = false;
+  options.chkAllCaps = false;
+  options.chkUnderline = false;
+  options.chkRollover = true;
+}
+
+}  // namespace
+
+AlignmentReading LoadAlignment(const SettingsStore& store) {
+  AlignmentReading reading;
+  reading.selected = store.Text("alignmentLR") == "Left" ? "Left" : "Center";
+  reading.text = store.Text("Index_Alignment");
+  if (IsKnownAlignment(reading.text)) reading.selected = reading.text;
+  return reading;
+}
+
+void GetDefaults(const SettingsStore& store, SampleText& sample) {
+  sample.BackColor = store.ColourOf("BackColor");
+  sample.ForeColor = store.ColourOf("ForeColor");
+  sample.FontName = store.Text("Font");
+  sample.FontSize = store.PointSize("FontSize");
+}
+
+void SaveDefaults(SettingsStore& store, const MainOptions& options) {
+  store.SaveInteger("BackColor", options.txtSample.BackColor);
+  store.SaveInteger("ForeColor", options.txtSample.ForeColor);
+  store.SaveText("Font", options.txtSample.FontName);
+  store.SavePointSize("FontSize", options.txtSample.FontSize);
+  store.SaveFlag("Use83", options.chkUse83);
+  store.SaveBoolean("FontBold", options.txtSample.FontBold);
+  store.SaveBoolean("FontItalic", options.txtSample.FontItalic);
+  if (IsKnownAlignment(options.alignment)) store.SaveText("alignmentLR", options.alignment);
+  store.SaveFlag("chkDoubleSpace", options.chkDoubleSpace);
+  store.SaveText("Drive1", options.Drive1);
+  store.SaveText("Dir1", options.Dir1);
+  store.SaveText("Index_Alignment", options.alignment);
+}
+
+void LoadTitles(const SettingsStore& store, PageTitleOptions& options) {
+  options.txtIndex_html = store.Text("index_html");
+  options.txtPageTitles = store.Text("PageTitles");
+}
+
+void SaveTitles(SettingsStore& store, const PageTitleOptions& options) {
+  store.SaveText("index_html", options.txtIndex_html);
+  store.SaveText("PageTitles", options.txtPageTitles);
+}
+
+void LoadMETA(const SettingsStore& store, MetaOptions& options) {
+  options.txtKeywordsI = store.Text("KeywordsI");
+  options.txtDescriptionI = store.Text("DescriptionI");
+  options.txtKeyWords = store.Text("Keywords");
+  options.txtDescription = store.Text("Description");
+}
+
+void SaveMETA(SettingsStore& store, const MetaOptions& options) {
+  store.SaveText("KeywordsI", options.txtKeywordsI);
+  store.SaveText("DescriptionI", options.txtDescriptionI);
+  store.SaveText("Keywords", options.txtKeyWords);
+  store.SaveText("Description", options.txtDescription);
+}
+
+std::string_view AlignmentWord(int justification) {
+  constexpr std::array<std::string_view, 3> kWords{"left", "center", "right"};
+  return justification >= 1 && justification <= 3 ? kWords[static_cast<std::size_t>(justification - 1)] : "";
+}
+
+void LoadLinkToMain(const SettingsStore& store, LinkToMainOptions& options) {
+  options.txtLinkToMain = store.Text("LinkToMain");
+  options.LCR = store.Number("LCR");
+  if (const std::string_view word = AlignmentWord(options.LCR); !word.empty()) options.alignment = word;
+  const std::int16_t size = store.Number("LinkBackSize");
+  options.cboSize = store.Text("LinkBackSize");
+  if (size > kInt16Max - 8) {
+    throw RunTimeError(kOverflow, "LinkBackSize", "The size plus 8 points must fit 16 bits: " + options.cboSize);
+  }
+}
+
+void SaveLinkToMain(SettingsStore& store, const LinkToMainOptions& options) {
+  store.SaveText("LinkToMain", options.txtLinkToMain);
+}
+
+void SaveLCR(SettingsStore& store, int justification) { store.SaveInteger("LCR", justification); }
+
+void SaveLinkBackSize(SettingsStore& store, int size) { store.SaveInteger("LinkBackSize", size); }
+
+void LoadBackground(const SettingsStore& store, BackgroundOptions& options) {
+  options.chkWaterMark = store.Flag("WaterMark");
+  options.txtImagepath = store.Text("BackImage");
+}
+
+void SaveBackImage(SettingsStore& store, const BackgroundOptions& options) {
+  store.SaveText("BackImage", options.txtImagepath);
+}
+
+void SaveWaterMark(SettingsStore& store, const BackgroundOptions& options) {
+  store.SaveFlag("WaterMark", options.chkWaterMark);
+}
+
+void SetDefaultHyperlinkColors(const SettingsStore& store, EffectsOptions& options, int ask) {
+  if (ask == 0) LoadHyperlinkOptions(store, options);
+  if (ask == 1) ResetHyperlinkOptions(options);
+}
+
+void SaveDefaultHyperlinkColors(SettingsStore& store, const EffectsOptions& options) {
+  for (const auto& [key, swatch] : kSwatches) store.SaveInteger(key, (options.*swatch).colour);
+  store.SaveText("cboFont", options.cboFont);
+  store.SaveText("cboSize", options.cboSize);
+  store.SaveText("cboStyle", options.cboStyle);
+  store.SaveFlag("chkSmallCaps", options.chkSmallCaps);
+  store.SaveFlag("chkAllCaps", options.chkAllCaps);
+  store.SaveFlag("chkUnderline", options.chkUnderline);
+  store.SaveFlag("chkRollover", options.chkRollover);
+}
+
+PageOptions LoadPageOptions(const SettingsStore& store, MainOptions& main) {
+  PageOptions options;
+  options.chkBack = main.chkBack = store.Flag("chkBack");
+  options.chkUseNames = main.chkUseNames = store.Flag("chkUseNames");
+  options.chkUse83 = main.chkUse83 = store.Flag("Use83");
+  main.cboLang = store.Text("cboLang");
+  main.alignment = LoadAlignment(store).text;
+  options.chkDoubleSpace = main.chkDoubleSpace = store.Flag("chkDoubleSpace");
+  main.Drive1 = store.Text("Drive1");
+  main.Dir1 = store.Text("Dir1");
+  LoadBackground(store, options.frmBackground);
+  LoadTitles(store, options.frmPAgeTitles);
+  SetDefaultHyperlinkColors(store, options.frmEffects, 0);
+  LoadMETA(store, options.frmKeywords);
+  GetDefaults(store, main.txtSample);
+  LoadLinkToMain(store, options.frmLinkToMAin);
+  main.txtSample.FontBold = store.Boolean("FontBold");
+  main.txtSample.FontItalic = store.Boolean("FontItalic");
+  options.chkCSS = main.chkCSS = store.Flag("chkCSS");
+  options.txtSample = main.txtSample;
+  return options;
+}
+
+}  // namespace folionet

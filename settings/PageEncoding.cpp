@@ -1,0 +1,23 @@
+#include "PageEncoding.h"
+
+#include "RunTimeError.h"
+
+namespace folionet {
+
+std::string EncodingCode(std::string_view entry, std::string_view what) {
+  const std::size_t blank = entry.find(' ');
+  if (blank == std::string_view::npos) {
+    throw RunTimeError(kInvalidProcedureCall, std::string(what),
+                       "A code, a blank and a description were expected: \"" + std::string(entry) + "\"");
+  }
+  return std::string(entry.substr(0, blank));
+}
+
+void LoadPageEncoding(const SettingsStore& store, PageEncoding& encoding, UserInterface& ui) {
+  encoding.PageCharset = EncodingCode(store.Text("Charset"), "Charset");
+  ui.SetPanel(3, "Charset: " + encoding.PageCharset);
+  encoding.PageLanguage = EncodingCode(store.Text("Lang"), "Lang");
+  ui.SetPanel(2, "Language: " + encoding.PageLanguage);
+}
+
+}  // namespace folionet

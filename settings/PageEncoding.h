@@ -1,0 +1,25 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "SettingsStore.h"
+#include "UserInterface.h"
+
+namespace folionet {
+
+// The language and charset codes that the pages declare, such as "en-us" and "windows-1252".
+struct PageEncoding {
+  std::string PageLanguage;
+  std::string PageCharset;
+};
+
+// The code that an entry begins with: "en-us English USA" gives "en-us". Throws RunTimeError (kInvalidProcedureCall)
+// when the entry holds no blank.
+std::string EncodingCode(std::string_view entry, std::string_view what);
+
+// Reads both codes from the settings "Charset" and "Lang" and shows them in panels 3 and 2 of the status bar. Throws
+// RunTimeError; what was read by then is set.
+void LoadPageEncoding(const SettingsStore& store, PageEncoding& encoding, UserInterface& ui);
+
+}  // namespace folionet

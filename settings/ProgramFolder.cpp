@@ -1,0 +1,54 @@
+#include "ProgramFolder.h"
+
+#include <unistd.h>
+
+#include <array>
+#include <cstdlib>
+#include <filesystem>
+#include <system_error>
+
+#include "BuildInfo.h"
+#include "Paths.h"
+#include "RunTimeError.h"
+#include "WholeFile.h"
+
+namespace folionet {
+namespace {
+
+// Where an installed program's delivered files are: beside a moved installation's bin folder first.
+std::string InstalledDataFolder() {
+  const std::string beside = ExecutableFolder() + "../share/folionet/";
+  return FileExists(beside + "default.css") ? beside : std::string(FOLIONET_DATA_FOLDER) + "/";
+}
+
+std::string UserDataFolder() {
+  if (const char* folder = std::getenv("XDG_DATA_HOME"); folder != nullptr && folder[0] == '/') {
+    return WithSeparator(folder) + kApplicationTitle + "/";
+  }
+  const char* home = std::getenv("HOME");
+  return std::string(home != nullptr ? home : "") + "/.local/share/" + kApplicationTitle + "/";
+}
+
+}  // namespace
+
+std::string ExecutableFolder() {
+  std::error_code error;
+  const std::filesystem::path path = std::filesystem::read_symlink("/proc/self/exe", error);
+  return error ? "./" : path.parent_path().string() + "/";
+}
+
+std::string FindProgramFolder(const std::string& chosen) {
+  if (!chosen.empty()) return WithSeparator(NativePath(chosen));
+  const std::string own = ExecutableFolder();
+  if (FileExists(own + "default.css") && access(own.c_str(), W_OK) == 0) return own;
+  const std::string folder = UserDataFolder();
+  std::error_code error;
+  std::filesystem::create_directories(folder, error);
+  if (error) throw RunTimeError::FromErrno(error.value(), folder);
+  for (const std::string name : {"default.css", "lang.txt", "enc.txt"}) {
+    if (!FileExists(folder + name)) ReplaceWholeFile(folder + name, ReadWholeFile(InstalledDataFolder() + name));
+  }
+  return folder;
+}
+
+}  // namespace folionet

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <string>
+
+namespace folionet {
+
+// The folder of the running executable, ending in the folder separator.
+std::string ExecutableFolder();
+
+// The folder of the program's own files (default.css, lang.txt, enc.txt, the custom header and footer), ending in the
+// folder separator: `chosen` when it is not empty; else the executable's folder when it holds default.css and can be
+// written to; else $XDG_DATA_HOME/Folionet, which is made when missing and given any of the three delivered files that
+// it lacks. Throws RunTimeError when the last cannot be made or filled.
+std::string FindProgramFolder(const std::string& chosen);
+
+}  // namespace folionet

@@ -1,0 +1,151 @@
+#include "SettingsStore.h"
+
+#include <QFile>
+#include <QSettings>
+#include <cerrno>
+#include <charconv>
+#include <cstdlib>
+
+#include "BuildInfo.h"
+#include "CodePage.h"
+#include "IniFormat.h"
+#include "Numbers.h"
+#include "Paths.h"
+#include "RunTimeError.h"
+#include "SettingsKeys.h"
+
+namespace folionet {
+namespace {
+
+constexpr char kSection[] = "Keys";
+
+QString ToQString(std::string_view text) {
+  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+QString FullKey(std::string_view section, std::string_view key) {
+  return ToQString(section) + QLatin1Char('/') + ToQString(key);
+}
+
+// A number's text without more digits than it needs: 12, 10.5
+std::string PlainText(double value) {
+  std::array<char, 32> buffer{};
+  const auto result =
+      std::to_chars(buffer.data(), buffer.data() + buffer.size(), static_cast<float>(value), std::chars_format::fixed);
+  return {buffer.data(), result.ptr};
+}
+
+}  // namespace
+
+SettingsStore::SettingsStore(std::string folder) : m_folder(WithSeparator(folder)) {}
+
+SettingsStore::~SettingsStore() = default;
+
+std::string SettingsStore::DefaultFolder() {
+  if (const char* folder = std::getenv("XDG_CONFIG_HOME"); folder != nullptr && folder[0] == '/') return folder;
+  const char* home = std::getenv("HOME");
+  return std::string(home != nullptr ? home : "") + "/.config";
+}
+
+std::string SettingsStore::FilePath(std::string_view application) const {
+  return m_folder + std::string(application) + ".ini";
+}
+
+QSettings& SettingsStore::Area(std::string_view application) const {
+  auto found = m_areas.find(application);
+  if (found == m_areas.end()) {
+    auto area = std::make_unique<QSettings>(ToQString(FilePath(application)), VerbatimIniFormat());
+    found = m_areas.emplace(application, std::move(area)).first;
+  }
+  return *found->second;
+}
+
+std::string SettingsStore::GetSetting(std::string_view application, std::string_view section, std::string_view key,
+                                      std::string_view defaultText) const {
+  if (application == kApplicationTitle && section == kSection) {
+    if (const auto found = m_overrides.find(key); found != m_overrides.end()) return found->second;
+  }
+  const QVariant value = Area(application).value(FullKey(section, key));
+  return value.isValid() ? value.toString().toStdString() : std::string(defaultText);
+}
+
+void SettingsStore::SaveSetting(std::string_view application, std::string_view section, std::string_view key,
+                                std::string_view value) {
+  QSettings& area = Area(application);
+  area.setValue(FullKey(section, key), ToQString(value));
+  errno = 0;
+  area.sync();
+  if (area.status() != QSettings::NoError) {
+    const int systemError = errno != 0 ? errno : EACCES;
+    m_areas.erase(m_areas.find(application));  // a refused value must not be tried again by every later one
+    throw RunTimeError::FromErrno(systemError, FilePath(application));
+  }
+}
+
+void SettingsStore::DeleteSetting(std::string_view application) {
+  m_areas.erase(std::string(application));
+  QFile file(ToQString(FilePath(application)));
+  errno = 0;
+  if (file.exists() && !file.remove()) {
+    throw RunTimeError::FromErrno(errno != 0 ? errno : EACCES, FilePath(application));
+  }
+}
+
+void SettingsStore::Override(std::string_view key, std::string value) {
+  m_overrides.insert_or_assign(std::string(key), std::move(value));
+}
+
+bool SettingsStore::Has(std::string_view key) const {
+  return m_overrides.contains(key) || Area(kApplicationTitle).contains(FullKey(kSection, key));
+}
+
+std::string SettingsStore::Text(std::string_view key) const {
+  const SettingKey* known = FindSettingKey(key);
+  return GetSetting(kApplicationTitle, kSection, key, known != nullptr ? known->defaultText : std::string_view());
+}
+
+std::string SettingsStore::Checked(std::string_view key) const {
+  const SettingKey* known = FindSettingKey(key);
+  const std::string text = Text(key);
+  if (known == nullptr) return text;
+  const int error = CheckSetting(known->form, text);
+  if (error != 0) {
+    throw RunTimeError(error, FilePath(kApplicationTitle),
+                       "The setting " + std::string(key) + " must be " + std::string(Describe(known->form)) + ": \"" +
+                           text + "\"");
+  }
+  return std::string(TrimBlanks(text));
+}
+
+bool SettingsStore::Flag(std::string_view key) const { return ReadInteger(Checked(key), 0, 1).value == 1; }
+
+bool SettingsStore::Boolean(std::string_view key) const { return EqualIgnoringCase(Checked(key), "True"); }
+
+Colour SettingsStore::ColourOf(std::string_view key) const {
+  return static_cast<Colour>(ReadInteger(Checked(key), kInt32Min, kInt32Max).value);
+}
+
+std::int16_t SettingsStore::Number(std::string_view key) const {
+  return static_cast<std::int16_t>(ReadInteger(Checked(key), kInt16Min, kInt16Max).value);
+}
+
+double SettingsStore::PointSize(std::string_view key) const {
+  const std::string text = Checked(key);
+  float points = 0;
+  std::from_chars(text.data(), text.data() + text.size(), points);
+  return static_cast<double>(points);
+}
+
+void SettingsStore::SaveText(std::string_view key, std::string_view value) {
+  SaveSetting(kApplicationTitle, kSection, key, value);
+}
+
+void SettingsStore::SaveFlag(std::string_view key, bool value) { SaveText(key, value ? "1" : "0"); }
+
+void SettingsStore::SaveBoolean(std::string_view key, bool value) { SaveText(key, value ? "True" : "False"); }
+
+void SettingsStore::SaveInteger(std::string_view key, std::int32_t value) { SaveText(key, std::to_string(value)); }
+
+void SettingsStore::SavePointSize(std::string_view key, double points) { SaveText(key, PlainText(points)); }
+
+}  // namespace folionet

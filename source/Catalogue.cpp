@@ -1,0 +1,101 @@
+#include "Catalogue.h"
+
+#include <array>
+
+#include "BookTitles.h"
+#include "BuildInfo.h"
+#include "Numbers.h"
+#include "Paths.h"
+#include "RunTimeError.h"
+
+namespace folionet {
+namespace {
+
+constexpr std::int64_t kFirstHiddenNumber = 1000;
+
+// A stem names a file in one folder; it must not lead out of it.
+void CheckStem(const RecordReader& records, const std::string& stem, const CodePage& codePage) {
+  for (const char c : codePage.Decode(stem)) {
+    if (c == '/' || c == '\\' || static_cast<unsigned char>(c) < 0x20) {
+      records.Lines().Fail(kBadFileName, "A file name without a folder was expected: " + Quoted(stem));
+    }
+  }
+}
+
+void WarnOfWrongPaths(UserInterface& ui) {
+  const std::string title = kApplicationTitle;
+  ui.ShowMessage({MessageIcon::kWarning, "Path and/or file not found",
+                  "This error has probably occured because you have an older version of Versalia\r\n"
+                  "or because Versalia is not correctly installed.\r\n" +
+                      title +
+                      " will attempt to gather the correct information manually\r\n"
+                      "You will need to enter the values for the following:\r\n"
+                      "1. The Versalia Path\r\n"
+                      "2. The Versalia Module Path"});
+}
+
+// False where nobody can be asked.
+bool AskForPaths(ModGlob& glob, UserInterface& ui) {
+  const auto install = ui.AskText({"Enter the Versalia Path", "Enter Versalia Path", "C:\\Program Files\\Versalia\\"});
+  if (!install) return false;
+  const auto modules = ui.AskText(
+      {"Enter the Versalia Module Path", "Enter Module Path", "C:\\Program Files\\Versalia\\Modules\\"});
+  if (!modules) return false;
+  SetInstallation(glob, *install, *modules, "SysDefs");
+  return true;
+}
+
+}  // namespace
+
+bool ReadCatalogueRecord(RecordReader& records, const CodePage& codePage, CatalogueRecord& record) {
+  std::array<std::string, 4> fields;
+  if (!records.Next(fields)) return false;
+  record.isListed = records.Integer(fields[0], kInt32Min, kInt32Max) < kFirstHiddenNumber;
+  records.Integer(fields[1], kInt32Min, kInt32Max);
+  if (record.isListed) CheckStem(records, fields[3], codePage);
+  record.name = fields[2];
+  record.stem = fields[3];
+  return true;
+}
+
+void ReadCatalogue(ModGlob& glob, const CodePage& codePage) {
+  RecordReader records(SysdefsFile(glob, "Translations.txt"));
+  glob.BibleNames.assign(1, {});
+  glob.BibleFiles.assign(1, {});
+  std::size_t counter = 0;
+  CatalogueRecord record;
+  while (ReadCatalogueRecord(records, codePage, record)) {
+    if (!record.isListed) continue;
+    glob.BibleNames[counter] = record.name;
+    glob.BibleFiles[counter] = record.stem;
+    if (!FileExists(VerseFile(glob, codePage, record.stem))) continue;
+    ++counter;
+    glob.BibleNames.resize(counter + 1);
+    glob.BibleFiles.resize(counter + 1);
+  }
+  for (std::size_t i = 0; i < counter; ++i) glob.cboBibleName.push_back(glob.BibleNames[i]);
+}
+
+Outcome PopulateCombos(int which, const std::string& cboLang, ModGlob& glob, const CodePage& codePage,
+                       UserInterface& ui) {
+  constexpr int kLastRetry = 3;
+  for (int failures = 0;;) {
+    try {
+      if (which != 0) ReadCatalogue(glob, codePage);
+      ReadBookTitles(glob, cboLang);
+      return Outcome::kDone;
+    } catch (const RunTimeError& error) {
+      ui.ShowErrorReport(error.Number(), "Populate Combos", error.Extra());
+    }
+    WarnOfWrongPaths(ui);
+    ++failures;
+    if (!AskForPaths(glob, ui) || failures > kLastRetry) return Outcome::kEndProgram;
+  }
+}
+
+std::size_t TranslationAt(const ModGlob& glob, std::size_t item) {
+  const std::size_t count = glob.BibleNames.empty() ? 0 : glob.BibleNames.size() - 1;
+  return item < count ? item : item - (glob.cboBibleName.size() - count);
+}
+
+}  // namespace folionet

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <string>
+
+#include "CodePage.h"
+#include "Installation.h"
+#include "RecordReader.h"
+#include "UserInterface.h"
+#include "modGlob.h"
+
+namespace folionet {
+
+// One record of the catalogue of translations, Sysdefs/Translations.txt: number, integer, display name, file stem:
+//
+//   1,0,"King James Version","KJV"
+struct CatalogueRecord {
+  std::string name;
+  std::string stem;
+  bool isListed = false;  // its number is less than 1000
+};
+
+// Reads the next record; false at the end of the file. Throws RunTimeError for a bad record; kBadFileName is one whose
+// stem would lead out of its folder.
+bool ReadCatalogueRecord(RecordReader& records, const CodePage& codePage, CatalogueRecord& record);
+
+// Reads the catalogue into BibleNames and BibleFiles and appends the names to cboBibleName. Only records that are
+// listed are considered; a translation whose text file is missing is left out. Both arrays keep one spare element at their end. Throws
+// RunTimeError; cboBibleName is then unchanged.
+void ReadCatalogue(ModGlob& glob, const CodePage& codePage);
+
+// Fills the lists of the form: when `which` is not 0 the catalogue, and always the book lists from the book-title file
+// `cboLang`. A failure is reported under "Populate Combos" with a warning, Versalia's two folders are asked for, and
+// all of it starts again; on the fourth failure, or at the first where nobody can be asked, kEndProgram is given.
+Outcome PopulateCombos(int which, const std::string& cboLang, ModGlob& glob, const CodePage& codePage,
+                       UserInterface& ui);
+
+// The place in BibleNames of an item of cboBibleName, which may list the translations twice after a retry.
+std::size_t TranslationAt(const ModGlob& glob, std::size_t item);
+
+}  // namespace folionet

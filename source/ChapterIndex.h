@@ -1,0 +1,46 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+#include "CodePage.h"
+#include "Installation.h"
+#include "UserInterface.h"
+#include "modGlob.h"
+
+namespace folionet {
+
+// The chapter index of a translation, Index/<stem>.TXT.INDEX: one record a chapter, in canonical order, of seven
+// fields; the third is the book, the fourth the chapter, the fifth the number of verses, the others are Versalia's own:
+//
+//   1,0,1,1,31,4521,"Gen"
+
+// Counts the chapters of each book of the translation at place `translation` of BibleFiles into ChaptersInBook, which
+// it clears first. Books are numbered by order of appearance: a change of the third field starts the next book. A
+// missing index is told in a box and gives kEndProgram; a 67th book or a bad record is reported under
+// "BooksInChapters" and gives kReported, with the counts up to there.
+Outcome BooksInChapters(ModGlob& glob, std::size_t translation, const CodePage& codePage, UserInterface& ui);
+
+// Reads the index at `path` into ChapterIndex: its records in order and one more that is all zero. Any failure, which a
+// number above 255 is too, is reported under "Load Verse Count", told in a box, and gives kEndProgram.
+Outcome LoadVerseCount(ModGlob& glob, const std::string& path, UserInterface& ui);
+
+// Looks verse counts up in ChapterIndex, as it and the start-book list were when this was made.
+class VerseCounts {
+ public:
+  explicit VerseCounts(const ModGlob& glob);
+
+  // The number of verses of a chapter as decimal text, the empty text when unknown. The book is known by its title's
+  // last place in the start-book list, the chapter by the number that its text begins with. A failure (a chapter that
+  // does not fit 16 bits) is reported under "GetVSCnt" and gives the empty text.
+  std::string GetVSCnt(std::string_view bookTitle, std::string_view chapter, UserInterface& ui) const;
+
+ private:
+  std::unordered_map<std::string, int> m_bookOfTitle;
+  std::vector<std::int16_t> m_verses;  // by 256 * book + chapter; -1 for none
+};
+
+}  // namespace folionet

@@ -1,0 +1,40 @@
+#include "Installation.h"
+
+#include <utility>
+
+#include "Paths.h"
+#include "SettingsStore.h"
+
+namespace folionet {
+namespace {
+
+constexpr char kVersalia[] = "Versalia";
+constexpr char kModulePath[] = "Module_Path";
+
+}  // namespace
+
+void LocateInstallation(const SettingsStore& store, ModGlob& glob) {
+  SetInstallation(glob, store.GetSetting(kVersalia, kModulePath, "VersaliaPath", ""),
+                  store.GetSetting(kVersalia, kModulePath, "ModulePath", ""), "Sysdefs");
+}
+
+void SetInstallation(ModGlob& glob, std::string installPath, std::string modulesPath, std::string_view sysdefs) {
+  glob.InstallPath = std::move(installPath);
+  glob.ModulesPath = std::move(modulesPath);
+  glob.SysdefsPath = glob.InstallPath + std::string(sysdefs) + kFolderSeparator;
+}
+
+std::string SysdefsFile(const ModGlob& glob, std::string_view fileName) {
+  const std::string folder = glob.SysdefsPath.substr(glob.InstallPath.size());
+  return LocateIgnoringCase(glob.InstallPath, folder + std::string(fileName));
+}
+
+std::string VerseFile(const ModGlob& glob, const CodePage& codePage, std::string_view stem) {
+  return LocateIgnoringCase(glob.ModulesPath, "Bible/" + codePage.Decode(stem) + ".TXT");
+}
+
+std::string IndexFile(const ModGlob& glob, const CodePage& codePage, std::string_view stem) {
+  return LocateIgnoringCase(glob.InstallPath, "Index/" + codePage.Decode(stem) + ".TXT.INDEX");
+}
+
+}  // namespace folionet

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "CodePage.h"
+#include "modGlob.h"
+
+namespace folionet {
+
+class SettingsStore;
+
+// How a routine that can end the program went on.
+enum class Outcome {
+  kDone,
+  kReported,    // it failed and said so; the program goes on
+  kEndProgram,  // it failed and said so; the program must end at once, saving nothing
+};
+
+// Reads Versalia's two folders from its own settings (application "Versalia", section "Module_Path") into InstallPath
+// and ModulesPath, each empty when unknown, and sets SysdefsPath.
+void LocateInstallation(const SettingsStore& store, ModGlob& glob);
+
+// Sets the folders from texts, used as they are; `sysdefs` is the name of the folder of definitions under InstallPath.
+void SetInstallation(ModGlob& glob, std::string installPath, std::string modulesPath, std::string_view sysdefs);
+
+// Where files of the library are. A file that is there in another letter case only is found; for one that is missing
+// the exact path is given. `stem` is in the bytes of the catalogue.
+std::string SysdefsFile(const ModGlob& glob, std::string_view fileName);
+std::string VerseFile(const ModGlob& glob, const CodePage& codePage, std::string_view stem);
+std::string IndexFile(const ModGlob& glob, const CodePage& codePage, std::string_view stem);
+
+}  // namespace folionet

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "ChapterIndex.h"
+#include "UserInterface.h"
+
+namespace folionet {
+
+// What the dynamic words of a template stand for, in the bytes of the page's code page.
+struct TitleWords {
+  std::string_view bible;    // %bible%: the display name of the chosen translation
+  std::string_view book;     // %bk%: the book's title
+  std::string_view chapter;  // %ch%; %vs% is "1-" and the verse count of that chapter
+};
+
+// The template with every dynamic word replaced, %bible% first, then %bk%, %ch% and %vs%; a later word is also looked
+// for in what an earlier one put in. A text that passes 10,000 replacements or 1 MiB, as one does whose value holds its
+// own word, is reported under "Build Titles" and gives nothing.
+std::optional<std::string> BuildTitles(std::string_view pattern, const TitleWords& words, const VerseCounts& counts,
+                                       UserInterface& ui);
+
+}  // namespace folionet

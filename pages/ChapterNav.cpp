@@ -1,0 +1,27 @@
+#include "ChapterNav.h"
+
+#include "Html.h"
+#include "RunTimeError.h"
+
+namespace folionet {
+
+int ChaptersOf(const PageInputs& inputs, int book) {
+  if (book < 0 || book > kBooks) {
+    throw RunTimeError(kSubscriptOutOfRange, "Book " + std::to_string(book), "A book from 0 to 66 was expected.");
+  }
+  return inputs.glob.ChaptersInBook[static_cast<std::size_t>(book)];
+}
+
+std::string ChapterLink(const PageInputs& inputs, int book, int chapter) {
+  return "[<a href=" + InQuotes(inputs.names.InLink(book, chapter)) + ">" + std::to_string(chapter) + "</a>] ";
+}
+
+std::string BuildChapterNav(const PageInputs& inputs, const CompileContext& context, int book) {
+  std::string block;
+  if (!inputs.options.chkCSS) block = "<p align=" + InQuotes(context.LinkAlignment) + ">";
+  const int chapters = ChaptersOf(inputs, book);
+  for (int chapter = 1; chapter <= chapters; ++chapter) block += ChapterLink(inputs, book, chapter) + "\r\n";
+  return inputs.options.chkCSS ? "<h3>" + block + "</h3>" : block + "</font></p>";
+}
+
+}  // namespace folionet

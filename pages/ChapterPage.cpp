@@ -1,0 +1,84 @@
+#include "ChapterPage.h"
+
+#include "BuildInfo.h"
+#include "ChapterNav.h"
+#include "Html.h"
+#include "LinkBack.h"
+#include "PageHead.h"
+
+namespace folionet {
+namespace {
+
+std::string Heading(const ChapterHead& head, const PageOptions& options) {
+  const std::string name = std::string(head.bookName) + " " + std::to_string(head.chapterNumber);
+  if (options.chkCSS) return "<h2>" + name + "</h2>";
+  return StyledHeading(options.txtSample, "<p><font face=" + InQuotes(head.fontFace) +
+                                              " size=" + InQuotes(std::to_string(head.fontSize)) + "><u>" + name +
+                                              "<br><br></u>");
+}
+
+// Three font tags are opened and one is closed, and the first has no blank before "size=": that is meant.
+std::string CreditLine(bool useStyleSheet) {
+  const std::string product = "<a href=" + InQuotes(kProductPage) + ">";
+  const std::string maker = "<a href=" + InQuotes(kMakerSite) + ">";
+  const std::string face = "<font face=" + InQuotes("Verdana");
+  if (useStyleSheet) {
+    return "<address align=" + InQuotes("center") + ">" + face + ">Created with " + product + "Folionet</a> by " +
+           maker + "Versalia</a></font></address><br>";
+  }
+  const std::string inner = face + " size=" + InQuotes("1") + ">";
+  return "<p align=" + InQuotes("center") + ">" + face + "size=" + InQuotes("1") + ">Created with " + product + inner +
+         "Folionet</a> by " + maker + inner + "Versalia</a></font></p><br>";
+}
+
+}  // namespace
+
+void WriteChapterHead(const ChapterHead& head, const PageInputs& inputs, CompileContext& context) {
+  const PageOptions& options = inputs.options;
+  PageFile& page = context.PageFile;
+  page.Open(context.OutputFolder, inputs.names.OnDisk(head.bookNumber, head.chapterNumber));
+
+  const std::string title = PageText(inputs, options.frmPAgeTitles.txtPageTitles, BookName(inputs, head.bookNumber),
+                                     std::to_string(head.chapterNumber));
+  const std::string version = std::to_string(kVersionMajor) + "." + std::to_string(kVersionMinor);
+  PrintDocumentHead({version, head.language, head.charset, head.keywords, head.description, title, head.backColour,
+                     head.textColour},
+                    options, context);
+  if (!context.CustomHeader.empty()) page.Print(context.CustomHeader);
+  page.Print(BuildLinkToMain(options, inputs.txtBackToString, head.fontSize, std::string(head.fontFace)));
+  page.Print("<p>&nbsp;</p>");
+  page.Print(Heading(head, options));
+  page.Print("");
+  page.Print(BuildChapterNav(inputs, context, head.bookNumber));
+  page.Print("\r\n");
+  page.Print("<blockquote>");
+  if (!options.chkCSS) page.Print(JustifiedParagraph(head.fontFace, head.fontSize));
+}
+
+void BuildVerseLine(const VerseLine& verse, const PageOptions& options, CompileContext& context) {
+  PageFile& page = context.PageFile;
+  if (options.chkUseNames) {
+    page.Add(verse.bookLabel);
+    page.Add(" ");
+  }
+  page.Add(verse.chapter);
+  page.Add(":");
+  page.Add(verse.verse);
+  page.Add(" ");
+  page.Add(verse.text);
+  page.Print("<br>");
+  if (options.chkDoubleSpace) page.Print("<br>");
+}
+
+void WritePageFoot(const PageOptions& options, CompileContext& context) {
+  PageFile& page = context.PageFile;
+  if (options.txtSample.FontBold && !options.chkCSS) page.Print("</B>");
+  if (options.txtSample.FontItalic && !options.chkCSS) page.Print("</I>");
+  page.Print("</blockquote><p>&nbsp;</p>\r\n");
+  page.Print(CreditLine(options.chkCSS));
+  if (!context.CustomFooter.empty()) page.Print(context.CustomFooter);
+  page.Print("</body>\r\n</html>");
+  page.Close();
+}
+
+}  // namespace folionet

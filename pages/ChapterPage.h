@@ -1,0 +1,46 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "CompileContext.h"
+#include "PageInputs.h"
+
+namespace folionet {
+
+// What a chapter page's head is made of.
+struct ChapterHead {
+  std::string_view bookName;
+  std::string_view language;
+  std::string_view charset;
+  std::string_view fontFace;
+  std::int16_t fontSize;
+  std::string_view backColour;  // RRGGBB
+  std::string_view textColour;  // RRGGBB
+  std::string_view keywords;
+  std::string_view description;
+  std::int16_t bookNumber;     // 1 to 66
+  std::int16_t chapterNumber;
+};
+
+// Opens the chapter's page and prints every line up to the opening of the verses. The page is left open. Throws
+// RunTimeError, and AlreadyReported where the title could not be built.
+void WriteChapterHead(const ChapterHead& head, const PageInputs& inputs, CompileContext& context);
+
+// One verse as it is printed. Texts are as the verse file has them; nothing is escaped.
+struct VerseLine {
+  std::string_view bookLabel;  // in upper case
+  std::string_view chapter;
+  std::string_view verse;
+  std::string_view text;
+};
+
+// Prints a verse, with its book's label and a further line break as the options ask.
+void BuildVerseLine(const VerseLine& verse, const PageOptions& options, CompileContext& context);
+
+// Closes what the head left open, prints the credit line and the custom footer, ends the document and writes the file.
+// For chapter pages and the index page.
+void WritePageFoot(const PageOptions& options, CompileContext& context);
+
+}  // namespace folionet

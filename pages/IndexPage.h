@@ -1,0 +1,30 @@
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+
+#include "CompileContext.h"
+#include "PageInputs.h"
+
+namespace folionet {
+
+// What the index page is made of.
+struct IndexPage {
+  std::string_view language;
+  std::string_view charset;
+  std::string_view fontFace;
+  std::int16_t fontSize;
+  std::string_view backColour;  // RRGGBB
+  std::string_view textColour;  // RRGGBB
+  std::string_view keywords;
+  std::string_view description;
+  std::int16_t firstBook;
+  std::int16_t lastBook;  // below firstBook, nothing is listed
+};
+
+// Opens the index page and prints every line but its foot, showing the progress in panel 1. The page is left open.
+// Throws RunTimeError, and AlreadyReported where the title could not be built.
+void WriteIndexPage(const IndexPage& index, const PageInputs& inputs, const CodePage& codePage,
+                    CompileContext& context);
+
+}  // namespace folionet

@@ -1,0 +1,107 @@
+#include "PageFile.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdlib>
+#include <memory>
+
+#include "Paths.h"
+#include "RunTimeError.h"
+#include "WholeFile.h"
+
+namespace folionet {
+namespace {
+
+std::string RealPath(const std::string& path) {
+  const std::unique_ptr<char, decltype(&std::free)> real(realpath(path.c_str(), nullptr), &std::free);
+  return real != nullptr ? std::string(real.get()) : std::string();
+}
+
+// Whether the UTF-8 text holds a character of U+0080 to U+009F at `at`.
+bool IsUpperControl(std::string_view text, std::size_t at) {
+  return text[at] == '\xC2' && at + 1 < text.size() && static_cast<unsigned char>(text[at + 1]) < 0xA0;
+}
+
+}  // namespace
+
+bool IsPageName(std::string_view name) {
+  if (name.empty() || name == "." || name == "..") return false;
+  for (std::size_t i = 0; i < name.size(); ++i) {
+    const auto byte = static_cast<unsigned char>(name[i]);
+    if (byte < 0x20 || byte == 0x7F || byte == '/' || byte == '\\' || IsUpperControl(name, i)) return false;
+  }
+  return true;
+}
+
+void PageFile::Open(const std::string& folder, const std::string& name) {
+  m_isOpen = false;
+  if (folder != m_folder || !m_folderHandle.IsOpen()) {
+    m_folder = folder;
+    m_folderHandle = FileHandle(open(NativePath(folder).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (!m_folderHandle.IsOpen()) throw RunTimeError::FromErrno(errno, NativePath(folder));
+  }
+  if (!IsPageName(name)) {
+    throw RunTimeError(kBadFileName, folder + name, "The page cannot have this file name: \"" + name + "\"");
+  }
+  m_name = name;
+  m_text.clear();
+  m_isOpen = true;
+}
+
+void PageFile::Fail(int systemError) const { throw RunTimeError::FromErrno(systemError, NativePath(m_folder) + m_name); }
+
+// A page is never written through a link that leads out of the folder, nor into anything but a regular file.
+FileHandle PageFile::OpenExisting() const {
+  constexpr int kFlags = O_RDWR | O_CLOEXEC | O_NONBLOCK | O_NOFOLLOW;
+  FileHandle file(openat(m_folderHandle.Get(), m_name.c_str(), kFlags));
+  if (!file.IsOpen() && errno == ELOOP) {
+    const std::string path = NativePath(m_folder) + m_name;
+    const std::string target = RealPath(path);
+    if (!target.starts_with(WithSeparator(RealPath(NativePath(m_folder))))) {
+      throw RunTimeError(kPathFileAccessError, path, "It is a link that leads out of the output folder.");
+    }
+    file = FileHandle(open(target.c_str(), kFlags));
+  }
+  return file;
+}
+
+FileHandle PageFile::OpenForWriting(bool& isNew) const {
+  constexpr int kNewFlags = O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC;
+  constexpr mode_t kMode = 0666;
+  isNew = m_expectNew;
+  FileHandle file = isNew ? FileHandle(openat(m_folderHandle.Get(), m_name.c_str(), kNewFlags, kMode)) : OpenExisting();
+  if (!file.IsOpen() && errno == (isNew ? EEXIST : ENOENT)) {
+    isNew = !isNew;
+    file = isNew ? FileHandle(openat(m_folderHandle.Get(), m_name.c_str(), kNewFlags, kMode)) : OpenExisting();
+  }
+  if (!file.IsOpen()) Fail(errno);
+  return file;
+}
+
+void PageFile::Close() {
+  m_isOpen = false;
+  bool isNew = false;
+  FileHandle file = OpenForWriting(isNew);
+  m_expectNew = isNew;  // the pages of a site are mostly all new or all there
+  std::size_t oldSize = 0;
+  if (!isNew) {
+    struct stat status {};
+    if (fstat(file.Get(), &status) != 0) Fail(errno);
+    if (!S_ISREG(status.st_mode)) {
+      throw RunTimeError(kPathFileAccessError, NativePath(m_folder) + m_name, "It is not a regular file.");
+    }
+    oldSize = static_cast<std::size_t>(status.st_size);
+    if (oldSize == m_text.size()) {
+      if (!ReadAll(file.Get(), m_old, oldSize, 0)) Fail(errno);
+      if (m_old == m_text) return;
+    }
+  }
+  if (!WriteAll(file.Get(), m_text, 0)) Fail(errno);
+  if (oldSize > m_text.size() && ftruncate(file.Get(), static_cast<off_t>(m_text.size())) != 0) Fail(errno);
+  if (!file.Close()) Fail(errno);
+}
+
+}  // namespace folionet

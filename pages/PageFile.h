@@ -1,0 +1,47 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "FileHandle.h"
+
+namespace folionet {
+
+// The page that is being written. Its lines are gathered in memory and written by Close in one go: a file that holds
+// the same bytes already is left alone with its time stamp, one that differs is overwritten in place and cut to length,
+// a missing one is made. A page that is not closed leaves nothing behind.
+class PageFile {
+ public:
+  // Starts the page `name` (UTF-8, without a folder) in `folder` (ending in the separator). Throws RunTimeError
+  // (kBadFileName) for a name that IsPageName refuses.
+  void Open(const std::string& folder, const std::string& name);
+
+  // Adds the text and CR LF.
+  void Print(std::string_view text) { m_text.append(text).append("\r\n"); }
+
+  // Adds to the line that the next Print ends.
+  void Add(std::string_view text) { m_text.append(text); }
+
+  // Writes the page. Throws RunTimeError naming the file; what has reached it by then stays.
+  void Close();
+
+  bool IsOpen() const { return m_isOpen; }
+
+ private:
+  FileHandle OpenForWriting(bool& isNew) const;
+  FileHandle OpenExisting() const;
+  [[noreturn]] void Fail(int systemError) const;
+
+  std::string m_folder;
+  std::string m_name;
+  std::string m_text;
+  std::string m_old;
+  FileHandle m_folderHandle;
+  bool m_isOpen = false;
+  bool m_expectNew = true;
+};
+
+// Whether a page may have this name (UTF-8): not empty, no folder separator, no control character, not "." or "..".
+bool IsPageName(std::string_view name);
+
+}  // namespace folionet

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "CompileContext.h"
+#include "PageInputs.h"
+
+namespace folionet {
+
+// What chapter pages and the index page have in common at their top.
+struct DocumentHead {
+  std::string_view version;  // chapter pages name two parts of the version, the index page three
+  std::string_view language;
+  std::string_view charset;
+  std::string_view keywords;
+  std::string_view description;
+  std::string_view title;
+  std::string_view background;  // RRGGBB
+  std::string_view textColour;  // RRGGBB
+};
+
+// Prints the lines from "<html>" to the body tag.
+void PrintDocumentHead(const DocumentHead& head, const PageOptions& options, CompileContext& context);
+
+// A heading without a style sheet, enclosed as the sample's font asks: bold in either case, but a bold font leaves its
+// tag open so that the whole page is bold, and so does an italic one; WritePageFoot closes both.
+std::string StyledHeading(const SampleText& sample, const std::string& heading);
+
+// The line that opens the verses of a chapter, and stands again at the end of the index page. The blank after "size="
+// is meant.
+std::string JustifiedParagraph(std::string_view fontFace, int fontSize);
+
+}  // namespace folionet

@@ -1,0 +1,50 @@
+#include "PageNames.h"
+
+#include <algorithm>
+#include <cstdlib>
+
+namespace folionet {
+namespace {
+
+// A number with at least so many digits, as the patterns "00" and "000" give it.
+std::string Padded(int number, std::size_t digits) {
+  std::string text = std::to_string(std::abs(number));
+  if (text.size() < digits) text.insert(0, digits - text.size(), '0');
+  return number < 0 ? "-" + text : text;
+}
+
+std::string ShortTail(int chapter) { return Padded(chapter, 3) + ".htm"; }
+
+std::string LongTail(int chapter) { return std::to_string(chapter) + ".html"; }
+
+std::string BookPart(std::string_view bookName, int bookNumber, bool use83, const CodePage& codePage) {
+  return (use83 ? Padded(bookNumber, 2) : UnderscoreSpaces(codePage.ToLower(bookName))) + "_";
+}
+
+}  // namespace
+
+std::string UnderscoreSpaces(std::string_view text) {
+  std::string result(text);
+  std::replace(result.begin(), result.end(), ' ', '_');
+  return result;
+}
+
+std::string ChapterPageName(std::string_view bookName, int bookNumber, int chapter, bool use83,
+                            const CodePage& codePage) {
+  return BookPart(bookName, bookNumber, use83, codePage) + (use83 ? ShortTail(chapter) : LongTail(chapter));
+}
+
+std::string IndexFileName(std::string_view httpRoot) {
+  const std::size_t slash = httpRoot.rfind('/');
+  return std::string(slash == std::string_view::npos ? httpRoot : httpRoot.substr(slash + 1));
+}
+
+PageNames::PageNames(const std::vector<std::string>& titles, bool use83, const CodePage& codePage)
+    : m_use83(use83), m_tail(use83 ? ShortTail : LongTail) {
+  for (std::size_t i = 0; i < titles.size(); ++i) {
+    m_inLink.push_back(BookPart(titles[i], static_cast<int>(i) + 1, use83, codePage));
+    m_onDisk.push_back(codePage.Decode(m_inLink.back()));
+  }
+}
+
+}  // namespace folionet

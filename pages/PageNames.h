@@ -1,0 +1,45 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "CodePage.h"
+
+namespace folionet {
+
+// Every blank replaced by "_".
+std::string UnderscoreSpaces(std::string_view text);
+
+// The one naming rule of chapter pages, in the bytes of the code page: "genesis_1.html", or "01_001.htm" for an 8.3
+// name. A book's part and a chapter's part, joined.
+std::string ChapterPageName(std::string_view bookName, int bookNumber, int chapter, bool use83,
+                            const CodePage& codePage);
+
+// The file name in the address of the index page: what follows its last "/".
+std::string IndexFileName(std::string_view httpRoot);
+
+// The page names of one compile run, with what depends on the book only worked out once.
+class PageNames {
+ public:
+  // `titles` are those of the start-book list: the first is book 1.
+  PageNames(const std::vector<std::string>& titles, bool use83, const CodePage& codePage);
+
+  // The name as it stands in a link. `book` is 1 to 66.
+  std::string InLink(int book, int chapter) const { return m_inLink[Index(book)] + m_tail(chapter); }
+
+  // The name of the file, as Unicode in UTF-8, so that a link and its file agree in a browser whatever the charset.
+  std::string OnDisk(int book, int chapter) const { return m_onDisk[Index(book)] + m_tail(chapter); }
+
+  bool Use83() const { return m_use83; }
+
+ private:
+  static std::size_t Index(int book) { return static_cast<std::size_t>(book - 1); }
+
+  bool m_use83;
+  std::string (*m_tail)(int chapter);
+  std::vector<std::string> m_inLink;
+  std::vector<std::string> m_onDisk;
+};
+
+}  // namespace folionet

@@ -1,0 +1,202 @@
+#include "Compile.h"
+
+#include <array>
+#include <new>
+#include <optional>
+#include <string>
+
+#include "BuildInfo.h"
+#include "ChapterPage.h"
+#include "EncodeOptions.h"
+#include "IndexPage.h"
+#include "LinkBack.h"
+#include "Numbers.h"
+#include "OutputFolder.h"
+#include "PageNames.h"
+#include "RunTimeError.h"
+#include "Validation.h"
+#include "VerseFileReader.h"
+
+namespace folionet {
+namespace {
+
+// One compile run, from the first page to the counts.
+class CompileRun {
+ public:
+  CompileRun(const CompileRequest& request, const CodePage& codePage, ModGlob& glob, UserInterface& ui)
+      : m_request(request),
+        m_codePage(codePage),
+        m_glob(glob),
+        m_ui(ui),
+        m_options(EncodePageOptions(request.options, codePage)),
+        m_indexFileName(IndexFileName(request.options.txthttpRoot)),
+        m_names(glob.cboStartBook, request.options.chkUse83, codePage),
+        m_counts(glob),
+        m_inputs{m_options, m_glob, m_names, m_counts, m_backToString, m_indexFileName, m_ui} {}
+
+  // The link back, the colours and what else is fixed for the run. Throws AlreadyReported.
+  void Prepare() {
+    static_cast<PageTexts&>(m_context) = EncodePageTexts(m_request.texts, m_codePage);
+    m_context.OutputFolder = m_request.txtOutputPath;
+    m_context.StyleSheetLink = R"(<link rel="STYLESHEET" type="text/css" href="default.css">)";
+    auto link = SetString(m_options, m_counts, m_ui);
+    if (!link) throw AlreadyReported();
+    m_backToString = *std::move(link);
+    m_context.BibleTitle = m_options.txtBibleSel;
+    m_context.FontName = m_options.txtSample.FontName;
+    m_context.BackColourHex = HtmlColour(m_options.txtSample.BackColor);
+    m_context.TextColourHex = HtmlColour(m_options.txtSample.ForeColor);
+    const double size = RoundHalfEven(m_options.txtSample.FontSize - 9);
+    if (!(size >= kInt16Min && size <= kInt16Max)) {
+      throw RunTimeError(kOverflow, "FontSize", std::to_string(m_options.txtSample.FontSize));
+    }
+    m_context.FontSizeNumber = static_cast<std::int16_t>(size);
+    const auto [base, extension] = SplitIndexAddress(m_options.txthttpRoot, m_options.chkUse83);
+    m_context.IndexBaseName = base;
+    m_context.IndexExtension = extension;
+    if (m_options.chkUseNames) {
+      for (std::size_t book = 1; book <= kBooks; ++book) m_labels[book] = m_codePage.ToUpper(m_glob.BookCodes[book]);
+    }
+  }
+
+  // Writes the chapter pages. The first page is opened for the start book's chapter 1 before any line is read, whatever
+  // the first line holds.
+  void WriteChapters() {
+    OpenChapter(m_request.cboStartBook + 1, 1, "1");
+    m_verses.emplace(m_request.txtFilename);
+    bool isFirst = true;
+    int lastBook = 0;
+    std::int16_t lastChapter = 0;
+    while (m_verses->Next(m_verse)) {
+      if (isFirst || m_verse.chapter != lastChapter || m_verse.book != lastBook) {
+        if (!isFirst) TurnPage();
+        isFirst = false;
+        lastBook = m_verse.book;
+        lastChapter = m_verse.chapter;
+      }
+      BuildVerseLine({m_labels[static_cast<std::size_t>(m_verse.book)], m_verse.chapterField, m_verse.verse,
+                      m_verse.text},
+                     m_options, m_context);
+    }
+    WritePageFoot(m_options, m_context);
+  }
+
+  void WriteIndex() {
+    BuildMeta(m_options.frmKeywords.txtDescriptionI, m_options.frmKeywords.txtKeywordsI, "", "");
+    WriteIndexPage({m_context.PageLanguage, m_context.PageCharset, m_context.FontName, m_context.FontSizeNumber,
+                    m_context.BackColourHex, m_context.TextColourHex, m_context.PageMeta, m_context.PageTitle,
+                    static_cast<std::int16_t>(m_request.cboStartBook + 1),
+                    static_cast<std::int16_t>(m_request.cboEndBook + 1)},
+                   m_inputs, m_codePage, m_context);
+    WritePageFoot(m_options, m_context);
+  }
+
+  void TellCounts() {
+    const std::int16_t removed = CleanUp(m_request, m_inputs);
+    m_ui.ShowMessage({MessageIcon::kInformation, std::string("Compilation Complete ") + kApplicationTitle,
+                      "Compilation Complete!\r\n" + std::to_string(m_context.PagesCreated) +
+                          " HTML pages created.\r\n" + std::to_string(removed) + " pages removed\r\nRemaining pages " +
+                          std::to_string(m_context.PagesCreated - removed),
+                      true});
+  }
+
+  // The last values seen, for the report of a failure.
+  std::string LastValues() const {
+    constexpr std::size_t kShown = 200;
+    const auto shown = [&](std::string_view text) { return m_codePage.DecodeForDisplay(text.substr(0, kShown)); };
+    return "INDEX: " + shown(m_verse.bookField) + "\r\nSL: " + shown(m_verse.chapterField) + ":" +
+           shown(m_verse.verse) + "\r\nSR: " + shown(m_verse.text);
+  }
+
+ private:
+  void TurnPage() {
+    if (m_context.PagesCreated == kInt16Max) throw RunTimeError(kOverflow, "More than 32767 pages.");
+    ++m_context.PagesCreated;
+    m_ui.SetPanel(1, "Compiling file " + std::to_string(m_context.PagesCreated) + " " +
+                         m_codePage.DecodeForDisplay(BookName(m_inputs, m_verse.book)));
+    WritePageFoot(m_options, m_context);
+    OpenChapter(m_verse.book, m_verse.chapter, m_verse.chapterField);
+  }
+
+  void OpenChapter(int book, std::int16_t chapter, std::string_view chapterText) {
+    m_context.BookNumber = static_cast<std::int16_t>(book);
+    m_context.ChapterNumber = chapter;
+    m_context.BookTitle = BookName(m_inputs, book);
+    BuildMeta(m_options.frmKeywords.txtDescription, m_options.frmKeywords.txtKeyWords, m_context.BookTitle,
+              chapterText);
+    WriteChapterHead({m_context.BookTitle, m_context.PageLanguage, m_context.PageCharset, m_context.FontName,
+                      m_context.FontSizeNumber, m_context.BackColourHex, m_context.TextColourHex, m_context.PageMeta,
+                      m_context.PageTitle, m_context.BookNumber, m_context.ChapterNumber},
+                     m_inputs, m_context);
+  }
+
+  void BuildMeta(std::string_view description, std::string_view keywords, std::string_view book,
+                 std::string_view chapter) {
+    m_context.PageTitle = PageText(m_inputs, description, book, chapter);
+    m_context.PageMeta = PageText(m_inputs, keywords, book, chapter);
+  }
+
+  const CompileRequest& m_request;
+  const CodePage& m_codePage;
+  ModGlob& m_glob;
+  UserInterface& m_ui;
+  PageOptions m_options;
+  std::string m_indexFileName;
+  PageNames m_names;
+  VerseCounts m_counts;
+  std::string m_backToString;
+  PageInputs m_inputs;
+  CompileContext m_context;
+  std::array<std::string, kBooks + 1> m_labels;
+  std::optional<VerseFileReader> m_verses;  // outlives a failure, whose report shows what m_verse points to
+  Verse m_verse;
+};
+
+CompileOutcome Run(const CompileRequest& request, ModGlob& glob, UserInterface& ui, std::string& lastValues) {
+  if (request.options.chkCSS) CopyCSS(request);
+  if (const auto refusal = Validate(request)) {
+    ui.ShowMessage(refusal->message);
+    ui.FocusControl(refusal->control);
+    return CompileOutcome::kRefused;
+  }
+  if (request.cboBibleName < 0) {
+    ui.ShowMessage({MessageIcon::kInformation, "No Bible Selected", "Please Select a Bible to compile first"});
+    return CompileOutcome::kRefused;
+  }
+  const CodePage codePage(request.texts.PageCharset);
+  const Outcome counted = BooksInChapters(glob, static_cast<std::size_t>(request.cboBibleName), codePage, ui);
+  if (counted != Outcome::kDone) {
+    return counted == Outcome::kEndProgram ? CompileOutcome::kEndProgram : CompileOutcome::kFailed;
+  }
+  CompileRun run(request, codePage, glob, ui);
+  try {
+    run.Prepare();
+    MakeOutputFolder(request);
+    run.WriteChapters();
+    run.WriteIndex();
+  } catch (const RunTimeError&) {
+    lastValues = run.LastValues();
+    throw;
+  }
+  run.TellCounts();
+  return CompileOutcome::kDone;
+}
+
+}  // namespace
+
+CompileOutcome cmdCompile_Click(const CompileRequest& request, ModGlob& glob, UserInterface& ui) {
+  constexpr char kLabel[] = "cmdCompile_Click";
+  std::string lastValues = "INDEX: \r\nSL: \r\nSR: ";
+  try {
+    return Run(request, glob, ui, lastValues);
+  } catch (const RunTimeError& error) {
+    ui.ShowErrorReport(error.Number(), kLabel, lastValues + "\r\n" + error.Extra());
+  } catch (const AlreadyReported&) {
+    return CompileOutcome::kFailed;
+  } catch (const std::bad_alloc&) {
+    ui.ShowErrorReport(kOutOfMemory, kLabel, lastValues);
+  }
+  return CompileOutcome::kFailed;
+}
+
+}  // namespace folionet

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <cstdint>
+
+#include "CodePage.h"
+#include "CompileRequest.h"
+#include "UserInterface.h"
+#include "modGlob.h"
+
+namespace folionet {
+
+enum class CompileOutcome {
+  kDone,        // every page is written and the counts were told
+  kRefused,     // validation told why; nothing was written but, with that option on, the style sheet
+  kFailed,      // a run-time failure was reported; the pages written before it stay
+  kEndProgram,  // the chapter index is missing and said so; the program must end
+};
+
+// Compiles the chosen translation into a site: a page for every chapter of its text, and the index page for the book
+// range; then deletes the pages of the books before the start book. Needs the lists, BookCodes and ChapterIndex of
+// `glob` and fills its ChaptersInBook. Every message goes to `ui`; nothing is thrown.
+CompileOutcome cmdCompile_Click(const CompileRequest& request, ModGlob& glob, UserInterface& ui);
+
+}  // namespace folionet

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <string>
+
+#include "CompileContext.h"
+#include "PageOptions.h"
+
+namespace folionet {
+
+// What the main form holds when Compile is pressed. Texts are UTF-8 but for `options.txtBibleSel`, which is the name as
+// the catalogue has it.
+struct CompileRequest {
+  PageOptions options;
+  PageTexts texts;
+  std::string txtOutputPath = "txtOutputPath";  // the chosen folder; this initial text stands for none
+  std::string txtFilename;                      // the verse file
+  std::string cboLang;                          // the file name of the book titles; "Default" stands for none
+  int cboBibleName = -1;                        // the chosen translation's place in BibleNames; -1 for none
+  int cboStartBook = 0;                         // places in the book lists
+  int cboEndBook = 65;
+  std::string programFolder;      // where default.css is; ends in the folder separator
+  bool makeOutputFolder = false;  // whether a missing output folder is made
+};
+
+}  // namespace folionet

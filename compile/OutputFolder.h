@@ -1,0 +1,22 @@
+#pragma once
+
+#include <string>
+
+#include "CompileContext.h"
+#include "CompileRequest.h"
+#include "PageInputs.h"
+
+namespace folionet {
+
+// Makes the request's output folder, parents included, when it is missing and the request says so. Throws RunTimeError.
+void MakeOutputFolder(const CompileRequest& request);
+
+// Writes a copy of the program folder's default.css, with one further CR LF, into the output folder. With no folder
+// chosen yet nothing is done. Throws RunTimeError; kFileAlreadyOpen when both are the same file.
+void CopyCSS(const CompileRequest& request);
+
+// Deletes the pages of the books before the start book. Gives the number of deletions tried, which counts pages that
+// were not there; every failure is passed over.
+std::int16_t CleanUp(const CompileRequest& request, const PageInputs& inputs);
+
+}  // namespace folionet

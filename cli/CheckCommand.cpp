@@ -1,0 +1,33 @@
+#include "CheckCommand.h"
+
+#include <cstdio>
+
+#include "CatalogueCheck.h"
+#include "FaultList.h"
+#include "TextCheck.h"
+#include "TitlesCheck.h"
+
+namespace folionet {
+
+ExitStatus RunCheck(const CommonOptions& common, const std::string& translation) {
+  Session session(common);
+  session.LoadCodePage();
+  FaultList faults(session.codePage);
+  CheckCatalogue(session.glob, faults);
+  CheckTitles(session.glob, session.store.Text("cboLang"), faults);
+
+  const std::size_t count = session.glob.cboBibleName.size();
+  std::size_t first = 0;
+  std::size_t end = count;
+  if (!translation.empty()) {
+    first = session.FindTranslation(translation);
+    end = first + 1;
+  }
+  for (std::size_t place = first; place < end; ++place) {
+    CheckText(session.glob, session.glob.BibleFiles[place], faults);
+  }
+  std::printf("%zu %s found.\n", faults.Count(), faults.Count() == 1 ? "fault" : "faults");
+  return faults.Count() == 0 ? kExitDone : kExitRefused;
+}
+
+}  // namespace folionet

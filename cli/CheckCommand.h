@@ -1,0 +1,14 @@
+#pragma once
+
+#include <string>
+
+#include "Session.h"
+
+namespace folionet {
+
+// Reads the catalogue, every file of book titles, and index and text of one translation (all of them when the name is
+// empty) through, and prints each fault as "file:line: what is wrong", then their count. Changes nothing. Gives
+// kExitRefused when there are faults.
+ExitStatus RunCheck(const CommonOptions& common, const std::string& translation);
+
+}  // namespace folionet

@@ -1,0 +1,91 @@
+#include "CompileCommand.h"
+
+#include "ChapterIndex.h"
+#include "Compile.h"
+#include "CustomHtml.h"
+#include "Effects.h"
+#include "Installation.h"
+#include "Paths.h"
+#include "ProgramFolder.h"
+#include "RunTimeError.h"
+
+namespace folionet {
+namespace {
+
+void EndUnless(bool good) {
+  if (!good) throw ExitWith(kExitFailed);
+}
+
+std::string OutputPath(const CompileArguments& arguments, const Session& session) {
+  if (!arguments.output.empty()) return WithSeparator(NativePath(arguments.output));
+  const bool isStored = session.store.Has("Dir1") && session.main.Dir1 != "C:" && !session.main.Dir1.empty();
+  return isStored ? WithSeparator(NativePath(session.main.Dir1)) : CompileRequest().txtOutputPath;
+}
+
+std::string ProgramFolderOf(Session& session) {
+  try {
+    return FindProgramFolder(session.chosenProgramFolder);
+  } catch (const RunTimeError& error) {
+    session.ui.ShowErrorReport(error.Number(), "Form Load - MAIN", error.Extra());
+    throw ExitWith(kExitFailed);
+  }
+}
+
+// Chooses the translation and reads its chapter index, as a start of the form does.
+void SelectTranslation(const CompileArguments& arguments, Session& session, CompileRequest& request) {
+  const ModGlob& glob = session.glob;
+  if (!arguments.translation.empty()) {
+    request.cboBibleName = static_cast<int>(session.FindTranslation(arguments.translation));
+  } else if (!glob.cboBibleName.empty()) {
+    request.cboBibleName = 0;
+  }
+  const std::size_t place = static_cast<std::size_t>(std::max(request.cboBibleName, 0));
+  request.options.txtBibleSel = request.cboBibleName < 0 ? "" : glob.BibleNames[place];
+  request.txtFilename = VerseFile(glob, session.codePage, glob.BibleFiles[place]);
+  if (request.cboBibleName < 0) return;
+  EndUnless(BooksInChapters(session.glob, place, session.codePage, session.ui) == Outcome::kDone);
+  EndUnless(LoadVerseCount(session.glob, IndexFile(glob, session.codePage, glob.BibleFiles[place]), session.ui) ==
+            Outcome::kDone);
+}
+
+}  // namespace
+
+ExitStatus RunCompile(const CommonOptions& common, const CompileArguments& arguments) {
+  Session session(common);
+  session.Override(arguments.settings);
+  if (!arguments.languageFile.empty()) session.store.Override("cboLang", arguments.languageFile);
+  session.LoadOptions();
+  session.LoadLists(true);
+
+  CompileRequest request;
+  request.options = session.options;
+  SelectTranslation(arguments, session, request);
+  if (!arguments.startBook.empty()) request.cboStartBook = session.FindBook(arguments.startBook);
+  if (!arguments.endBook.empty()) request.cboEndBook = session.FindBook(arguments.endBook);
+  if (!arguments.indexAddress.empty()) request.options.txthttpRoot = arguments.indexAddress;
+  request.txtOutputPath = OutputPath(arguments, session);
+  request.makeOutputFolder = true;
+  request.cboLang = session.store.Text("cboLang");
+  request.programFolder = ProgramFolderOf(session);
+  request.texts = session.texts;
+  for (const auto& [kind, text] : {std::pair{&kCustomHeader, &request.texts.CustomHeader},
+                                   std::pair{&kCustomFooter, &request.texts.CustomFooter}}) {
+    EndUnless(LoadCustomHtml(request.programFolder, *kind, session.codePage, *text, session.ui));
+  }
+  const LinkEffects effects = Effects(request.options.frmEffects);
+  request.texts.RolloverStyle = effects.RolloverStyle;
+  request.texts.BodyLinkTag = effects.BodyLinkTag;
+
+  switch (cmdCompile_Click(request, session.glob, session.ui)) {
+    case CompileOutcome::kDone:
+      return kExitDone;
+    case CompileOutcome::kRefused:
+      return kExitRefused;
+    case CompileOutcome::kFailed:
+    case CompileOutcome::kEndProgram:
+      break;
+  }
+  return kExitFailed;
+}
+
+}  // namespace folionet

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "Session.h"
+
+namespace folionet {
+
+// The arguments of "folionet-cli compile"; an empty text stands for one that was not given.
+struct CompileArguments {
+  std::string translation;
+  std::string languageFile;
+  std::string startBook;
+  std::string endBook;
+  std::string output;
+  std::string indexAddress;
+  std::vector<std::string> settings;
+};
+
+// Compiles a translation as the form does.
+ExitStatus RunCompile(const CommonOptions& common, const CompileArguments& arguments);
+
+}  // namespace folionet

@@ -1,0 +1,66 @@
+#include "ConsoleUi.h"
+
+#include <unistd.h>
+
+#include <cstdio>
+
+#include "ErrorReport.h"
+#include "ProgramFolder.h"
+
+namespace folionet {
+namespace {
+
+void Write(std::FILE* stream, std::string_view text) {
+  std::fwrite(text.data(), 1, text.size(), stream);
+  std::fputc('\n', stream);
+}
+
+}  // namespace
+
+std::string WithNewLines(std::string_view text) {
+  std::string lines;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    if (text[i] != '\r' || i + 1 == text.size() || text[i + 1] != '\n') lines += text[i];
+  }
+  return lines;
+}
+
+ConsoleUi::ConsoleUi(bool quiet) : m_quiet(quiet), m_showsProgress(!quiet && isatty(STDERR_FILENO) != 0) {}
+
+ConsoleUi::~ConsoleUi() { EndProgress(); }
+
+void ConsoleUi::EndProgress() {
+  if (m_progressShown) std::fputs("\r\033[K", stderr);
+  m_progressShown = false;
+}
+
+void ConsoleUi::ShowMessage(const Message& message) {
+  EndProgress();
+  if (!message.isResult) {
+    Write(stderr, message.title + ": " + WithNewLines(message.text));
+  } else if (!m_quiet) {
+    Write(stdout, WithNewLines(message.text));
+  }
+}
+
+bool ConsoleUi::AskYesNo(const std::string& /*title*/, const std::string& /*text*/) { return false; }
+
+std::optional<std::string> ConsoleUi::AskText(const InputBox& /*box*/) { return std::nullopt; }
+
+void ConsoleUi::ShowErrorReport(int errorNumber, std::string_view moduleLabel, const std::string& extraInfo) {
+  EndProgress();
+  Write(stderr, WithNewLines(BuildErrorReport(errorNumber, moduleLabel, extraInfo, ExecutableFolder())));
+}
+
+void ConsoleUi::SetPanel(int panel, std::string_view text) {
+  constexpr auto kInterval = std::chrono::milliseconds(40);
+  if (!m_showsProgress || panel != 1) return;
+  const auto now = std::chrono::steady_clock::now();
+  if (now - m_lastProgress < kInterval) return;
+  m_lastProgress = now;
+  m_progressShown = true;
+  std::fputs("\r\033[K", stderr);
+  std::fwrite(text.data(), 1, text.size(), stderr);
+}
+
+}  // namespace folionet

@@ -1,0 +1,48 @@
+#include "ListCommand.h"
+
+#include <cstdio>
+
+#include "BookTitles.h"
+#include "SettingsKeys.h"
+
+namespace folionet {
+namespace {
+
+void PrintLine(const std::string& line) { std::puts(line.c_str()); }
+
+void ListTranslations(Session& session) {
+  const ModGlob& glob = session.glob;
+  for (std::size_t i = 0; i < glob.cboBibleName.size(); ++i) {
+    PrintLine(session.codePage.DecodeForDisplay(glob.BibleFiles[i]) + "\t" +
+              session.codePage.DecodeForDisplay(glob.BibleNames[i]));
+  }
+}
+
+void ListBooks(const Session& session) {
+  int number = 0;
+  for (const std::string& title : session.glob.cboStartBook) {
+    PrintLine(std::to_string(++number) + "\t" + session.codePage.DecodeForDisplay(title));
+  }
+}
+
+}  // namespace
+
+ExitStatus RunList(const CommonOptions& common, const std::string& subject) {
+  Session session(common);
+  if (subject == "settings") {
+    for (const SettingKey& key : SettingKeys()) PrintLine(std::string(key.name) + "=" + session.store.Text(key.name));
+    return kExitDone;
+  }
+  if (subject == "languages") {
+    if (GetLang(session.glob, session.ui) != Outcome::kDone) return kExitFailed;
+    for (const std::string& name : session.glob.cboLang) PrintLine(name);
+    return kExitDone;
+  }
+  session.LoadCodePage();
+  session.LoadLists(subject == "translations");
+  if (subject == "translations") ListTranslations(session);
+  if (subject == "books") ListBooks(session);
+  return kExitDone;
+}
+
+}  // namespace folionet

@@ -1,0 +1,119 @@
+#include "Session.h"
+
+#include <cstdio>
+
+#include "Catalogue.h"
+#include "Numbers.h"
+#include "PageEncoding.h"
+#include "Paths.h"
+#include "RunTimeError.h"
+#include "SettingsKeys.h"
+
+namespace folionet {
+namespace {
+
+// The place of the one text that equals `wanted`, exactly or else ignoring case; npos when there is none.
+std::size_t FindText(const std::vector<std::string>& texts, const std::string& wanted) {
+  for (std::size_t i = 0; i < texts.size(); ++i) {
+    if (texts[i] == wanted) return i;
+  }
+  for (std::size_t i = 0; i < texts.size(); ++i) {
+    if (EqualIgnoringCase(texts[i], wanted)) return i;
+  }
+  return std::string::npos;
+}
+
+std::vector<std::string> Decoded(const std::vector<std::string>& texts, std::size_t count, const CodePage& codePage) {
+  std::vector<std::string> decoded;
+  for (std::size_t i = 0; i < count; ++i) decoded.push_back(codePage.Decode(texts[i]));
+  return decoded;
+}
+
+}  // namespace
+
+void RefuseUsage(const std::string& text) {
+  std::fputs((text + "\n").c_str(), stderr);
+  throw ExitWith(kExitUsage);
+}
+
+Session::Session(const CommonOptions& common)
+    : store(SettingsStore::DefaultFolder()), ui(common.quiet), chosenProgramFolder(common.programFolder) {
+  LocateInstallation(store, glob);
+  std::string install = glob.InstallPath;
+  std::string modules = glob.ModulesPath;
+  if (!common.versaliaPath.empty()) install = WithSeparator(common.versaliaPath);
+  if (!common.modulePath.empty()) modules = WithSeparator(common.modulePath);
+  if (modules.empty() && !install.empty()) modules = WithSeparator(install) + "Modules/";
+  SetInstallation(glob, install, modules, "Sysdefs");
+}
+
+void Session::Override(const std::vector<std::string>& assignments) {
+  for (const std::string& assignment : assignments) {
+    const std::size_t equals = assignment.find('=');
+    const std::string name = assignment.substr(0, equals);
+    if (equals == std::string::npos) RefuseUsage("--set: KEY=VALUE was expected: \"" + assignment + "\"");
+    const SettingKey* key = FindSettingKey(name);
+    if (key == nullptr) {
+      RefuseUsage("--set: there is no setting \"" + name + "\". \"folionet-cli list settings\" shows all of them.");
+    }
+    std::string value = assignment.substr(equals + 1);
+    if (CheckSetting(key->form, value) != 0) {
+      RefuseUsage("--set: " + name + " must be " + std::string(Describe(key->form)) + ": \"" + value + "\"");
+    }
+    store.Override(name, std::move(value));
+  }
+}
+
+void Session::LoadOptions() {
+  try {
+    options = LoadPageOptions(store, main);
+    texts.LinkAlignment = main.alignment;
+  } catch (const RunTimeError& error) {
+    ui.ShowErrorReport(error.Number(), "Form Load - MAIN", error.Extra());
+    throw ExitWith(kExitFailed);
+  }
+  LoadCodePage();
+}
+
+void Session::LoadCodePage() {
+  try {
+    PageEncoding encoding;
+    LoadPageEncoding(store, encoding, ui);
+    texts.PageCharset = encoding.PageCharset;
+    texts.PageLanguage = encoding.PageLanguage;
+    codePage = CodePage(encoding.PageCharset);
+  } catch (const RunTimeError& error) {
+    ui.ShowErrorReport(error.Number(), "Form Load - MAIN", error.Extra());
+    throw ExitWith(kExitFailed);
+  }
+}
+
+void Session::LoadLists(bool withCatalogue) {
+  if (PopulateCombos(withCatalogue ? 1 : 0, store.Text("cboLang"), glob, codePage, ui) != Outcome::kDone) {
+    throw ExitWith(kExitFailed);
+  }
+}
+
+std::size_t Session::FindTranslation(const std::string& nameOrStem) const {
+  const std::size_t count = glob.cboBibleName.size();
+  for (const auto* list : {&glob.BibleNames, &glob.BibleFiles}) {
+    const std::size_t found = FindText(Decoded(*list, count, codePage), nameOrStem);
+    if (found != std::string::npos) return found;
+  }
+  RefuseUsage("--translation: there is no translation \"" + nameOrStem +
+              "\". \"folionet-cli list translations\" shows those that are installed.");
+}
+
+int Session::FindBook(const std::string& numberOrTitle) const {
+  const IntegerReading number = ReadInteger(numberOrTitle, 1, kBooks);
+  if (number.error == 0) return static_cast<int>(number.value) - 1;
+  const std::size_t found =
+      FindText(Decoded(glob.cboStartBook, glob.cboStartBook.size(), codePage), numberOrTitle);
+  if (number.error == kOverflow || found == std::string::npos) {
+    RefuseUsage("There is no book \"" + numberOrTitle +
+                "\": a number from 1 to 66 or a title was expected. \"folionet-cli list books\" shows them.");
+  }
+  return static_cast<int>(found);
+}
+
+}  // namespace folionet

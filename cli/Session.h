@@ -1,0 +1,77 @@
+#pragma once
+
+#include <exception>
+#include <string>
+#include <vector>
+
+#include "CodePage.h"
+#include "CompileContext.h"
+#include "ConsoleUi.h"
+#include "OptionRecords.h"
+#include "SettingsStore.h"
+#include "modGlob.h"
+
+namespace folionet {
+
+// The exit statuses of folionet-cli.
+enum ExitStatus { kExitDone = 0, kExitRefused = 1, kExitUsage = 2, kExitFailed = 3 };
+
+// Ends the command with an exit status; what there is to say has been said.
+class ExitWith : public std::exception {
+ public:
+  explicit ExitWith(ExitStatus status) : m_status(status) {}
+  ExitStatus Status() const { return m_status; }
+
+ private:
+  ExitStatus m_status;
+};
+
+// An argument that cannot be used: says so on standard error, with what to do, and ends the command.
+[[noreturn]] void RefuseUsage(const std::string& text);
+
+// The options that every command knows. Folders may lack their trailing separator.
+struct CommonOptions {
+  std::string versaliaPath;
+  std::string modulePath;
+  std::string programFolder;
+  bool quiet = false;
+};
+
+// One run of the command line: the records that a form would hold, read as it reads them.
+class Session {
+ public:
+  explicit Session(const CommonOptions& common);
+
+  // Gives settings values for this run, each "KEY=VALUE". Ends the command for an unknown key or a value of the wrong
+  // form.
+  void Override(const std::vector<std::string>& assignments);
+
+  // Reads every page option, the page's language and charset, and with them the code page. Ends the command after
+  // reporting a value that does not convert.
+  void LoadOptions();
+
+  // As LoadOptions, but the charset only.
+  void LoadCodePage();
+
+  // Fills the lists from the catalogue, when `withCatalogue`, and from the book-title file of the setting "cboLang".
+  // Ends the command when that fails.
+  void LoadLists(bool withCatalogue);
+
+  // The place in BibleNames of a translation, by display name or file stem, exactly or else ignoring case. Ends the
+  // command when there is none.
+  std::size_t FindTranslation(const std::string& nameOrStem) const;
+
+  // The place in the book lists of a book, by number from 1 or by title. Ends the command when there is none.
+  int FindBook(const std::string& numberOrTitle) const;
+
+  SettingsStore store;
+  ConsoleUi ui;
+  ModGlob glob;
+  CodePage codePage;
+  MainOptions main;
+  PageOptions options;
+  PageTexts texts;
+  std::string chosenProgramFolder;
+};
+
+}  // namespace folionet

@@ -71,7 +71,7 @@ void GetDefaults(const SettingsStore& store, SampleText& sample) {
   sample.FontSize = store.PointSize("FontSize");
 }
 
-void SaveDefaults(SettingsStore& store, const MainOptions& options) {
+void SaveDefaults(SettingsStore& store, const PageOptions& options, const MainOptions& main) {
   store.SaveInteger("BackColor", options.txtSample.BackColor);
   store.SaveInteger("ForeColor", options.txtSample.ForeColor);
   store.SaveText("Font", options.txtSample.FontName);
@@ -79,11 +79,11 @@ void SaveDefaults(SettingsStore& store, const MainOptions& options) {
   store.SaveFlag("Use83", options.chkUse83);
   store.SaveBoolean("FontBold", options.txtSample.FontBold);
   store.SaveBoolean("FontItalic", options.txtSample.FontItalic);
-  if (IsKnownAlignment(options.alignment)) store.SaveText("alignmentLR", options.alignment);
+  if (IsKnownAlignment(main.alignment)) store.SaveText("alignmentLR", main.alignment);
   store.SaveFlag("chkDoubleSpace", options.chkDoubleSpace);
-  store.SaveText("Drive1", options.Drive1);
-  store.SaveText("Dir1", options.Dir1);
-  store.SaveText("Index_Alignment", options.alignment);
+  store.SaveText("Drive1", main.Drive1);
+  store.SaveText("Dir1", main.Dir1);
+  store.SaveText("Index_Alignment", main.alignment);
 }
 
 void LoadTitles(const SettingsStore& store, PageTitleOptions& options) {
@@ -165,24 +165,23 @@ void SaveDefaultHyperlinkColors(SettingsStore& store, const EffectsOptions& opti
 
 PageOptions LoadPageOptions(const SettingsStore& store, MainOptions& main) {
   PageOptions options;
-  options.chkBack = main.chkBack = store.Flag("chkBack");
-  options.chkUseNames = main.chkUseNames = store.Flag("chkUseNames");
-  options.chkUse83 = main.chkUse83 = store.Flag("Use83");
+  options.chkBack = store.Flag("chkBack");
+  options.chkUseNames = store.Flag("chkUseNames");
+  options.chkUse83 = store.Flag("Use83");
   main.cboLang = store.Text("cboLang");
   main.alignment = LoadAlignment(store).text;
-  options.chkDoubleSpace = main.chkDoubleSpace = store.Flag("chkDoubleSpace");
+  options.chkDoubleSpace = store.Flag("chkDoubleSpace");
   main.Drive1 = store.Text("Drive1");
   main.Dir1 = store.Text("Dir1");
   LoadBackground(store, options.frmBackground);
   LoadTitles(store, options.frmPAgeTitles);
   SetDefaultHyperlinkColors(store, options.frmEffects, 0);
   LoadMETA(store, options.frmKeywords);
-  GetDefaults(store, main.txtSample);
+  GetDefaults(store, options.txtSample);
   LoadLinkToMain(store, options.frmLinkToMAin);
-  main.txtSample.FontBold = store.Boolean("FontBold");
-  main.txtSample.FontItalic = store.Boolean("FontItalic");
-  options.chkCSS = main.chkCSS = store.Flag("chkCSS");
-  options.txtSample = main.txtSample;
+  options.txtSample.FontBold = store.Boolean("FontBold");
+  options.txtSample.FontItalic = store.Boolean("FontItalic");
+  options.chkCSS = store.Flag("chkCSS");
   return options;
 }
 

@@ -11,18 +11,12 @@ namespace folionet {
 // The option records with their loading and saving. A loading routine throws RunTimeError when a stored text has not
 // its key's form; the fields that it had read by then are set, the others are as they were.
 
-// The options of the main form that no dialog owns.
+// What the main form keeps beside the page options.
 struct MainOptions {
-  bool chkBack = false;
-  bool chkUseNames = true;
-  bool chkUse83 = false;
-  bool chkDoubleSpace = false;
-  bool chkCSS = false;
   std::string cboLang = "BOOKS.TXT";  // the file name of the book titles
   std::string alignment = "Left";     // overall link alignment; "Left", "Center" and "Justify" are known
   std::string Drive1 = "C:";
   std::string Dir1 = "C:";
-  SampleText txtSample;
 };
 
 // The overall link alignment that a start finds: "alignmentLR" first, where every word but "Left" means "Center", then
@@ -38,7 +32,7 @@ AlignmentReading LoadAlignment(const SettingsStore& store);
 void GetDefaults(const SettingsStore& store, SampleText& sample);
 
 // The twelve keys that are written at exit.
-void SaveDefaults(SettingsStore& store, const MainOptions& options);
+void SaveDefaults(SettingsStore& store, const PageOptions& options, const MainOptions& main);
 
 void LoadTitles(const SettingsStore& store, PageTitleOptions& options);
 void SaveTitles(SettingsStore& store, const PageTitleOptions& options);

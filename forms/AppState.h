@@ -1,0 +1,30 @@
+#pragma once
+
+#include <string>
+
+#include "CodePage.h"
+#include "CompileContext.h"
+#include "OptionRecords.h"
+#include "PageOptions.h"
+#include "SettingsStore.h"
+#include "UserInterface.h"
+#include "modGlob.h"
+
+namespace folionet {
+
+// What all forms of a running program share. Made in main, handed down by reference. Each dialog shows its own record
+// of `options`; the compile run reads all of them.
+struct AppState {
+  SettingsStore& store;
+  UserInterface& ui;
+  std::string programFolder;  // ends in the folder separator
+
+  ModGlob glob;
+  MainOptions main;
+  PageOptions options;        // UTF-8, but txtBibleSel is the translation's name as the catalogue has it
+  PageTexts texts;            // UTF-8; RolloverStyle and BodyLinkTag change only where Effects is run
+  CodePage codePage;          // of texts.PageCharset
+  std::string startBookText;  // the title shown in the main form's cboStartBook, in the bytes of its file
+};
+
+}  // namespace folionet

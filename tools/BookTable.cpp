@@ -1,0 +1,132 @@
+#include "BookTable.h"
+
+#include <array>
+#include <map>
+#include <utility>
+
+#include "Ascii.h"
+
+namespace folionet::tools {
+
+namespace {
+
+constexpr std::array<Book, kBookCount> kBooks = {{
+    {"GEN", "Genesis", "ge gn"},
+    {"EXO", "Exodus", "exod ex"},
+    {"LEV", "Leviticus", "lv"},
+    {"NUM", "Numbers", "nm"},
+    {"DEU", "Deuteronomy", "deut dt"},
+    {"JOS", "Joshua", "josh"},
+    {"JDG", "Judges", "judg jdgs"},
+    {"RUT", "Ruth", "rth"},
+    {"1SA", "1 Samuel", "1sam 1sm"},
+    {"2SA", "2 Samuel", "2sam 2sm"},
+    {"1KI", "1 Kings", "1kgs"},
+    {"2KI", "2 Kings", "2kgs"},
+    {"1CH", "1 Chronicles", "1chron 1chr"},
+    {"2CH", "2 Chronicles", "2chron 2chr"},
+    {"EZR", "Ezra", ""},
+    {"NEH", "Nehemiah", ""},
+    {"EST", "Esther", "esth"},
+    {"JOB", "Job", ""},
+    {"PSA", "Psalms", "psalm ps"},
+    {"PRO", "Proverbs", "prov prv"},
+    {"ECC", "Ecclesiastes", "eccl eccles qoheleth"},
+    {"SNG", "Song of Solomon", "songofsongs song ssol canticles canticleofcanticles"},
+    {"ISA", "Isaiah", ""},
+    {"JER", "Jeremiah", ""},
+    {"LAM", "Lamentations", "lamentationsofjeremiah"},
+    {"EZK", "Ezekiel", "ezek eze"},
+    {"DAN", "Daniel", ""},
+    {"HOS", "Hosea", ""},
+    {"JOL", "Joel", ""},
+    {"AMO", "Amos", ""},
+    {"OBA", "Obadiah", "obad"},
+    {"JON", "Jonah", ""},
+    {"MIC", "Micah", ""},
+    {"NAM", "Nahum", "nah"},
+    {"HAB", "Habakkuk", ""},
+    {"ZEP", "Zephaniah", "zeph"},
+    {"HAG", "Haggai", ""},
+    {"ZEC", "Zechariah", "zech"},
+    {"MAL", "Malachi", ""},
+    {"MAT", "Matthew", "matt"},
+    {"MRK", "Mark", "mar"},
+    {"LUK", "Luke", ""},
+    {"JHN", "John", "joh jn"},
+    {"ACT", "Acts", "actsoftheapostles theacts"},
+    {"ROM", "Romans", ""},
+    {"1CO", "1 Corinthians", "1cor"},
+    {"2CO", "2 Corinthians", "2cor"},
+    {"GAL", "Galatians", ""},
+    {"EPH", "Ephesians", ""},
+    {"PHP", "Philippians", "phil phi"},
+    {"COL", "Colossians", ""},
+    {"1TH", "1 Thessalonians", "1thess 1thes"},
+    {"2TH", "2 Thessalonians", "2thess 2thes"},
+    {"1TI", "1 Timothy", "1tim"},
+    {"2TI", "2 Timothy", "2tim"},
+    {"TIT", "Titus", ""},
+    {"PHM", "Philemon", "phlm phmn"},
+    {"HEB", "Hebrews", ""},
+    {"JAS", "James", ""},
+    {"1PE", "1 Peter", "1pet"},
+    {"2PE", "2 Peter", "2pet"},
+    {"1JN", "1 John", ""},
+    {"2JN", "2 John", ""},
+    {"3JN", "3 John", ""},
+    {"JUD", "Jude", ""},
+    {"REV", "Revelation", "revelationofjohn revelationofstjohn revelations apocalypse"},
+}};
+
+std::map<std::string, int> MakeKeys() {
+  std::map<std::string, int> keys;
+  for (int number = 1; number <= kBookCount; ++number) {
+    const Book& book = BookAt(number);
+    keys.emplace(BookKey(book.code), number);
+    keys.emplace(BookKey(book.title), number);
+    std::string_view rest = book.synonyms;
+    while (!rest.empty()) {
+      const std::size_t end = rest.find(' ');
+      keys.emplace(rest.substr(0, end), number);
+      rest = end == std::string_view::npos ? std::string_view() : rest.substr(end + 1);
+    }
+  }
+  return keys;
+}
+
+}  // namespace
+
+const Book& BookAt(int number) { return kBooks.at(static_cast<std::size_t>(number) - 1); }
+
+std::string BookLabel(int number) {
+  std::string label(BookAt(number).code);
+  bool letterBefore = false;
+  for (char& c : label) {
+    if (letterBefore) c = LowerAscii(c);
+    letterBefore = letterBefore || (c >= 'A' && c <= 'Z');
+  }
+  return label;
+}
+
+std::string BookKey(std::string_view name) {
+  constexpr std::pair<std::string_view, char> kRoman[] = {{"i ", '1'}, {"ii ", '2'}, {"iii ", '3'}};
+  std::string lower;
+  for (const char c : name) lower += c == '\t' ? ' ' : LowerAscii(c);
+  for (const auto& [roman, digit] : kRoman) {
+    if (lower.starts_with(roman)) {
+      lower.replace(0, roman.size(), 1, digit);
+      break;
+    }
+  }
+  std::erase_if(lower, [](char c) { return c == ' ' || c == '.'; });
+  return lower;
+}
+
+int FindBook(std::string_view name) {
+  static const std::map<std::string, int> keys = MakeKeys();
+  const auto found = keys.find(BookKey(name));
+  return found == keys.end() ? 0 : found->second;
+}
+
+}  // namespace folionet::tools

@@ -24,7 +24,8 @@ void CheckRecord(ModGlob& glob, const RecordReader& records, const CatalogueReco
   }
   faults.CheckLetterCase(text, glob.ModulesPath + "Bible/" + faults.Charset().Decode(record.stem) + ".TXT");
   for (std::size_t i = 0; i < glob.BibleFiles.size(); ++i) {
-    if (glob.BibleFiles[i] == record.stem) faults.Add(path, line, "The file stem is listed twice: " + Quoted(record.stem));
+    if (glob.BibleFiles[i] == record.stem)
+      faults.Add(path, line, "The file stem is listed twice: " + Quoted(record.stem));
   }
   glob.BibleNames.push_back(record.name);
   glob.BibleFiles.push_back(record.stem);

@@ -5,11 +5,11 @@
 namespace folionet {
 namespace {
 
-std::string Range(int from, int to) {
-  return std::to_string(from) + (to > from ? " to " + std::to_string(to) : "");
-}
+std::string Range(int from, int to) { return std::to_string(from) + (to > from ? " to " + std::to_string(to) : ""); }
 
-std::string Place(int book, int chapter) { return "Book " + std::to_string(book) + " chapter " + std::to_string(chapter); }
+std::string Place(int book, int chapter) {
+  return "Book " + std::to_string(book) + " chapter " + std::to_string(chapter);
+}
 
 }  // namespace
 

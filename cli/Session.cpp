@@ -107,8 +107,7 @@ std::size_t Session::FindTranslation(const std::string& nameOrStem) const {
 int Session::FindBook(const std::string& numberOrTitle) const {
   const IntegerReading number = ReadInteger(numberOrTitle, 1, kBooks);
   if (number.error == 0) return static_cast<int>(number.value) - 1;
-  const std::size_t found =
-      FindText(Decoded(glob.cboStartBook, glob.cboStartBook.size(), codePage), numberOrTitle);
+  const std::size_t found = FindText(Decoded(glob.cboStartBook, glob.cboStartBook.size(), codePage), numberOrTitle);
   if (number.error == kOverflow || found == std::string::npos) {
     RefuseUsage("There is no book \"" + numberOrTitle +
                 "\": a number from 1 to 66 or a title was expected. \"folionet-cli list books\" shows them.");

@@ -16,7 +16,9 @@ namespace {
 
 constexpr std::int64_t kByteMax = 255;
 
-std::string Place(int book, int chapter) { return "Book " + std::to_string(book) + " chapter " + std::to_string(chapter); }
+std::string Place(int book, int chapter) {
+  return "Book " + std::to_string(book) + " chapter " + std::to_string(chapter);
+}
 
 void CheckIndexRecord(RecordReader& records, const std::array<std::string, 7>& fields, ChapterOrder& order,
                       FaultList& faults) {
@@ -151,7 +153,8 @@ void CheckText(const ModGlob& glob, const std::string& stem, FaultList& faults) 
   const std::string indexPath = IndexFile(glob, faults.Charset(), stem);
   const std::string textPath = VerseFile(glob, faults.Charset(), stem);
   if (!FileExists(indexPath)) {
-    faults.Add(indexPath, 0, "The chapter index is missing. Versalia makes it at the first search in this translation.");
+    faults.Add(indexPath, 0,
+               "The chapter index is missing. Versalia makes it at the first search in this translation.");
   } else {
     faults.CheckLetterCase(indexPath, glob.InstallPath + "Index/" + faults.Charset().Decode(stem) + ".TXT.INDEX");
   }

@@ -74,20 +74,20 @@ class CompileRun {
         lastBook = m_verse.book;
         lastChapter = m_verse.chapter;
       }
-      BuildVerseLine({m_labels[static_cast<std::size_t>(m_verse.book)], m_verse.chapterField, m_verse.verse,
-                      m_verse.text},
-                     m_options, m_context);
+      BuildVerseLine(
+          {m_labels[static_cast<std::size_t>(m_verse.book)], m_verse.chapterField, m_verse.verse, m_verse.text},
+          m_options, m_context);
     }
     WritePageFoot(m_options, m_context);
   }
 
   void WriteIndex() {
     BuildMeta(m_options.frmKeywords.txtDescriptionI, m_options.frmKeywords.txtKeywordsI, "", "");
-    WriteIndexPage({m_context.PageLanguage, m_context.PageCharset, m_context.FontName, m_context.FontSizeNumber,
-                    m_context.BackColourHex, m_context.TextColourHex, m_context.PageMeta, m_context.PageTitle,
-                    static_cast<std::int16_t>(m_request.cboStartBook + 1),
-                    static_cast<std::int16_t>(m_request.cboEndBook + 1)},
-                   m_inputs, m_codePage, m_context);
+    WriteIndexPage(
+        {m_context.PageLanguage, m_context.PageCharset, m_context.FontName, m_context.FontSizeNumber,
+         m_context.BackColourHex, m_context.TextColourHex, m_context.PageMeta, m_context.PageTitle,
+         static_cast<std::int16_t>(m_request.cboStartBook + 1), static_cast<std::int16_t>(m_request.cboEndBook + 1)},
+        m_inputs, m_codePage, m_context);
     WritePageFoot(m_options, m_context);
   }
 

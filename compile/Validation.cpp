@@ -22,8 +22,7 @@ std::optional<Refusal> CheckAddress(const CompileRequest& request) {
   }
   if (use83 && (extension != "htm" || base.size() > kLongestShortName)) {
     return Refuse("8.3 filename error",
-                  "Either \"" + base + "\" is an illegal 8.3 filename or \r\n\"" + extension +
-                      "\" is. Please correct.",
+                  "Either \"" + base + "\" is an illegal 8.3 filename or \r\n\"" + extension + "\" is. Please correct.",
                   "txthttpRoot");
   }
   return std::nullopt;

@@ -13,9 +13,9 @@ namespace folionet {
 //
 //   1	1	1	1	In the beginning God created the heaven and the earth.
 struct Verse {
-  int book = 0;                  // 1 to 66
-  std::int16_t chapter = 0;      // the number
-  std::string_view bookField;    // as they stand in the file; valid until the next verse is read
+  int book = 0;                // 1 to 66
+  std::int16_t chapter = 0;    // the number
+  std::string_view bookField;  // as they stand in the file; valid until the next verse is read
   std::string_view chapterField;
   std::string_view verse;
   std::string_view text;

@@ -12,9 +12,8 @@ namespace {
 std::string Heading(const ChapterHead& head, const PageOptions& options) {
   const std::string name = std::string(head.bookName) + " " + std::to_string(head.chapterNumber);
   if (options.chkCSS) return "<h2>" + name + "</h2>";
-  return StyledHeading(options.txtSample, "<p><font face=" + InQuotes(head.fontFace) +
-                                              " size=" + InQuotes(std::to_string(head.fontSize)) + "><u>" + name +
-                                              "<br><br></u>");
+  return StyledHeading(options.txtSample, "<p><font face=" + InQuotes(head.fontFace) + " size=" +
+                                              InQuotes(std::to_string(head.fontSize)) + "><u>" + name + "<br><br></u>");
 }
 
 // Three font tags are opened and one is closed, and the first has no blank before "size=": that is meant.
@@ -41,9 +40,9 @@ void WriteChapterHead(const ChapterHead& head, const PageInputs& inputs, Compile
   const std::string title = PageText(inputs, options.frmPAgeTitles.txtPageTitles, BookName(inputs, head.bookNumber),
                                      std::to_string(head.chapterNumber));
   const std::string version = std::to_string(kVersionMajor) + "." + std::to_string(kVersionMinor);
-  PrintDocumentHead({version, head.language, head.charset, head.keywords, head.description, title, head.backColour,
-                     head.textColour},
-                    options, context);
+  PrintDocumentHead(
+      {version, head.language, head.charset, head.keywords, head.description, title, head.backColour, head.textColour},
+      options, context);
   if (!context.CustomHeader.empty()) page.Print(context.CustomHeader);
   page.Print(BuildLinkToMain(options, inputs.txtBackToString, head.fontSize, std::string(head.fontFace)));
   page.Print("<p>&nbsp;</p>");

@@ -20,7 +20,7 @@ struct ChapterHead {
   std::string_view textColour;  // RRGGBB
   std::string_view keywords;
   std::string_view description;
-  std::int16_t bookNumber;     // 1 to 66
+  std::int16_t bookNumber;  // 1 to 66
   std::int16_t chapterNumber;
 };
 

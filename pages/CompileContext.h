@@ -22,16 +22,16 @@ struct PageTexts {
 // page; OutputFolder is a path.
 struct CompileContext : PageTexts {
   // Set before the first page.
-  std::string OutputFolder;        // ends in the folder separator
-  std::string QuoteChar = "\"";    // encloses every attribute value
-  std::string StyleSheetLink;      // the line that links default.css
-  std::string FontName;            // the font of the sample text
+  std::string OutputFolder;         // ends in the folder separator
+  std::string QuoteChar = "\"";     // encloses every attribute value
+  std::string StyleSheetLink;       // the line that links default.css
+  std::string FontName;             // the font of the sample text
   std::int16_t FontSizeNumber = 0;  // HTML font size: the sample's points minus 9
-  std::string BackColourHex;       // RRGGBB
-  std::string TextColourHex;       // RRGGBB
-  std::string BibleTitle;          // the display name of the translation
-  std::string IndexBaseName;       // the index page's address up to its last "."; with 8.3 names after its last "/"
-  std::string IndexExtension;      // the text after that "."
+  std::string BackColourHex;        // RRGGBB
+  std::string TextColourHex;        // RRGGBB
+  std::string BibleTitle;           // the display name of the translation
+  std::string IndexBaseName;        // the index page's address up to its last "."; with 8.3 names after its last "/"
+  std::string IndexExtension;       // the text after that "."
 
   // Of the page at hand.
   folionet::PageFile PageFile;

@@ -51,7 +51,9 @@ void PageFile::Open(const std::string& folder, const std::string& name) {
   m_isOpen = true;
 }
 
-void PageFile::Fail(int systemError) const { throw RunTimeError::FromErrno(systemError, NativePath(m_folder) + m_name); }
+void PageFile::Fail(int systemError) const {
+  throw RunTimeError::FromErrno(systemError, NativePath(m_folder) + m_name);
+}
 
 // A page is never written through a link that leads out of the folder, nor into anything but a regular file.
 FileHandle PageFile::OpenExisting() const {

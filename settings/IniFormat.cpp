@@ -57,8 +57,8 @@ bool Read(QIODevice& device, QSettings::SettingsMap& map) {
     if (equals <= 0) continue;
     const QByteArray value = line.mid(equals + 1).trimmed();
     const QByteArray name = section + (section.isEmpty() ? "" : "/") + line.left(equals).trimmed();
-    map.insert(QString::fromUtf8(name), IsWholeQuoted(value) ? Unquoted(QByteArrayView(value).sliced(1).chopped(1))
-                                                             : QString::fromUtf8(value));
+    map.insert(QString::fromUtf8(name),
+               IsWholeQuoted(value) ? Unquoted(QByteArrayView(value).sliced(1).chopped(1)) : QString::fromUtf8(value));
   }
   return true;
 }

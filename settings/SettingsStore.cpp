@@ -19,9 +19,7 @@ namespace {
 
 constexpr char kSection[] = "Keys";
 
-QString ToQString(std::string_view text) {
-  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
+QString ToQString(std::string_view text) { return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())); }
 
 QString FullKey(std::string_view section, std::string_view key) {
   return ToQString(section) + QLatin1Char('/') + ToQString(key);
@@ -110,9 +108,9 @@ std::string SettingsStore::Checked(std::string_view key) const {
   if (known == nullptr) return text;
   const int error = CheckSetting(known->form, text);
   if (error != 0) {
-    throw RunTimeError(error, FilePath(kApplicationTitle),
-                       "The setting " + std::string(key) + " must be " + std::string(Describe(known->form)) + ": \"" +
-                           text + "\"");
+    throw RunTimeError(
+        error, FilePath(kApplicationTitle),
+        "The setting " + std::string(key) + " must be " + std::string(Describe(known->form)) + ": \"" + text + "\"");
   }
   return std::string(TrimBlanks(text));
 }

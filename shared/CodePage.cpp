@@ -205,9 +205,8 @@ std::string CodePage::Decode(std::string_view bytes) const {
 std::string CodePage::DecodeForDisplay(std::string_view bytes) const {
   if (IsAscii(bytes)) return std::string(bytes);
   std::string text;
-  m_converter->ForEach(bytes, [&](const Piece& piece) {
-    AppendUtf8(text, piece.character == kUndecodable ? 0xFFFD : piece.character);
-  });
+  m_converter->ForEach(
+      bytes, [&](const Piece& piece) { AppendUtf8(text, piece.character == kUndecodable ? 0xFFFD : piece.character); });
   return text;
 }
 

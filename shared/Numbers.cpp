@@ -42,8 +42,7 @@ std::optional<std::int16_t> LeadingInteger(std::string_view text) {
   text.remove_prefix(first);
   if (text.front() == '+') text.remove_prefix(1);
   double value = 0;
-  const auto [end, error] =
-      std::from_chars(text.data(), text.data() + text.size(), value, std::chars_format::fixed);
+  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value, std::chars_format::fixed);
   if (error == std::errc::invalid_argument) return 0;
   if (error == std::errc::result_out_of_range) return std::nullopt;
   if (std::isnan(value)) return 0;

@@ -14,8 +14,7 @@ constexpr std::string_view kPrefix = "BOOKS_";
 constexpr std::string_view kSuffix = ".txt";
 
 bool IsLanguageFile(std::string_view name) {
-  return name.size() >= kPrefix.size() + kSuffix.size() &&
-         EqualIgnoringCase(name.substr(0, kPrefix.size()), kPrefix) &&
+  return name.size() >= kPrefix.size() + kSuffix.size() && EqualIgnoringCase(name.substr(0, kPrefix.size()), kPrefix) &&
          EqualIgnoringCase(name.substr(name.size() - kSuffix.size()), kSuffix);
 }
 

@@ -38,8 +38,8 @@ void WarnOfWrongPaths(UserInterface& ui) {
 bool AskForPaths(ModGlob& glob, UserInterface& ui) {
   const auto install = ui.AskText({"Enter the Versalia Path", "Enter Versalia Path", "C:\\Program Files\\Versalia\\"});
   if (!install) return false;
-  const auto modules = ui.AskText(
-      {"Enter the Versalia Module Path", "Enter Module Path", "C:\\Program Files\\Versalia\\Modules\\"});
+  const auto modules =
+      ui.AskText({"Enter the Versalia Module Path", "Enter Module Path", "C:\\Program Files\\Versalia\\Modules\\"});
   if (!modules) return false;
   SetInstallation(glob, *install, *modules, "SysDefs");
   return true;

@@ -127,7 +127,8 @@ std::string VerseCounts::GetVSCnt(std::string_view bookTitle, std::string_view c
   const auto found = m_bookOfTitle.find(std::string(bookTitle));
   const int book = found == m_bookOfTitle.end() ? 0 : found->second;
   if (*number < 0 || *number > kByteMax || book > kByteMax) return {};
-  const std::int16_t verses = m_verses[kByteValues * static_cast<std::size_t>(book) + static_cast<std::size_t>(*number)];
+  const std::int16_t verses =
+      m_verses[kByteValues * static_cast<std::size_t>(book) + static_cast<std::size_t>(*number)];
   return verses < 0 ? std::string() : std::to_string(verses);
 }
 

@@ -1,0 +1,55 @@
+#pragma once
+
+#include <QDialog>
+#include <memory>
+#include <string>
+
+#include "AppState.h"
+#include "CustomHtml.h"
+
+namespace folionet {
+
+namespace Ui {
+class CustomHtmlDialog;
+}
+
+// What tells the custom header dialog from the custom footer dialog.
+struct CustomHtmlDialogKind {
+  const CustomHtmlKind& file;
+  const char* formName;
+  const char* caption;
+  const char* doneButton;  // its name
+  const char* note;
+  std::string PageTexts::*sharedText;  // what the pages use
+};
+
+// Edits a block of HTML for every page, which is kept in a file of its own. Pages use the shared text, which changes
+// only when the file is loaded and by Done. Closing the dialog otherwise saves the file and leaves the shared text.
+class CustomHtmlDialog : public QDialog {
+  Q_OBJECT
+
+ public:
+  ~CustomHtmlDialog() override;
+
+  // Reads the file into the box and the box into the shared text. A failure is reported, and the note is then not set.
+  void LoadForm();
+
+  // Saves the file, then hides the dialog. It hides also when saving failed, which was reported: a person must be able
+  // to leave. The text stays in the box.
+  void reject() override;
+
+ protected:
+  CustomHtmlDialog(AppState& state, const CustomHtmlDialogKind& kind, QWidget* parent);
+
+ private:
+  void Done();
+  bool Save();
+  std::string Text() const;
+
+  AppState& m_state;
+  const CustomHtmlDialogKind& m_kind;
+  std::string m_loadedText;  // as read, for as long as the person has not changed it
+  std::unique_ptr<Ui::CustomHtmlDialog> m_ui;
+};
+
+}  // namespace folionet

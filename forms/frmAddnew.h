@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QDialog>
+#include <memory>
+
+#include "AppState.h"
+
+class QLineEdit;
+
+namespace folionet {
+
+namespace Ui {
+class frmAddnew;
+}
+
+// Adds records to the lists of languages and of character sets.
+class frmAddnew : public QDialog {
+  Q_OBJECT
+
+ public:
+  explicit frmAddnew(AppState& state, QWidget* parent = nullptr);
+  ~frmAddnew() override;
+
+  // There is nothing to load; for likeness with the other dialogs.
+  void LoadForm() {}
+
+ signals:
+  // The person is done with adding: lists that show the records must be filled again.
+  void ListsChanged();
+
+ private:
+  void AddRecord(const char* fileName, const char* label, const QLineEdit& abbreviation, const QLineEdit& language);
+
+  AppState& m_state;
+  std::unique_ptr<Ui::frmAddnew> m_ui;
+};
+
+}  // namespace folionet

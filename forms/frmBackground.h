@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QDialog>
+#include <memory>
+
+#include "AppState.h"
+
+namespace folionet {
+
+namespace Ui {
+class frmBackground;
+}
+
+// Names the background image of the pages and says whether it stays in place as the text scrolls.
+class frmBackground : public QDialog {
+  Q_OBJECT
+
+ public:
+  explicit frmBackground(AppState& state, QWidget* parent = nullptr);
+  ~frmBackground() override;
+
+  // Reads both options. Throws RunTimeError for a stored value that is no number.
+  void LoadForm();
+
+ private:
+  void SelectImage();
+  bool SaveBackImage();
+
+  AppState& m_state;
+  std::unique_ptr<Ui::frmBackground> m_ui;
+};
+
+}  // namespace folionet

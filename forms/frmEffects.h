@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QDialog>
+#include <memory>
+
+#include "AppState.h"
+
+namespace folionet {
+
+namespace Ui {
+class frmEffects;
+}
+
+// Sets the colours of the pages' links and the style of a link under the mouse. The shared texts RolloverStyle and
+// BodyLinkTag change at load, after a rollover colour was picked, and at Close.
+class frmEffects : public QDialog {
+  Q_OBJECT
+
+ public:
+  // A new dialog begins with a fresh record: no swatch is marked as default before LoadForm.
+  explicit frmEffects(AppState& state, QWidget* parent = nullptr);
+  ~frmEffects() override;
+
+  // Lists the fonts, reads every option and builds the shared texts. Throws RunTimeError for a stored value that is no
+  // number; what was read by then is shown.
+  void LoadForm();
+
+ protected:
+  void showEvent(QShowEvent* event) override;
+
+ private:
+  void ConnectRecord();
+  void PickColour(Swatch& swatch);
+  void RestoreDefaults();
+  void BuildEffects();
+  void Close();
+  void ShowRecord();
+  void ShowLooks();
+
+  AppState& m_state;
+  EffectsOptions& m_record;
+  std::unique_ptr<Ui::frmEffects> m_ui;
+};
+
+}  // namespace folionet

@@ -1,0 +1,52 @@
+#pragma once
+
+#include <QDialog>
+#include <functional>
+#include <memory>
+
+#include "AppState.h"
+
+namespace folionet {
+
+namespace Ui {
+class frmEncoding;
+}
+class frmAddnew;
+
+// Chooses the language and the character set that the pages declare. The lists' entries are stored; what was typed into
+// the text boxes is used until the program ends.
+class frmEncoding : public QDialog {
+  Q_OBJECT
+
+ public:
+  explicit frmEncoding(AppState& state, QWidget* parent = nullptr);
+  ~frmEncoding() override;
+
+  // Fills the lists from enc.txt and lang.txt and shows the stored entries. A failure is reported. Runs by itself when
+  // the dialog is first shown, unless it was run before.
+  void LoadForm();
+
+  // As cmdDone, but hides the dialog also after a failure, which was reported: a person must be able to leave.
+  void reject() override;
+
+  // Shows frmAddnew until it is closed.
+  std::function<void(QDialog&)> openModal = [](QDialog& dialog) { dialog.exec(); };
+
+ protected:
+  void showEvent(QShowEvent* event) override;
+
+ private:
+  void PopCombo();
+  void RefillLists();
+  void AddNew();
+  bool SaveAndUse();
+  void UseTypedCodes();
+  void ReportUnload(int number, const std::string& extra);
+
+  AppState& m_state;
+  std::unique_ptr<Ui::frmEncoding> m_ui;
+  frmAddnew* m_addNew = nullptr;  // made when first opened
+  bool m_isLoaded = false;
+};
+
+}  // namespace folionet

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QDialog>
+#include <memory>
+
+#include "AppState.h"
+
+namespace folionet {
+
+namespace Ui {
+class frmLinkToMAin;
+}
+
+// Edits the link that every chapter page carries back to the index page. Alignment and size are saved as they change,
+// the text at Close.
+class frmLinkToMAin : public QDialog {
+  Q_OBJECT
+
+ public:
+  explicit frmLinkToMAin(AppState& state, QWidget* parent = nullptr);
+  ~frmLinkToMAin() override;
+
+  // Reads text, alignment and size, and builds the HTML of the link. Throws RunTimeError for a stored value that is no
+  // number; what was read by then is shown.
+  void LoadForm();
+
+  // Whether the size can be chosen; with a style sheet it cannot.
+  void SetSizeEnabled(bool isEnabled);
+
+ private:
+  void Justify(int justification);
+  void ShowJustification(int justification);
+  void SetFontSize(int size);
+  void SetString();
+  void Refresh();
+  void Close();
+
+  AppState& m_state;
+  std::unique_ptr<Ui::frmLinkToMAin> m_ui;
+};
+
+}  // namespace folionet

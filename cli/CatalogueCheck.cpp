@@ -1,6 +1,6 @@
 #include "CatalogueCheck.h"
 
-#include <array>
+#include <algorithm>
 
 #include "Catalogue.h"
 #include "Installation.h"
@@ -23,9 +23,8 @@ void CheckRecord(ModGlob& glob, const RecordReader& records, const CatalogueReco
     return;
   }
   faults.CheckLetterCase(text, glob.ModulesPath + "Bible/" + faults.Charset().Decode(record.stem) + ".TXT");
-  for (std::size_t i = 0; i < glob.BibleFiles.size(); ++i) {
-    if (glob.BibleFiles[i] == record.stem)
-      faults.Add(path, line, "The file stem is listed twice: " + Quoted(record.stem));
+  if (std::find(glob.BibleFiles.begin(), glob.BibleFiles.end(), record.stem) != glob.BibleFiles.end()) {
+    faults.Add(path, line, "The file stem is listed twice: " + Quoted(record.stem));
   }
   glob.BibleNames.push_back(record.name);
   glob.BibleFiles.push_back(record.stem);

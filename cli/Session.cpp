@@ -38,13 +38,7 @@ void RefuseUsage(const std::string& text) {
 
 Session::Session(const CommonOptions& common)
     : store(SettingsStore::DefaultFolder()), ui(common.quiet), chosenProgramFolder(common.programFolder) {
-  LocateInstallation(store, glob);
-  std::string install = glob.InstallPath;
-  std::string modules = glob.ModulesPath;
-  if (!common.versaliaPath.empty()) install = WithSeparator(common.versaliaPath);
-  if (!common.modulePath.empty()) modules = WithSeparator(common.modulePath);
-  if (modules.empty() && !install.empty()) modules = WithSeparator(install) + "Modules/";
-  SetInstallation(glob, install, modules, "Sysdefs");
+  LocateInstallation(store, common.folders, glob);
 }
 
 void Session::Override(const std::vector<std::string>& assignments) {
@@ -58,7 +52,8 @@ void Session::Override(const std::vector<std::string>& assignments) {
     }
     std::string value = assignment.substr(equals + 1);
     if (CheckSetting(key->form, value) != 0) {
-      RefuseUsage("--set: " + name + " must be " + std::string(Describe(key->form)) + ": \"" + value + "\"");
+      RefuseUsage(std::string("--set: ").append(name).append(" must be ").append(Describe(key->form)) + ": \"" + value +
+                  "\"");
     }
     store.Override(name, std::move(value));
   }

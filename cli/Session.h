@@ -7,6 +7,7 @@
 #include "CodePage.h"
 #include "CompileContext.h"
 #include "ConsoleUi.h"
+#include "Installation.h"
 #include "OptionRecords.h"
 #include "SettingsStore.h"
 #include "modGlob.h"
@@ -29,10 +30,9 @@ class ExitWith : public std::exception {
 // An argument that cannot be used: says so on standard error, with what to do, and ends the command.
 [[noreturn]] void RefuseUsage(const std::string& text);
 
-// The options that every command knows. Folders may lack their trailing separator.
+// The options that every command knows.
 struct CommonOptions {
-  std::string versaliaPath;
-  std::string modulePath;
+  GivenFolders folders;
   std::string programFolder;
   bool quiet = false;
 };

@@ -12,8 +12,10 @@ namespace folionet {
 namespace {
 
 void AddCommonOptions(CLI::App& app, CommonOptions& common) {
-  app.add_option("--versalia-path", common.versaliaPath, "Versalia's folder, for this run")->type_name("FOLDER");
-  app.add_option("--module-path", common.modulePath, "Versalia's module folder, for this run")->type_name("FOLDER");
+  app.add_option("--versalia-path", common.folders.versaliaPath, "Versalia's folder, for this run")
+      ->type_name("FOLDER");
+  app.add_option("--module-path", common.folders.modulePath, "Versalia's module folder, for this run")
+      ->type_name("FOLDER");
   app.add_option("--program-folder", common.programFolder, "Where default.css and the custom header and footer are")
       ->type_name("FOLDER");
 }

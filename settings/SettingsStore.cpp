@@ -35,7 +35,7 @@ std::string PlainText(double value) {
 
 }  // namespace
 
-SettingsStore::SettingsStore(std::string folder) : m_folder(WithSeparator(folder)) {}
+SettingsStore::SettingsStore(const std::string& folder) : m_folder(WithSeparator(folder)) {}
 
 SettingsStore::~SettingsStore() = default;
 

@@ -24,7 +24,7 @@ namespace folionet {
 class SettingsStore {
  public:
   // `folder` is where the files are; it is made when something is first saved.
-  explicit SettingsStore(std::string folder);
+  explicit SettingsStore(const std::string& folder);
   ~SettingsStore();
   SettingsStore(const SettingsStore&) = delete;
   SettingsStore& operator=(const SettingsStore&) = delete;

@@ -13,9 +13,14 @@ constexpr char kModulePath[] = "Module_Path";
 
 }  // namespace
 
-void LocateInstallation(const SettingsStore& store, ModGlob& glob) {
-  SetInstallation(glob, store.GetSetting(kVersalia, kModulePath, "VersaliaPath", ""),
-                  store.GetSetting(kVersalia, kModulePath, "ModulePath", ""), "Sysdefs");
+void LocateInstallation(const SettingsStore& store, const GivenFolders& given, ModGlob& glob) {
+  const auto folder = [&](const std::string& chosen, const char* key) {
+    return chosen.empty() ? store.GetSetting(kVersalia, kModulePath, key, "") : WithSeparator(chosen);
+  };
+  const std::string install = folder(given.versaliaPath, "VersaliaPath");
+  std::string modules = folder(given.modulePath, "ModulePath");
+  if (modules.empty() && !install.empty()) modules = WithSeparator(install).append("Modules/");
+  SetInstallation(glob, install, std::move(modules), "Sysdefs");
 }
 
 void SetInstallation(ModGlob& glob, std::string installPath, std::string modulesPath, std::string_view sysdefs) {

@@ -17,9 +17,16 @@ enum class Outcome {
   kEndProgram,  // it failed and said so; the program must end at once, saving nothing
 };
 
-// Reads Versalia's two folders from its own settings (application "Versalia", section "Module_Path") into InstallPath
-// and ModulesPath, each empty when unknown, and sets SysdefsPath.
-void LocateInstallation(const SettingsStore& store, ModGlob& glob);
+// Folders that were given for one run; each is empty when it was not, and may lack its trailing separator.
+struct GivenFolders {
+  std::string versaliaPath;
+  std::string modulePath;
+};
+
+// Sets InstallPath and ModulesPath, each to the folder given or else to what Versalia's own settings hold (application
+// "Versalia", section "Module_Path"), empty when unknown, and SysdefsPath. A module folder that is still unknown is
+// looked for under the installation's.
+void LocateInstallation(const SettingsStore& store, const GivenFolders& given, ModGlob& glob);
 
 // Sets the folders from texts, used as they are; `sysdefs` is the name of the folder of definitions under InstallPath.
 void SetInstallation(ModGlob& glob, std::string installPath, std::string modulesPath, std::string_view sysdefs);

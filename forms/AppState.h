@@ -4,6 +4,7 @@
 
 #include "CodePage.h"
 #include "CompileContext.h"
+#include "Installation.h"
 #include "OptionRecords.h"
 #include "PageOptions.h"
 #include "SettingsStore.h"
@@ -17,14 +18,16 @@ namespace folionet {
 struct AppState {
   SettingsStore& store;
   UserInterface& ui;
-  std::string programFolder;  // ends in the folder separator
+  std::string programFolder;    // ends in the folder separator
+  GivenFolders givenFolders{};  // for this run
 
   ModGlob glob;
   MainOptions main;
-  PageOptions options;        // UTF-8, but txtBibleSel is the translation's name as the catalogue has it
-  PageTexts texts;            // UTF-8; RolloverStyle and BodyLinkTag change only where Effects is run
-  CodePage codePage;          // of texts.PageCharset
-  std::string startBookText;  // the title shown in the main form's cboStartBook, in the bytes of its file
+  PageOptions options;           // UTF-8, but txtBibleSel is the translation's name as the catalogue has it
+  PageTexts texts;               // UTF-8; RolloverStyle and BodyLinkTag change only where Effects is run
+  CodePage codePage;             // of texts.PageCharset
+  std::string startBookText;     // the title shown in the main form's cboStartBook, in the bytes of its file
+  bool saveFailureTold = false;  // set by TrySave
 };
 
 }  // namespace folionet

@@ -53,6 +53,9 @@ class UserInterface {
   virtual SampleText ChooseFont(const SampleText& initial) { return initial; }
   virtual std::string ChooseFile(const std::string& /*filter*/, const std::string& previous) { return previous; }
   virtual std::string ChooseFolder(const std::string& initial) { return initial; }
+
+  // Shows a page that was written in the person's browser.
+  virtual void ShowPage(const std::string& /*path*/) {}
 };
 
 }  // namespace folionet

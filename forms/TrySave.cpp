@@ -1,0 +1,20 @@
+#include "TrySave.h"
+
+#include "RunTimeError.h"
+
+namespace folionet {
+
+bool TrySave(AppState& state, std::string_view label, const std::function<void(SettingsStore&)>& save) {
+  try {
+    save(state.store);
+    return true;
+  } catch (const RunTimeError& error) {
+    if (!state.saveFailureTold) {
+      state.saveFailureTold = true;
+      state.ui.ShowErrorReport(error.Number(), label, error.Extra());
+    }
+    return false;
+  }
+}
+
+}  // namespace folionet

@@ -1,12 +1,22 @@
 #include "VerseFileReader.h"
 
 #include <array>
+#include <cstring>
 
 #include "Numbers.h"
 #include "RunTimeError.h"
 #include "modGlob.h"
 
 namespace folionet {
+namespace {
+
+std::size_t FindLastTab(std::string_view line) {
+  const void* found = line.empty() ? nullptr : memrchr(line.data(), '\t', line.size());
+  return found == nullptr ? std::string_view::npos
+                          : static_cast<std::size_t>(static_cast<const char*>(found) - line.data());
+}
+
+}  // namespace
 
 std::int64_t VerseFileReader::Number(std::string_view field, const char* what) const {
   const IntegerReading reading = ReadInteger(field, kInt16Min, kInt16Max);
@@ -29,7 +39,7 @@ bool VerseFileReader::Next(Verse& verse) {
     from = tab + 1;
     if (tab == std::string_view::npos) break;
   }
-  const std::size_t last = line.rfind('\t');
+  const std::size_t last = FindLastTab(line);
   if (last == std::string_view::npos || tabs[2] == std::string_view::npos || tabs[2] == last || from == 0) {
     verse.text = line;
     m_lines.Fail(kInvalidProcedureCall, "Five fields separated by tabs were expected: " + Quoted(line));

@@ -48,7 +48,11 @@ void WriteChapterHead(const ChapterHead& head, const PageInputs& inputs, Compile
   page.Print("<p>&nbsp;</p>");
   page.Print(Heading(head, options));
   page.Print("");
-  page.Print(BuildChapterNav(inputs, context, head.bookNumber));
+  if (context.NavigationBook != head.bookNumber) {
+    context.Navigation = BuildChapterNav(inputs, context, head.bookNumber);
+    context.NavigationBook = head.bookNumber;
+  }
+  page.Print(context.Navigation);
   page.Print("\r\n");
   page.Print("<blockquote>");
   if (!options.chkCSS) page.Print(JustifiedParagraph(head.fontFace, head.fontSize));

@@ -41,6 +41,10 @@ struct CompileContext : PageTexts {
   std::string PageTitle;  // the META description
   std::string PageMeta;   // the META keywords
   std::int16_t PagesCreated = 2;
+
+  // The block of chapter links of NavigationBook (0 for none yet), which all pages of a book carry.
+  std::int16_t NavigationBook = 0;
+  std::string Navigation;
 };
 
 }  // namespace folionet

@@ -94,6 +94,12 @@ class CodePage::Converter {
     const char* at = bytes.data();
     const char* const end = at + bytes.size();
     while (at < end) {
+      // ASCII is ASCII in every code page that is let in, though ICU may exchange some control characters.
+      if (const auto byte = static_cast<unsigned char>(*at); byte < 0x80) {
+        take(Piece{byte, {at, 1}});
+        ++at;
+        continue;
+      }
       UErrorCode error = U_ZERO_ERROR;
       const char* next = at;
       ucnv_resetToUnicode(converter);
@@ -132,8 +138,10 @@ class CodePage::Converter {
     void operator()(UConverter* converter) const { ucnv_close(converter); }
   };
 
+  // Looks at the characters that texts are made of, and passes over the control characters: ICU's shift_jis and ibm866
+  // exchange 0x1A, 0x1C and 0x7F.
   static bool HoldsAscii(UConverter* converter) {
-    for (int c = 1; c < 0x80; ++c) {
+    for (int c = ' '; c < 0x7F; ++c) {
       const char byte = static_cast<char>(c);
       const char* at = &byte;
       UErrorCode error = U_ZERO_ERROR;

@@ -1,5 +1,7 @@
 #include "Validation.h"
 
+#include <algorithm>
+
 #include "RunTimeError.h"
 
 namespace folionet {
@@ -9,8 +11,13 @@ Refusal Refuse(std::string title, std::string text, std::string control) {
   return {{MessageIcon::kWarning, std::move(title), std::move(text)}, std::move(control)};
 }
 
+// Of UTF-8: every byte but those that continue a character.
+std::ptrdiff_t CountCharacters(const std::string& text) {
+  return std::count_if(text.begin(), text.end(), [](char c) { return (static_cast<unsigned char>(c) & 0xC0) != 0x80; });
+}
+
 std::optional<Refusal> CheckAddress(const CompileRequest& request) {
-  constexpr std::size_t kLongestShortName = 8;
+  constexpr std::ptrdiff_t kLongestShortName = 8;
   const bool use83 = request.options.chkUse83;
   const auto [base, extension] = SplitIndexAddress(request.options.txthttpRoot, use83);
   if (!use83 && extension != "html") {
@@ -20,7 +27,7 @@ std::optional<Refusal> CheckAddress(const CompileRequest& request) {
                       "Please correct and try again.",
                   "txthttpRoot");
   }
-  if (use83 && (extension != "htm" || base.size() > kLongestShortName)) {
+  if (use83 && (extension != "htm" || CountCharacters(base) > kLongestShortName)) {
     return Refuse("8.3 filename error",
                   "Either \"" + base + "\" is an illegal 8.3 filename or \r\n\"" + extension + "\" is. Please correct.",
                   "txthttpRoot");

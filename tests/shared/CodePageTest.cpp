@@ -1,0 +1,96 @@
+#include <gtest/gtest.h>
+
+#include "CodePage.h"
+
+namespace folionet {
+namespace {
+
+TEST(CodePageTest, UsesTheCharsetWhenIcuKnowsItAndItHoldsAscii) {
+  const struct {
+    const char* charset;
+    const char* name;
+  } cases[] = {
+      {"windows-1252", "windows-1252"},
+      {"UTF-8", "utf-8"},
+      {"ISO-8859-7", "iso-8859-7"},
+      {"shift_jis", "shift_jis"},
+      {"gb18030", "gb18030"},
+      {"utf-16", "windows-1252"},
+      {"iso-2022-jp", "windows-1252"},
+      {"ibm-37", "windows-1252"},
+      {"no-such-charset", "windows-1252"},
+      {"", "windows-1252"},
+      {"utf-7", "windows-1252"},
+  };
+  for (const auto& c : cases) EXPECT_EQ(CodePage(c.charset).Name(), c.name) << c.charset;
+}
+
+TEST(CodePageTest, EncodesWhatTheCodePageHoldsAndReferencesTheRest) {
+  const struct {
+    const char* charset;
+    std::string text;
+    std::string bytes;
+  } cases[] = {
+      {"windows-1252", "Éxodo – “q”", "\xC9xodo \x96 \x93q\x94"},
+      {"windows-1252", "Ψαλμός", "&#936;&#945;&#955;&#956;&#972;&#962;"},
+      {"iso-8859-7", "Ψ—", "\xD8&#8212;"},
+      {"utf-8", "Ψ—𝄞", "Ψ—𝄞"},
+      {"windows-1252", "𝄞", "&#119070;"},
+      {"shift_jis", "表", "\x95\x5C"},
+      {"windows-1252", "a\xFF", "a\xFF"},
+  };
+  for (const auto& c : cases) EXPECT_EQ(CodePage(c.charset).Encode(c.text), c.bytes) << c.charset << " " << c.text;
+}
+
+TEST(CodePageTest, DecodesAndKeepsWhatDoesNotDecode) {
+  const struct {
+    const char* charset;
+    std::string bytes;
+    std::string text;
+    std::string shown;
+    std::size_t undecodable;
+  } cases[] = {
+      {"windows-1252", "\xC9xodo", "Éxodo", "Éxodo", std::string::npos},
+      {"shift_jis", "\x95\x5C/", "表/", "表/", std::string::npos},
+      {"shift_jis", "a\xFD", "a\xFD", "a\uFFFD", 1},
+      {"utf-8", "a\xE9o", "a\xE9o", "a\uFFFDo", 1},
+      {"big5", "\xA4", "\xA4", "\uFFFD", 0},
+  };
+  for (const auto& c : cases) {
+    const CodePage codePage(c.charset);
+    EXPECT_EQ(codePage.Decode(c.bytes), c.text) << c.charset;
+    EXPECT_EQ(codePage.DecodeForDisplay(c.bytes), c.shown) << c.charset;
+    EXPECT_EQ(codePage.FindUndecodable(c.bytes), c.undecodable) << c.charset;
+    EXPECT_EQ(codePage.Encode(codePage.Decode(c.bytes)), c.bytes) << c.charset;
+  }
+}
+
+TEST(CodePageTest, MapsCaseCharacterByCharacter) {
+  const struct {
+    const char* charset;
+    std::string bytes;
+    std::string lower;
+    std::string upper;
+  } cases[] = {
+      {"windows-1252", "\xC9xodo 1", "\xE9xodo 1", "\xC9XODO 1"},
+      {"windows-1252", "\xFF\xDF\xB5", "\xFF\xDF\xB5", "\x9F\xDF\xB5"},  // ß has no single capital; µ's is not there
+      {"iso-8859-1", "\xFF", "\xFF", "\xFF"},                            // Ÿ is not there
+      {"iso-8859-7", "\xC1\xE1", "\xE1\xE1", "\xC1\xC1"},
+      {"utf-8", "Ii İı", "ii iı", "II İI"},  // in no language's manner
+      {"utf-8", "\xC3(", "\xC3(", "\xC3("},
+      {"shift_jis", "\x83\x61 b", "\x83\x61 b", "\x83\x61 B"},  // a trail byte that looks like a letter
+  };
+  for (const auto& c : cases) {
+    EXPECT_EQ(CodePage(c.charset).ToLower(c.bytes), c.lower) << c.charset << " " << c.bytes;
+    EXPECT_EQ(CodePage(c.charset).ToUpper(c.bytes), c.upper) << c.charset << " " << c.bytes;
+  }
+}
+
+TEST(CodePageTest, ComparesIgnoringCase) {
+  EXPECT_TRUE(EqualIgnoringCase("BOOKS_ÉA.txt", "books_éa.TXT"));
+  EXPECT_FALSE(EqualIgnoringCase("a", "b"));
+  EXPECT_FALSE(EqualIgnoringCase("a", "aa"));
+}
+
+}  // namespace
+}  // namespace folionet

@@ -1,0 +1,73 @@
+#include <gtest/gtest.h>
+
+#include "Colours.h"
+#include "Numbers.h"
+#include "RunTimeError.h"
+
+namespace folionet {
+namespace {
+
+TEST(NumbersTest, ReadsDecimalIntegersOnly) {
+  const struct {
+    const char* text;
+    std::int64_t value;
+    int error;
+  } cases[] = {
+      {"7", 7, 0},
+      {" \t7 ", 7, 0},
+      {"-3", -3, 0},
+      {"+3", 3, 0},
+      {"007", 7, 0},
+      {"", 0, kTypeMismatch},
+      {" ", 0, kTypeMismatch},
+      {"x1", 0, kTypeMismatch},
+      {"1x", 0, kTypeMismatch},
+      {"1 2", 0, kTypeMismatch},
+      {"1.0", 0, kTypeMismatch},
+      {"+-3", 0, kTypeMismatch},
+      {"70000", 0, kOverflow},
+      {"99999999999999999999", 0, kOverflow},
+      {"-32769", 0, kOverflow},
+  };
+  for (const auto& c : cases) {
+    const IntegerReading reading = ReadInteger(c.text, kInt16Min, kInt16Max);
+    EXPECT_EQ(reading.error, c.error) << c.text;
+    EXPECT_EQ(reading.value, c.value) << c.text;
+  }
+}
+
+TEST(NumbersTest, RoundsHalvesToTheEvenNeighbour) {
+  const struct {
+    double value;
+    double rounded;
+  } cases[] = {{1.5, 2}, {2.5, 2}, {0.5, 0}, {-0.5, 0}, {-1.5, -2}, {2.4, 2}, {2.6, 3}, {-1, -1}};
+  for (const auto& c : cases) EXPECT_EQ(RoundHalfEven(c.value), c.rounded) << c.value;
+}
+
+TEST(NumbersTest, TakesTheNumberThatATextBeginsWith) {
+  const struct {
+    const char* text;
+    std::optional<std::int16_t> value;
+  } cases[] = {{"12abc", 12}, {"", 0},          {"x", 0},      {"  5", 5},          {"12.5", 12},
+               {"-4", -4},    {"32767", 32767}, {"32768", {}}, {"99999999999", {}}, {"nan", 0}};
+  for (const auto& c : cases) EXPECT_EQ(LeadingInteger(c.text), c.value) << c.text;
+}
+
+TEST(ColoursTest, EveryPartHasTwoDigits) {
+  const struct {
+    Colour colour;
+    const char* html;
+  } cases[] = {{0, "000000"},       {255, "FF0000"},      {16711680, "0000FF"}, {65280, "00FF00"},
+               {8389122, "020280"}, {0x0F0A01, "010A0F"}, {-1, "FFFFFF"},       {16777215, "FFFFFF"}};
+  for (const auto& c : cases) EXPECT_EQ(HtmlColour(c.colour), c.html) << c.colour;
+}
+
+TEST(RunTimeErrorTest, NumbersHaveFixedTexts) {
+  EXPECT_EQ(StandardMessage(53), "File not found");
+  EXPECT_EQ(StandardMessage(76), "Path not found");
+  EXPECT_EQ(StandardMessage(55), "File already open");
+  EXPECT_EQ(StandardMessage(380), "Application-defined or object-defined error");
+}
+
+}  // namespace
+}  // namespace folionet

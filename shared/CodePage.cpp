@@ -128,7 +128,8 @@ class CodePage::Converter {
     ucnv_resetFromUnicode(converter);
     const int32_t written =
         ucnv_fromUChars(converter, buffer.data(), static_cast<int32_t>(buffer.size()), units.data(), length, &error);
-    if (U_FAILURE(error)) return false;
+    // ICU passes over a character without a shape of its own that the code page lacks, as if that were a success.
+    if (U_FAILURE(error) || written == 0) return false;
     bytes.append(buffer.data(), static_cast<std::size_t>(written));
     return true;
   }

@@ -21,6 +21,7 @@ TEST(CodePageTest, UsesTheCharsetWhenIcuKnowsItAndItHoldsAscii) {
       {"no-such-charset", "windows-1252"},
       {"", "windows-1252"},
       {"utf-7", "windows-1252"},
+      {"ibm866", "ibm866"},
   };
   for (const auto& c : cases) EXPECT_EQ(CodePage(c.charset).Name(), c.name) << c.charset;
 }
@@ -38,6 +39,7 @@ TEST(CodePageTest, EncodesWhatTheCodePageHoldsAndReferencesTheRest) {
       {"windows-1252", "𝄞", "&#119070;"},
       {"shift_jis", "表", "\x95\x5C"},
       {"windows-1252", "a\xFF", "a\xFF"},
+      {"windows-1251", "a\u200Db", "a&#8205;b"},
   };
   for (const auto& c : cases) EXPECT_EQ(CodePage(c.charset).Encode(c.text), c.bytes) << c.charset << " " << c.text;
 }

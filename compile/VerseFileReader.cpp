@@ -50,8 +50,9 @@ bool VerseFileReader::Next(Verse& verse) {
   verse.text = line.substr(last + 1);
   // Nearly every line has the book and the chapter of the one before.
   if (verse.bookField != m_bookField || verse.chapterField != m_chapterField) {
-    m_book = static_cast<int>(Number(verse.bookField, "book"));
+    const auto book = static_cast<int>(Number(verse.bookField, "book"));
     m_chapter = static_cast<std::int16_t>(Number(verse.chapterField, "chapter"));
+    m_book = book;
     m_bookField = verse.bookField;
     m_chapterField = verse.chapterField;
   }

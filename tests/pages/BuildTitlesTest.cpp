@@ -1,0 +1,66 @@
+#include <gtest/gtest.h>
+
+#include "BuildTitles.h"
+#include "RecordingUi.h"
+
+namespace folionet {
+namespace {
+
+ModGlob GenesisOnly() {
+  ModGlob glob;
+  glob.cboStartBook = {"Genesis", "%bk%", "%ch%"};
+  glob.ChapterIndex = {{1, 1, 31}, {0, 0, 0}};
+  return glob;
+}
+
+TEST(BuildTitlesTest, ReplacesEveryWordInTheirOrder) {
+  const struct {
+    const char* pattern;
+    TitleWords words;
+    const char* text;
+  } cases[] = {
+      {"FREE Online %bible%. %bk% Chapter %ch%:%vs%.",
+       {"KJV", "Genesis", "1"},
+       "FREE Online KJV. Genesis Chapter 1:1-31."},
+      {"%bible%%bible% %BK% %", {"KJV", "Genesis", "1"}, "KJVKJV %BK% %"},
+      {"", {"KJV", "Genesis", "1"}, ""},
+      {"%vs%", {"KJV", "Exodus", "1"}, "1-"},
+      {"%bible%", {"%bk% %ch%", "Genesis", "1"}, "Genesis 1"},  // a later word sees earlier values
+      {"%ch%", {"KJV", "Genesis", "%bible%"}, "%bible%"},       // an earlier word does not see later ones
+      {"%b%bk%k%", {"KJV", "", "1"}, ""},                       // what a value joins is a word too
+      {"%%bible%bible%", {"bible", "", ""}, "%biblebible%"},
+  };
+  const VerseCounts counts(GenesisOnly());
+  test::RecordingUi ui;
+  for (const auto& c : cases) EXPECT_EQ(BuildTitles(c.pattern, c.words, counts, ui), c.text) << c.pattern;
+  EXPECT_TRUE(ui.said.empty());
+}
+
+TEST(BuildTitlesTest, EndsAReplacementThatFeedsItself) {
+  const std::string large(600000, 'x');
+  const struct {
+    std::string pattern;
+    TitleWords words;
+    const char* said;
+  } cases[] = {
+      {"a %bk%",
+       {"", "%bk%", ""},
+       "5 Build Titles: \"a %bk%\"\r\n%bk%\r\nThe replacement does not end. Its value: \"%bk%\""},
+      {"%bible%",
+       {"%bible%%bible%", "", ""},
+       "5 Build Titles: \"%bible%\"\r\n%bible%\r\nThe replacement does not end. Its value: \"%bible%%bible%\""},
+      {"%ch%%ch%",
+       {"", "", large},
+       "5 Build Titles: \"%ch%%ch%\"\r\n%ch%\r\nThe replacement does not end. Its value: "
+       "\"xxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxx...\""},
+  };
+  const VerseCounts counts(GenesisOnly());
+  for (const auto& c : cases) {
+    test::RecordingUi ui;
+    EXPECT_EQ(BuildTitles(c.pattern, c.words, counts, ui), std::nullopt);
+    EXPECT_EQ(ui.said, std::vector<std::string>{c.said});
+  }
+}
+
+}  // namespace
+}  // namespace folionet

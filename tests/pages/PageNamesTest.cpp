@@ -1,0 +1,56 @@
+#include <gtest/gtest.h>
+
+#include "PageFile.h"
+#include "PageNames.h"
+
+namespace folionet {
+namespace {
+
+TEST(PageNamesTest, FormsBothKindsOfNames) {
+  const struct {
+    const char* book;
+    int number;
+    int chapter;
+    const char* longName;
+    const char* shortName;
+  } cases[] = {
+      {"Genesis", 1, 1, "genesis_1.html", "01_001.htm"},
+      {"Psalms", 19, 119, "psalms_119.html", "19_119.htm"},
+      {"1 Samuel", 9, 3, "1_samuel_3.html", "09_003.htm"},
+      {"Song  of Solomon", 22, 8, "song__of_solomon_8.html", "22_008.htm"},
+      {"\xC9xodo", 2, 1000, "\xE9xodo_1000.html", "02_1000.htm"},
+      {"I. Mose", 1, 0, "i._mose_0.html", "01_000.htm"},
+      {"Jude", 65, -1, "jude_-1.html", "65_-001.htm"},
+  };
+  const CodePage codePage;
+  for (const auto& c : cases) {
+    EXPECT_EQ(ChapterPageName(c.book, c.number, c.chapter, false, codePage), c.longName);
+    EXPECT_EQ(ChapterPageName(c.book, c.number, c.chapter, true, codePage), c.shortName);
+  }
+}
+
+TEST(PageNamesTest, LinkAndFileAreOneNameInTwoEncodings) {
+  const PageNames names({"\xC9xodo", "\xC9xodo 2"}, false, CodePage("windows-1252"));
+  EXPECT_EQ(names.InLink(2, 7), "\xE9xodo_2_7.html");
+  EXPECT_EQ(names.OnDisk(2, 7), "éxodo_2_7.html");
+  EXPECT_EQ(PageNames({"x"}, true, CodePage()).OnDisk(1, 7), "01_007.htm");
+}
+
+TEST(PageNamesTest, TheIndexNameFollowsTheLastSlash) {
+  EXPECT_EQ(IndexFileName("index.html"), "index.html");
+  EXPECT_EQ(IndexFileName("https://a.b/c/main.html"), "main.html");
+  EXPECT_EQ(IndexFileName("a.b/"), "");
+}
+
+TEST(PageNamesTest, NamesThatLeadElsewhereAreRefused) {
+  for (const char* name : {"genesis_1.html", "...", ".a", "a b", "é.html", "\xE9", "a:b"}) {
+    EXPECT_TRUE(IsPageName(name)) << name;
+  }
+  for (const std::string name : {"", ".", "..", "../a", "a/b", "a\\b", "a\nb", "\x7F", "a\xC2\x85", "\t"}) {
+    EXPECT_FALSE(IsPageName(name)) << name;
+  }
+  EXPECT_FALSE(IsPageName(std::string_view("a\0b", 3)));
+}
+
+}  // namespace
+}  // namespace folionet

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "CodePage.h"
+
+namespace folionet {
+
+// The lists of languages and of page charsets: files of the program folder with one quoted record a line, the code
+// first. They are in the code page of the pages, as a person may edit them:
+//
+//   "en-us","English USA"
+//   "big5","(Traditional Chinese - Big 5)"
+
+inline constexpr char kLanguageList[] = "lang.txt";
+inline constexpr char kCharsetList[] = "enc.txt";
+
+// Adds every record of the file to `entries`, in the file's order, as its two fields joined by a blank (UTF-8). Throws
+// RunTimeError for a missing file or a bad record; the entries before it are there.
+void ReadEncodingList(const std::string& path, const CodePage& codePage, std::vector<std::string>& entries);
+
+struct EncodingRecord {
+  std::string code;
+  std::string description;
+};
+
+// Adds a record at the file's end, on a line of its own; the file is made when missing. After a failure, which throws
+// RunTimeError, the old content stands.
+void AppendEncodingRecord(const std::string& path, const CodePage& codePage, const EncodingRecord& record);
+
+}  // namespace folionet

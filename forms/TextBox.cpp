@@ -1,0 +1,90 @@
+#include "TextBox.h"
+
+#include <QSignalBlocker>
+#include <QTextDocument>
+#include <algorithm>
+
+#include "CodePage.h"
+
+namespace folionet {
+namespace {
+
+// A byte that is not UTF-8 stands in the box as this lone surrogate plus the byte, which no text holds otherwise.
+constexpr char16_t kFirstByteMark = 0xDC00;
+
+bool IsByteMark(QChar c) { return c.unicode() >= kFirstByteMark + 0x80 && c.unicode() <= kFirstByteMark + 0xFF; }
+
+QString ToBox(std::string_view text) {
+  const auto decoded = [](std::string_view part) {
+    return QString::fromUtf8(part.data(), static_cast<qsizetype>(part.size()));
+  };
+  if (IsUtf8(text)) return decoded(text);
+  constexpr std::size_t kLongestCharacter = 4;
+  QString shown;
+  for (std::size_t at = 0; at < text.size();) {
+    std::size_t length = 1;
+    while (length <= kLongestCharacter && !IsUtf8(text.substr(at, length))) ++length;
+    if (length <= kLongestCharacter) {
+      shown += decoded(text.substr(at, length));
+    } else {
+      length = 1;
+      shown += QChar(static_cast<char16_t>(kFirstByteMark + static_cast<unsigned char>(text[at])));
+    }
+    at += length;
+  }
+  return shown;
+}
+
+std::string FromBox(const QString& shown) {
+  std::string text;
+  qsizetype done = 0;
+  for (qsizetype at = 0; at < shown.size(); ++at) {
+    if (shown[at].isHighSurrogate()) {
+      ++at;
+    } else if (IsByteMark(shown[at])) {
+      text += shown.mid(done, at - done).toStdString() + static_cast<char>(shown[at].unicode() - kFirstByteMark);
+      done = at + 1;
+    }
+  }
+  return text + shown.mid(done).toStdString();
+}
+
+}  // namespace
+
+TextBox::TextBox(QWidget* parent) : QPlainTextEdit(parent) {
+  setTabChangesFocus(true);
+  QSizePolicy policy = sizePolicy();
+  policy.setVerticalStretch(1);
+  setSizePolicy(policy);
+}
+
+void TextBox::SetText(std::string_view text) {
+  const QSignalBlocker blocker(this);
+  setPlainText(ToBox(text));
+  m_given = text;
+  m_givenAsShown = document()->toRawText();
+}
+
+std::string TextBox::Text() const {
+  QString text = document()->toRawText();  // toPlainText would turn hard blanks into plain ones
+  if (text == m_givenAsShown) return m_given;
+  for (const QChar lineBreak : {QChar(QChar::ParagraphSeparator), QChar(QChar::LineSeparator)}) {
+    text.replace(lineBreak, QLatin1String("\r\n"));
+  }
+  return FromBox(text);
+}
+
+void TextBox::setRows(int rows) {
+  m_rows = rows;
+  updateGeometry();
+}
+
+QSize TextBox::sizeHint() const { return minimumSizeHint(); }
+
+QSize TextBox::minimumSizeHint() const {
+  constexpr int kNarrowestLine = 30;
+  const auto margin = static_cast<int>(2 * document()->documentMargin()) + 2 * frameWidth();
+  return {kNarrowestLine * fontMetrics().averageCharWidth() + margin, m_rows * fontMetrics().lineSpacing() + margin};
+}
+
+}  // namespace folionet

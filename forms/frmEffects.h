@@ -36,6 +36,7 @@ class frmEffects : public QDialog {
   void Close();
   void ShowRecord();
   void ShowLooks();
+  void ShowSample();
 
   AppState& m_state;
   EffectsOptions& m_record;

@@ -1,0 +1,37 @@
+#include "Swatches.h"
+
+#include <QLabel>
+#include <cmath>
+
+#include "Contrast.h"
+#include "QtText.h"
+
+namespace folionet {
+namespace {
+
+constexpr Colour kBlack = 0;
+constexpr Colour kWhite = 0xFFFFFF;
+
+bool IsBestOnBlack(Colour colour) { return ContrastRatio(colour, kBlack) > ContrastRatio(colour, kWhite); }
+
+}  // namespace
+
+void ShowSwatch(const Swatch& swatch, QLabel& label) {
+  QPalette colours = label.palette();
+  colours.setColor(QPalette::Window, ToQt(swatch.colour));
+  colours.setColor(QPalette::WindowText, IsBestOnBlack(swatch.colour) ? Qt::black : Qt::white);
+  label.setPalette(colours);
+  label.setText(swatch.isDefault ? QStringLiteral("Default") : QString());
+  label.setAccessibleDescription(ToQt(swatch.colour).name());
+}
+
+QString ContrastAdvice(Colour colour, Colour background) {
+  const double ratio = ContrastRatio(colour, background);
+  // Cut, not rounded: a ratio must not look readable when it is not.
+  const QString text = QStringLiteral("%1 : 1").arg(std::floor(ratio * 100) / 100, 0, 'f', 2);
+  if (ratio >= kReadableContrast) return text;
+  return text + (IsBestOnBlack(background) ? QStringLiteral(", hard to read: choose a darker color")
+                                           : QStringLiteral(", hard to read: choose a lighter color"));
+}
+
+}  // namespace folionet

@@ -1,0 +1,137 @@
+#include "frmEffects.h"
+
+#include <QFontDatabase>
+#include <algorithm>
+#include <utility>
+
+#include "Effects.h"
+#include "Follow.h"
+#include "RunTimeError.h"
+#include "Swatches.h"
+#include "TrySave.h"
+#include "ui_frmEffects.h"
+
+namespace folionet {
+
+frmEffects::frmEffects(AppState& state, QWidget* parent)
+    : QDialog(parent), m_state(state), m_record(state.options.frmEffects), m_ui(std::make_unique<Ui::frmEffects>()) {
+  m_record = {};
+  m_ui->setupUi(this);
+  ConnectRecord();
+  for (const auto& [button, swatch] :
+       {std::pair{m_ui->cmdHyperlink, &m_record.lblHyperlink}, std::pair{m_ui->cmdActive, &m_record.lblActive},
+        std::pair{m_ui->cmdFollowed, &m_record.lblFollowed}, std::pair{m_ui->cmdRollover, &m_record.lblRColor}}) {
+    connect(button, &QPushButton::clicked, this, [this, chosen = swatch] { PickColour(*chosen); });
+  }
+  connect(m_ui->cmdRollover, &QPushButton::clicked, this, &frmEffects::BuildEffects);
+  connect(m_ui->cmdRestoreDefaults, &QPushButton::clicked, this, &frmEffects::RestoreDefaults);
+  connect(m_ui->cmdClose, &QPushButton::clicked, this, &frmEffects::Close);
+}
+
+frmEffects::~frmEffects() = default;
+
+void frmEffects::ConnectRecord() {
+  const std::pair<QComboBox*, std::string*> combos[]{
+      {m_ui->cboFont, &m_record.cboFont}, {m_ui->cboSize, &m_record.cboSize}, {m_ui->cboStyle, &m_record.cboStyle}};
+  for (const auto& [combo, field] : combos) {
+    combo->setCompleter(nullptr);  // what is typed is used as typed
+    Follow(combo, *field);
+    connect(combo, &QComboBox::editTextChanged, this, &frmEffects::ShowLooks);
+  }
+  const std::pair<QCheckBox*, bool*> checks[]{{m_ui->chkSmallCaps, &m_record.chkSmallCaps},
+                                              {m_ui->chkAllCaps, &m_record.chkAllCaps},
+                                              {m_ui->chkUnderline, &m_record.chkUnderline},
+                                              {m_ui->chkRollover, &m_record.chkRollover}};
+  for (const auto& [check, field] : checks) {
+    Follow(check, *field);
+    connect(check, &QCheckBox::toggled, this, &frmEffects::ShowLooks);
+  }
+}
+
+void frmEffects::LoadForm() {
+  m_ui->cboFont->clear();
+  m_ui->cboFont->addItems(QFontDatabase::families());
+  m_record.chkRollover = true;
+  try {
+    SetDefaultHyperlinkColors(m_state.store, m_record, 0);
+  } catch (const RunTimeError&) {
+    ShowRecord();
+    throw;
+  }
+  ShowRecord();
+  BuildEffects();
+}
+
+void frmEffects::showEvent(QShowEvent* event) {
+  ShowLooks();  // the page's colours may be others than when the dialog was last open
+  QDialog::showEvent(event);
+}
+
+void frmEffects::PickColour(Swatch& swatch) {
+  swatch = {m_state.ui.ChooseColour(swatch.colour), false};
+  ShowLooks();
+}
+
+void frmEffects::RestoreDefaults() {
+  if (!m_state.ui.AskYesNo("Confirm Restore Defaults", "Are you sure?")) return;
+  SetDefaultHyperlinkColors(m_state.store, m_record, 1);
+  ShowRecord();
+}
+
+void frmEffects::BuildEffects() {
+  const LinkEffects effects = Effects(m_record);
+  m_state.texts.RolloverStyle = effects.RolloverStyle;
+  m_state.texts.BodyLinkTag = effects.BodyLinkTag;
+}
+
+void frmEffects::Close() {
+  BuildEffects();
+  TrySave(m_state, "SaveDefaultHyperlinkColors",
+          [this](SettingsStore& store) { SaveDefaultHyperlinkColors(store, m_record); });
+  hide();
+}
+
+// Setting a control writes its field: each gets its own value back.
+void frmEffects::ShowRecord() {
+  const EffectsOptions record = m_record;
+  m_ui->cboFont->setEditText(ToQt(record.cboFont));
+  m_ui->cboSize->setEditText(ToQt(record.cboSize));
+  m_ui->cboStyle->setEditText(ToQt(record.cboStyle));
+  m_ui->chkSmallCaps->setChecked(record.chkSmallCaps);
+  m_ui->chkAllCaps->setChecked(record.chkAllCaps);
+  m_ui->chkUnderline->setChecked(record.chkUnderline);
+  m_ui->chkRollover->setChecked(record.chkRollover);
+  ShowLooks();
+}
+
+void frmEffects::ShowLooks() {
+  const SampleText& page = m_state.options.txtSample;
+  const auto show = [&](const Swatch& swatch, QLabel& label, QLabel& ratio) {
+    ShowSwatch(swatch, label);
+    ratio.setText(ContrastAdvice(swatch.colour, page.BackColor));
+  };
+  show(m_record.lblHyperlink, *m_ui->lblHyperlink, *m_ui->lblHyperlinkRatio);
+  show(m_record.lblActive, *m_ui->lblActive, *m_ui->lblActiveRatio);
+  show(m_record.lblFollowed, *m_ui->lblFollowed, *m_ui->lblFollowedRatio);
+  show(m_record.lblRColor, *m_ui->lblRColor, *m_ui->lblRColorRatio);
+  show({page.ForeColor, false}, *m_ui->lblTextColour, *m_ui->lblTextRatio);
+  ShowSample();
+}
+
+void frmEffects::ShowSample() {
+  constexpr double kSmallest = 6;
+  constexpr double kLargest = 24;
+  const SampleText& page = m_state.options.txtSample;
+  QPalette colours = palette();
+  colours.setColor(QPalette::Window, ToQt(page.BackColor));
+  colours.setColor(QPalette::WindowText, ToQt(page.ForeColor));
+  m_ui->fraSample->setPalette(colours);
+  QFont font(ToQt(page.FontName));
+  font.setPointSizeF(std::clamp(page.FontSize, kSmallest, kLargest));
+  font.setBold(page.FontBold);
+  font.setItalic(page.FontItalic);
+  m_ui->lblSampleText->setFont(font);
+  m_ui->lblSampleLink->SetOptions(m_record, font);
+}
+
+}  // namespace folionet

@@ -2,6 +2,7 @@
 
 #include <QDialog>
 #include <memory>
+#include <string>
 
 #include "AppState.h"
 
@@ -24,9 +25,11 @@ class frmBackground : public QDialog {
 
  private:
   void SelectImage();
-  bool SaveBackImage();
+  void SaveImage();
 
   AppState& m_state;
+  BackgroundOptions& m_record;
+  std::string m_chosenPath;  // what the file chooser gave last
   std::unique_ptr<Ui::frmBackground> m_ui;
 };
 

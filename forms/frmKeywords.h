@@ -24,9 +24,8 @@ class frmKeywords : public QDialog {
   void LoadForm();
 
  private:
-  void LoadMETA();
-  void SaveMETA();
-  void RefreshTitles();
+  bool RefreshTitles();
+  void Close();
 
   AppState& m_state;
   std::unique_ptr<Ui::frmKeywords> m_ui;

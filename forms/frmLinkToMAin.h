@@ -29,13 +29,14 @@ class frmLinkToMAin : public QDialog {
 
  private:
   void Justify(int justification);
-  void ShowJustification(int justification);
+  void ShowJustification();
   void SetFontSize(int size);
   void SetString();
   void Refresh();
   void Close();
 
   AppState& m_state;
+  LinkToMainOptions& m_record;
   std::unique_ptr<Ui::frmLinkToMAin> m_ui;
 };
 

@@ -24,9 +24,8 @@ class frmPAgeTitles : public QDialog {
   void LoadForm();
 
  private:
-  void LoadTitles();
-  bool SaveTitles();
-  void ShowPreviews();
+  void SaveTitles();
+  bool ShowPreviews();
 
   AppState& m_state;
   std::unique_ptr<Ui::frmPAgeTitles> m_ui;

@@ -1,0 +1,49 @@
+#include "frmKeywords.h"
+
+#include "Follow.h"
+#include "KeyReleases.h"
+#include "PreviewBox.h"
+#include "TrySave.h"
+#include "ui_frmKeywords.h"
+
+namespace folionet {
+
+frmKeywords::frmKeywords(AppState& state, QWidget* parent)
+    : QDialog(parent), m_state(state), m_ui(std::make_unique<Ui::frmKeywords>()) {
+  m_ui->setupUi(this);
+  MetaOptions& record = m_state.options.frmKeywords;
+  Follow(m_ui->txtKeywordsI, record.txtKeywordsI);
+  Follow(m_ui->txtDescriptionI, record.txtDescriptionI);
+  Follow(m_ui->txtKeyWords, record.txtKeyWords);
+  Follow(m_ui->txtDescription, record.txtDescription);
+  connect(m_ui->cmdCheck, &QPushButton::clicked, this, &frmKeywords::RefreshTitles);
+  connect(m_ui->cmdClose, &QPushButton::clicked, this, &frmKeywords::Close);
+  new KeyReleases(*this, [this] { return RefreshTitles(); });
+}
+
+frmKeywords::~frmKeywords() = default;
+
+void frmKeywords::LoadForm() {
+  MetaOptions& record = m_state.options.frmKeywords;
+  LoadMETA(m_state.store, record);
+  m_ui->txtKeywordsI->SetText(record.txtKeywordsI);
+  m_ui->txtDescriptionI->SetText(record.txtDescriptionI);
+  m_ui->txtKeyWords->SetText(record.txtKeyWords);
+  m_ui->txtDescription->SetText(record.txtDescription);
+}
+
+bool frmKeywords::RefreshTitles() {
+  const MetaOptions& record = m_state.options.frmKeywords;
+  bool areAllShown = ShowPreview(m_state, record.txtDescriptionI, *m_ui->txtDescriptionOKI);
+  areAllShown &= ShowPreview(m_state, record.txtKeywordsI, *m_ui->txtKeywordsOKI);
+  areAllShown &= ShowPreview(m_state, record.txtDescription, *m_ui->txtDescriptionOK);
+  areAllShown &= ShowPreview(m_state, record.txtKeyWords, *m_ui->txtKeyWordsOK);
+  return areAllShown;
+}
+
+void frmKeywords::Close() {
+  TrySave(m_state, "SaveMETA", [this](SettingsStore& store) { SaveMETA(store, m_state.options.frmKeywords); });
+  hide();
+}
+
+}  // namespace folionet

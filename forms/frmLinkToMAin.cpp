@@ -1,0 +1,105 @@
+#include "frmLinkToMAin.h"
+
+#include <algorithm>
+#include <array>
+
+#include "ChapterIndex.h"
+#include "EncodeOptions.h"
+#include "Follow.h"
+#include "LinkBack.h"
+#include "Numbers.h"
+#include "PreviewBox.h"
+#include "RunTimeError.h"
+#include "TrySave.h"
+#include "ui_frmLinkToMAin.h"
+
+namespace folionet {
+
+frmLinkToMAin::frmLinkToMAin(AppState& state, QWidget* parent)
+    : QDialog(parent),
+      m_state(state),
+      m_record(state.options.frmLinkToMAin),
+      m_ui(std::make_unique<Ui::frmLinkToMAin>()) {
+  m_ui->setupUi(this);
+  Follow(m_ui->txtLinkToMain, m_record.txtLinkToMain);
+  int justification = 0;
+  for (const QRadioButton* option : {m_ui->OLeft, m_ui->OCenter, m_ui->ORight}) {
+    ++justification;
+    connect(option, &QRadioButton::clicked, this, [this, justification] { Justify(justification); });
+  }
+  connect(m_ui->cboSize, &QComboBox::textActivated, this, [this](const QString& size) {
+    m_record.cboSize = FromQt(size);
+    SetFontSize(size.toInt());
+  });
+  connect(m_ui->cmdRefresh, &QPushButton::clicked, this, &frmLinkToMAin::Refresh);
+  connect(m_ui->cmdClose, &QPushButton::clicked, this, &frmLinkToMAin::Close);
+}
+
+frmLinkToMAin::~frmLinkToMAin() = default;
+
+void frmLinkToMAin::LoadForm() {
+  const auto show = [this] {
+    m_ui->txtLinkToMain->setText(ToQt(m_record.txtLinkToMain));
+    ShowJustification();
+    m_ui->cboSize->SetText(ToQt(m_record.cboSize));
+  };
+  try {
+    LoadLinkToMain(m_state.store, m_record);
+  } catch (const RunTimeError&) {
+    show();
+    throw;
+  }
+  show();
+  SetFontSize(static_cast<int>(ReadInteger(m_record.cboSize, kInt16Min, kInt16Max).value));
+}
+
+void frmLinkToMAin::SetSizeEnabled(bool isEnabled) { m_ui->cboSize->setEnabled(isEnabled); }
+
+void frmLinkToMAin::Justify(int justification) {
+  m_record.LCR = static_cast<std::int16_t>(justification);
+  ShowJustification();
+  TrySave(m_state, "SetJustification", [&](SettingsStore& store) { SaveLCR(store, justification); });
+  m_record.alignment = AlignmentWord(justification);
+  SetString();
+}
+
+// A value that stands for no alignment leaves everything as it is.
+void frmLinkToMAin::ShowJustification() {
+  const std::array<QRadioButton*, 3> options{m_ui->OLeft, m_ui->OCenter, m_ui->ORight};
+  constexpr std::array kAlignments{Qt::AlignLeft, Qt::AlignHCenter, Qt::AlignRight};
+  if (AlignmentWord(m_record.LCR).empty()) return;
+  const auto place = static_cast<std::size_t>(m_record.LCR - 1);
+  options[place]->setChecked(true);
+  for (QLineEdit* box : {m_ui->txtLinkToMain, m_ui->txtLinkToMainOK}) {
+    box->setAlignment(kAlignments[place] | Qt::AlignVCenter);
+  }
+}
+
+void frmLinkToMAin::SetFontSize(int size) {
+  constexpr int kLargestShown = 72;
+  for (QLineEdit* box : {m_ui->txtLinkToMain, m_ui->txtLinkToMainOK}) {
+    QFont font = box->font();
+    font.setPointSize(std::clamp(size + 8, 1, kLargestShown));
+    box->setFont(font);
+  }
+  TrySave(m_state, "SetFontSize", [&](SettingsStore& store) { SaveLinkBackSize(store, size); });
+  SetString();
+}
+
+void frmLinkToMAin::SetString() {
+  const auto html =
+      folionet::SetString(EncodePageOptions(m_state.options, m_state.codePage), VerseCounts(m_state.glob), m_state.ui);
+  if (html) m_ui->txtBackToString->SetText(m_state.codePage.DecodeForDisplay(*html));
+}
+
+void frmLinkToMAin::Refresh() {
+  ShowPreview(m_state, m_record.txtLinkToMain, *m_ui->txtLinkToMainOK);
+  SetString();
+}
+
+void frmLinkToMAin::Close() {
+  hide();
+  TrySave(m_state, "SaveLinkToMain", [this](SettingsStore& store) { SaveLinkToMain(store, m_record); });
+}
+
+}  // namespace folionet

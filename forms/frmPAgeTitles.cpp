@@ -1,0 +1,47 @@
+#include "frmPAgeTitles.h"
+
+#include "Follow.h"
+#include "KeyReleases.h"
+#include "PreviewBox.h"
+#include "TrySave.h"
+#include "ui_frmPAgeTitles.h"
+
+namespace folionet {
+
+frmPAgeTitles::frmPAgeTitles(AppState& state, QWidget* parent)
+    : QDialog(parent), m_state(state), m_ui(std::make_unique<Ui::frmPAgeTitles>()) {
+  m_ui->setupUi(this);
+  Follow(m_ui->txtIndex_html, m_state.options.frmPAgeTitles.txtIndex_html);
+  Follow(m_ui->txtPageTitles, m_state.options.frmPAgeTitles.txtPageTitles);
+  connect(m_ui->cmdCheck, &QPushButton::clicked, this, [this] {
+    ShowPreviews();
+    SaveTitles();
+  });
+  connect(m_ui->cmdClose, &QPushButton::clicked, this, [this] {
+    SaveTitles();
+    hide();
+  });
+  new KeyReleases(*this, [this] { return ShowPreviews(); });
+}
+
+frmPAgeTitles::~frmPAgeTitles() = default;
+
+void frmPAgeTitles::LoadForm() {
+  PageTitleOptions& titles = m_state.options.frmPAgeTitles;
+  LoadTitles(m_state.store, titles);
+  m_ui->txtIndex_html->setText(ToQt(titles.txtIndex_html));
+  m_ui->txtPageTitles->setText(ToQt(titles.txtPageTitles));
+}
+
+void frmPAgeTitles::SaveTitles() {
+  TrySave(m_state, "SaveTitles",
+          [this](SettingsStore& store) { folionet::SaveTitles(store, m_state.options.frmPAgeTitles); });
+}
+
+bool frmPAgeTitles::ShowPreviews() {
+  const PageTitleOptions& titles = m_state.options.frmPAgeTitles;
+  const bool hasIndex = ShowPreview(m_state, titles.txtIndex_html, *m_ui->txtPrevIndex);
+  return ShowPreview(m_state, titles.txtPageTitles, *m_ui->txtPrevOther) && hasIndex;
+}
+
+}  // namespace folionet

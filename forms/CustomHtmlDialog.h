@@ -44,11 +44,9 @@ class CustomHtmlDialog : public QDialog {
  private:
   void Done();
   bool Save();
-  std::string Text() const;
 
   AppState& m_state;
   const CustomHtmlDialogKind& m_kind;
-  std::string m_loadedText;  // as read, for as long as the person has not changed it
   std::unique_ptr<Ui::CustomHtmlDialog> m_ui;
 };
 

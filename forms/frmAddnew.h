@@ -28,6 +28,10 @@ class frmAddnew : public QDialog {
   // The person is done with adding: lists that show the records must be filled again.
   void ListsChanged();
 
+ protected:
+  // Enter adds the record that is being typed; a dialog's own would press one and the same button for both.
+  void keyPressEvent(QKeyEvent* event) override;
+
  private:
   void AddRecord(const char* fileName, const char* label, const QLineEdit& abbreviation, const QLineEdit& language);
 

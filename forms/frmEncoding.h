@@ -6,11 +6,14 @@
 
 #include "AppState.h"
 
+class QLineEdit;
+
 namespace folionet {
 
 namespace Ui {
 class frmEncoding;
 }
+class TextCombo;
 class frmAddnew;
 
 // Chooses the language and the character set that the pages declare. The lists' entries are stored; what was typed into
@@ -37,11 +40,10 @@ class frmEncoding : public QDialog {
 
  private:
   void PopCombo();
-  void RefillLists();
+  void Fill(const char* fileName, const char* key, TextCombo& list, QLineEdit& box);
   void AddNew();
+  void SaveLists();
   bool SaveAndUse();
-  void UseTypedCodes();
-  void ReportUnload(int number, const std::string& extra);
 
   AppState& m_state;
   std::unique_ptr<Ui::frmEncoding> m_ui;

@@ -1,0 +1,44 @@
+#include "CustomHtmlDialog.h"
+
+#include <QFontDatabase>
+
+#include "ui_CustomHtmlDialog.h"
+
+namespace folionet {
+
+CustomHtmlDialog::CustomHtmlDialog(AppState& state, const CustomHtmlDialogKind& kind, QWidget* parent)
+    : QDialog(parent), m_state(state), m_kind(kind), m_ui(std::make_unique<Ui::CustomHtmlDialog>()) {
+  m_ui->setupUi(this);
+  setObjectName(QLatin1String(kind.formName));
+  setWindowTitle(QLatin1String(kind.caption));
+  m_ui->cmdDone->setObjectName(QLatin1String(kind.doneButton));
+  m_ui->Text1->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+  m_ui->Text1->setFocus();
+  connect(m_ui->cmdDone, &QPushButton::clicked, this, &CustomHtmlDialog::Done);
+}
+
+CustomHtmlDialog::~CustomHtmlDialog() = default;
+
+void CustomHtmlDialog::LoadForm() {
+  std::string text = m_ui->Text1->Text();
+  if (!LoadCustomHtml(m_state.programFolder, m_kind.file, m_state.codePage, text, m_state.ui)) return;
+  m_ui->Text1->SetText(text);
+  m_state.texts.*m_kind.sharedText = text;
+  m_ui->Label1->setText(QLatin1String(m_kind.note));
+}
+
+bool CustomHtmlDialog::Save() {
+  return SaveCustomHtml(m_state.programFolder, m_kind.file, m_state.codePage, m_ui->Text1->Text(), m_state.ui);
+}
+
+void CustomHtmlDialog::Done() {
+  m_state.texts.*m_kind.sharedText = m_ui->Text1->Text();
+  if (Save()) hide();
+}
+
+void CustomHtmlDialog::reject() {
+  Save();
+  QDialog::reject();
+}
+
+}  // namespace folionet

@@ -1,0 +1,53 @@
+#include "frmAddnew.h"
+
+#include <QKeyEvent>
+
+#include "EncodingLists.h"
+#include "QtText.h"
+#include "RunTimeError.h"
+#include "ui_frmAddnew.h"
+
+namespace folionet {
+
+frmAddnew::frmAddnew(AppState& state, QWidget* parent)
+    : QDialog(parent), m_state(state), m_ui(std::make_unique<Ui::frmAddnew>()) {
+  m_ui->setupUi(this);
+  connect(m_ui->cmdUpdLang, &QPushButton::clicked, this,
+          [this] { AddRecord(kLanguageList, "cmdUpdLang_Click", *m_ui->txtLangAbbr, *m_ui->txtLangLang); });
+  connect(m_ui->cmdUpdEnc, &QPushButton::clicked, this,
+          [this] { AddRecord(kCharsetList, "cmdUpdEnc_Click", *m_ui->txtEncAbbr, *m_ui->txtEncLang); });
+  connect(m_ui->cmdCancel, &QPushButton::clicked, this, [this] {
+    emit ListsChanged();
+    hide();
+  });
+  for (const QLineEdit* box : {m_ui->txtLangAbbr, m_ui->txtLangLang}) {
+    connect(box, &QLineEdit::returnPressed, m_ui->cmdUpdLang, &QPushButton::click);
+  }
+  for (const QLineEdit* box : {m_ui->txtEncAbbr, m_ui->txtEncLang}) {
+    connect(box, &QLineEdit::returnPressed, m_ui->cmdUpdEnc, &QPushButton::click);
+  }
+}
+
+frmAddnew::~frmAddnew() = default;
+
+void frmAddnew::keyPressEvent(QKeyEvent* event) {
+  const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  if (!isEnter) QDialog::keyPressEvent(event);
+}
+
+void frmAddnew::AddRecord(const char* fileName, const char* label, const QLineEdit& abbreviation,
+                          const QLineEdit& language) {
+  if (abbreviation.text().isEmpty() || language.text().isEmpty()) {
+    m_state.ui.ShowMessage({MessageIcon::kWarning, "Blank Field(s)", "Both fields must have text in them"});
+    return;
+  }
+  try {
+    AppendEncodingRecord(m_state.programFolder + fileName, m_state.codePage,
+                         {FromQt(abbreviation.text()), FromQt(language.text())});
+    m_state.ui.ShowMessage({MessageIcon::kInformation, "Record Added", "Record Added"});
+  } catch (const RunTimeError& error) {
+    m_state.ui.ShowErrorReport(error.Number(), label, error.Extra());
+  }
+}
+
+}  // namespace folionet

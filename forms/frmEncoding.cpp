@@ -1,0 +1,111 @@
+#include "frmEncoding.h"
+
+#include <utility>
+#include <vector>
+
+#include "EncodingLists.h"
+#include "PageEncoding.h"
+#include "QtText.h"
+#include "RunTimeError.h"
+#include "TrySave.h"
+#include "frmAddnew.h"
+#include "ui_frmEncoding.h"
+
+namespace folionet {
+
+frmEncoding::frmEncoding(AppState& state, QWidget* parent)
+    : QDialog(parent), m_state(state), m_ui(std::make_unique<Ui::frmEncoding>()) {
+  m_ui->setupUi(this);
+  connect(m_ui->cboLang, &QComboBox::textActivated, m_ui->txtLang, &QLineEdit::setText);
+  connect(m_ui->cboCharset, &QComboBox::textActivated, m_ui->txtCharset, &QLineEdit::setText);
+  connect(m_ui->cmdAddNew, &QPushButton::clicked, this, &frmEncoding::AddNew);
+  connect(m_ui->cmdDone, &QPushButton::clicked, this, [this] {
+    if (SaveAndUse()) hide();
+  });
+}
+
+frmEncoding::~frmEncoding() = default;
+
+void frmEncoding::showEvent(QShowEvent* event) {
+  if (!m_isLoaded) LoadForm();
+  QDialog::showEvent(event);
+}
+
+void frmEncoding::LoadForm() {
+  m_isLoaded = true;
+  m_ui->cboLang->clear();
+  m_ui->cboCharset->clear();
+  PopCombo();
+}
+
+void frmEncoding::PopCombo() {
+  try {
+    Fill(kCharsetList, "Charset", *m_ui->cboCharset, *m_ui->txtCharset);
+    Fill(kLanguageList, "Lang", *m_ui->cboLang, *m_ui->txtLang);
+  } catch (const RunTimeError& error) {
+    m_state.ui.ShowErrorReport(error.Number(), "PopulateCharset", error.Extra());
+  }
+}
+
+void frmEncoding::Fill(const char* fileName, const char* key, TextCombo& list, QLineEdit& box) {
+  std::vector<std::string> entries;
+  const auto show = [&] {
+    for (const std::string& entry : entries) list.addItem(ToQt(entry));
+  };
+  try {
+    ReadEncodingList(m_state.programFolder + fileName, m_state.codePage, entries);
+  } catch (const RunTimeError&) {
+    show();
+    throw;
+  }
+  show();
+  const QString stored = ToQt(m_state.store.Text(key));
+  list.SetText(stored);
+  box.setText(stored);
+}
+
+void frmEncoding::AddNew() {
+  if (m_addNew == nullptr) {
+    m_addNew = new frmAddnew(m_state, this);
+    connect(m_addNew, &frmAddnew::ListsChanged, this, &frmEncoding::LoadForm);
+  }
+  openModal(*m_addNew);
+}
+
+// A list that could not be filled shows nothing, and nothing is stored from it.
+void frmEncoding::SaveLists() {
+  TrySave(m_state, "UnloadEncoding", [this](SettingsStore& store) {
+    for (const auto& [key, list] : {std::pair{"Lang", m_ui->cboLang}, std::pair{"Charset", m_ui->cboCharset}}) {
+      const std::string entry = FromQt(list->Text());
+      if (!entry.empty()) store.SaveText(key, entry);
+    }
+  });
+}
+
+bool frmEncoding::SaveAndUse() {
+  SaveLists();
+  const std::string typedLanguage = FromQt(m_ui->txtLang->text());
+  const std::string typedCharset = FromQt(m_ui->txtCharset->text());
+  PageEncoding encoding{m_state.texts.PageLanguage, m_state.texts.PageCharset};
+  bool isDone = true;
+  try {
+    LoadPageEncoding(m_state.store, encoding, m_state.ui);
+    encoding.PageLanguage = EncodingCode(typedLanguage, "Lang");
+    encoding.PageCharset = EncodingCode(typedCharset, "Charset");
+  } catch (const RunTimeError& error) {
+    m_state.ui.ShowErrorReport(error.Number(), "UnloadEncoding",
+                               typedLanguage + "\r\n" + typedCharset + "\r\n" + error.Extra());
+    isDone = false;
+  }
+  m_state.texts.PageLanguage = encoding.PageLanguage;
+  m_state.texts.PageCharset = encoding.PageCharset;
+  m_state.codePage = CodePage(encoding.PageCharset);
+  return isDone;
+}
+
+void frmEncoding::reject() {
+  SaveAndUse();
+  QDialog::reject();
+}
+
+}  // namespace folionet

@@ -1,5 +1,6 @@
 #include "Compile.h"
 
+#include <algorithm>
 #include <array>
 #include <new>
 #include <optional>
@@ -102,13 +103,21 @@ class CompileRun {
 
   // The last values seen, for the report of a failure.
   std::string LastValues() const {
-    constexpr std::size_t kShown = 200;
-    const auto shown = [&](std::string_view text) { return m_codePage.DecodeForDisplay(text.substr(0, kShown)); };
-    return "INDEX: " + shown(m_verse.bookField) + "\r\nSL: " + shown(m_verse.chapterField) + ":" +
-           shown(m_verse.verse) + "\r\nSR: " + shown(m_verse.text);
+    std::string place = Shown(m_verse.chapterField);
+    if (!m_verse.verse.empty() || !place.empty()) place += ":" + Shown(m_verse.verse);
+    return "INDEX: " + Shown(m_verse.bookField) + "\r\nSL: " + place + "\r\nSR: " + Shown(m_verse.text);
   }
 
  private:
+  // A text of the verse file as a person can read it, whatever the file holds.
+  std::string Shown(std::string_view text) const {
+    constexpr std::size_t kShown = 200;
+    std::string shown(text.substr(0, kShown));
+    std::replace_if(
+        shown.begin(), shown.end(), [](unsigned char c) { return (c < 0x20 && c != '\t') || c == 0x7F; }, '?');
+    return m_codePage.DecodeForDisplay(shown);
+  }
+
   void TurnPage() {
     if (m_context.PagesCreated == kInt16Max) throw RunTimeError(kOverflow, "More than 32767 pages.");
     ++m_context.PagesCreated;

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace folionet::test {
+
+// What a program left behind when it ended.
+struct ProgramResult {
+  int status = -1;  // the exit status; 128 and the signal's number when a signal ended it
+  std::string output;
+  std::string errors;
+};
+
+// Runs a program to its end in a folder, which is its home as well: settings and data that it keeps go to config/ and
+// data/ there. `output` names a file to take standard output in the place of the result, such as /dev/full.
+ProgramResult RunProgram(const std::vector<std::string>& command, const std::string& folder,
+                         const std::string& output = {});
+
+// folionet-cli with these arguments.
+ProgramResult RunCli(const std::vector<std::string>& arguments, const std::string& folder,
+                     const std::string& output = {});
+
+}  // namespace folionet::test

@@ -1,0 +1,101 @@
+// Compiles each case of this folder and compares the site with the expected one, both ways. A case is a folder:
+//
+//   installation/     Sysdefs/, Index/ and Modules/Bible/ as Versalia keeps them
+//   options           the arguments of the compile, one a line
+//   before/           what stands in the output folder before the run, where the case needs it
+//   program/          what stands in the program's own folder, where the case needs it
+//   expected/         every file of the output folder after the run
+//   expected.stdout   the words on standard output
+//
+// FOLIONET_REWRITE_EXPECTED=1 writes what the program gives into the cases, for a person to review the difference.
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "FolderContent.h"
+#include "ProgramRun.h"
+#include "TemporaryFolder.h"
+
+namespace folionet::test {
+namespace {
+
+namespace fs = std::filesystem;
+
+const std::string kCases = SITE_CASES;
+
+std::vector<std::string> CaseNames() {
+  std::vector<std::string> names;
+  for (const fs::directory_entry& entry : fs::directory_iterator(kCases)) {
+    if (fs::exists(entry.path() / "options")) names.push_back(entry.path().filename());
+  }
+  std::sort(names.begin(), names.end());
+  return names;
+}
+
+std::vector<std::string> CompileArguments(const std::string& options) {
+  std::vector<std::string> arguments{
+      "compile", "--versalia-path", "installation", "--module-path", "installation/Modules", "--program-folder",
+      "program", "--output",        "out"};
+  std::istringstream lines(options);
+  for (std::string line; std::getline(lines, line);) arguments.push_back(line);
+  return arguments;
+}
+
+class Site : public testing::TestWithParam<std::string> {
+ protected:
+  void SetUp() override {
+    fs::create_directories(m_home.Path() + "program");
+    for (const auto& [from, to] :
+         {std::pair{"installation", "installation"}, {"program", "program"}, {"before", "out"}}) {
+      if (fs::exists(m_case + from)) fs::copy(m_case + from, m_home.Path() + to, fs::copy_options::recursive);
+    }
+  }
+
+  ProgramResult Compile() const { return RunCli(CompileArguments(ReadFile(m_case + "options")), m_home.Path()); }
+
+  const std::string m_case = kCases + "/" + GetParam() + "/";
+  const TemporaryFolder m_home;
+};
+
+TEST_P(Site, IsTheExpectedOne) {
+  const FolderContent installation = ReadFolder(m_home.Path() + "installation");
+  const ProgramResult run = Compile();
+  EXPECT_EQ(run.errors, "");
+  ASSERT_EQ(run.status, 0);
+  const FolderContent site = ReadFolder(m_home.Path() + "out");
+  if (const char* rewrite = std::getenv("FOLIONET_REWRITE_EXPECTED"); rewrite != nullptr && *rewrite == '1') {
+    WriteFolder(m_case + "expected", site);
+    std::ofstream(m_case + "expected.stdout", std::ios::binary) << run.output;
+    GTEST_SKIP() << "rewritten: " << m_case << "expected";
+  }
+  EXPECT_EQ(DescribeDifference(ReadFolder(m_case + "expected"), site), "");
+  EXPECT_EQ(DescribeDifference("standard output", ReadFile(m_case + "expected.stdout"), run.output), "");
+  EXPECT_EQ(DescribeDifference(installation, ReadFolder(m_home.Path() + "installation")), "");
+  EXPECT_EQ(ReadFolder(m_home.Path() + "config").size(), 0u) << "a compile stores no settings";
+}
+
+std::string NameOf(const testing::TestParamInfo<std::string>& parameter) {
+  std::string name = parameter.param;
+  std::replace(name.begin(), name.end(), '-', '_');
+  return name;
+}
+
+INSTANTIATE_TEST_SUITE_P(Case, Site, testing::ValuesIn(CaseNames()), NameOf);
+
+TEST(FolderComparison, NamesWhatIsMissingWhatIsTooMuchAndTheFirstLineThatDiffers) {
+  EXPECT_EQ(DescribeDifference({{"a", "1\r\n2\r\n"}, {"b", "x"}, {"c", "same"}},
+                               {{"a", "1\r\n2\xE9\n3"}, {"c", "same"}, {"d", "y"}}),
+            "a, line 2\n  expected: \"2\\r\\n\"\n  found:    \"2\\xE9\\n\"\nb is missing\nd is one file too many\n");
+  EXPECT_EQ(DescribeDifference("cut", "1\n2\n", "1\n"),
+            "cut, line 2\n  expected: \"2\\n\"\n  found:    no such line\n");
+}
+
+}  // namespace
+}  // namespace folionet::test

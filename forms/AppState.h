@@ -21,13 +21,13 @@ struct AppState {
   std::string programFolder;    // ends in the folder separator
   GivenFolders givenFolders{};  // for this run
 
-  ModGlob glob;
-  MainOptions main;
-  PageOptions options;           // UTF-8, but txtBibleSel is the translation's name as the catalogue has it
-  PageTexts texts;               // UTF-8; RolloverStyle and BodyLinkTag change only where Effects is run
-  CodePage codePage;             // of texts.PageCharset
-  std::string startBookText;     // the title shown in the main form's cboStartBook, in the bytes of its file
-  bool saveFailureTold = false;  // set by TrySave
+  ModGlob glob{};
+  MainOptions main{};
+  PageOptions options{};              // UTF-8, but txtBibleSel is the translation's name as the catalogue has it
+  PageTexts texts{};                  // UTF-8; RolloverStyle and BodyLinkTag change only where Effects is run
+  CodePage codePage{"windows-1252"};  // of texts.PageCharset
+  std::string startBookText{};        // the title shown in the main form's cboStartBook, in the bytes of its file
+  bool saveFailureTold = false;       // set by TrySave
 };
 
 }  // namespace folionet

@@ -1,0 +1,106 @@
+#include <unistd.h>
+
+#include <CLI/CLI.hpp>
+#include <QApplication>
+#include <QDir>
+#include <QIcon>
+#include <cstdio>
+
+#include "AppState.h"
+#include "BuildInfo.h"
+#include "CodePage.h"
+#include "FormUi.h"
+#include "ProgramFolder.h"
+#include "QtText.h"
+#include "RunTimeError.h"
+#include "SettingsStore.h"
+#include "frmMain.h"
+
+namespace folionet {
+namespace {
+
+enum ExitStatus { kExitDone = 0, kExitUsage = 2, kExitFailed = 3 };
+
+struct Arguments {
+  GivenFolders folders;
+  std::string programFolder;
+};
+
+// True when the form is to be opened; otherwise `status` holds.
+bool Parse(int argc, char** argv, Arguments& arguments, int& status) {
+  CLI::App app("Turns a Bible translation installed by Versalia into a static web site.", "folionet");
+  app.set_version_flag("--version", std::string("folionet ") + kVersion);
+  app.add_option("--versalia-path", arguments.folders.versaliaPath, "Versalia's folder, for this run")
+      ->type_name("FOLDER");
+  app.add_option("--module-path", arguments.folders.modulePath, "Versalia's module folder, for this run")
+      ->type_name("FOLDER");
+  app.add_option("--program-folder", arguments.programFolder, "Where default.css and the custom header and footer are")
+      ->type_name("FOLDER");
+  for (int i = 1; i < argc; ++i) {
+    if (!IsUtf8(argv[i])) {
+      std::fprintf(stderr, "Argument %d is not UTF-8 text.\n", i);
+      status = kExitUsage;
+      return false;
+    }
+  }
+  try {
+    app.parse(argc, argv);
+    return true;
+  } catch (const CLI::ParseError& error) {
+    status = app.exit(error) == 0 ? kExitDone : kExitUsage;
+    return false;
+  }
+}
+
+// Qt ends a program that finds no display by abort(); a person is told what to do instead.
+void TellNoDisplay(QtMsgType type, const QMessageLogContext& /*context*/, const QString& message) {
+  if (type != QtFatalMsg) return;
+  std::fprintf(
+      stderr,
+      "folionet: the form cannot be opened, for there is no display. \"folionet-cli compile\" needs none.\n%s\n",
+      message.toLocal8Bit().constData());
+  std::fflush(stderr);
+  _exit(kExitFailed);
+}
+
+std::string ProgramFolderOf(const std::string& chosen, UserInterface& ui) {
+  try {
+    return FindProgramFolder(chosen);
+  } catch (const RunTimeError& error) {
+    ui.ShowErrorReport(error.Number(), "Form Load - MAIN", error.Extra());
+    return ExecutableFolder();
+  }
+}
+
+int OpenForm(QApplication& app, const Arguments& arguments) {
+  SettingsStore store(SettingsStore::DefaultFolder());
+  FormUi ui;
+  AppState state{store, ui, ProgramFolderOf(arguments.programFolder, ui), arguments.folders};
+  QDir::setCurrent(ToQt(state.programFolder));
+  frmMain form(state);
+  ui.SetForm(&form);
+  QObject::connect(&form, &frmMain::Ended, &app, &QApplication::quit);
+  int status = kExitFailed;
+  if (form.LoadForm()) {
+    form.show();
+    status = app.exec();
+  }
+  ui.SetForm(nullptr);
+  return status;
+}
+
+}  // namespace
+}  // namespace folionet
+
+int main(int argc, char** argv) {
+  int status = 0;
+  folionet::Arguments arguments;
+  if (!folionet::Parse(argc, argv, arguments, status)) return status;
+  const QtMessageHandler handler = qInstallMessageHandler(folionet::TellNoDisplay);
+  QApplication app(argc, argv);
+  qInstallMessageHandler(handler);
+  QApplication::setApplicationName(folionet::kApplicationTitle);
+  QApplication::setApplicationVersion(folionet::kVersion);
+  QApplication::setQuitOnLastWindowClosed(false);
+  return folionet::OpenForm(app, arguments);
+}

@@ -1,0 +1,129 @@
+#include "FolderPickers.h"
+
+#include <QDir>
+#include <cerrno>
+
+#include "CompileRequest.h"
+#include "Paths.h"
+#include "QtText.h"
+#include "RunTimeError.h"
+#include "ui_frmMain.h"
+
+namespace folionet {
+namespace {
+
+// The stored text that stands for no choice: the person's home.
+constexpr char kDefaultDrive[] = "C:";
+
+bool IsStored(const std::string& text) { return !text.empty() && text != kDefaultDrive; }
+
+void ReportDrive(UserInterface& ui, const RunTimeError& error) {
+  ui.ShowErrorReport(error.Number(), "Drive_Change", "Drive not Ready or Drive not Available.\r\n" + error.Extra());
+}
+
+// The path as the lists have it: no separator at its end.
+QString CleanPath(const std::string& path) { return QDir::cleanPath(ToQt(NativePath(path))); }
+
+}  // namespace
+
+FolderPickers::FolderPickers(AppState& state, Ui::frmMain& controls, QObject* parent)
+    : QObject(parent), m_state(state), m_controls(controls) {
+  connect(m_controls.Drive1, &QComboBox::activated, this, &FolderPickers::Drive1_Change);
+  connect(m_controls.Dir1, &FolderTree::PathChosen, this, &FolderPickers::Dir1_Change);
+  connect(m_controls.cmdBrowse, &QPushButton::clicked, this, &FolderPickers::Browse);
+}
+
+void FolderPickers::Restore() {
+  m_state.main.Drive1 = m_state.store.Text("Drive1");
+  m_state.main.Dir1 = m_state.store.Text("Dir1");
+  ListVolumes();
+  RestoreDrive();
+  RestoreFolder();
+}
+
+std::string FolderPickers::OutputPath() const {
+  return m_state.glob.OutputFolder.empty() ? CompileRequest().txtOutputPath : m_state.glob.OutputFolder;
+}
+
+void FolderPickers::ListVolumes() {
+  m_volumes = volumes();
+  m_controls.Drive1->clear();
+  for (const Volume& volume : m_volumes) {
+    m_controls.Drive1->addItem(volume.name + QStringLiteral("  \u2014  ") + QDir::toNativeSeparators(volume.path),
+                               volume.path);
+  }
+}
+
+void FolderPickers::RestoreDrive() {
+  ShowVolume(0);
+  if (!IsStored(m_state.main.Drive1)) return;
+  const int item = m_controls.Drive1->findData(CleanPath(m_state.main.Drive1));
+  try {
+    if (item < 0) throw RunTimeError::FromErrno(ENODEV, m_state.main.Drive1);
+    ListFolder(m_state.main.Drive1);
+    ShowVolume(item);
+  } catch (const RunTimeError& error) {
+    ReportDrive(m_state.ui, error);
+  }
+}
+
+void FolderPickers::RestoreFolder() {
+  if (!IsStored(m_state.main.Dir1)) return;
+  const QString folder = CleanPath(m_state.main.Dir1);
+  if (ShowFolder(folder)) {
+    Dir1_Change(folder);
+  } else {
+    ReportDrive(m_state.ui, RunTimeError(kPathNotFound, m_state.main.Dir1));
+  }
+}
+
+// Shows a folder of any volume: of the one shown when it is there, else of the one that it lies deepest in.
+bool FolderPickers::ShowFolder(const QString& path) {
+  if (!QFileInfo(path).isDir()) return false;
+  if (m_controls.Dir1->SetPath(path)) return true;
+  int best = -1;
+  for (int i = 0; i < static_cast<int>(m_volumes.size()); ++i) {
+    const QString& root = m_volumes[static_cast<std::size_t>(i)].path;
+    const bool holds = path == root || path.startsWith(root.endsWith(u'/') ? root : root + u'/');
+    if (holds && (best < 0 || root.size() > m_volumes[static_cast<std::size_t>(best)].path.size())) best = i;
+  }
+  return best >= 0 && ShowVolume(best) && m_controls.Dir1->SetPath(path);
+}
+
+bool FolderPickers::ShowVolume(int item) {
+  if (item < 0 || item >= static_cast<int>(m_volumes.size())) return false;
+  const Volume& volume = m_volumes[static_cast<std::size_t>(item)];
+  m_controls.Drive1->setCurrentIndex(item);
+  m_controls.Dir1->SetRoot(volume.name, volume.path);
+  return true;
+}
+
+void FolderPickers::Drive1_Change(int item) {
+  const QString path = m_controls.Drive1->itemData(item).toString();
+  try {
+    ListFolder(FromQt(path));
+  } catch (const RunTimeError& error) {
+    m_controls.Drive1->setCurrentIndex(m_controls.Drive1->findData(m_controls.Dir1->RootPath()));
+    ReportDrive(m_state.ui, error);
+    return;
+  }
+  ShowVolume(item);
+  Dir1_Change(path);
+}
+
+void FolderPickers::Dir1_Change(const QString& path) {
+  m_state.main.Drive1 = FromQt(m_controls.Dir1->RootPath());
+  m_state.main.Dir1 = FromQt(path);
+  m_state.glob.OutputFolder = WithSeparator(m_state.main.Dir1);
+  m_controls.txtOutputPath->setText(ToQt(m_state.glob.OutputFolder));
+  m_controls.txtOutputPath->setToolTip(m_controls.txtOutputPath->text());
+}
+
+void FolderPickers::Browse() {
+  const std::string chosen = m_state.ui.ChooseFolder(m_state.glob.OutputFolder);
+  if (chosen.empty()) return;  // none was chosen before and none is now
+  const QString folder = CleanPath(chosen);
+  if (ShowFolder(folder)) Dir1_Change(folder);
+}
+
+}  // namespace folionet

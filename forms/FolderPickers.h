@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QObject>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "AppState.h"
+#include "Volumes.h"
+
+namespace folionet {
+
+namespace Ui {
+class frmMain;
+}
+
+// The drive list, the folder list, Browse... and the box that shows the chosen output folder. Until a folder is chosen
+// the stored "Drive1" and "Dir1" stay as they were, and there is no output path.
+class FolderPickers : public QObject {
+  Q_OBJECT
+
+ public:
+  FolderPickers(AppState& state, Ui::frmMain& controls, QObject* parent);
+
+  // Lists the volumes and shows the stored drive and folder. A stored folder counts as chosen; a drive or folder that
+  // is gone is reported.
+  void Restore();
+
+  // What a compile takes as its output path.
+  std::string OutputPath() const;
+
+  std::function<std::vector<Volume>()> volumes = MountedVolumes;
+
+ private:
+  void ListVolumes();
+  void RestoreDrive();
+  void RestoreFolder();
+  void Drive1_Change(int item);
+  void Dir1_Change(const QString& path);
+  void Browse();
+  bool ShowFolder(const QString& path);
+  bool ShowVolume(int item);
+
+  AppState& m_state;
+  Ui::frmMain& m_controls;
+  std::vector<Volume> m_volumes;
+};
+
+}  // namespace folionet

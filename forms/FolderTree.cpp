@@ -1,0 +1,95 @@
+#include "FolderTree.h"
+
+#include <QDir>
+#include <QHeaderView>
+#include <QSignalBlocker>
+#include <QStyle>
+
+namespace folionet {
+namespace {
+
+constexpr int kPathRole = Qt::UserRole;
+constexpr int kIsFilledRole = Qt::UserRole + 1;
+
+QString PathOf(const QTreeWidgetItem* item) { return item->data(0, kPathRole).toString(); }
+
+QTreeWidgetItem* MakeItem(const QString& name, const QString& path, const QIcon& icon) {
+  auto* item = new QTreeWidgetItem({name});
+  item->setData(0, kPathRole, path);
+  item->setIcon(0, icon);
+  item->setToolTip(0, QDir::toNativeSeparators(path));
+  item->setChildIndicatorPolicy(QTreeWidgetItem::ShowIndicator);
+  return item;
+}
+
+}  // namespace
+
+FolderTree::FolderTree(QWidget* parent) : QTreeWidget(parent) {
+  setHeaderHidden(true);
+  setUniformRowHeights(true);
+  connect(this, &QTreeWidget::itemExpanded, this, &FolderTree::Fill);
+  connect(this, &QTreeWidget::currentItemChanged, this, &FolderTree::Choose);
+  // The current folder is chosen by a click or Enter on it.
+  connect(this, &QTreeWidget::itemClicked, this, &FolderTree::Choose);
+  connect(this, &QTreeWidget::itemActivated, this, &FolderTree::Choose);
+}
+
+void FolderTree::SetRoot(const QString& name, const QString& path) {
+  const QSignalBlocker quiet(this);
+  clear();
+  auto* root = MakeItem(name, path, style()->standardIcon(QStyle::SP_DriveHDIcon));
+  addTopLevelItem(root);
+  Fill(root);
+  root->setExpanded(true);
+  setCurrentItem(root);
+}
+
+bool FolderTree::SetPath(const QString& path) {
+  const QSignalBlocker quiet(this);
+  const QString relative = QDir(RootPath()).relativeFilePath(QDir::cleanPath(path));
+  QTreeWidgetItem* item = topLevelItem(0);
+  if (relative != QLatin1String(".")) {
+    for (const QString& name : relative.split(QLatin1Char('/'), Qt::SkipEmptyParts)) {
+      QTreeWidgetItem* child = name == QLatin1String("..") ? nullptr : ChildNamed(item, name);
+      if (child == nullptr) return false;
+      item->setExpanded(true);
+      item = child;
+    }
+  }
+  setCurrentItem(item);
+  scrollToItem(item, QAbstractItemView::PositionAtCenter);
+  return true;
+}
+
+QString FolderTree::RootPath() const { return topLevelItemCount() == 0 ? QString() : PathOf(topLevelItem(0)); }
+
+QString FolderTree::Path() const { return currentItem() == nullptr ? QString() : PathOf(currentItem()); }
+
+void FolderTree::Fill(QTreeWidgetItem* item) {
+  if (item->data(0, kIsFilledRole).toBool()) return;
+  item->setData(0, kIsFilledRole, true);
+  item->setChildIndicatorPolicy(QTreeWidgetItem::DontShowIndicatorWhenChildless);
+  const QIcon icon = style()->standardIcon(QStyle::SP_DirIcon);
+  const QDir folder(PathOf(item));
+  for (const QString& name : folder.entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name | QDir::IgnoreCase)) {
+    item->addChild(MakeItem(name, folder.filePath(name), icon));
+  }
+}
+
+QTreeWidgetItem* FolderTree::ChildNamed(QTreeWidgetItem* item, const QString& name) {
+  Fill(item);
+  for (int i = 0; i < item->childCount(); ++i) {
+    if (item->child(i)->text(0) == name) return item->child(i);
+  }
+  const QDir folder(PathOf(item));
+  if (!QFileInfo(folder.filePath(name)).isDir()) return nullptr;
+  auto* hidden = MakeItem(name, folder.filePath(name), style()->standardIcon(QStyle::SP_DirIcon));
+  item->addChild(hidden);
+  return hidden;
+}
+
+void FolderTree::Choose(QTreeWidgetItem* item) {
+  if (item != nullptr) emit PathChosen(PathOf(item));
+}
+
+}  // namespace folionet

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QString>
+#include <QTreeWidget>
+
+namespace folionet {
+
+// The folders of one volume, read as they are opened. The current one is the chosen one.
+class FolderTree : public QTreeWidget {
+  Q_OBJECT
+
+ public:
+  explicit FolderTree(QWidget* parent = nullptr);
+
+  // Shows the folders under `path` and makes it current, without a signal.
+  void SetRoot(const QString& name, const QString& path);
+
+  // Makes a folder under the root current, without a signal. False when there is no such folder.
+  bool SetPath(const QString& path);
+
+  QString RootPath() const;
+  QString Path() const;
+
+ signals:
+  // A person chose the folder, be it the current one already.
+  void PathChosen(const QString& path);
+
+ private:
+  void Fill(QTreeWidgetItem* item);
+  QTreeWidgetItem* ChildNamed(QTreeWidgetItem* item, const QString& name);
+  void Choose(QTreeWidgetItem* item);
+};
+
+}  // namespace folionet

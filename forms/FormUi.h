@@ -1,0 +1,48 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "UserInterface.h"
+
+class QWidget;
+
+namespace folionet {
+
+class frmErr;
+class frmMain;
+
+// The way to the person through boxes on the screen. Boxes stand before whatever dialog is open, or before the main
+// form, once there is one.
+class FormUi : public UserInterface {
+ public:
+  FormUi();
+  ~FormUi() override;
+
+  // The form whose status bar and controls are meant; it must outlive this or be taken away with nullptr.
+  void SetForm(frmMain* form) { m_form = form; }
+
+  void ShowMessage(const Message& message) override;
+  bool AskYesNo(const std::string& title, const std::string& text) override;
+  std::optional<std::string> AskText(const InputBox& box) override;
+  void ShowErrorReport(int errorNumber, std::string_view moduleLabel, const std::string& extraInfo) override;
+  void SetPanel(int panel, std::string_view text) override;
+  void FocusControl(std::string_view name) override;
+  Colour ChooseColour(Colour initial) override;
+  SampleText ChooseFont(const SampleText& initial) override;
+  std::string ChooseFile(const std::string& filter, const std::string& previous) override;
+  std::string ChooseFolder(const std::string& initial) override;
+  void ShowPage(const std::string& path) override;
+
+ private:
+  QWidget* Owner() const;
+
+  frmMain* m_form = nullptr;
+  std::unique_ptr<frmErr> m_errorReport;  // made on first use
+};
+
+// The filters of an open-file dialog from "description|pattern|description|pattern". Blanks around a pattern do not
+// count.
+std::string FileDialogFilter(const std::string& filter);
+
+}  // namespace folionet

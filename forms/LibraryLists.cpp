@@ -1,0 +1,122 @@
+#include "LibraryLists.h"
+
+#include "BookTitles.h"
+#include "Catalogue.h"
+#include "ChapterIndex.h"
+#include "QtText.h"
+#include "TrySave.h"
+#include "ui_frmMain.h"
+
+namespace folionet {
+namespace {
+
+void Fill(QComboBox& list, const std::vector<std::string>& names, const CodePage& codePage) {
+  list.clear();
+  QStringList items;
+  items.reserve(static_cast<qsizetype>(names.size()));
+  for (const std::string& name : names) items << ToQt(codePage.DecodeForDisplay(name));
+  list.addItems(items);
+}
+
+}  // namespace
+
+LibraryLists::LibraryLists(AppState& state, Ui::frmMain& controls, QObject* parent)
+    : QObject(parent), m_state(state), m_controls(controls) {
+  connect(m_controls.cboBibleName, &QComboBox::activated, this, &LibraryLists::ChooseBible);
+  connect(m_controls.cboLang, &QComboBox::activated, this, &LibraryLists::ChooseLanguage);
+  connect(m_controls.cboStartBook, &QComboBox::currentIndexChanged, this, [this](int item) {
+    const auto& titles = m_state.glob.cboStartBook;
+    const auto place = static_cast<std::size_t>(item);
+    m_state.startBookText = item >= 0 && place < titles.size() ? titles[place] : std::string();
+  });
+}
+
+Outcome LibraryLists::Fill() {
+  ModGlob& glob = m_state.glob;
+  LocateInstallation(m_state.store, m_state.givenFolders, glob);
+  GetLang(glob, m_state.ui);
+  m_controls.cboLang->clear();
+  for (const std::string& name : glob.cboLang) m_controls.cboLang->addItem(ToQt(name));
+  m_state.main.cboLang = m_state.store.Text("cboLang");
+  m_controls.cboLang->SetText(ToQt(m_state.main.cboLang));
+  if (PopulateCombos(1, m_state.main.cboLang, glob, m_state.codePage, m_state.ui) == Outcome::kEndProgram) {
+    return Outcome::kEndProgram;
+  }
+  ShowTranslations();
+  ShowBooks();
+  TakeTranslation(0);
+  return Outcome::kDone;
+}
+
+Outcome LibraryLists::SelectFirst() {
+  if (m_state.glob.cboBibleName.empty()) return Outcome::kDone;
+  m_controls.cboBibleName->setCurrentIndex(0);
+  const auto place = static_cast<std::size_t>(SelectedTranslation());
+  return BooksInChapters(m_state.glob, place, m_state.codePage, m_state.ui);
+}
+
+Outcome LibraryLists::LoadVerses() {
+  const int place = SelectedTranslation();
+  if (place < 0) return Outcome::kDone;
+  const std::string& stem = m_state.glob.BibleFiles[static_cast<std::size_t>(place)];
+  return LoadVerseCount(m_state.glob, IndexFile(m_state.glob, m_state.codePage, stem), m_state.ui);
+}
+
+void LibraryLists::ShowNames() {
+  const int translation = m_controls.cboBibleName->currentIndex();
+  const int start = m_controls.cboStartBook->currentIndex();
+  const int end = m_controls.cboEndBook->currentIndex();
+  ShowTranslations();
+  ShowBooks();
+  m_controls.cboBibleName->setCurrentIndex(translation);
+  m_controls.cboStartBook->setCurrentIndex(start);
+  m_controls.cboEndBook->setCurrentIndex(end);
+  const int place = SelectedTranslation();
+  if (place >= 0) TakeTranslation(static_cast<std::size_t>(place));
+}
+
+int LibraryLists::SelectedTranslation() const {
+  const int item = m_controls.cboBibleName->currentIndex();
+  return item < 0 ? -1 : static_cast<int>(TranslationAt(m_state.glob, static_cast<std::size_t>(item)));
+}
+
+void LibraryLists::ChooseBible() {
+  TakeTranslation(static_cast<std::size_t>(SelectedTranslation()));
+  if (LoadVerses() == Outcome::kEndProgram) emit EndProgram();
+}
+
+void LibraryLists::ChooseLanguage() {
+  m_controls.cboStartBook->clear();
+  m_controls.cboEndBook->clear();
+  m_state.main.cboLang = FromQt(m_controls.cboLang->Text());
+  TrySave(m_state, "cboLang_Click", [&](SettingsStore& store) { store.SaveText("cboLang", m_state.main.cboLang); });
+  if (PopulateCombos(0, m_state.main.cboLang, m_state.glob, m_state.codePage, m_state.ui) == Outcome::kEndProgram) {
+    emit EndProgram();
+    return;
+  }
+  ShowBooks();
+}
+
+void LibraryLists::ShowTranslations() {
+  folionet::Fill(*m_controls.cboBibleName, m_state.glob.cboBibleName, m_state.codePage);
+  m_controls.cboBibleName->setCurrentIndex(-1);
+}
+
+// Shows the titles with the whole Bible selected.
+void LibraryLists::ShowBooks() {
+  folionet::Fill(*m_controls.cboStartBook, m_state.glob.cboStartBook, m_state.codePage);
+  folionet::Fill(*m_controls.cboEndBook, m_state.glob.cboEndBook, m_state.codePage);
+  m_controls.cboStartBook->setCurrentIndex(0);
+  m_controls.cboEndBook->setCurrentIndex(m_controls.cboEndBook->count() - 1);
+}
+
+void LibraryLists::TakeTranslation(std::size_t place) {
+  const ModGlob& glob = m_state.glob;
+  m_state.options.txtBibleSel = glob.BibleNames[place];
+  if (glob.cboBibleName.empty()) m_state.options.txtBibleSel.clear();
+  m_controls.txtBibleSel->setText(ToQt(m_state.codePage.DecodeForDisplay(m_state.options.txtBibleSel)));
+  m_controls.txtFilename->setText(ToQt(VerseFile(glob, m_state.codePage, glob.BibleFiles[place])));
+  m_controls.txtFilename->setToolTip(m_controls.txtFilename->text());
+}
+
+}  // namespace folionet

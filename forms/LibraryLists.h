@@ -1,0 +1,54 @@
+#pragma once
+
+#include <QObject>
+#include <cstddef>
+#include <string>
+
+#include "AppState.h"
+#include "Installation.h"
+
+namespace folionet {
+
+namespace Ui {
+class frmMain;
+}
+
+// The lists that come from Versalia's library: translations, book-title languages and books, with the boxes that show
+// the chosen translation and its file.
+class LibraryLists : public QObject {
+  Q_OBJECT
+
+ public:
+  LibraryLists(AppState& state, Ui::frmMain& controls, QObject* parent);
+
+  // Finds the library and fills every list; the stored language is shown, and no translation is selected yet.
+  Outcome Fill();
+
+  // Selects the first translation and counts its chapters. A catalogue without one is no failure.
+  Outcome SelectFirst();
+
+  // Reads the verse counts of the selected translation.
+  Outcome LoadVerses();
+
+  // Shows the names again after the code page has changed.
+  void ShowNames();
+
+  // The place in BibleNames of the selected translation; -1 for none.
+  int SelectedTranslation() const;
+
+ signals:
+  // A failure was told after which the program must end.
+  void EndProgram();
+
+ private:
+  void ChooseBible();
+  void ChooseLanguage();
+  void ShowTranslations();
+  void ShowBooks();
+  void TakeTranslation(std::size_t place);
+
+  AppState& m_state;
+  Ui::frmMain& m_controls;
+};
+
+}  // namespace folionet

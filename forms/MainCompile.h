@@ -1,0 +1,21 @@
+#pragma once
+
+#include "AppState.h"
+#include "CompileRequest.h"
+
+namespace folionet {
+
+namespace Ui {
+class frmMain;
+}
+class FolderPickers;
+class LibraryLists;
+
+// What the form holds, as a compile run takes it.
+CompileRequest GatherRequest(const AppState& state, const Ui::frmMain& controls, const LibraryLists& lists,
+                             const FolderPickers& folders);
+
+// The path of the index page that a run of this request writes.
+std::string IndexPagePath(const CompileRequest& request);
+
+}  // namespace folionet

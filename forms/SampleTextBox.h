@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QPlainTextEdit>
+#include <string>
+
+#include "PageOptions.h"
+
+namespace folionet {
+
+// The four lines that describe a style, joined by CR LF. Sizes are those of HTML: points minus 9.
+std::string MakeSampleText(const SampleText& sample);
+
+// Shows the style of the pages' text in itself: font, size, bold, italic and both colours.
+class SampleTextBox : public QPlainTextEdit {
+  Q_OBJECT
+
+ public:
+  explicit SampleTextBox(QWidget* parent = nullptr);
+
+  void ShowSample(const SampleText& sample);
+};
+
+}  // namespace folionet

@@ -1,0 +1,80 @@
+#include "StyleOptions.h"
+
+#include <new>
+
+#include "OptionRecords.h"
+#include "QtText.h"
+#include "RunTimeError.h"
+#include "ui_frmMain.h"
+
+namespace folionet {
+
+StyleOptions::StyleOptions(AppState& state, Ui::frmMain& controls, QObject* parent)
+    : QObject(parent), m_state(state), m_controls(controls) {
+  connect(m_controls.cmdBackColour, &QPushButton::clicked, this, [this] { PickColour(&SampleText::BackColor); });
+  connect(m_controls.cmdForeColour, &QPushButton::clicked, this, [this] { PickColour(&SampleText::ForeColor); });
+  connect(m_controls.cmdFont, &QPushButton::clicked, this, &StyleOptions::PickFont);
+  connect(m_controls.optAlignLeft, &QRadioButton::toggled, this, [this](bool on) {
+    if (on) SetAlignment("Left");
+  });
+  connect(m_controls.OptAlignCenter, &QRadioButton::toggled, this, [this](bool on) {
+    if (on) SetAlignment("Center");
+  });
+  connect(m_controls.OptAlignJust, &QRadioButton::toggled, this, [this](bool on) {
+    if (on) SetAlignment("Justify");
+  });
+}
+
+void StyleOptions::LoadAlignment() {
+  const AlignmentReading reading = folionet::LoadAlignment(m_state.store);
+  m_controls.optAlignLeft->setChecked(reading.selected == "Left");
+  m_controls.OptAlignCenter->setChecked(reading.selected == "Center");
+  m_controls.OptAlignJust->setChecked(reading.selected == "Justify");
+  SetAlignment(reading.text);  // whatever it holds
+}
+
+void StyleOptions::GetDefaults() {
+  folionet::GetDefaults(m_state.store, m_state.options.txtSample);
+  ShowSample();
+}
+
+void StyleOptions::ShowSample() { m_controls.txtSample->ShowSample(m_state.options.txtSample); }
+
+void StyleOptions::EnableDisableOptions() {
+  const bool isFree = !m_state.options.chkCSS;
+  for (QWidget* control : std::initializer_list<QWidget*>{
+           m_controls.chkBack, m_controls.txtSample, m_controls.cmdForeColour, m_controls.cmdFont,
+           m_controls.frmAlignment, m_controls.optAlignLeft, m_controls.OptAlignCenter, m_controls.OptAlignJust}) {
+    control->setEnabled(isFree);
+  }
+  m_controls.cmdBackColour->setEnabled(isFree && !m_state.options.chkBack);
+}
+
+void StyleOptions::PickColour(Colour SampleText::*colour) {
+  SampleText& sample = m_state.options.txtSample;
+  sample.*colour = m_state.ui.ChooseColour(sample.*colour);
+  ShowSample();
+}
+
+void StyleOptions::PickFont() {
+  try {
+    const SampleText chosen = m_state.ui.ChooseFont(m_state.options.txtSample);
+    SampleText& sample = m_state.options.txtSample;
+    sample.FontName = chosen.FontName;
+    sample.FontSize = chosen.FontSize;
+    sample.FontBold = chosen.FontBold;
+    sample.FontItalic = chosen.FontItalic;
+    ShowSample();
+  } catch (const RunTimeError& error) {
+    m_state.ui.ShowErrorReport(error.Number(), "Select Font", "");
+  } catch (const std::bad_alloc&) {
+    m_state.ui.ShowErrorReport(kOutOfMemory, "Select Font", "");
+  }
+}
+
+void StyleOptions::SetAlignment(const std::string& text) {
+  m_state.main.alignment = text;
+  m_state.texts.LinkAlignment = text;
+}
+
+}  // namespace folionet

@@ -1,0 +1,25 @@
+#include "TextCombo.h"
+
+#include <QStyleOptionComboBox>
+#include <QStylePainter>
+
+namespace folionet {
+
+void TextCombo::SetText(const QString& text) {
+  m_ownText = text;
+  setCurrentIndex(findText(text, Qt::MatchExactly | Qt::MatchCaseSensitive));
+  update();
+}
+
+QString TextCombo::Text() const { return currentIndex() < 0 ? m_ownText : currentText(); }
+
+void TextCombo::paintEvent(QPaintEvent* /*event*/) {
+  QStylePainter painter(this);
+  QStyleOptionComboBox option;
+  initStyleOption(&option);
+  option.currentText = Text();
+  painter.drawComplexControl(QStyle::CC_ComboBox, option);
+  painter.drawControl(QStyle::CE_ComboBoxLabel, option);
+}
+
+}  // namespace folionet

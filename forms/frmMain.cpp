@@ -1,0 +1,184 @@
+#include "frmMain.h"
+
+#include <QCloseEvent>
+#include <QShortcut>
+
+#include "BuildInfo.h"
+#include "Compile.h"
+#include "FolderPickers.h"
+#include "HelpWindow.h"
+#include "LibraryLists.h"
+#include "MainCompile.h"
+#include "QtText.h"
+#include "RunGuard.h"
+#include "RunTimeError.h"
+#include "StatusPanels.h"
+#include "StyleOptions.h"
+#include "TrySave.h"
+#include "ui_frmMain.h"
+
+namespace folionet {
+
+frmMain::frmMain(AppState& state, QWidget* parent)
+    : QMainWindow(parent), m_state(state), m_ui(std::make_unique<Ui::frmMain>()), m_dialogs(state, this) {
+  m_ui->setupUi(this);
+  m_panels = new StatusPanels(*m_ui->StatusBar1, *m_ui->progressCompile, this);
+  m_lists = new LibraryLists(state, *m_ui, this);
+  m_folders = new FolderPickers(state, *m_ui, this);
+  m_style = new StyleOptions(state, *m_ui, this);
+  StressCompile();
+  ConnectOptions();
+  ConnectCommands();
+}
+
+frmMain::~frmMain() = default;
+
+void frmMain::ConnectOptions() {
+  PageOptions& options = m_state.options;
+  connect(m_ui->chkUseNames, &QCheckBox::clicked, this, [this, &options](bool on) {
+    options.chkUseNames = on;
+    TrySave(m_state, "chkUseNames_Click", [on](SettingsStore& store) { store.SaveFlag("chkUseNames", on); });
+  });
+  connect(m_ui->chkUse83, &QCheckBox::toggled, this, [&options](bool on) { options.chkUse83 = on; });
+  connect(m_ui->chkDoubleSpace, &QCheckBox::toggled, this, [&options](bool on) { options.chkDoubleSpace = on; });
+  connect(m_ui->txthttpRoot, &QLineEdit::textChanged, this, [&options](const QString& text) {
+    // An empty box stands for its initial text: nothing has been entered.
+    options.txthttpRoot = text.isEmpty() ? PageOptions().txthttpRoot : FromQt(text);
+  });
+  connect(m_ui->chkBack, &QCheckBox::clicked, this, &frmMain::updateCheck);
+  connect(m_ui->chkCSS, &QCheckBox::clicked, this, &frmMain::CSSCheck);
+}
+
+void frmMain::ConnectCommands() {
+  connect(m_lists, &LibraryLists::EndProgram, this, &frmMain::End);
+  connect(m_ui->cmdCompile, &QPushButton::clicked, this, &frmMain::Compile);
+  connect(m_ui->cmdOpenIndex, &QPushButton::clicked, this, &frmMain::OpenIndexPage);
+  connect(m_ui->cmdPageTitles, &QPushButton::clicked, this, [this] { m_dialogs.Open<frmPAgeTitles>(); });
+  connect(m_ui->cmdKeyWords, &QPushButton::clicked, this, [this] { m_dialogs.Open<frmKeywords>(); });
+  connect(m_ui->cmdEffects, &QPushButton::clicked, this, [this] { m_dialogs.Open<frmEffects>(); });
+  connect(m_ui->cmdLinkToMain, &QPushButton::clicked, this, &frmMain::OpenLinkToMain);
+  connect(m_ui->cmdCustomHeader, &QPushButton::clicked, this, [this] { m_dialogs.Open<frmCustomHeader>(); });
+  connect(m_ui->cmdCustomFooter, &QPushButton::clicked, this, [this] { m_dialogs.Open<frmCustomizeFooter>(); });
+  connect(m_ui->cmdPageEncoding, &QPushButton::clicked, this, &frmMain::OpenEncoding);
+  connect(m_ui->cmdHelp, &QPushButton::clicked, this, &frmMain::ShowHelp);
+  connect(new QShortcut(QKeySequence(Qt::Key_F1), this), &QShortcut::activated, this, &frmMain::ShowHelp);
+  connect(m_ui->cmdRestoreAll, &QPushButton::clicked, this, &frmMain::RestoreAll);
+  connect(m_ui->cmdClose, &QPushButton::clicked, this, &QWidget::close);
+}
+
+void frmMain::ShowPanel(int panel, std::string_view text) { m_panels->Set(panel, text); }
+
+void frmMain::FocusControl(std::string_view name) {
+  if (auto* control = findChild<QWidget*>(ToQt(name))) control->setFocus();
+}
+
+// The check box has changed already when its click is heard.
+void frmMain::updateCheck() {
+  m_state.options.chkBack = m_ui->chkBack->isChecked();
+  m_ui->cmdBackColour->setEnabled(!m_state.options.chkBack);
+  if (m_state.options.chkBack) m_dialogs.Open<frmBackground>();
+  TrySave(m_state, "updateCheck", [&](SettingsStore& store) { store.SaveFlag("chkBack", m_state.options.chkBack); });
+}
+
+void frmMain::CSSCheck() {
+  m_state.options.chkCSS = m_ui->chkCSS->isChecked();
+  m_ui->cmdEffects->setEnabled(!m_state.options.chkCSS);
+  TrySave(m_state, "CSSCheck", [&](SettingsStore& store) { store.SaveFlag("chkCSS", m_state.options.chkCSS); });
+  m_style->EnableDisableOptions();
+  if (!m_state.options.chkCSS) return;
+  m_state.ui.ShowMessage({MessageIcon::kInformation, "CSS file to be used",
+                          "Cascading Style Sheet 'default.css' will be used.\r\nPlease customize as required."});
+}
+
+void frmMain::Compile() {
+  const CompileRequest request = GatherRequest(m_state, *m_ui, *m_lists, *m_folders);
+  CompileOutcome outcome = CompileOutcome::kFailed;
+  {
+    const RunGuard guard(*this);
+    m_panels->BeginRun(static_cast<int>(m_state.glob.ChapterIndex.size()) - 1);
+    outcome = cmdCompile_Click(request, m_state.glob, m_state.ui);
+    m_panels->EndRun(outcome == CompileOutcome::kDone);
+  }
+  if (outcome == CompileOutcome::kEndProgram) End();
+  if (outcome != CompileOutcome::kDone) return;
+  m_indexPage = IndexPagePath(request);
+  m_ui->cmdOpenIndex->setEnabled(true);
+}
+
+void frmMain::OpenIndexPage() { m_state.ui.ShowPage(m_indexPage); }
+
+void frmMain::OpenEncoding() {
+  m_dialogs.Open<frmEncoding>();
+  m_state.codePage = CodePage(m_state.texts.PageCharset);
+  m_lists->ShowNames();
+}
+
+void frmMain::OpenLinkToMain() {
+  m_dialogs.Get<frmLinkToMAin>().SetSizeEnabled(!m_state.options.chkCSS);
+  m_dialogs.Open<frmLinkToMAin>();
+}
+
+void frmMain::ShowHelp() {
+  if (m_help == nullptr) m_help = new HelpWindow(this);
+  m_help->ShowContents();
+}
+
+void frmMain::SaveDefaults() {
+  TrySave(m_state, "SaveDefaults",
+          [&](SettingsStore& store) { folionet::SaveDefaults(store, m_state.options, m_state.main); });
+}
+
+void frmMain::RestoreAll() {
+  if (!m_state.ui.AskYesNo("Restore Factory Settings", "Rerurn all settings to default?\r\nAre you sure???")) return;
+  try {
+    m_state.store.DeleteSetting(kApplicationTitle);
+    m_dialogs.Renew<frmEffects>();
+    m_dialogs.Renew<frmPAgeTitles>();
+  } catch (const RunTimeError& error) {
+    m_state.ui.ShowErrorReport(error.Number(), "cmdRestoreAll_Click", error.Extra());
+    return;
+  }
+  m_state.options.txtSample = SampleText();
+  m_style->ShowSample();
+  m_state.ui.ShowMessage({MessageIcon::kInformation, std::string("Restart ") + kApplicationTitle,
+                          std::string("Please restart ") + kApplicationTitle + " to complete."});
+  End();
+}
+
+void frmMain::End() {
+  m_hasEnded = true;
+  emit Ended();
+}
+
+void frmMain::closeEvent(QCloseEvent* event) {
+  if (m_panels->IsRunning()) {
+    event->ignore();
+    return;
+  }
+  if (!m_hasEnded && !m_state.ui.AskYesNo("Confirm Exit", "All settings will be saved.\r\nOK?")) {
+    event->ignore();
+    return;
+  }
+  if (!m_hasEnded) {
+    SaveDefaults();
+    End();
+  }
+  event->accept();
+}
+
+void frmMain::changeEvent(QEvent* event) {
+  QMainWindow::changeEvent(event);
+  if (event->type() == QEvent::PaletteChange && m_ui->cmdCompile != nullptr) StressCompile();
+}
+
+// Gives the one button that everything leads to the desktop's accent.
+void frmMain::StressCompile() {
+  QPalette colours = palette();
+  for (const auto group : {QPalette::Active, QPalette::Inactive}) {
+    colours.setColor(group, QPalette::Button, palette().color(QPalette::Active, QPalette::Highlight));
+    colours.setColor(group, QPalette::ButtonText, palette().color(QPalette::Active, QPalette::HighlightedText));
+  }
+  m_ui->cmdCompile->setPalette(colours);
+}
+
+}  // namespace folionet

@@ -1,0 +1,81 @@
+#pragma once
+
+#include <QMainWindow>
+#include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "AppState.h"
+#include "Dialogs.h"
+
+namespace folionet {
+
+namespace Ui {
+class frmMain;
+}
+class FolderPickers;
+class HelpWindow;
+class LibraryLists;
+class StatusPanels;
+class StyleOptions;
+
+// The main form. Choose a translation, style its pages, compile it. Closing it ends the program.
+class frmMain : public QMainWindow {
+  Q_OBJECT
+
+ public:
+  explicit frmMain(AppState& state, QWidget* parent = nullptr);
+  ~frmMain() override;
+
+  // The start-up: reads every setting, the library and the dialogs' own, in a fixed order. A failure is reported and
+  // ends it there, and the form can be used as far as it got. False when the program must end, which was told.
+  bool LoadForm();
+
+  // For the way to the person: a panel of the status bar, counted from 1, and the control of that name.
+  void ShowPanel(int panel, std::string_view text);
+  void FocusControl(std::string_view name);
+
+  Dialogs& OptionDialogs() { return m_dialogs; }
+  FolderPickers& Folders() { return *m_folders; }
+
+ signals:
+  // The program must end now. Nothing more is asked or saved.
+  void Ended();
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+  void changeEvent(QEvent* event) override;
+
+ private:
+  void ConnectOptions();
+  void ConnectCommands();
+  void LoadFirstOptions();
+  bool LoadLibrary();
+  bool LoadOptions();
+  bool LoadLooks();
+  void updateCheck();
+  void CSSCheck();
+  void Compile();
+  void OpenEncoding();
+  void OpenLinkToMain();
+  void OpenIndexPage();
+  void ShowHelp();
+  void SaveDefaults();
+  void RestoreAll();
+  void End();
+  void StressCompile();
+
+  AppState& m_state;
+  std::unique_ptr<Ui::frmMain> m_ui;
+  StatusPanels* m_panels;
+  LibraryLists* m_lists;
+  FolderPickers* m_folders;
+  StyleOptions* m_style;
+  Dialogs m_dialogs;
+  HelpWindow* m_help = nullptr;  // made when first opened
+  std::string m_indexPage;       // of the last run that was completed
+  bool m_hasEnded = false;
+};
+
+}  // namespace folionet

@@ -17,17 +17,15 @@ std::string Heading(const ChapterHead& head, const PageOptions& options) {
 }
 
 // Three font tags are opened and one is closed, and the first has no blank before "size=": that is meant.
-std::string CreditLine(bool useStyleSheet) {
-  const std::string product = "<a href=" + InQuotes(kProductPage) + ">";
-  const std::string maker = "<a href=" + InQuotes(kMakerSite) + ">";
-  const std::string face = "<font face=" + InQuotes("Verdana");
+void PrintCreditLine(PageFile& page, bool useStyleSheet) {
   if (useStyleSheet) {
-    return "<address align=" + InQuotes("center") + ">" + face + ">Created with " + product + "Folionet</a> by " +
-           maker + "Versalia</a></font></address><br>";
+    page.Print("<address align=\"center\"><font face=\"Verdana\">Created with <a href=\"", kProductPage,
+               "\">Folionet</a> by <a href=\"", kMakerSite, "\">Versalia</a></font></address><br>");
+    return;
   }
-  const std::string inner = face + " size=" + InQuotes("1") + ">";
-  return "<p align=" + InQuotes("center") + ">" + face + "size=" + InQuotes("1") + ">Created with " + product + inner +
-         "Folionet</a> by " + maker + inner + "Versalia</a></font></p><br>";
+  constexpr std::string_view kInnerFont = "<font face=\"Verdana\" size=\"1\">";
+  page.Print("<p align=\"center\"><font face=\"Verdana\"size=\"1\">Created with <a href=\"", kProductPage, "\">",
+             kInnerFont, "Folionet</a> by <a href=\"", kMakerSite, "\">", kInnerFont, "Versalia</a></font></p><br>");
 }
 
 }  // namespace
@@ -60,16 +58,8 @@ void WriteChapterHead(const ChapterHead& head, const PageInputs& inputs, Compile
 
 void BuildVerseLine(const VerseLine& verse, const PageOptions& options, CompileContext& context) {
   PageFile& page = context.PageFile;
-  if (options.chkUseNames) {
-    page.Add(verse.bookLabel);
-    page.Add(" ");
-  }
-  page.Add(verse.chapter);
-  page.Add(":");
-  page.Add(verse.verse);
-  page.Add(" ");
-  page.Add(verse.text);
-  page.Print("<br>");
+  if (options.chkUseNames) page.Add(verse.bookLabel, " ");
+  page.Print(verse.chapter, ":", verse.verse, " ", verse.text, "<br>");
   if (options.chkDoubleSpace) page.Print("<br>");
 }
 
@@ -78,7 +68,7 @@ void WritePageFoot(const PageOptions& options, CompileContext& context) {
   if (options.txtSample.FontBold && !options.chkCSS) page.Print("</B>");
   if (options.txtSample.FontItalic && !options.chkCSS) page.Print("</I>");
   page.Print("</blockquote><p>&nbsp;</p>\r\n");
-  page.Print(CreditLine(options.chkCSS));
+  PrintCreditLine(page, options.chkCSS);
   if (!context.CustomFooter.empty()) page.Print(context.CustomFooter);
   page.Print("</body>\r\n</html>");
   page.Close();

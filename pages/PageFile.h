@@ -16,11 +16,17 @@ class PageFile {
   // (kBadFileName) for a name that IsPageName refuses.
   void Open(const std::string& folder, const std::string& name);
 
-  // Adds the text and CR LF.
-  void Print(std::string_view text) { m_text.append(text).append("\r\n"); }
+  // Adds the texts, one behind the other, and CR LF.
+  template <typename... Texts>
+  void Print(const Texts&... texts) {
+    Add(texts..., std::string_view("\r\n"));
+  }
 
-  // Adds to the line that the next Print ends.
-  void Add(std::string_view text) { m_text.append(text); }
+  // Adds the texts to the line that the next Print ends.
+  template <typename... Texts>
+  void Add(const Texts&... texts) {
+    (m_text.append(std::string_view(texts)), ...);
+  }
 
   // Writes the page. Throws RunTimeError naming the file; what has reached it by then stays.
   void Close();

@@ -6,28 +6,24 @@
 namespace folionet {
 namespace {
 
-std::string MetaName(std::string_view name, std::string_view content) {
-  return "<meta name=" + InQuotes(name) + " content=" + InQuotes(content) + ">";
+void PrintMeta(PageFile& page, std::string_view kind, std::string_view name, std::string_view content) {
+  page.Print("<meta ", kind, "=\"", name, "\" content=\"", content, "\">");
 }
 
-std::string MetaHttpEquiv(std::string_view name, std::string_view content) {
-  return "<meta http-equiv=" + InQuotes(name) + " content=" + InQuotes(content) + ">";
-}
-
-// Without its leading "<". With an image the text colour goes without "#": that is meant.
-std::string BodyTag(const DocumentHead& head, const PageOptions& options) {
-  const std::string background = " bgcolor=" + InQuotes("#" + std::string(head.background));
-  if (!options.chkBack) return "body" + background + " text=" + InQuotes("#" + std::string(head.textColour)) + ">";
-  return "body background=" + InQuotes(options.frmBackground.txtImagepath) +
-         (options.frmBackground.chkWaterMark ? " bgproperties=" + InQuotes("fixed") : "") + background +
-         " text=" + InQuotes(head.textColour) + ">";
-}
-
-// With link colours the word "body" stands a second time, as an attribute; without them a blank begins the line. Both
-// are meant.
-std::string BodyLine(const DocumentHead& head, const PageOptions& options, const CompileContext& context) {
-  if (options.chkCSS) return "<body>";
-  return context.BodyLinkTag + " " + (context.BodyLinkTag.empty() ? "<" : "") + BodyTag(head, options);
+// With link colours the word "body" stands a second time, as an attribute; without them a blank begins the line. With
+// an image the text colour goes without "#". All of it is meant.
+void PrintBodyLine(const DocumentHead& head, const PageOptions& options, CompileContext& context) {
+  PageFile& page = context.PageFile;
+  if (options.chkCSS) {
+    page.Print("<body>");
+    return;
+  }
+  page.Add(context.BodyLinkTag, context.BodyLinkTag.empty() ? " <body" : " body");
+  if (options.chkBack) {
+    page.Add(" background=\"", options.frmBackground.txtImagepath, "\"");
+    if (options.frmBackground.chkWaterMark) page.Add(" bgproperties=\"fixed\"");
+  }
+  page.Print(" bgcolor=\"#", head.background, options.chkBack ? "\" text=\"" : "\" text=\"#", head.textColour, "\">");
 }
 
 }  // namespace
@@ -35,17 +31,16 @@ std::string BodyLine(const DocumentHead& head, const PageOptions& options, const
 void PrintDocumentHead(const DocumentHead& head, const PageOptions& options, CompileContext& context) {
   PageFile& page = context.PageFile;
   page.Print("<html>\r\n<head>");
-  page.Print(MetaName("GENERATOR", "Versalia Folionet Ver " + std::string(head.version)));
-  page.Print(MetaHttpEquiv("Content-Type", "text/html; charset=" + std::string(head.charset)));
-  page.Print(MetaHttpEquiv("Content-Language", head.language));
-  page.Print(MetaName("DESCRIPTION", head.description));
-  page.Print(MetaName("KEYWORDS", head.keywords));
-  page.Print(MetaName("ProgId", std::string("By Versalia: ") + kMakerSite));
-  page.Print("<title>" + std::string(head.title) + "</title>");
+  PrintMeta(page, "name", "GENERATOR", "Versalia Folionet Ver " + std::string(head.version));
+  page.Print("<meta http-equiv=\"Content-Type\" content=\"text/html; charset=", head.charset, "\">");
+  PrintMeta(page, "http-equiv", "Content-Language", head.language);
+  PrintMeta(page, "name", "DESCRIPTION", head.description);
+  PrintMeta(page, "name", "KEYWORDS", head.keywords);
+  page.Print("<meta name=\"ProgId\" content=\"By Versalia: ", kMakerSite, "\">");
+  page.Print("<title>", head.title, "</title>");
   page.Print(options.chkCSS ? context.StyleSheetLink : context.RolloverStyle);
-  page.Print("</head>");
-  page.Print("");
-  page.Print(BodyLine(head, options, context));
+  page.Print("</head>\r\n");
+  PrintBodyLine(head, options, context);
 }
 
 std::string StyledHeading(const SampleText& sample, const std::string& heading) {

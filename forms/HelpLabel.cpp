@@ -2,6 +2,7 @@
 
 #include <QEvent>
 #include <QResizeEvent>
+#include <algorithm>
 
 namespace folionet {
 
@@ -15,6 +16,13 @@ HelpLabel::HelpLabel(QWidget* parent) : QLabel(parent) {
 void HelpLabel::FitWidth() {
   constexpr int kNarrowestLine = 40;
   setMinimumWidth(kNarrowestLine * fontMetrics().averageCharWidth());
+}
+
+QSize HelpLabel::sizeHint() const {
+  constexpr int kLongestLine = 110;
+  const int whole = fontMetrics().size(0, text()).width() + 1;
+  const int width = std::min(whole, kLongestLine * fontMetrics().averageCharWidth());
+  return {width, heightForWidth(width)};
 }
 
 void HelpLabel::resizeEvent(QResizeEvent* event) {

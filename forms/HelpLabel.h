@@ -12,6 +12,8 @@ class HelpLabel : public QLabel {
  public:
   explicit HelpLabel(QWidget* parent = nullptr);
 
+  QSize sizeHint() const override;
+
  protected:
   void resizeEvent(QResizeEvent* event) override;
   void changeEvent(QEvent* event) override;

@@ -21,6 +21,8 @@ void ShowSwatch(const Swatch& swatch, QLabel& label) {
   colours.setColor(QPalette::Window, ToQt(swatch.colour));
   colours.setColor(QPalette::WindowText, IsBestOnBlack(swatch.colour) ? Qt::black : Qt::white);
   label.setPalette(colours);
+  constexpr int kCharacters = 12;
+  label.setMinimumWidth(kCharacters * label.fontMetrics().averageCharWidth());
   label.setText(swatch.isDefault ? QStringLiteral("Default") : QString());
   label.setAccessibleDescription(ToQt(swatch.colour).name());
 }

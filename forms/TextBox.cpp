@@ -79,12 +79,14 @@ void TextBox::setRows(int rows) {
   updateGeometry();
 }
 
-QSize TextBox::sizeHint() const { return minimumSizeHint(); }
-
-QSize TextBox::minimumSizeHint() const {
-  constexpr int kNarrowestLine = 30;
-  const auto margin = static_cast<int>(2 * document()->documentMargin()) + 2 * frameWidth();
-  return {kNarrowestLine * fontMetrics().averageCharWidth() + margin, m_rows * fontMetrics().lineSpacing() + margin};
+QSize TextBox::SizeFor(int columns, int rows) const {
+  constexpr int kSlack = 4;  // below this a scroll bar shows although everything fits
+  const auto margin = static_cast<int>(2 * document()->documentMargin()) + 2 * frameWidth() + kSlack;
+  return {columns * fontMetrics().averageCharWidth() + margin, rows * fontMetrics().lineSpacing() + margin};
 }
+
+QSize TextBox::sizeHint() const { return SizeFor(60, m_rows); }
+
+QSize TextBox::minimumSizeHint() const { return SizeFor(25, std::min(m_rows, 2)); }
 
 }  // namespace folionet

@@ -19,7 +19,7 @@ class TextBox : public QPlainTextEdit {
   void SetText(std::string_view text);
   std::string Text() const;
 
-  // The least height, in lines. Its setter is named as the form file's generated code calls it.
+  // The preferred height, in lines. Its setter is named as the form file's generated code calls it.
   int Rows() const { return m_rows; }
   void setRows(int rows);
 
@@ -27,6 +27,8 @@ class TextBox : public QPlainTextEdit {
   QSize minimumSizeHint() const override;
 
  private:
+  QSize SizeFor(int columns, int rows) const;
+
   std::string m_given;
   QString m_givenAsShown;
   int m_rows = 3;

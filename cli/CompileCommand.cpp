@@ -1,5 +1,7 @@
 #include "CompileCommand.h"
 
+#include <cstdio>
+
 #include "ChapterIndex.h"
 #include "Compile.h"
 #include "CustomHtml.h"
@@ -8,6 +10,7 @@
 #include "Paths.h"
 #include "ProgramFolder.h"
 #include "RunTimeError.h"
+#include "Sitemap.h"
 
 namespace folionet {
 namespace {
@@ -48,10 +51,34 @@ void SelectTranslation(const CompileArguments& arguments, Session& session, Comp
             Outcome::kDone);
 }
 
+void PrintNames(const char* before, const std::vector<std::string>& names) {
+  for (const std::string& name : names) std::printf("%s%s\n", before, name.c_str());
+}
+
+// What the run did, or would do, as the arguments ask for it.
+void PrintChanges(const CompileArguments& arguments, const SiteChanges& changes) {
+  if (arguments.dryRun) {
+    PrintNames("new      ", changes.New());
+    PrintNames("changed  ", changes.Changed());
+    PrintNames("same     ", changes.Same());
+    PrintNames("removed  ", changes.Removed());
+    std::printf("%zu new, %zu changed, %zu the same, %zu removed. Nothing was written.\n", changes.New().size(),
+                changes.Changed().size(), changes.Same().size(), changes.Removed().size());
+  } else if (arguments.listChanged) {
+    PrintNames("", changes.New());
+    PrintNames("", changes.Changed());
+  }
+}
+
 }  // namespace
 
 ExitStatus RunCompile(const CommonOptions& common, const CompileArguments& arguments) {
-  Session session(common);
+  if (!arguments.sitemap.empty() && !IsPublicAddress(arguments.sitemap)) {
+    RefuseUsage("--sitemap: an address such as https://example.org/bible/ was expected: \"" + arguments.sitemap + "\"");
+  }
+  CommonOptions quietWhenListing = common;
+  quietWhenListing.quiet = common.quiet || arguments.listChanged || arguments.dryRun;
+  Session session(quietWhenListing);
   session.Override(arguments.settings);
   if (!arguments.languageFile.empty()) session.store.Override("cboLang", arguments.languageFile);
   session.LoadOptions();
@@ -76,8 +103,13 @@ ExitStatus RunCompile(const CommonOptions& common, const CompileArguments& argum
   request.texts.RolloverStyle = effects.RolloverStyle;
   request.texts.BodyLinkTag = effects.BodyLinkTag;
 
+  SiteChanges changes;
+  request.changes = &changes;
+  request.sitemapAddress = arguments.sitemap;
+  request.dryRun = arguments.dryRun;
   switch (cmdCompile_Click(request, session.glob, session.ui)) {
     case CompileOutcome::kDone:
+      PrintChanges(arguments, changes);
       return kExitDone;
     case CompileOutcome::kRefused:
       return kExitRefused;

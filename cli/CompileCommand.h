@@ -16,6 +16,9 @@ struct CompileArguments {
   std::string output;
   std::string indexAddress;
   std::vector<std::string> settings;
+  std::string sitemap;       // the public address of the output folder
+  bool listChanged = false;  // print the names of the pages whose bytes changed
+  bool dryRun = false;       // write nothing, print what would become of each file
 };
 
 // Compiles a translation as the form does.

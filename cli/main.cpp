@@ -35,6 +35,10 @@ void AddCompileOptions(CLI::App& compile, CompileArguments& arguments, CommonOpt
       ->type_name("KEY=VALUE")
       ->expected(1)
       ->take_all();
+  compile.add_option("--sitemap", arguments.sitemap, "Also write sitemap.xml; the folder's public address")
+      ->type_name("ADDRESS");
+  compile.add_flag("--list-changed", arguments.listChanged, "Print the names of the pages whose bytes changed");
+  compile.add_flag("--dry-run", arguments.dryRun, "Write nothing; print what would be new, changed, the same, removed");
   compile.add_flag("--quiet", common.quiet, "Say nothing when all goes well");
 }
 

@@ -5,8 +5,11 @@
 #include <new>
 #include <optional>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "BuildInfo.h"
+#include "ChapterNav.h"
 #include "ChapterPage.h"
 #include "EncodeOptions.h"
 #include "IndexPage.h"
@@ -15,6 +18,7 @@
 #include "OutputFolder.h"
 #include "PageNames.h"
 #include "RunTimeError.h"
+#include "Sitemap.h"
 #include "Validation.h"
 #include "VerseFileReader.h"
 
@@ -39,6 +43,7 @@ class CompileRun {
   void Prepare() {
     static_cast<PageTexts&>(m_context) = EncodePageTexts(m_request.texts, m_codePage);
     m_context.OutputFolder = m_request.txtOutputPath;
+    m_context.PageFile.SetDryRun(m_request.dryRun);
     m_context.StyleSheetLink = R"(<link rel="STYLESHEET" type="text/css" href="default.css">)";
     auto link = SetString(m_options, m_counts, m_ui);
     if (!link) throw AlreadyReported();
@@ -70,7 +75,11 @@ class CompileRun {
     std::int16_t lastChapter = 0;
     while (m_verses->Next(m_verse)) {
       if (isFirst || m_verse.chapter != lastChapter || m_verse.book != lastBook) {
-        if (!isFirst) TurnPage();
+        if (isFirst) {
+          m_holdsStartPage = !IsStartPage(m_verse.book, m_verse.chapter);
+        } else {
+          TurnPage();
+        }
         isFirst = false;
         lastBook = m_verse.book;
         lastChapter = m_verse.chapter;
@@ -79,7 +88,12 @@ class CompileRun {
           {m_labels[static_cast<std::size_t>(m_verse.book)], m_verse.chapterField, m_verse.verse, m_verse.text},
           m_options, m_context);
     }
-    WritePageFoot(m_options, m_context);
+    ClosePage();
+    if (m_startPage) {
+      m_context.PageFile.Open(m_context.OutputFolder, m_names.OnDisk(m_request.cboStartBook + 1, 1));
+      m_context.PageFile.Add(*m_startPage);
+      Note(m_names.OnDisk(m_request.cboStartBook + 1, 1), m_context.PageFile.Close());
+    }
   }
 
   void WriteIndex() {
@@ -89,7 +103,8 @@ class CompileRun {
          m_context.BackColourHex, m_context.TextColourHex, m_context.PageMeta, m_context.PageTitle,
          static_cast<std::int16_t>(m_request.cboStartBook + 1), static_cast<std::int16_t>(m_request.cboEndBook + 1)},
         m_inputs, m_codePage, m_context);
-    WritePageFoot(m_options, m_context);
+    Note(m_indexFileName, WritePageFoot(m_options, m_context));
+    if (!m_request.sitemapAddress.empty()) WriteSitemap();
   }
 
   void TellCounts() {
@@ -123,14 +138,42 @@ class CompileRun {
     ++m_context.PagesCreated;
     m_ui.SetPanel(1, "Compiling file " + std::to_string(m_context.PagesCreated) + " " +
                          m_codePage.DecodeForDisplay(BookName(m_inputs, m_verse.book)));
-    WritePageFoot(m_options, m_context);
+    ClosePage();
     OpenChapter(m_verse.book, m_verse.chapter, m_verse.chapterField);
+  }
+
+  bool IsStartPage(int book, std::int16_t chapter) const { return book == m_request.cboStartBook + 1 && chapter == 1; }
+
+  // A start page that does not hold its own chapter is kept back: that chapter's page, when it comes, takes its place,
+  // and a site that is compiled again is not touched by writing both.
+  void ClosePage() {
+    PrintPageFoot(m_options, m_context);
+    if (std::exchange(m_holdsStartPage, false)) {
+      m_startPage = m_context.PageFile.Take();
+      return;
+    }
+    Note(m_names.OnDisk(m_context.BookNumber, m_context.ChapterNumber), m_context.PageFile.Close());
+  }
+
+  void Note(const std::string& name, PageChange change) const {
+    if (m_request.changes != nullptr) m_request.changes->Written(name, change);
+  }
+
+  void WriteSitemap() const {
+    std::vector<std::string> names{m_indexFileName};
+    for (int book = m_request.cboStartBook + 1; book <= m_request.cboEndBook + 1; ++book) {
+      for (int chapter = 1; chapter <= ChaptersOf(m_inputs, book); ++chapter) {
+        names.push_back(m_names.OnDisk(book, chapter));
+      }
+    }
+    WriteOtherFile(m_request, "sitemap.xml", BuildSitemap(m_request.sitemapAddress, names));
   }
 
   void OpenChapter(int book, std::int16_t chapter, std::string_view chapterText) {
     m_context.BookNumber = static_cast<std::int16_t>(book);
     m_context.ChapterNumber = chapter;
     m_context.BookTitle = BookName(m_inputs, book);
+    if (IsStartPage(book, chapter)) m_startPage.reset();
     BuildMeta(m_options.frmKeywords.txtDescription, m_options.frmKeywords.txtKeyWords, m_context.BookTitle,
               chapterText);
     WriteChapterHead({m_context.BookTitle, m_context.PageLanguage, m_context.PageCharset, m_context.FontName,
@@ -159,6 +202,8 @@ class CompileRun {
   std::array<std::string, kBooks + 1> m_labels;
   std::optional<VerseFileReader> m_verses;  // outlives a failure, whose report shows what m_verse points to
   Verse m_verse;
+  bool m_holdsStartPage = false;
+  std::optional<std::string> m_startPage;
 };
 
 CompileOutcome Run(const CompileRequest& request, ModGlob& glob, UserInterface& ui, std::string& lastValues) {

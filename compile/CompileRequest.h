@@ -4,6 +4,7 @@
 
 #include "CompileContext.h"
 #include "PageOptions.h"
+#include "SiteChanges.h"
 
 namespace folionet {
 
@@ -18,8 +19,11 @@ struct CompileRequest {
   int cboBibleName = -1;                        // the chosen translation's place in BibleNames; -1 for none
   int cboStartBook = 0;                         // places in the book lists
   int cboEndBook = 65;
-  std::string programFolder;      // where default.css is; ends in the folder separator
-  bool makeOutputFolder = false;  // whether a missing output folder is made
+  std::string programFolder;       // where default.css is; ends in the folder separator
+  bool makeOutputFolder = false;   // whether a missing output folder is made
+  std::string sitemapAddress;      // the output folder's public address; empty for no sitemap.xml
+  bool dryRun = false;             // nothing is written or deleted; the counts are told all the same
+  SiteChanges* changes = nullptr;  // where what became of each file is noted, if anywhere
 };
 
 }  // namespace folionet

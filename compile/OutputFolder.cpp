@@ -3,6 +3,7 @@
 #include <unistd.h>
 
 #include <filesystem>
+#include <string_view>
 #include <system_error>
 
 #include "ChapterNav.h"
@@ -17,12 +18,18 @@ namespace {
 
 constexpr char kStyleSheet[] = "default.css";
 
+void Remove(const CompileRequest& request, const std::string& name) {
+  const std::string path = NativePath(request.txtOutputPath) + name;
+  const bool wasThere = request.dryRun ? FileExists(path) : unlink(path.c_str()) == 0;
+  if (request.changes != nullptr) request.changes->Removed(name, wasThere);
+}
+
 bool IsFolderChosen(const CompileRequest& request) { return request.txtOutputPath != "txtOutputPath"; }
 
 }  // namespace
 
 void MakeOutputFolder(const CompileRequest& request) {
-  if (!request.makeOutputFolder || !IsFolderChosen(request)) return;
+  if (!request.makeOutputFolder || !IsFolderChosen(request) || request.dryRun) return;
   const std::string folder = NativePath(request.txtOutputPath);
   if (FolderExists(folder)) return;
   std::error_code error;
@@ -40,10 +47,16 @@ void CopyCSS(const CompileRequest& request) {
   if (std::filesystem::equivalent(source, target, error) && !error) {
     throw RunTimeError(kFileAlreadyOpen, target, "The output folder is the program's own folder.");
   }
-  PageFile copy;
-  copy.Open(request.txtOutputPath, kStyleSheet);
-  copy.Print(content);
-  copy.Close();
+  WriteOtherFile(request, kStyleSheet, content + "\r\n");
+}
+
+void WriteOtherFile(const CompileRequest& request, const std::string& name, std::string_view bytes) {
+  PageFile file;
+  file.SetDryRun(request.dryRun);
+  file.Open(request.txtOutputPath, name);
+  file.Add(bytes);
+  const PageChange change = file.Close();
+  if (request.changes != nullptr) request.changes->Written(name, change);
 }
 
 std::int16_t CleanUp(const CompileRequest& request, const PageInputs& inputs) {
@@ -52,7 +65,7 @@ std::int16_t CleanUp(const CompileRequest& request, const PageInputs& inputs) {
     const int chapters = ChaptersOf(inputs, book);
     for (int chapter = 1; chapter <= chapters; ++chapter) {
       const std::string name = inputs.names.OnDisk(book, chapter);
-      if (IsPageName(name)) unlink((NativePath(request.txtOutputPath) + name).c_str());
+      if (IsPageName(name)) Remove(request, name);
       if (removed < kInt16Max) ++removed;
       inputs.ui.SetPanel(1, "Removing extra HTML .. " + name);
     }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "CompileContext.h"
 #include "CompileRequest.h"
@@ -14,6 +15,9 @@ void MakeOutputFolder(const CompileRequest& request);
 // Writes a copy of the program folder's default.css, with one further CR LF, into the output folder. With no folder
 // chosen yet nothing is done. Throws RunTimeError; kFileAlreadyOpen when both are the same file.
 void CopyCSS(const CompileRequest& request);
+
+// Writes a file that is no page into the output folder, in the manner of pages. Throws RunTimeError.
+void WriteOtherFile(const CompileRequest& request, const std::string& name, std::string_view bytes);
 
 // Deletes the pages of the books before the start book. Gives the number of deletions tried, which counts pages that
 // were not there; every failure is passed over.

@@ -63,7 +63,7 @@ void BuildVerseLine(const VerseLine& verse, const PageOptions& options, CompileC
   if (options.chkDoubleSpace) page.Print("<br>");
 }
 
-void WritePageFoot(const PageOptions& options, CompileContext& context) {
+void PrintPageFoot(const PageOptions& options, CompileContext& context) {
   PageFile& page = context.PageFile;
   if (options.txtSample.FontBold && !options.chkCSS) page.Print("</B>");
   if (options.txtSample.FontItalic && !options.chkCSS) page.Print("</I>");
@@ -71,7 +71,11 @@ void WritePageFoot(const PageOptions& options, CompileContext& context) {
   PrintCreditLine(page, options.chkCSS);
   if (!context.CustomFooter.empty()) page.Print(context.CustomFooter);
   page.Print("</body>\r\n</html>");
-  page.Close();
+}
+
+PageChange WritePageFoot(const PageOptions& options, CompileContext& context) {
+  PrintPageFoot(options, context);
+  return context.PageFile.Close();
 }
 
 }  // namespace folionet

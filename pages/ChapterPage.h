@@ -39,8 +39,11 @@ struct VerseLine {
 // Prints a verse, with its book's label and a further line break as the options ask.
 void BuildVerseLine(const VerseLine& verse, const PageOptions& options, CompileContext& context);
 
-// Closes what the head left open, prints the credit line and the custom footer, ends the document and writes the file.
-// For chapter pages and the index page.
-void WritePageFoot(const PageOptions& options, CompileContext& context);
+// Closes what the head left open, prints the credit line and the custom footer and ends the document. For chapter pages
+// and the index page.
+void PrintPageFoot(const PageOptions& options, CompileContext& context);
+
+// PrintPageFoot, and writes the file.
+PageChange WritePageFoot(const PageOptions& options, CompileContext& context);
 
 }  // namespace folionet

@@ -7,6 +7,7 @@
 #include <cerrno>
 #include <cstdlib>
 #include <memory>
+#include <utility>
 
 #include "Paths.h"
 #include "RunTimeError.h"
@@ -41,7 +42,8 @@ void PageFile::Open(const std::string& folder, const std::string& name) {
   if (folder != m_folder || !m_folderHandle.IsOpen()) {
     m_folder = folder;
     m_folderHandle = FileHandle(open(NativePath(folder).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    if (!m_folderHandle.IsOpen()) throw RunTimeError::FromErrno(errno, NativePath(folder));
+    const bool isMissing = !m_folderHandle.IsOpen() && errno == ENOENT;
+    if (!m_folderHandle.IsOpen() && !(m_dryRun && isMissing)) throw RunTimeError::FromErrno(errno, NativePath(folder));
   }
   if (!IsPageName(name)) {
     throw RunTimeError(kBadFileName, folder + name, "The page cannot have this file name: \"" + name + "\"");
@@ -83,27 +85,51 @@ FileHandle PageFile::OpenForWriting(bool& isNew) const {
   return file;
 }
 
-void PageFile::Close() {
+std::size_t PageFile::SizeOfExisting(const FileHandle& file) const {
+  struct stat status {};
+  if (fstat(file.Get(), &status) != 0) Fail(errno);
+  if (!S_ISREG(status.st_mode)) {
+    throw RunTimeError(kPathFileAccessError, NativePath(m_folder) + m_name, "It is not a regular file.");
+  }
+  return static_cast<std::size_t>(status.st_size);
+}
+
+bool PageFile::HasText(const FileHandle& file, std::size_t size) {
+  if (size != m_text.size()) return false;
+  if (!ReadAll(file.Get(), m_old, size, 0)) Fail(errno);
+  return m_old == m_text;
+}
+
+PageChange PageFile::Compare() {
+  if (!m_folderHandle.IsOpen()) return PageChange::kNew;
+  const FileHandle file = OpenExisting();
+  if (!file.IsOpen()) {
+    if (errno != ENOENT) Fail(errno);
+    return PageChange::kNew;
+  }
+  return HasText(file, SizeOfExisting(file)) ? PageChange::kSame : PageChange::kChanged;
+}
+
+PageChange PageFile::Close() {
   m_isOpen = false;
+  if (m_dryRun) return Compare();
   bool isNew = false;
   FileHandle file = OpenForWriting(isNew);
   m_expectNew = isNew;  // the pages of a site are mostly all new or all there
   std::size_t oldSize = 0;
   if (!isNew) {
-    struct stat status {};
-    if (fstat(file.Get(), &status) != 0) Fail(errno);
-    if (!S_ISREG(status.st_mode)) {
-      throw RunTimeError(kPathFileAccessError, NativePath(m_folder) + m_name, "It is not a regular file.");
-    }
-    oldSize = static_cast<std::size_t>(status.st_size);
-    if (oldSize == m_text.size()) {
-      if (!ReadAll(file.Get(), m_old, oldSize, 0)) Fail(errno);
-      if (m_old == m_text) return;
-    }
+    oldSize = SizeOfExisting(file);
+    if (HasText(file, oldSize)) return PageChange::kSame;
   }
   if (!WriteAll(file.Get(), m_text, 0)) Fail(errno);
   if (oldSize > m_text.size() && ftruncate(file.Get(), static_cast<off_t>(m_text.size())) != 0) Fail(errno);
   if (!file.Close()) Fail(errno);
+  return isNew ? PageChange::kNew : PageChange::kChanged;
+}
+
+std::string PageFile::Take() {
+  m_isOpen = false;
+  return std::exchange(m_text, {});
 }
 
 }  // namespace folionet

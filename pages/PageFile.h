@@ -7,6 +7,9 @@
 
 namespace folionet {
 
+// What writing a page does to its file.
+enum class PageChange { kNew, kChanged, kSame };
+
 // The page that is being written. Its lines are gathered in memory and written by Close in one go: a file that holds
 // the same bytes already is left alone with its time stamp, one that differs is overwritten in place and cut to length,
 // a missing one is made. A page that is not closed leaves nothing behind.
@@ -28,14 +31,24 @@ class PageFile {
     (m_text.append(std::string_view(texts)), ...);
   }
 
-  // Writes the page. Throws RunTimeError naming the file; what has reached it by then stays.
-  void Close();
+  // Writes the page, or with SetDryRun only finds out what that would do. Throws RunTimeError naming the file; what has
+  // reached it by then stays.
+  PageChange Close();
+
+  // Ends the page without writing it and gives its text.
+  std::string Take();
+
+  // From now on nothing is written, and a folder that is not there is as good as an empty one.
+  void SetDryRun(bool dryRun) { m_dryRun = dryRun; }
 
   bool IsOpen() const { return m_isOpen; }
 
  private:
   FileHandle OpenForWriting(bool& isNew) const;
   FileHandle OpenExisting() const;
+  std::size_t SizeOfExisting(const FileHandle& file) const;
+  bool HasText(const FileHandle& file, std::size_t size);
+  PageChange Compare();
   [[noreturn]] void Fail(int systemError) const;
 
   std::string m_folder;
@@ -45,6 +58,7 @@ class PageFile {
   FileHandle m_folderHandle;
   bool m_isOpen = false;
   bool m_expectNew = true;
+  bool m_dryRun = false;
 };
 
 // Whether a page may have this name (UTF-8): not empty, no folder separator, no control character, not "." or "..".

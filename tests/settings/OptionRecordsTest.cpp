@@ -24,8 +24,8 @@ TEST(OptionRecordsTest, TheSecondAlignmentKeyWins) {
       {"alignmentLR=Justify\nIndex_Alignment=none\n", "Center", "none"},
       {"alignmentLR=Left\nIndex_Alignment=center\n", "Left", "center"},
   };
-  const TemporaryFolder folder;
   for (const auto& c : cases) {
+    const TemporaryFolder folder;
     folder.Write("Folionet.ini", std::string("[Keys]\n") + c.ini);
     const AlignmentReading reading = LoadAlignment(SettingsStore(folder.Path()));
     EXPECT_EQ(reading.selected, c.selected) << c.ini;
@@ -74,8 +74,9 @@ TEST(OptionRecordsTest, LinkBackTakesOddAlignmentsAndRefusesOddSizes) {
   EXPECT_EQ(link.alignment, "");
   EXPECT_EQ(link.cboSize, "5");
   for (const char* size : {"32760", "99999", "big"}) {
-    folder.Write("Folionet.ini", std::string("[Keys]\nLinkBackSize=") + size + "\n");
-    EXPECT_THROW(LoadLinkToMain(SettingsStore(folder.Path()), link), RunTimeError) << size;
+    const TemporaryFolder odd;
+    odd.Write("Folionet.ini", std::string("[Keys]\nLinkBackSize=") + size + "\n");
+    EXPECT_THROW(LoadLinkToMain(SettingsStore(odd.Path()), link), RunTimeError) << size;
   }
 }
 
@@ -87,8 +88,9 @@ TEST(PageEncodingTest, TakesTheCodeBeforeTheFirstBlank) {
   EXPECT_EQ(encoding.PageCharset, "windows-1252");
   EXPECT_EQ(encoding.PageLanguage, "en-us");
   EXPECT_EQ(ui.said, (std::vector<std::string>{"panel 3: Charset: windows-1252", "panel 2: Language: en-us"}));
-  folder.Write("Folionet.ini", "[Keys]\nCharset=utf-8 (x y)\nLang=el\n");
-  EXPECT_THROW(LoadPageEncoding(SettingsStore(folder.Path()), encoding, ui), RunTimeError);
+  const TemporaryFolder odd;
+  odd.Write("Folionet.ini", "[Keys]\nCharset=utf-8 (x y)\nLang=el\n");
+  EXPECT_THROW(LoadPageEncoding(SettingsStore(odd.Path()), encoding, ui), RunTimeError);
   EXPECT_EQ(encoding.PageCharset, "utf-8");
   EXPECT_EQ(encoding.PageLanguage, "en-us");
 }

@@ -29,7 +29,6 @@ TEST(SettingsStoreTest, ReadsBackEveryTextAsItWasStored) {
 }
 
 TEST(SettingsStoreTest, ReadsWhatAPersonEdited) {
-  const TemporaryFolder folder;
   const struct {
     std::string line;
     const char* text;
@@ -43,6 +42,7 @@ TEST(SettingsStoreTest, ReadsWhatAPersonEdited) {
       {"Keywords=", ""},
   };
   for (const auto& c : cases) {
+    const TemporaryFolder folder;  // of its own, for QSettings may take a file of the same size and time for the same
     folder.Write("Folionet.ini", "\xEF\xBB\xBF[Keys]\r\n" + c.line + "\r\n");
     EXPECT_EQ(SettingsStore(folder.Path()).Text("Keywords"), c.text) << c.line;
   }
@@ -118,8 +118,8 @@ TEST(SettingsStoreTest, ValuesThatDoNotConvertAreFailures) {
       {points, "FontSize", "inf", kTypeMismatch},
       {points, "FontSize", "1,5", kTypeMismatch},
   };
-  const TemporaryFolder folder;
   for (const auto& c : cases) {
+    const TemporaryFolder folder;
     SettingsStore(folder.Path()).SaveText(c.key, c.text);
     try {
       c.read(SettingsStore(folder.Path()));
@@ -128,7 +128,6 @@ TEST(SettingsStoreTest, ValuesThatDoNotConvertAreFailures) {
       EXPECT_EQ(error.Number(), c.number) << c.key << "=" << c.text;
       EXPECT_NE(error.Extra().find(std::string("The setting ") + c.key + " must be "), std::string::npos);
     }
-    SettingsStore(folder.Path()).DeleteSetting("Folionet");
   }
 }
 

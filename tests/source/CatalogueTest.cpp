@@ -113,7 +113,6 @@ TEST(CatalogueTest, ARetryAfterBadTitlesListsTheTranslationsTwice) {
 }
 
 TEST(InstallationTest, TakesGivenFoldersBeforeStoredOnes) {
-  const test::TemporaryFolder folder;
   const struct {
     const char* stored;
     GivenFolders given;
@@ -130,6 +129,7 @@ TEST(InstallationTest, TakesGivenFoldersBeforeStoredOnes) {
       {"", {"/g/", "/h"}, "/g/", "/h/"},
   };
   for (const auto& c : cases) {
+    const test::TemporaryFolder folder;
     folder.Write("Versalia.ini", c.stored);
     const SettingsStore store(folder.Path());
     ModGlob glob;

@@ -1,0 +1,35 @@
+#include "SiteChanges.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace folionet {
+
+void SiteChanges::Written(const std::string& name, PageChange change) {
+  const State state = change == PageChange::kNew       ? State::kNew
+                      : change == PageChange::kChanged ? State::kChanged
+                                                       : State::kSame;
+  const auto [entry, isFirst] = m_states.emplace(name, state);
+  if (isFirst) m_order.push_back(name);
+  // A page that is written again is new, or has changed, as it was or had the first time.
+  if (entry->second == State::kSame && state == State::kChanged) entry->second = state;
+}
+
+void SiteChanges::Removed(const std::string& name, bool wasThere) {
+  const auto [entry, isFirst] = m_states.emplace(name, wasThere ? State::kRemoved : State::kNothing);
+  if (isFirst) {
+    m_order.push_back(name);
+    return;
+  }
+  // A page that the run itself made was not there before it.
+  entry->second = entry->second == State::kNew ? State::kNothing : State::kRemoved;
+}
+
+std::vector<std::string> SiteChanges::Names(State state) const {
+  std::vector<std::string> names;
+  std::copy_if(m_order.begin(), m_order.end(), std::back_inserter(names),
+               [&](const std::string& name) { return m_states.at(name) == state; });
+  return names;
+}
+
+}  // namespace folionet

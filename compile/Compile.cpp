@@ -37,7 +37,8 @@ class CompileRun {
         m_indexFileName(IndexFileName(request.options.txthttpRoot)),
         m_names(glob.cboStartBook, request.options.chkUse83, codePage),
         m_counts(glob),
-        m_inputs{m_options, m_glob, m_names, m_counts, m_backToString, m_indexFileName, m_ui} {}
+        m_titles(m_options),
+        m_inputs{m_options, m_glob, m_names, m_counts, m_backToString, m_indexFileName, m_titles, m_ui} {}
 
   // The link back, the colours and what else is fixed for the run. Throws AlreadyReported.
   void Prepare() {
@@ -97,7 +98,8 @@ class CompileRun {
   }
 
   void WriteIndex() {
-    BuildMeta(m_options.frmKeywords.txtDescriptionI, m_options.frmKeywords.txtKeywordsI, "", "");
+    m_context.PageTitle = IndexText(m_inputs, m_options.frmKeywords.txtDescriptionI);
+    m_context.PageMeta = IndexText(m_inputs, m_options.frmKeywords.txtKeywordsI);
     WriteIndexPage(
         {m_context.PageLanguage, m_context.PageCharset, m_context.FontName, m_context.FontSizeNumber,
          m_context.BackColourHex, m_context.TextColourHex, m_context.PageMeta, m_context.PageTitle,
@@ -174,18 +176,12 @@ class CompileRun {
     m_context.ChapterNumber = chapter;
     m_context.BookTitle = BookName(m_inputs, book);
     if (IsStartPage(book, chapter)) m_startPage.reset();
-    BuildMeta(m_options.frmKeywords.txtDescription, m_options.frmKeywords.txtKeyWords, m_context.BookTitle,
-              chapterText);
+    m_context.PageTitle = PageText(m_inputs, m_titles.description, m_context.BookTitle, chapterText);
+    m_context.PageMeta = PageText(m_inputs, m_titles.keywords, m_context.BookTitle, chapterText);
     WriteChapterHead({m_context.BookTitle, m_context.PageLanguage, m_context.PageCharset, m_context.FontName,
                       m_context.FontSizeNumber, m_context.BackColourHex, m_context.TextColourHex, m_context.PageMeta,
                       m_context.PageTitle, m_context.BookNumber, m_context.ChapterNumber},
                      m_inputs, m_context);
-  }
-
-  void BuildMeta(std::string_view description, std::string_view keywords, std::string_view book,
-                 std::string_view chapter) {
-    m_context.PageTitle = PageText(m_inputs, description, book, chapter);
-    m_context.PageMeta = PageText(m_inputs, keywords, book, chapter);
   }
 
   const CompileRequest& m_request;
@@ -197,6 +193,7 @@ class CompileRun {
   PageNames m_names;
   VerseCounts m_counts;
   std::string m_backToString;
+  ChapterTitles m_titles;
   PageInputs m_inputs;
   CompileContext m_context;
   std::array<std::string, kBooks + 1> m_labels;

@@ -25,22 +25,35 @@ void ReplaceAll(std::string& text, std::string_view word, std::string_view value
 
 }  // namespace
 
-std::optional<std::string> BuildTitles(std::string_view pattern, const TitleWords& words, const VerseCounts& counts,
-                                       UserInterface& ui) {
-  std::string text(pattern);
-  int replacements = 0;
+std::optional<std::string> PageTitles::Build(std::string_view book, std::string_view chapter, const VerseCounts& counts,
+                                             UserInterface& ui) {
   try {
-    ReplaceAll(text, "%bible%", words.bible, replacements);
-    ReplaceAll(text, "%bk%", words.book, replacements);
-    ReplaceAll(text, "%ch%", words.chapter, replacements);
-    if (text.find("%vs%") != std::string::npos) {
-      ReplaceAll(text, "%vs%", "1-" + counts.GetVSCnt(words.book, words.chapter, ui), replacements);
+    if (!m_withBible) {
+      Stage stage{std::string(m_pattern)};
+      ReplaceAll(stage.text, "%bible%", m_bible, stage.replacements);
+      m_withBible = std::move(stage);
     }
-    return text;
+    if (!m_withBook || m_book != book) {
+      Stage stage = *m_withBible;
+      ReplaceAll(stage.text, "%bk%", book, stage.replacements);
+      m_withBook = std::move(stage);
+      m_book = book;
+    }
+    Stage page = *m_withBook;
+    ReplaceAll(page.text, "%ch%", chapter, page.replacements);
+    if (page.text.find("%vs%") != std::string::npos) {
+      ReplaceAll(page.text, "%vs%", "1-" + counts.GetVSCnt(book, chapter, ui), page.replacements);
+    }
+    return std::move(page.text);
   } catch (const RunTimeError& error) {
-    ui.ShowErrorReport(error.Number(), "Build Titles", Quoted(pattern) + "\r\n" + error.Extra());
+    ui.ShowErrorReport(error.Number(), "Build Titles", Quoted(m_pattern) + "\r\n" + error.Extra());
     return std::nullopt;
   }
+}
+
+std::optional<std::string> BuildTitles(std::string_view pattern, const TitleWords& words, const VerseCounts& counts,
+                                       UserInterface& ui) {
+  return PageTitles(pattern, words.bible).Build(words.book, words.chapter, counts, ui);
 }
 
 }  // namespace folionet

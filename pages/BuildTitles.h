@@ -22,4 +22,28 @@ struct TitleWords {
 std::optional<std::string> BuildTitles(std::string_view pattern, const TitleWords& words, const VerseCounts& counts,
                                        UserInterface& ui);
 
+// BuildTitles for the many pages of one translation: what pages, or the pages of a book, have in common is put in once.
+class PageTitles {
+ public:
+  // `pattern` and `bible` must outlive this.
+  PageTitles(std::string_view pattern, std::string_view bible) : m_pattern(pattern), m_bible(bible) {}
+
+  // As BuildTitles with this pattern and translation.
+  std::optional<std::string> Build(std::string_view book, std::string_view chapter, const VerseCounts& counts,
+                                   UserInterface& ui);
+
+ private:
+  // A text on its way, with the replacements that it took.
+  struct Stage {
+    std::string text;
+    int replacements = 0;
+  };
+
+  std::string_view m_pattern;
+  std::string_view m_bible;
+  std::optional<Stage> m_withBible;
+  std::optional<Stage> m_withBook;
+  std::string m_book;  // of m_withBook
+};
+
 }  // namespace folionet

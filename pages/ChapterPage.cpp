@@ -35,8 +35,8 @@ void WriteChapterHead(const ChapterHead& head, const PageInputs& inputs, Compile
   PageFile& page = context.PageFile;
   page.Open(context.OutputFolder, inputs.names.OnDisk(head.bookNumber, head.chapterNumber));
 
-  const std::string title = PageText(inputs, options.frmPAgeTitles.txtPageTitles, BookName(inputs, head.bookNumber),
-                                     std::to_string(head.chapterNumber));
+  const std::string title =
+      PageText(inputs, inputs.titles.title, BookName(inputs, head.bookNumber), std::to_string(head.chapterNumber));
   const std::string version = std::to_string(kVersionMajor) + "." + std::to_string(kVersionMinor);
   PrintDocumentHead(
       {version, head.language, head.charset, head.keywords, head.description, title, head.backColour, head.textColour},

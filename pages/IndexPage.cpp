@@ -44,7 +44,7 @@ void WriteIndexPage(const IndexPage& index, const PageInputs& inputs, const Code
   PageFile& page = context.PageFile;
   page.Open(context.OutputFolder, inputs.indexFileName);
 
-  const std::string title = PageText(inputs, options.frmPAgeTitles.txtIndex_html, "", "");
+  const std::string title = IndexText(inputs, options.frmPAgeTitles.txtIndex_html);
   PrintDocumentHead({kVersion, index.language, index.charset, index.keywords, index.description, title,
                      index.backColour, index.textColour},
                     options, context);

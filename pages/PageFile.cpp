@@ -49,7 +49,7 @@ void PageFile::Open(const std::string& folder, const std::string& name) {
     throw RunTimeError(kBadFileName, folder + name, "The page cannot have this file name: \"" + name + "\"");
   }
   m_name = name;
-  m_text.clear();
+  m_size = 0;
   m_isOpen = true;
 }
 
@@ -95,9 +95,9 @@ std::size_t PageFile::SizeOfExisting(const FileHandle& file) const {
 }
 
 bool PageFile::HasText(const FileHandle& file, std::size_t size) {
-  if (size != m_text.size()) return false;
+  if (size != m_size) return false;
   if (!ReadAll(file.Get(), m_old, size, 0)) Fail(errno);
-  return m_old == m_text;
+  return m_old == Text();
 }
 
 PageChange PageFile::Compare() {
@@ -121,15 +121,15 @@ PageChange PageFile::Close() {
     oldSize = SizeOfExisting(file);
     if (HasText(file, oldSize)) return PageChange::kSame;
   }
-  if (!WriteAll(file.Get(), m_text, 0)) Fail(errno);
-  if (oldSize > m_text.size() && ftruncate(file.Get(), static_cast<off_t>(m_text.size())) != 0) Fail(errno);
+  if (!WriteAll(file.Get(), Text(), 0)) Fail(errno);
+  if (oldSize > m_size && ftruncate(file.Get(), static_cast<off_t>(m_size)) != 0) Fail(errno);
   if (!file.Close()) Fail(errno);
   return isNew ? PageChange::kNew : PageChange::kChanged;
 }
 
 std::string PageFile::Take() {
   m_isOpen = false;
-  return std::exchange(m_text, {});
+  return std::string(Text());
 }
 
 }  // namespace folionet

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <algorithm>
+#include <initializer_list>
 #include <string>
 #include <string_view>
 
@@ -22,13 +24,13 @@ class PageFile {
   // Adds the texts, one behind the other, and CR LF.
   template <typename... Texts>
   void Print(const Texts&... texts) {
-    Add(texts..., std::string_view("\r\n"));
+    AddAll({std::string_view(texts)..., std::string_view("\r\n")});
   }
 
   // Adds the texts to the line that the next Print ends.
   template <typename... Texts>
   void Add(const Texts&... texts) {
-    (m_text.append(std::string_view(texts)), ...);
+    AddAll({std::string_view(texts)...});
   }
 
   // Writes the page, or with SetDryRun only finds out what that would do. Throws RunTimeError naming the file; what has
@@ -44,6 +46,18 @@ class PageFile {
   bool IsOpen() const { return m_isOpen; }
 
  private:
+  // One look at the room that there is for all of the texts.
+  void AddAll(std::initializer_list<std::string_view> texts) {
+    std::size_t size = m_size;
+    for (const std::string_view text : texts) size += text.size();
+    if (size > m_text.size()) m_text.resize(2 * size);
+    char* at = m_text.data() + m_size;
+    for (const std::string_view text : texts) at = std::copy(text.begin(), text.end(), at);
+    m_size = size;
+  }
+
+  std::string_view Text() const { return {m_text.data(), m_size}; }
+
   FileHandle OpenForWriting(bool& isNew) const;
   FileHandle OpenExisting() const;
   std::size_t SizeOfExisting(const FileHandle& file) const;
@@ -53,7 +67,8 @@ class PageFile {
 
   std::string m_folder;
   std::string m_name;
-  std::string m_text;
+  std::string m_text;  // the page is its first m_size bytes
+  std::size_t m_size = 0;
   std::string m_old;
   FileHandle m_folderHandle;
   bool m_isOpen = false;

@@ -4,11 +4,15 @@
 
 namespace folionet {
 
-std::string PageText(const PageInputs& inputs, std::string_view pattern, std::string_view book,
-                     std::string_view chapter) {
-  auto text = BuildTitles(pattern, {inputs.options.txtBibleSel, book, chapter}, inputs.counts, inputs.ui);
+std::string PageText(const PageInputs& inputs, PageTitles& titles, std::string_view book, std::string_view chapter) {
+  auto text = titles.Build(book, chapter, inputs.counts, inputs.ui);
   if (!text) throw AlreadyReported();
   return *std::move(text);
+}
+
+std::string IndexText(const PageInputs& inputs, std::string_view pattern) {
+  PageTitles titles(pattern, inputs.options.txtBibleSel);
+  return PageText(inputs, titles, "", "");
 }
 
 const std::string& BookName(const PageInputs& inputs, int book) {

@@ -1,5 +1,6 @@
 #include "CustomHtml.h"
 
+#include "LineReader.h"
 #include "Paths.h"
 #include "RunTimeError.h"
 #include "WholeFile.h"
@@ -17,7 +18,10 @@ bool LoadCustomHtml(const std::string& programFolder, const CustomHtmlKind& kind
                     std::string& text, UserInterface& ui) {
   const std::string path = programFolder + std::string(kind.fileName);
   try {
-    if (FileExists(path)) text = codePage.Decode(ReadWholeFile(path));
+    if (!FileExists(path)) return true;
+    std::string bytes = ReadWholeFile(path);
+    if (bytes.starts_with(kByteOrderMark)) bytes.erase(0, kByteOrderMark.size());
+    text = codePage.Decode(bytes);
     return true;
   } catch (const RunTimeError& error) {
     Report(error, kind, kind.loadLabel, ui);

@@ -2,7 +2,6 @@
 
 #include <array>
 
-#include "Paths.h"
 #include "RecordReader.h"
 #include "WholeFile.h"
 
@@ -16,13 +15,7 @@ void ReadEncodingList(const std::string& path, const CodePage& codePage, std::ve
 
 void AppendEncodingRecord(const std::string& path, const CodePage& codePage, const EncodingRecord& record) {
   const std::array fields{codePage.Encode(record.code), codePage.Encode(record.description)};
-  std::string line = QuotedRecord(fields);
-  if (FileExists(path)) {
-    const std::string content = ReadWholeFile(path);
-    if (!content.empty() && content.back() != '\n')
-      line.insert(0, "\r\n");  // a person's editor left the last line open
-  }
-  AppendToFile(path, line);
+  AppendToFile(path, QuotedRecord(fields));
 }
 
 }  // namespace folionet

@@ -14,7 +14,6 @@ namespace folionet {
 namespace {
 
 constexpr std::size_t kChunk = std::size_t{128} << 10;
-constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
 }  // namespace
 

@@ -8,6 +8,9 @@
 
 namespace folionet {
 
+// Of UTF-8, at a file's start; it is no part of the text.
+inline constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+
 // Reads a text file line by line, in constant memory. Lines end in CR LF or LF; the last one need not end; a UTF-8
 // byte-order mark at the start is skipped; every other byte, NUL included, is passed on as it is.
 class LineReader {

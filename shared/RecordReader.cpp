@@ -14,14 +14,14 @@ std::size_t SkipBlanks(std::string_view line, std::size_t at) {
 }  // namespace
 
 // Leaves `at` on the comma that ends the field, or at the line's end.
-std::string RecordReader::TakeField(std::string_view line, std::size_t& at) const {
+void RecordReader::TakeField(std::string_view line, std::size_t& at, std::string& field) const {
   at = SkipBlanks(line, at);
   if (at == line.size() || line[at] != '"') {
     const std::size_t start = at;
     at = std::min(line.find(',', at), line.size());
-    return std::string(TrimBlanks(line.substr(start, at - start)));
+    field = TrimBlanks(line.substr(start, at - start));
+    return;
   }
-  std::string field;
   for (++at;; ++at) {
     const std::size_t quote = line.find('"', at);
     if (quote == std::string_view::npos) {
@@ -36,7 +36,6 @@ std::string RecordReader::TakeField(std::string_view line, std::size_t& at) cons
   if (at < line.size() && line[at] != ',') {
     m_lines.Fail(kInvalidProcedureCall, "Text follows the closing quote of a field: " + Quoted(line));
   }
-  return field;
 }
 
 bool RecordReader::Next(std::span<std::string> fields) {
@@ -52,7 +51,7 @@ bool RecordReader::Next(std::span<std::string> fields) {
       }
       ++at;
     }
-    fields[i] = TakeField(line, at);
+    TakeField(line, at, fields[i]);
   }
   if (at < line.size()) {
     m_lines.Fail(kInvalidProcedureCall,

@@ -30,7 +30,7 @@ class RecordReader {
   const LineReader& Lines() const { return m_lines; }
 
  private:
-  std::string TakeField(std::string_view line, std::size_t& at) const;
+  void TakeField(std::string_view line, std::size_t& at, std::string& field) const;
 
   LineReader m_lines;
 };

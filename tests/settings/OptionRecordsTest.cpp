@@ -108,6 +108,9 @@ TEST(CustomHtmlTest, EverySaveAddsALineBreak) {
   EXPECT_EQ(text, "HÉLLO —&#936;\r\n");
   EXPECT_TRUE(SaveCustomHtml(folder.Path(), kCustomHeader, codePage, text, ui));
   EXPECT_EQ(folder.Read("CustomHeader.txt"), "H\xC9LLO \x97&#936;\r\n\r\n");
+  folder.Write("CustomHeader.txt", "\xEF\xBB\xBF<p>");
+  EXPECT_TRUE(LoadCustomHtml(folder.Path(), kCustomHeader, codePage, text, ui));
+  EXPECT_EQ(text, "<p>");
   EXPECT_TRUE(ui.said.empty());
 }
 

@@ -101,6 +101,8 @@ int main(int argc, char** argv) {
   qInstallMessageHandler(handler);
   QApplication::setApplicationName(folionet::kApplicationTitle);
   QApplication::setApplicationVersion(folionet::kVersion);
+  QApplication::setDesktopFileName(QStringLiteral("folionet"));
+  QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("folionet")));
   QApplication::setQuitOnLastWindowClosed(false);
   return folionet::OpenForm(app, arguments);
 }

@@ -38,7 +38,7 @@ void StatusPanels::Set(int panel, std::string_view text) {
     m_panels[static_cast<std::size_t>(panel - 1)]->setText(ToQt(text));
     return;
   }
-  ++m_pages;
+  ++m_steps;
   m_text = ToQt(text);
   if (m_sinceShown.elapsed() < kInterval) {
     if (!m_late.isActive()) m_late.start();
@@ -48,17 +48,17 @@ void StatusPanels::Set(int panel, std::string_view text) {
   QCoreApplication::processEvents();
 }
 
-void StatusPanels::BeginRun(int pages) {
+void StatusPanels::BeginRun(int steps) {
   m_isRunning = true;
-  m_pages = 0;
-  m_progress.setRange(0, std::max(pages, 1));
+  m_steps = 0;
+  m_progress.setRange(0, std::max(steps, 1));
   m_progress.setValue(0);
   m_progress.show();
   m_sinceShown.start();
 }
 
 void StatusPanels::EndRun(bool isComplete) {
-  if (m_pages > 0) ShowProgress();
+  if (m_steps > 0) ShowProgress();
   m_late.stop();
   if (isComplete) m_progress.setValue(m_progress.maximum());
   m_progress.setVisible(isComplete);
@@ -68,7 +68,7 @@ void StatusPanels::EndRun(bool isComplete) {
 void StatusPanels::ShowProgress() {
   m_late.stop();
   m_panels[0]->setText(m_text);
-  m_progress.setValue(std::min(m_pages, m_progress.maximum()));
+  m_progress.setValue(std::min(m_steps, m_progress.maximum()));
   m_sinceShown.restart();
 }
 

@@ -13,7 +13,7 @@ class QStatusBar;
 
 namespace folionet {
 
-// The three panels of the status bar, and the progress bar, which fills by one page at every text of panel 1 while a
+// The three panels of the status bar, and the progress bar, which fills by one step at every text of panel 1 while a
 // run lasts. During a run the window is brought up to date at most every 40 ms, and once at the end, so that showing
 // progress costs next to nothing.
 class StatusPanels : public QObject {
@@ -25,7 +25,7 @@ class StatusPanels : public QObject {
   // `panel` counts from 1; others are passed over.
   void Set(int panel, std::string_view text);
 
-  void BeginRun(int pages);
+  void BeginRun(int steps);
   void EndRun(bool isComplete);
   bool IsRunning() const { return m_isRunning; }
 
@@ -37,7 +37,7 @@ class StatusPanels : public QObject {
   QElapsedTimer m_sinceShown;
   QTimer m_late;  // shows what came too early, when a box holds the run up
   QString m_text;
-  int m_pages = 0;
+  int m_steps = 0;
   bool m_isRunning = false;
 };
 

@@ -26,7 +26,7 @@ frmMain::frmMain(AppState& state, QWidget* parent)
   m_lists = new LibraryLists(state, *m_ui, this);
   m_folders = new FolderPickers(state, *m_ui, this);
   m_style = new StyleOptions(state, *m_ui, this);
-  StressCompile();
+  DressControls();
   ConnectOptions();
   ConnectCommands();
 }
@@ -69,7 +69,7 @@ void frmMain::ConnectCommands() {
 void frmMain::ShowPanel(int panel, std::string_view text) { m_panels->Set(panel, text); }
 
 void frmMain::FocusControl(std::string_view name) {
-  if (auto* control = findChild<QWidget*>(ToQt(name))) control->setFocus();
+  if (auto* control = centralWidget()->findChild<QWidget*>(ToQt(name))) control->setFocus();
 }
 
 // The check box has changed already when its click is heard.
@@ -168,17 +168,24 @@ void frmMain::closeEvent(QCloseEvent* event) {
 
 void frmMain::changeEvent(QEvent* event) {
   QMainWindow::changeEvent(event);
-  if (event->type() == QEvent::PaletteChange && m_ui->cmdCompile != nullptr) StressCompile();
+  if (event->type() == QEvent::PaletteChange && m_ui->cmdCompile != nullptr) DressControls();
 }
 
-// Gives the one button that everything leads to the desktop's accent.
-void frmMain::StressCompile() {
-  QPalette colours = palette();
+// Gives the one button that everything leads to the desktop's accent, and boxes that only show the window's ground.
+void frmMain::DressControls() {
+  constexpr int kDarker = 120;  // percent; white text needs the contrast
+  const QPalette desktop = palette();
+  const QColor accent = desktop.color(QPalette::Active, QPalette::Highlight);
+  const bool isLightText = desktop.color(QPalette::Active, QPalette::HighlightedText).lightness() > accent.lightness();
+  QPalette button = desktop;
+  QPalette shown = desktop;
   for (const auto group : {QPalette::Active, QPalette::Inactive}) {
-    colours.setColor(group, QPalette::Button, palette().color(QPalette::Active, QPalette::Highlight));
-    colours.setColor(group, QPalette::ButtonText, palette().color(QPalette::Active, QPalette::HighlightedText));
+    button.setColor(group, QPalette::Button, isLightText ? accent.darker(kDarker) : accent);
+    button.setColor(group, QPalette::ButtonText, desktop.color(QPalette::Active, QPalette::HighlightedText));
+    shown.setColor(group, QPalette::Base, desktop.color(group, QPalette::Window));
   }
-  m_ui->cmdCompile->setPalette(colours);
+  m_ui->cmdCompile->setPalette(button);
+  for (QLineEdit* box : {m_ui->txtBibleSel, m_ui->txtFilename, m_ui->txtOutputPath}) box->setPalette(shown);
 }
 
 }  // namespace folionet

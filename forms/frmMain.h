@@ -64,7 +64,7 @@ class frmMain : public QMainWindow {
   void SaveDefaults();
   void RestoreAll();
   void End();
-  void StressCompile();
+  void DressControls();
 
   AppState& m_state;
   std::unique_ptr<Ui::frmMain> m_ui;

@@ -58,10 +58,10 @@ class MainFormTest : public testing::Test {
     return goesOn;
   }
 
-  // The control of that name.
+  // The control of that name; dialogs have some of the same.
   template <typename Widget = QWidget>
   Widget& Get(const char* name) const {
-    auto* widget = m_form->findChild<Widget*>(QLatin1String(name));
+    auto* widget = m_form->centralWidget()->findChild<Widget*>(QLatin1String(name));
     if (widget == nullptr) throw std::runtime_error(std::string("no control ") + name);
     return *widget;
   }

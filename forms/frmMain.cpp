@@ -5,6 +5,7 @@
 
 #include "BuildInfo.h"
 #include "Compile.h"
+#include "Contrast.h"
 #include "FolderPickers.h"
 #include "HelpWindow.h"
 #include "LibraryLists.h"
@@ -18,6 +19,20 @@
 #include "ui_frmMain.h"
 
 namespace folionet {
+namespace {
+
+// `ground`, made darker until light text can be read on it.
+QColor ReadableGround(QColor ground, const QColor& text) {
+  constexpr double kEnough = 5.5;  // styles make a button's upper half lighter than its colour
+  constexpr int kStep = 105;       // percent
+  while (text.lightness() > ground.lightness() && ground.lightness() > 0 &&
+         ContrastRatio(FromQt(ground), FromQt(text)) < kEnough) {
+    ground = ground.darker(kStep);
+  }
+  return ground;
+}
+
+}  // namespace
 
 frmMain::frmMain(AppState& state, QWidget* parent)
     : QMainWindow(parent), m_state(state), m_ui(std::make_unique<Ui::frmMain>()), m_dialogs(state, this) {
@@ -173,19 +188,22 @@ void frmMain::changeEvent(QEvent* event) {
 
 // Gives the one button that everything leads to the desktop's accent, and boxes that only show the window's ground.
 void frmMain::DressControls() {
-  constexpr int kDarker = 120;  // percent; white text needs the contrast
   const QPalette desktop = palette();
-  const QColor accent = desktop.color(QPalette::Active, QPalette::Highlight);
-  const bool isLightText = desktop.color(QPalette::Active, QPalette::HighlightedText).lightness() > accent.lightness();
+  const QColor text = desktop.color(QPalette::Active, QPalette::HighlightedText);
+  const QColor accent = ReadableGround(desktop.color(QPalette::Active, QPalette::Highlight), text);
+  QColor hint = desktop.color(QPalette::Active, QPalette::Text);
+  hint.setAlphaF(0.6F);  // not every desktop's palette has a colour for hints that can be read on its ground
   QPalette button = desktop;
-  QPalette shown = desktop;
+  QPalette box = desktop;
   for (const auto group : {QPalette::Active, QPalette::Inactive}) {
-    button.setColor(group, QPalette::Button, isLightText ? accent.darker(kDarker) : accent);
-    button.setColor(group, QPalette::ButtonText, desktop.color(QPalette::Active, QPalette::HighlightedText));
-    shown.setColor(group, QPalette::Base, desktop.color(group, QPalette::Window));
+    button.setColor(group, QPalette::Button, accent);
+    button.setColor(group, QPalette::ButtonText, text);
+    box.setColor(group, QPalette::PlaceholderText, hint);
   }
   m_ui->cmdCompile->setPalette(button);
-  for (QLineEdit* box : {m_ui->txtBibleSel, m_ui->txtFilename, m_ui->txtOutputPath}) box->setPalette(shown);
+  m_ui->txthttpRoot->setPalette(box);
+  box.setColor(QPalette::Base, desktop.color(QPalette::Window));
+  for (QLineEdit* shown : {m_ui->txtBibleSel, m_ui->txtFilename, m_ui->txtOutputPath}) shown->setPalette(box);
 }
 
 }  // namespace folionet

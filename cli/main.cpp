@@ -7,6 +7,7 @@
 #include "CompileCommand.h"
 #include "ListCommand.h"
 #include "Session.h"
+#include "VerifyCommand.h"
 
 namespace folionet {
 namespace {
@@ -81,11 +82,19 @@ ExitStatus Main(int argc, char** argv) {
   check->add_option("--translation", translation, "Display name or file stem (every translation)")
       ->type_name("NAME|STEM");
 
+  std::string folder;
+  std::string indexName;
+  CLI::App* verify =
+      app.add_subcommand("verify", "Reads a written site through and names every link that leads nowhere");
+  verify->add_option("FOLDER", folder, "The folder of the site")->required();
+  verify->add_option("--index", indexName, "File name of the index page (index.html or index.htm)")->type_name("NAME");
+
   bool parsed = false;
   const ExitStatus status = Parse(app, argc, argv, parsed);
   if (!parsed) return status;
   if (*compile) return RunCompile(common, arguments);
   if (*list) return RunList(common, subject);
+  if (*verify) return RunVerify(folder, indexName);
   return RunCheck(common, translation);
 }
 

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+namespace folionet {
+
+// A page that names something that is not there.
+struct BrokenLink {
+  std::string page;    // file name
+  std::size_t line;    // of the page, from 1
+  std::string target;  // as the page has it, decoded to UTF-8
+  std::string why;
+};
+
+// What is found in a written site.
+struct SiteReport {
+  std::vector<BrokenLink> broken;
+  std::vector<std::string> unreachable;  // pages that the index does not lead to, however many links are followed
+  std::size_t pages = 0;
+  std::size_t links = 0;  // those that lead to files of the site
+
+  bool IsSound() const { return broken.empty(); }
+};
+
+// Reads every page (".html" and ".htm") of a folder, and looks for the file behind each link, image and style sheet
+// that it names: in the folder or below it, in exactly this letter case. Addresses with a scheme or a host are not
+// followed. `indexName` is the file name of the index page. Throws RunTimeError when the folder or a page cannot be
+// read, or when there is no such index page.
+SiteReport CheckSite(const std::string& folder, const std::string& indexName);
+
+// The index page of a folder: "index.html" or "index.htm"; empty when there is neither.
+std::string FindIndexPage(const std::string& folder);
+
+}  // namespace folionet

@@ -10,9 +10,10 @@ KeyReleases::KeyReleases(QWidget& form, std::function<bool()> refresh) : QObject
   for (QWidget* control : form.findChildren<QWidget*>()) control->installEventFilter(this);
 }
 
-// An event that a control leaves is offered to the widgets around it, one by one.
+// An event that a control leaves is offered to the widgets around it, one by one. The same address alone says little:
+// the next event may be made in the same place.
 bool KeyReleases::IsPassedOn(const QWidget* watched, const QEvent* event) {
-  const bool isPassedOn = event == m_lastEvent && watched->isAncestorOf(m_lastWatched);
+  const bool isPassedOn = event == m_lastEvent && watched != m_lastWatched && watched->isAncestorOf(m_lastWatched);
   m_lastEvent = event;
   m_lastWatched = watched;
   return isPassedOn;

@@ -38,7 +38,7 @@ void SampleLink::ShowLook() {
 
 QSize SampleLink::sizeHint() const {
   const auto size = [this](const QFont& font) { return QFontMetrics(font).size(Qt::TextSingleLine, text()); };
-  const int slant = fontMetrics().averageCharWidth();
+  const int slant = QFontMetrics(m_plain).averageCharWidth();
   return size(m_plain).expandedTo(size(m_rollover)) + QSize(slant, 0);
 }
 

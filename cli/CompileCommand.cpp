@@ -104,7 +104,7 @@ ExitStatus RunCompile(const CommonOptions& common, const CompileArguments& argum
   request.texts.BodyLinkTag = effects.BodyLinkTag;
 
   SiteChanges changes;
-  request.changes = &changes;
+  if (arguments.dryRun || arguments.listChanged) request.changes = &changes;
   request.sitemapAddress = arguments.sitemap;
   request.dryRun = arguments.dryRun;
   switch (cmdCompile_Click(request, session.glob, session.ui)) {

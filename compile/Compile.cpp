@@ -38,7 +38,7 @@ class CompileRun {
         m_names(glob.cboStartBook, request.options.chkUse83, codePage),
         m_counts(glob),
         m_titles(m_options),
-        m_inputs{m_options, m_glob, m_names, m_counts, m_backToString, m_indexFileName, m_titles, m_ui} {}
+        m_inputs{m_options, m_glob, m_names, m_counts, m_linkToMain, m_indexFileName, m_titles, m_ui} {}
 
   // The link back, the colours and what else is fixed for the run. Throws AlreadyReported.
   void Prepare() {
@@ -46,9 +46,8 @@ class CompileRun {
     m_context.OutputFolder = m_request.txtOutputPath;
     m_context.PageFile.SetDryRun(m_request.dryRun);
     m_context.StyleSheetLink = R"(<link rel="STYLESHEET" type="text/css" href="default.css">)";
-    auto link = SetString(m_options, m_counts, m_ui);
+    const auto link = SetString(m_options, m_counts, m_ui);
     if (!link) throw AlreadyReported();
-    m_backToString = *std::move(link);
     m_context.BibleTitle = m_options.txtBibleSel;
     m_context.FontName = m_options.txtSample.FontName;
     m_context.BackColourHex = HtmlColour(m_options.txtSample.BackColor);
@@ -58,6 +57,7 @@ class CompileRun {
       throw RunTimeError(kOverflow, "FontSize", std::to_string(m_options.txtSample.FontSize));
     }
     m_context.FontSizeNumber = static_cast<std::int16_t>(size);
+    m_linkToMain = BuildLinkToMain(m_options, *link, m_context.FontSizeNumber, m_context.FontName);
     const auto [base, extension] = SplitIndexAddress(m_options.txthttpRoot, m_options.chkUse83);
     m_context.IndexBaseName = base;
     m_context.IndexExtension = extension;
@@ -192,7 +192,7 @@ class CompileRun {
   std::string m_indexFileName;
   PageNames m_names;
   VerseCounts m_counts;
-  std::string m_backToString;
+  std::string m_linkToMain;
   ChapterTitles m_titles;
   PageInputs m_inputs;
   CompileContext m_context;

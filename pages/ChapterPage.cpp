@@ -2,18 +2,18 @@
 
 #include "BuildInfo.h"
 #include "ChapterNav.h"
-#include "Html.h"
-#include "LinkBack.h"
 #include "PageHead.h"
 
 namespace folionet {
 namespace {
 
-std::string Heading(const ChapterHead& head, const PageOptions& options) {
+void PrintHeading(PageFile& page, const ChapterHead& head, const PageOptions& options) {
   const std::string name = std::string(head.bookName) + " " + std::to_string(head.chapterNumber);
-  if (options.chkCSS) return "<h2>" + name + "</h2>";
-  return StyledHeading(options.txtSample, "<p><font face=" + InQuotes(head.fontFace) + " size=" +
-                                              InQuotes(std::to_string(head.fontSize)) + "><u>" + name + "<br><br></u>");
+  if (options.chkCSS) {
+    page.Print("<h2>", name, "</h2>");
+  } else {
+    PrintStyledHeading(page, options.txtSample, head.fontFace, head.fontSize, name);
+  }
 }
 
 // Three font tags are opened and one is closed, and the first has no blank before "size=": that is meant.
@@ -42,9 +42,9 @@ void WriteChapterHead(const ChapterHead& head, const PageInputs& inputs, Compile
       {version, head.language, head.charset, head.keywords, head.description, title, head.backColour, head.textColour},
       options, context);
   if (!context.CustomHeader.empty()) page.Print(context.CustomHeader);
-  page.Print(BuildLinkToMain(options, inputs.txtBackToString, head.fontSize, std::string(head.fontFace)));
+  page.Print(inputs.linkToMain);
   page.Print("<p>&nbsp;</p>");
-  page.Print(Heading(head, options));
+  PrintHeading(page, head, options);
   page.Print("");
   if (context.NavigationBook != head.bookNumber) {
     context.Navigation = BuildChapterNav(inputs, context, head.bookNumber);
@@ -53,7 +53,7 @@ void WriteChapterHead(const ChapterHead& head, const PageInputs& inputs, Compile
   page.Print(context.Navigation);
   page.Print("\r\n");
   page.Print("<blockquote>");
-  if (!options.chkCSS) page.Print(JustifiedParagraph(head.fontFace, head.fontSize));
+  if (!options.chkCSS) PrintJustifiedParagraph(page, head.fontFace, head.fontSize);
 }
 
 void BuildVerseLine(const VerseLine& verse, const PageOptions& options, CompileContext& context) {

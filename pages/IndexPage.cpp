@@ -29,13 +29,6 @@ std::string Listing(const IndexPage& index, const PageInputs& inputs, const Code
   return text;
 }
 
-std::string Heading(const IndexPage& index, const PageOptions& options) {
-  if (options.chkCSS) return "<h1>" + options.txtBibleSel + "</h1>";
-  return StyledHeading(options.txtSample, "<p><font face=" + InQuotes(index.fontFace) +
-                                              " size=" + InQuotes(std::to_string(index.fontSize)) + "><u>" +
-                                              options.txtBibleSel + "<br><br></u>");
-}
-
 }  // namespace
 
 void WriteIndexPage(const IndexPage& index, const PageInputs& inputs, const CodePage& codePage,
@@ -50,11 +43,15 @@ void WriteIndexPage(const IndexPage& index, const PageInputs& inputs, const Code
                     options, context);
   page.Print(context.CustomHeader);  // also when empty, unlike on chapter pages
   page.Print("<p>&nbsp;</p>");
-  page.Print(Heading(index, options));
+  if (options.chkCSS) {
+    page.Print("<h1>", options.txtBibleSel, "</h1>");
+  } else {
+    PrintStyledHeading(page, options.txtSample, index.fontFace, index.fontSize, options.txtBibleSel);
+  }
   page.Print("<blockquote>");
   if (!options.chkCSS) page.Print("<p align=" + InQuotes(context.LinkAlignment) + ">");
   page.Print(Listing(index, inputs, codePage, context));
-  if (!options.chkCSS) page.Print(JustifiedParagraph(index.fontFace, index.fontSize));
+  if (!options.chkCSS) PrintJustifiedParagraph(page, index.fontFace, index.fontSize);
 }
 
 }  // namespace folionet

@@ -1,7 +1,6 @@
 #include "PageHead.h"
 
 #include "BuildInfo.h"
-#include "Html.h"
 
 namespace folionet {
 namespace {
@@ -43,14 +42,14 @@ void PrintDocumentHead(const DocumentHead& head, const PageOptions& options, Com
   PrintBodyLine(head, options, context);
 }
 
-std::string StyledHeading(const SampleText& sample, const std::string& heading) {
-  const std::string bold = "<B>" + heading + (sample.FontBold ? "" : "</B>");
-  return sample.FontItalic ? "<I>" + bold : bold;
+void PrintStyledHeading(PageFile& page, const SampleText& sample, std::string_view fontFace, int fontSize,
+                        std::string_view heading) {
+  page.Add(sample.FontItalic ? "<I><B>" : "<B>", "<p><font face=\"", fontFace, "\" size=\"", std::to_string(fontSize));
+  page.Print("\"><u>", heading, "<br><br></u>", sample.FontBold ? "" : "</B>");
 }
 
-std::string JustifiedParagraph(std::string_view fontFace, int fontSize) {
-  return "<p align=" + InQuotes("justify") + "><font face=" + InQuotes(fontFace) +
-         " size= " + InQuotes(std::to_string(fontSize)) + ">";
+void PrintJustifiedParagraph(PageFile& page, std::string_view fontFace, int fontSize) {
+  page.Print("<p align=\"justify\"><font face=\"", fontFace, "\" size= \"", std::to_string(fontSize), "\">");
 }
 
 }  // namespace folionet

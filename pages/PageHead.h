@@ -23,12 +23,13 @@ struct DocumentHead {
 // Prints the lines from "<html>" to the body tag.
 void PrintDocumentHead(const DocumentHead& head, const PageOptions& options, CompileContext& context);
 
-// A heading without a style sheet, enclosed as the sample's font asks: bold in either case, but a bold font leaves its
-// tag open so that the whole page is bold, and so does an italic one; WritePageFoot closes both.
-std::string StyledHeading(const SampleText& sample, const std::string& heading);
+// Prints a heading without a style sheet, enclosed as the sample's font asks: bold in either case, but a bold font
+// leaves its tag open so that the whole page is bold, and so does an italic one; PrintPageFoot closes both.
+void PrintStyledHeading(PageFile& page, const SampleText& sample, std::string_view fontFace, int fontSize,
+                        std::string_view heading);
 
-// The line that opens the verses of a chapter, and stands again at the end of the index page. The blank after "size="
-// is meant.
-std::string JustifiedParagraph(std::string_view fontFace, int fontSize);
+// Prints the line that opens the verses of a chapter, and stands again at the end of the index page. The blank after
+// "size=" is meant.
+void PrintJustifiedParagraph(PageFile& page, std::string_view fontFace, int fontSize);
 
 }  // namespace folionet

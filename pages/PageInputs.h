@@ -29,8 +29,8 @@ struct PageInputs {
   const ModGlob& glob;
   const PageNames& names;
   const VerseCounts& counts;
-  const std::string& txtBackToString;  // of SetString
-  const std::string& indexFileName;    // UTF-8
+  const std::string& linkToMain;     // of BuildLinkToMain
+  const std::string& indexFileName;  // UTF-8
   ChapterTitles& titles;
   UserInterface& ui;
 };

@@ -5,6 +5,7 @@
 #include <QDir>
 #include <QIcon>
 #include <cstdio>
+#include <cstdlib>
 
 #include "AppState.h"
 #include "BuildInfo.h"
@@ -52,13 +53,15 @@ bool Parse(int argc, char** argv, Arguments& arguments, int& status) {
   }
 }
 
-// Qt ends a program that finds no display by abort(); a person is told what to do instead.
+// Qt ends a program that finds no display by abort(); a person is told what to do instead. What Qt has to say helps
+// only where there should be a display.
 void TellNoDisplay(QtMsgType type, const QMessageLogContext& /*context*/, const QString& message) {
   if (type != QtFatalMsg) return;
-  std::fprintf(
-      stderr,
-      "folionet: the form cannot be opened, for there is no display. \"folionet-cli compile\" needs none.\n%s\n",
-      message.toLocal8Bit().constData());
+  const bool hasDisplay = std::getenv("DISPLAY") != nullptr || std::getenv("WAYLAND_DISPLAY") != nullptr;
+  const QByteArray detail = hasDisplay ? message.trimmed().toLocal8Bit() + '\n' : QByteArray();
+  std::fprintf(stderr,
+               "folionet: the form cannot be opened, for there is no display. \"folionet-cli compile\" needs none.\n%s",
+               detail.constData());
   std::fflush(stderr);
   _exit(kExitFailed);
 }
@@ -79,7 +82,8 @@ int OpenForm(QApplication& app, const Arguments& arguments) {
   QDir::setCurrent(ToQt(state.programFolder));
   frmMain form(state);
   ui.SetForm(&form);
-  QObject::connect(&form, &frmMain::Ended, &app, &QApplication::quit);
+  // Not quit(), which would ask every window to close first.
+  QObject::connect(&form, &frmMain::Ended, &app, [] { QApplication::exit(kExitDone); });
   int status = kExitFailed;
   if (form.LoadForm()) {
     form.show();

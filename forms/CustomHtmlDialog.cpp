@@ -7,7 +7,7 @@
 namespace folionet {
 
 CustomHtmlDialog::CustomHtmlDialog(AppState& state, const CustomHtmlDialogKind& kind, QWidget* parent)
-    : QDialog(parent), m_state(state), m_kind(kind), m_ui(std::make_unique<Ui::CustomHtmlDialog>()) {
+    : LoadedDialog(state.ui, parent), m_state(state), m_kind(kind), m_ui(std::make_unique<Ui::CustomHtmlDialog>()) {
   m_ui->setupUi(this);
   setObjectName(QLatin1String(kind.formName));
   setWindowTitle(QLatin1String(kind.caption));
@@ -19,16 +19,20 @@ CustomHtmlDialog::CustomHtmlDialog(AppState& state, const CustomHtmlDialogKind& 
 
 CustomHtmlDialog::~CustomHtmlDialog() = default;
 
-void CustomHtmlDialog::LoadForm() {
+void CustomHtmlDialog::Load() {
   std::string text = m_ui->Text1->Text();
-  if (!LoadCustomHtml(m_state.programFolder, m_kind.file, m_state.codePage, text, m_state.ui)) return;
+  m_isUnread = !LoadCustomHtml(m_state.programFolder, m_kind.file, m_state.codePage, text, m_state.ui);
+  if (m_isUnread) return;
   m_ui->Text1->SetText(text);
   m_state.texts.*m_kind.sharedText = text;
   m_ui->Label1->setText(QLatin1String(m_kind.note));
 }
 
+// An empty box does not replace a file that could not be read.
 bool CustomHtmlDialog::Save() {
-  return SaveCustomHtml(m_state.programFolder, m_kind.file, m_state.codePage, m_ui->Text1->Text(), m_state.ui);
+  const std::string text = m_ui->Text1->Text();
+  if (m_isUnread && text.empty()) return true;
+  return SaveCustomHtml(m_state.programFolder, m_kind.file, m_state.codePage, text, m_state.ui);
 }
 
 void CustomHtmlDialog::Done() {

@@ -1,11 +1,11 @@
 #pragma once
 
-#include <QDialog>
 #include <memory>
 #include <string>
 
 #include "AppState.h"
 #include "CustomHtml.h"
+#include "LoadedDialog.h"
 
 namespace folionet {
 
@@ -25,14 +25,11 @@ struct CustomHtmlDialogKind {
 
 // Edits a block of HTML for every page, which is kept in a file of its own. Pages use the shared text, which changes
 // only when the file is loaded and by Done. Closing the dialog otherwise saves the file and leaves the shared text.
-class CustomHtmlDialog : public QDialog {
+class CustomHtmlDialog : public LoadedDialog {
   Q_OBJECT
 
  public:
   ~CustomHtmlDialog() override;
-
-  // Reads the file into the box and the box into the shared text. A failure is reported, and the note is then not set.
-  void LoadForm();
 
   // Saves the file, then hides the dialog. It hides also when saving failed, which was reported: a person must be able
   // to leave. The text stays in the box.
@@ -41,12 +38,16 @@ class CustomHtmlDialog : public QDialog {
  protected:
   CustomHtmlDialog(AppState& state, const CustomHtmlDialogKind& kind, QWidget* parent);
 
+  // Reads the file into the box and the box into the shared text. A failure is reported, and the note is then not set.
+  void Load() override;
+
  private:
   void Done();
   bool Save();
 
   AppState& m_state;
   const CustomHtmlDialogKind& m_kind;
+  bool m_isUnread = false;  // there is a file and reading it failed
   std::unique_ptr<Ui::CustomHtmlDialog> m_ui;
 };
 

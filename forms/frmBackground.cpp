@@ -17,7 +17,7 @@ std::string FileName(const std::string& path) { return path.substr(path.find_las
 }  // namespace
 
 frmBackground::frmBackground(AppState& state, QWidget* parent)
-    : QDialog(parent),
+    : LoadedDialog(state.ui, parent),
       m_state(state),
       m_record(state.options.frmBackground),
       m_ui(std::make_unique<Ui::frmBackground>()) {
@@ -36,7 +36,7 @@ frmBackground::frmBackground(AppState& state, QWidget* parent)
 
 frmBackground::~frmBackground() = default;
 
-void frmBackground::LoadForm() {
+void frmBackground::Load() {
   LoadBackground(m_state.store, m_record);
   m_ui->chkWaterMark->setChecked(m_record.chkWaterMark);
   m_ui->txtImagepath->setText(ToQt(m_record.txtImagepath));

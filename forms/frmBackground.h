@@ -1,10 +1,10 @@
 #pragma once
 
-#include <QDialog>
 #include <memory>
 #include <string>
 
 #include "AppState.h"
+#include "LoadedDialog.h"
 
 namespace folionet {
 
@@ -13,17 +13,16 @@ class frmBackground;
 }
 
 // Names the background image of the pages and says whether it stays in place as the text scrolls.
-class frmBackground : public QDialog {
+class frmBackground : public LoadedDialog {
   Q_OBJECT
 
  public:
   explicit frmBackground(AppState& state, QWidget* parent = nullptr);
   ~frmBackground() override;
 
-  // Reads both options. Throws RunTimeError for a stored value that is no number.
-  void LoadForm();
-
  private:
+  void Load() override;
+
   void SelectImage();
   void SaveImage();
 

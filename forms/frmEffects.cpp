@@ -14,8 +14,14 @@
 namespace folionet {
 
 frmEffects::frmEffects(AppState& state, QWidget* parent)
-    : QDialog(parent), m_state(state), m_record(state.options.frmEffects), m_ui(std::make_unique<Ui::frmEffects>()) {
-  m_record = {};
+    : LoadedDialog(state.ui, parent),
+      m_state(state),
+      m_record(state.options.frmEffects),
+      m_ui(std::make_unique<Ui::frmEffects>()) {
+  SetDefaultHyperlinkColors(m_state.store, m_record, 1);
+  for (Swatch* swatch : {&m_record.lblHyperlink, &m_record.lblActive, &m_record.lblFollowed, &m_record.lblRColor}) {
+    swatch->isDefault = false;
+  }
   m_ui->setupUi(this);
   ConnectRecord();
   for (const auto& [button, swatch] :
@@ -48,7 +54,7 @@ void frmEffects::ConnectRecord() {
   }
 }
 
-void frmEffects::LoadForm() {
+void frmEffects::Load() {
   m_ui->cboFont->clear();
   m_ui->cboFont->addItems(QFontDatabase::families());
   m_record.chkRollover = true;
@@ -63,8 +69,8 @@ void frmEffects::LoadForm() {
 }
 
 void frmEffects::showEvent(QShowEvent* event) {
+  LoadedDialog::showEvent(event);
   ShowLooks();  // the page's colours may be others than when the dialog was last open
-  QDialog::showEvent(event);
 }
 
 void frmEffects::PickColour(Swatch& swatch) {

@@ -1,9 +1,9 @@
 #pragma once
 
-#include <QDialog>
 #include <memory>
 
 #include "AppState.h"
+#include "LoadedDialog.h"
 
 namespace folionet {
 
@@ -13,7 +13,7 @@ class frmEffects;
 
 // Sets the colours of the pages' links and the style of a link under the mouse. The shared texts RolloverStyle and
 // BodyLinkTag change at load, after a rollover colour was picked, and at Close.
-class frmEffects : public QDialog {
+class frmEffects : public LoadedDialog {
   Q_OBJECT
 
  public:
@@ -21,11 +21,9 @@ class frmEffects : public QDialog {
   explicit frmEffects(AppState& state, QWidget* parent = nullptr);
   ~frmEffects() override;
 
-  // Lists the fonts, reads every option and builds the shared texts. Throws RunTimeError for a stored value that is no
-  // number; what was read by then is shown.
-  void LoadForm();
-
  protected:
+  // Lists the fonts, reads every option and builds the shared texts.
+  void Load() override;
   void showEvent(QShowEvent* event) override;
 
  private:

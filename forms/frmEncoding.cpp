@@ -14,7 +14,7 @@
 namespace folionet {
 
 frmEncoding::frmEncoding(AppState& state, QWidget* parent)
-    : QDialog(parent), m_state(state), m_ui(std::make_unique<Ui::frmEncoding>()) {
+    : LoadedDialog(state.ui, parent), m_state(state), m_ui(std::make_unique<Ui::frmEncoding>()) {
   m_ui->setupUi(this);
   connect(m_ui->cboLang, &QComboBox::textActivated, m_ui->txtLang, &QLineEdit::setText);
   connect(m_ui->cboCharset, &QComboBox::textActivated, m_ui->txtCharset, &QLineEdit::setText);
@@ -26,13 +26,7 @@ frmEncoding::frmEncoding(AppState& state, QWidget* parent)
 
 frmEncoding::~frmEncoding() = default;
 
-void frmEncoding::showEvent(QShowEvent* event) {
-  if (!m_isLoaded) LoadForm();
-  QDialog::showEvent(event);
-}
-
-void frmEncoding::LoadForm() {
-  m_isLoaded = true;
+void frmEncoding::Load() {
   m_ui->cboLang->clear();
   m_ui->cboCharset->clear();
   PopCombo();
@@ -67,7 +61,7 @@ void frmEncoding::Fill(const char* fileName, const char* key, TextCombo& list, Q
 void frmEncoding::AddNew() {
   if (m_addNew == nullptr) {
     m_addNew = new frmAddnew(m_state, this);
-    connect(m_addNew, &frmAddnew::ListsChanged, this, &frmEncoding::LoadForm);
+    connect(m_addNew, &frmAddnew::ListsChanged, this, &frmEncoding::Load);
   }
   openModal(*m_addNew);
 }

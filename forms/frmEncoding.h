@@ -1,10 +1,10 @@
 #pragma once
 
-#include <QDialog>
 #include <functional>
 #include <memory>
 
 #include "AppState.h"
+#include "LoadedDialog.h"
 
 class QLineEdit;
 
@@ -18,16 +18,12 @@ class frmAddnew;
 
 // Chooses the language and the character set that the pages declare. The lists' entries are stored; what was typed into
 // the text boxes is used until the program ends.
-class frmEncoding : public QDialog {
+class frmEncoding : public LoadedDialog {
   Q_OBJECT
 
  public:
   explicit frmEncoding(AppState& state, QWidget* parent = nullptr);
   ~frmEncoding() override;
-
-  // Fills the lists from enc.txt and lang.txt and shows the stored entries. A failure is reported. Runs by itself when
-  // the dialog is first shown, unless it was run before.
-  void LoadForm();
 
   // As cmdDone, but hides the dialog also after a failure, which was reported: a person must be able to leave.
   void reject() override;
@@ -36,7 +32,8 @@ class frmEncoding : public QDialog {
   std::function<void(QDialog&)> openModal = [](QDialog& dialog) { dialog.exec(); };
 
  protected:
-  void showEvent(QShowEvent* event) override;
+  // Fills the lists from enc.txt and lang.txt and shows the stored entries. A failure is reported.
+  void Load() override;
 
  private:
   void PopCombo();
@@ -48,7 +45,6 @@ class frmEncoding : public QDialog {
   AppState& m_state;
   std::unique_ptr<Ui::frmEncoding> m_ui;
   frmAddnew* m_addNew = nullptr;  // made when first opened
-  bool m_isLoaded = false;
 };
 
 }  // namespace folionet

@@ -9,7 +9,7 @@
 namespace folionet {
 
 frmKeywords::frmKeywords(AppState& state, QWidget* parent)
-    : QDialog(parent), m_state(state), m_ui(std::make_unique<Ui::frmKeywords>()) {
+    : LoadedDialog(state.ui, parent), m_state(state), m_ui(std::make_unique<Ui::frmKeywords>()) {
   m_ui->setupUi(this);
   MetaOptions& record = m_state.options.frmKeywords;
   Follow(m_ui->txtKeywordsI, record.txtKeywordsI);
@@ -23,7 +23,7 @@ frmKeywords::frmKeywords(AppState& state, QWidget* parent)
 
 frmKeywords::~frmKeywords() = default;
 
-void frmKeywords::LoadForm() {
+void frmKeywords::Load() {
   MetaOptions& record = m_state.options.frmKeywords;
   LoadMETA(m_state.store, record);
   m_ui->txtKeywordsI->SetText(record.txtKeywordsI);

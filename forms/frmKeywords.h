@@ -1,9 +1,9 @@
 #pragma once
 
-#include <QDialog>
 #include <memory>
 
 #include "AppState.h"
+#include "LoadedDialog.h"
 
 namespace folionet {
 
@@ -13,17 +13,17 @@ class frmKeywords;
 
 // Edits the META keywords and descriptions of the index page and of the chapter pages. The record follows the boxes as
 // typed, saved or not; previews follow every key release.
-class frmKeywords : public QDialog {
+class frmKeywords : public LoadedDialog {
   Q_OBJECT
 
  public:
   explicit frmKeywords(AppState& state, QWidget* parent = nullptr);
   ~frmKeywords() override;
 
-  // Reads the four templates; the previews stay as they are. Throws RunTimeError.
-  void LoadForm();
-
  private:
+  // Reads the four templates; the previews stay as they are.
+  void Load() override;
+
   bool RefreshTitles();
   void Close();
 

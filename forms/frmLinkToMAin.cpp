@@ -16,7 +16,7 @@
 namespace folionet {
 
 frmLinkToMAin::frmLinkToMAin(AppState& state, QWidget* parent)
-    : QDialog(parent),
+    : LoadedDialog(state.ui, parent),
       m_state(state),
       m_record(state.options.frmLinkToMAin),
       m_ui(std::make_unique<Ui::frmLinkToMAin>()) {
@@ -37,7 +37,7 @@ frmLinkToMAin::frmLinkToMAin(AppState& state, QWidget* parent)
 
 frmLinkToMAin::~frmLinkToMAin() = default;
 
-void frmLinkToMAin::LoadForm() {
+void frmLinkToMAin::Load() {
   const auto show = [this] {
     m_ui->txtLinkToMain->setText(ToQt(m_record.txtLinkToMain));
     ShowJustification();

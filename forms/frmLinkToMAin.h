@@ -1,9 +1,9 @@
 #pragma once
 
-#include <QDialog>
 #include <memory>
 
 #include "AppState.h"
+#include "LoadedDialog.h"
 
 namespace folionet {
 
@@ -13,21 +13,20 @@ class frmLinkToMAin;
 
 // Edits the link that every chapter page carries back to the index page. Alignment and size are saved as they change,
 // the text at Close.
-class frmLinkToMAin : public QDialog {
+class frmLinkToMAin : public LoadedDialog {
   Q_OBJECT
 
  public:
   explicit frmLinkToMAin(AppState& state, QWidget* parent = nullptr);
   ~frmLinkToMAin() override;
 
-  // Reads text, alignment and size, and builds the HTML of the link. Throws RunTimeError for a stored value that is no
-  // number; what was read by then is shown.
-  void LoadForm();
-
   // Whether the size can be chosen; with a style sheet it cannot.
   void SetSizeEnabled(bool isEnabled);
 
  private:
+  // Reads text, alignment and size, and builds the HTML of the link.
+  void Load() override;
+
   void Justify(int justification);
   void ShowJustification();
   void SetFontSize(int size);

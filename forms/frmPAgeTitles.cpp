@@ -9,7 +9,7 @@
 namespace folionet {
 
 frmPAgeTitles::frmPAgeTitles(AppState& state, QWidget* parent)
-    : QDialog(parent), m_state(state), m_ui(std::make_unique<Ui::frmPAgeTitles>()) {
+    : LoadedDialog(state.ui, parent), m_state(state), m_ui(std::make_unique<Ui::frmPAgeTitles>()) {
   m_ui->setupUi(this);
   Follow(m_ui->txtIndex_html, m_state.options.frmPAgeTitles.txtIndex_html);
   Follow(m_ui->txtPageTitles, m_state.options.frmPAgeTitles.txtPageTitles);
@@ -26,7 +26,7 @@ frmPAgeTitles::frmPAgeTitles(AppState& state, QWidget* parent)
 
 frmPAgeTitles::~frmPAgeTitles() = default;
 
-void frmPAgeTitles::LoadForm() {
+void frmPAgeTitles::Load() {
   PageTitleOptions& titles = m_state.options.frmPAgeTitles;
   LoadTitles(m_state.store, titles);
   m_ui->txtIndex_html->setText(ToQt(titles.txtIndex_html));

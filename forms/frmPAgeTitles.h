@@ -1,9 +1,9 @@
 #pragma once
 
-#include <QDialog>
 #include <memory>
 
 #include "AppState.h"
+#include "LoadedDialog.h"
 
 namespace folionet {
 
@@ -13,17 +13,17 @@ class frmPAgeTitles;
 
 // Edits the title templates of the index page and of the chapter pages. The record follows the boxes as typed; previews
 // follow every key release.
-class frmPAgeTitles : public QDialog {
+class frmPAgeTitles : public LoadedDialog {
   Q_OBJECT
 
  public:
   explicit frmPAgeTitles(AppState& state, QWidget* parent = nullptr);
   ~frmPAgeTitles() override;
 
-  // Reads both templates. Throws RunTimeError.
-  void LoadForm();
-
  private:
+  // Reads both templates.
+  void Load() override;
+
   void SaveTitles();
   bool ShowPreviews();
 

@@ -84,14 +84,19 @@ TEST(CustomHtmlTest, AFileThatCannotBeReadIsReportedAndTheNoteLeftOut) {
   for (const Case& c : kCases) {
     SCOPED_TRACE(c.file);
     DialogBench bench;
-    const std::string path = bench.Folder().Write(std::string("program/") + c.file, "x");
-    std::filesystem::resize_file(path, (std::size_t{64} << 20) + 1);  // larger than is ever read
+    const std::string path = std::string("program/") + c.file;
+    std::filesystem::resize_file(bench.Folder().Write(path, "x"), (std::size_t{64} << 20) + 1);  // more than is read
     const auto form = c.make(bench.State());
     form->LoadForm();
     ASSERT_EQ(bench.ui.reports.size(), 1U);
     EXPECT_EQ(bench.ui.reports[0].label, c.loadLabel);
     EXPECT_EQ(bench.ui.reports[0].extra.rfind(std::string(c.file) + "\r\n", 0), 0U) << bench.ui.reports[0].extra;
     EXPECT_EQ(Find<QLabel>(*form, "Label1").text(), "");
+    Click(*form, c.done);
+    EXPECT_EQ(bench.Folder().Read(path).front(), 'x') << "an empty box does not replace it";
+    Find<TextBox>(*form, "Text1").setPlainText("new");
+    Click(*form, c.done);
+    EXPECT_EQ(bench.Folder().Read(path), "new\r\n");
   }
 }
 

@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <functional>
+#include <memory>
 #include <set>
 
 #include "DialogBench.h"
@@ -173,6 +174,36 @@ TEST(RestartTest, EveryKeyOfADialogSurvivesARestartAndComesBackToItsDefault) {
     EXPECT_EQ(c.shown(AllDialogs(bench.State())), FindSettingKey(c.key)->defaultText);
     EXPECT_TRUE(bench.ui.log.empty()) << bench.ui.log.front();
   }
+}
+
+// A start that failed leaves dialogs unloaded. Opening one and closing it must not store its empty controls.
+TEST(RestartTest, ADialogThatWasNotLoadedLoadsWhenShown) {
+  DialogBench bench;
+  {
+    AllDialogs all(bench.State());
+    for (const KeyCase& c : Cases()) c.change(all, bench.ui);
+  }
+  bench.StartAgain();
+  AppState& state = bench.State();
+  const std::unique_ptr<QDialog> dialogs[] = {
+      std::make_unique<frmBackground>(state), std::make_unique<frmPAgeTitles>(state),
+      std::make_unique<frmEffects>(state),    std::make_unique<frmKeywords>(state),
+      std::make_unique<frmLinkToMAin>(state), std::make_unique<frmEncoding>(state)};
+  for (const auto& dialog : dialogs) {
+    dialog->show();
+    Click(*dialog, dialog->objectName() == "frmEncoding" ? "cmdDone" : "cmdClose");
+  }
+  for (const KeyCase& c : Cases()) EXPECT_EQ(bench.Stored(c.key), c.stored) << c.key;
+}
+
+TEST(RestartTest, ABadSettingThatTheStartDidNotReachIsReportedWhenShown) {
+  DialogBench bench;
+  bench.State().store.SaveText("WaterMark", "maybe");
+  frmBackground form(bench.State());
+  form.show();
+  form.hide();
+  form.show();
+  EXPECT_EQ(bench.ui.log, std::vector<std::string>{"report Form Load - MAIN"});
 }
 
 TEST(RestartTest, EveryKeyHasAForm) {

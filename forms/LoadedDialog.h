@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QDialog>
+
+#include "UserInterface.h"
+
+namespace folionet {
+
+// A dialog that is loaded once, hidden, as the program starts. One that a failed start left unloaded loads when it is
+// first shown: else its empty controls would be saved over what is stored.
+class LoadedDialog : public QDialog {
+  Q_OBJECT
+
+ public:
+  // Reads settings and files into the record and the controls. Throws RunTimeError for a setting that does not convert;
+  // what was read by then is shown.
+  void LoadForm();
+
+  bool IsLoaded() const { return m_isLoaded; }
+
+ protected:
+  LoadedDialog(UserInterface& ui, QWidget* parent) : QDialog(parent), m_reports(ui) {}
+
+  virtual void Load() = 0;
+  void showEvent(QShowEvent* event) override;
+
+ private:
+  UserInterface& m_reports;
+  bool m_isLoaded = false;
+};
+
+}  // namespace folionet

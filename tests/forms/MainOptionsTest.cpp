@@ -1,3 +1,4 @@
+#include <QLayout>
 #include <QRadioButton>
 #include <QShortcut>
 #include <QTest>
@@ -78,6 +79,29 @@ TEST_F(MainOptionsOnForm, ControlsCanBeReachedByKeyboardAndNamed) {
     }
   }
   EXPECT_GT(mnemonics.size(), 15U);
+}
+
+// On a small screen with a large font, no text is cut off.
+TEST_F(MainOptionsOnForm, EveryTextHasItsRoom) {
+  constexpr QSize kRoom(1366, 768 - 60);  // a panel and a title bar take the rest
+  for (const int points : {9, 11, 13}) {
+    SCOPED_TRACE(points);
+    QFont font = QApplication::font();
+    font.setPointSize(points);
+    ASSERT_TRUE(Start());
+    m_form->setFont(font);
+    const QSize least = m_form->minimumSizeHint();
+    EXPECT_LE(least.width(), kRoom.width());
+    EXPECT_LE(least.height(), kRoom.height());
+    m_form->resize(least);
+    m_form->layout()->activate();
+    for (const QWidget* control : m_form->centralWidget()->findChildren<QWidget*>()) {
+      const bool hasText = !control->property("text").toString().isEmpty() && control->isVisible();
+      if (!hasText || qobject_cast<const QLineEdit*>(control) != nullptr) continue;
+      EXPECT_GE(control->width(), control->minimumSizeHint().width()) << FromQt(control->objectName());
+      EXPECT_GE(control->height(), control->minimumSizeHint().height()) << FromQt(control->objectName());
+    }
+  }
 }
 
 TEST_F(MainOptionsOnForm, WhatAStartEnables) {

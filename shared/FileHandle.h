@@ -1,7 +1,9 @@
 #pragma once
 
+#include <fcntl.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <utility>
 
 namespace folionet {
@@ -18,13 +20,23 @@ class FileHandle {
   }
   ~FileHandle() { static_cast<void>(Close()); }
 
+  // Opens a file as open(2) does, however often a signal comes between. Not open, with errno set, when that fails.
+  static FileHandle Open(const char* path, int flags, mode_t mode = 0) {
+    int descriptor = -1;
+    do {
+      descriptor = open(path, flags | O_CLOEXEC, mode);
+    } while (descriptor < 0 && errno == EINTR);
+    return FileHandle(descriptor);
+  }
+
   bool IsOpen() const { return m_descriptor >= 0; }
   int Get() const { return m_descriptor; }
 
-  // Closes now; false, with errno set, when the system reports a failure.
+  // Closes now; false, with errno set, when the system reports a failure. A signal that comes between is none: the file
+  // is closed all the same.
   bool Close() {
     if (m_descriptor < 0) return true;
-    return close(std::exchange(m_descriptor, -1)) == 0;
+    return close(std::exchange(m_descriptor, -1)) == 0 || errno == EINTR;
   }
 
  private:

@@ -1,6 +1,5 @@
 #include "LineReader.h"
 
-#include <fcntl.h>
 #include <sys/stat.h>
 
 #include <cerrno>
@@ -19,7 +18,7 @@ constexpr std::size_t kChunk = std::size_t{128} << 10;
 
 LineReader::LineReader(const std::string& path)
     // A pipe in the place of a file must not block the opening.
-    : m_path(path), m_file(open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK)) {
+    : m_path(path), m_file(FileHandle::Open(path.c_str(), O_RDONLY | O_NONBLOCK)) {
   if (!m_file.IsOpen()) throw RunTimeError::FromErrno(errno, path);
   struct stat status {};
   if (fstat(m_file.Get(), &status) != 0) throw RunTimeError::FromErrno(errno, path);

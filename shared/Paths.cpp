@@ -1,7 +1,6 @@
 #include "Paths.h"
 
 #include <dirent.h>
-#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -54,7 +53,7 @@ std::string WithSeparator(std::string_view path) {
 }
 
 bool FileExists(const std::string& path) {
-  const FileHandle file(open(NativePath(path).c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+  const FileHandle file = FileHandle::Open(NativePath(path).c_str(), O_RDONLY | O_NONBLOCK);
   struct stat status {};
   return file.IsOpen() && fstat(file.Get(), &status) == 0 && S_ISREG(status.st_mode);
 }

@@ -1,7 +1,8 @@
 #include "CustomHtml.h"
 
+#include <optional>
+
 #include "LineReader.h"
-#include "Paths.h"
 #include "RunTimeError.h"
 #include "WholeFile.h"
 
@@ -18,10 +19,10 @@ bool LoadCustomHtml(const std::string& programFolder, const CustomHtmlKind& kind
                     std::string& text, UserInterface& ui) {
   const std::string path = programFolder + std::string(kind.fileName);
   try {
-    if (!FileExists(path)) return true;
-    std::string bytes = ReadWholeFile(path);
-    if (bytes.starts_with(kByteOrderMark)) bytes.erase(0, kByteOrderMark.size());
-    text = codePage.Decode(bytes);
+    std::optional<std::string> bytes = ReadIfThere(path);
+    if (!bytes) return true;
+    if (bytes->starts_with(kByteOrderMark)) bytes->erase(0, kByteOrderMark.size());
+    text = codePage.Decode(*bytes);
     return true;
   } catch (const RunTimeError& error) {
     Report(error, kind, kind.loadLabel, ui);

@@ -1,6 +1,7 @@
 #include "WholeFile.h"
 
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -8,9 +9,9 @@
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
+#include <optional>
 
 #include "FileHandle.h"
-#include "Paths.h"
 #include "RunTimeError.h"
 
 namespace folionet {
@@ -26,6 +27,64 @@ mode_t ModeOf(const std::string& path) {
   struct stat status {};
   return stat(path.c_str(), &status) == 0 ? status.st_mode & 0777 : 0;
 }
+
+bool IsSameFile(int descriptor, const std::string& path) {
+  struct stat open {};
+  struct stat named {};
+  return fstat(descriptor, &open) == 0 && lstat(path.c_str(), &named) == 0 && open.st_dev == named.st_dev &&
+         open.st_ino == named.st_ino;
+}
+
+// Calls the system again for as long as a signal comes between.
+template <typename Call>
+bool Succeeds(Call call) {
+  int result = 0;
+  do {
+    result = call();
+  } while (result != 0 && errno == EINTR);
+  return result == 0;
+}
+
+// The new content of a file, on its way. "<path>.new" is locked from the start to the end, so that of two programs that
+// replace the same file one waits for the other; what a killed program left of it is used again.
+class Replacement {
+ public:
+  explicit Replacement(const std::string& path)
+      : m_target(BehindLinks(path)), m_fresh(m_target + ".new"), m_mode(ModeOf(m_target)) {
+    // The file that was waited for may have taken its place by then.
+    do {
+      m_file = FileHandle::Open(m_fresh.c_str(), O_WRONLY | O_CREAT | O_NOFOLLOW | O_NONBLOCK, 0666);
+      if (!m_file.IsOpen()) throw RunTimeError::FromErrno(errno, m_target);
+    } while (Lock() && !IsSameFile(m_file.Get(), m_fresh));
+  }
+  Replacement(const Replacement&) = delete;
+  Replacement& operator=(const Replacement&) = delete;
+  ~Replacement() {
+    if (m_file.IsOpen()) unlink(m_fresh.c_str());
+  }
+
+  // Writes the content and gives it the target's name. Throws RunTimeError; the old content then stands.
+  void Commit(std::string_view bytes) {
+    const int file = m_file.Get();
+    const bool done = (m_mode == 0 || fchmod(file, m_mode) == 0) && Succeeds([&] { return ftruncate(file, 0); }) &&
+                      WriteAll(file, bytes, 0) && Succeeds([&] { return fsync(file); }) &&
+                      std::rename(m_fresh.c_str(), m_target.c_str()) == 0;
+    if (!done) throw RunTimeError::FromErrno(errno, m_target);
+    // All bytes are on the disk already; a failure to close would tell nothing.
+    static_cast<void>(m_file.Close());
+  }
+
+ private:
+  // Where the file system knows no locks, as some of a network do, there is nothing to wait for.
+  bool Lock() const {
+    return Succeeds([&] { return flock(m_file.Get(), LOCK_EX); });
+  }
+
+  std::string m_target;
+  std::string m_fresh;
+  mode_t m_mode;
+  FileHandle m_file;
+};
 
 }  // namespace
 
@@ -59,7 +118,7 @@ bool ReadAll(int descriptor, std::string& bytes, std::size_t wanted, std::size_t
 }
 
 std::string ReadWholeFile(const std::string& path, std::size_t longest) {
-  const FileHandle file(open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+  const FileHandle file = FileHandle::Open(path.c_str(), O_RDONLY | O_NONBLOCK);
   struct stat status {};
   if (!file.IsOpen() || fstat(file.Get(), &status) != 0) throw RunTimeError::FromErrno(errno, path);
   if (!S_ISREG(status.st_mode)) throw RunTimeError(kPathFileAccessError, path, "It is not a regular file.");
@@ -72,26 +131,23 @@ std::string ReadWholeFile(const std::string& path, std::size_t longest) {
   return bytes;
 }
 
-void ReplaceWholeFile(const std::string& path, std::string_view bytes) {
-  const std::string target = BehindLinks(path);
-  const std::string fresh = target + ".new";
-  const mode_t mode = ModeOf(target);
-  FileHandle file(open(fresh.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC | O_NOFOLLOW, 0666));
-  if (!file.IsOpen()) throw RunTimeError::FromErrno(errno, target);
-  const bool written = (mode == 0 || fchmod(file.Get(), mode) == 0) && WriteAll(file.Get(), bytes, 0) &&
-                       fsync(file.Get()) == 0 && file.Close() && std::rename(fresh.c_str(), target.c_str()) == 0;
-  if (!written) {
-    const RunTimeError error = RunTimeError::FromErrno(errno, target);
-    unlink(fresh.c_str());
-    throw error;
+std::optional<std::string> ReadIfThere(const std::string& path) {
+  try {
+    return ReadWholeFile(path);
+  } catch (const RunTimeError& error) {
+    if (error.Number() == kFileNotFound || error.Number() == kPathNotFound) return std::nullopt;
+    throw;
   }
 }
 
+void ReplaceWholeFile(const std::string& path, std::string_view bytes) { Replacement(path).Commit(bytes); }
+
 void AppendToFile(const std::string& path, std::string_view bytes) {
-  std::string content = FileExists(path) ? ReadWholeFile(path) : std::string();
+  Replacement replacement(path);
+  std::string content = ReadIfThere(path).value_or("");
   if (!content.empty() && content.back() != '\n') content += "\r\n";
   content += bytes;
-  ReplaceWholeFile(path, content);
+  replacement.Commit(content);
 }
 
 }  // namespace folionet

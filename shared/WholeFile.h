@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -8,11 +9,15 @@ namespace folionet {
 // Reads a whole regular file as it is. Throws RunTimeError; a file over `longest` bytes is kOutOfMemory.
 std::string ReadWholeFile(const std::string& path, std::size_t longest = std::size_t{64} << 20);
 
+// As ReadWholeFile; nothing when there is no such file. One that is there and cannot be read still throws.
+std::optional<std::string> ReadIfThere(const std::string& path);
+
 // Gives the file `path` the content `bytes`, old or new and never a part: the bytes go to "<path>.new" beside it,
-// which then takes its place. A link is followed. Throws RunTimeError, and the old content stands.
+// which then takes its place. A link is followed. Of two programs that do so at once, the second waits for the first.
+// Throws RunTimeError, and the old content stands.
 void ReplaceWholeFile(const std::string& path, std::string_view bytes);
 
-// Adds bytes at the end of a file, which is made when missing, with the same promise.
+// Adds bytes at the end of a file, which is made when missing, on a line of their own and with the same promise.
 void AppendToFile(const std::string& path, std::string_view bytes);
 
 // Writes all bytes to an open file at an offset, however often the system takes a part only. False with errno set.

@@ -38,7 +38,12 @@ void RefuseUsage(const std::string& text) {
 
 Session::Session(const CommonOptions& common)
     : store(SettingsStore::DefaultFolder()), ui(common.quiet), chosenProgramFolder(common.programFolder) {
-  LocateInstallation(store, common.folders, glob);
+  try {
+    LocateInstallation(store, common.folders, glob);
+  } catch (const RunTimeError& error) {
+    ui.ShowErrorReport(error.Number(), "Form Load - MAIN", error.Extra());
+    throw ExitWith(kExitFailed);
+  }
 }
 
 void Session::Override(const std::vector<std::string>& assignments) {

@@ -2,9 +2,14 @@
 
 #include <QByteArray>
 #include <QIODevice>
+#include <utility>
 
 namespace folionet {
 namespace {
+
+// Stands among the settings of a file that could not be read whole. QSettings would go on and write the few settings
+// that it has over the file; with this one among them, writing is refused.
+constexpr char kUnreadable[] = "\x01unreadable";
 
 QString Unquoted(QByteArrayView inner) {
   QByteArray text;
@@ -42,12 +47,12 @@ bool IsWholeQuoted(QByteArrayView value) {
 }
 
 bool Read(QIODevice& device, QSettings::SettingsMap& map) {
+  QByteArray text = device.readAll();
+  if (text.size() < device.size()) map.insert(QLatin1String(kUnreadable), true);
+  if (text.startsWith("\xEF\xBB\xBF")) text.remove(0, 3);
   QByteArray section;
-  bool first = true;
-  while (!device.atEnd()) {
-    QByteArray line = device.readLine();
-    if (std::exchange(first, false) && line.startsWith("\xEF\xBB\xBF")) line.remove(0, 3);
-    line = line.trimmed();
+  for (QByteArray line : text.split('\n')) {
+    line = std::move(line).trimmed();
     if (line.isEmpty() || line.startsWith(';') || line.startsWith('#')) continue;
     if (line.startsWith('[') && line.endsWith(']')) {
       section = line.mid(1, line.size() - 2).trimmed();
@@ -73,6 +78,7 @@ QByteArray Written(const QByteArray& value) {
 }
 
 bool Write(QIODevice& device, const QSettings::SettingsMap& map) {
+  if (map.contains(QLatin1String(kUnreadable))) return false;
   QByteArray text;
   QString section;
   for (auto entry = map.cbegin(); entry != map.cend(); ++entry) {
@@ -89,6 +95,8 @@ bool Write(QIODevice& device, const QSettings::SettingsMap& map) {
 }
 
 }  // namespace
+
+bool IsWholeReading(const QSettings& settings) { return !settings.contains(QLatin1String(kUnreadable)); }
 
 QSettings::Format VerbatimIniFormat() {
   static const QSettings::Format format = QSettings::registerFormat(QStringLiteral("ini"), Read, Write);

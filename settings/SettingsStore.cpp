@@ -5,6 +5,8 @@
 #include <cerrno>
 #include <charconv>
 #include <cstdlib>
+#include <filesystem>
+#include <system_error>
 
 #include "BuildInfo.h"
 #include "CodePage.h"
@@ -23,6 +25,20 @@ QString ToQString(std::string_view text) { return QString::fromUtf8(text.data(),
 
 QString FullKey(std::string_view section, std::string_view key) {
   return ToQString(section) + QLatin1Char('/') + ToQString(key);
+}
+
+// A pipe in the place of the file would keep the program waiting, a device could fill its memory.
+void CheckFile(const std::string& path) {
+  constexpr std::uintmax_t kLongest = std::uintmax_t{16} << 20;
+  std::error_code error;
+  const std::filesystem::file_status status = std::filesystem::status(path, error);
+  if (!std::filesystem::exists(status)) return;
+  if (!std::filesystem::is_regular_file(status)) {
+    throw RunTimeError(kPathFileAccessError, path, "It is not a regular file.");
+  }
+  if (const std::uintmax_t size = std::filesystem::file_size(path, error); !error && size > kLongest) {
+    throw RunTimeError(kOutOfMemory, path, "The file is longer than " + std::to_string(kLongest) + " bytes.");
+  }
 }
 
 // A number's text without more digits than it needs: 12, 10.5
@@ -50,12 +66,19 @@ std::string SettingsStore::FilePath(std::string_view application) const {
 }
 
 QSettings& SettingsStore::Area(std::string_view application) const {
-  auto found = m_areas.find(application);
-  if (found == m_areas.end()) {
-    auto area = std::make_unique<QSettings>(ToQString(FilePath(application)), VerbatimIniFormat());
-    found = m_areas.emplace(application, std::move(area)).first;
+  const auto found = m_areas.find(application);
+  return found != m_areas.end() ? *found->second : OpenArea(application);
+}
+
+QSettings& SettingsStore::OpenArea(std::string_view application) const {
+  const std::string path = FilePath(application);
+  CheckFile(path);
+  errno = 0;
+  auto area = std::make_unique<QSettings>(ToQString(path), VerbatimIniFormat());
+  if (area->status() != QSettings::NoError || !IsWholeReading(*area)) {
+    throw RunTimeError::FromErrno(errno != 0 ? errno : EIO, path);
   }
-  return *found->second;
+  return *m_areas.emplace(application, std::move(area)).first->second;
 }
 
 std::string SettingsStore::GetSetting(std::string_view application, std::string_view section, std::string_view key,
@@ -69,8 +92,12 @@ std::string SettingsStore::GetSetting(std::string_view application, std::string_
 
 void SettingsStore::SaveSetting(std::string_view application, std::string_view section, std::string_view key,
                                 std::string_view value) {
+  Area(application).setValue(FullKey(section, key), ToQString(value));
+  if (!m_savesTogether) Sync(application);
+}
+
+void SettingsStore::Sync(std::string_view application) {
   QSettings& area = Area(application);
-  area.setValue(FullKey(section, key), ToQString(value));
   errno = 0;
   area.sync();
   if (area.status() != QSettings::NoError) {
@@ -78,6 +105,18 @@ void SettingsStore::SaveSetting(std::string_view application, std::string_view s
     m_areas.erase(m_areas.find(application));  // a refused value must not be tried again by every later one
     throw RunTimeError::FromErrno(systemError, FilePath(application));
   }
+}
+
+void SettingsStore::SaveTogether(const std::function<void()>& saves) {
+  m_savesTogether = true;
+  try {
+    saves();
+  } catch (...) {
+    m_savesTogether = false;
+    throw;
+  }
+  m_savesTogether = false;
+  Sync(kApplicationTitle);
 }
 
 void SettingsStore::DeleteSetting(std::string_view application) {

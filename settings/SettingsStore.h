@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <map>
 #include <memory>
 #include <optional>
@@ -32,13 +33,17 @@ class SettingsStore {
   // $XDG_CONFIG_HOME, or ~/.config.
   static std::string DefaultFolder();
 
-  // The stored text, or `defaultText` when the key is missing.
+  // The stored text, or `defaultText` when the key is missing. This and every routine below throws RunTimeError when
+  // the application's file is there and cannot be read.
   std::string GetSetting(std::string_view application, std::string_view section, std::string_view key,
                          std::string_view defaultText) const;
 
   // Stores a text at once. Throws RunTimeError when the file cannot be written; its old content then stands.
   void SaveSetting(std::string_view application, std::string_view section, std::string_view key,
                    std::string_view value);
+
+  // Calls `saves`, whose savings of our own keys reach the file all together at its end, or none of them does.
+  void SaveTogether(const std::function<void()>& saves);
 
   // Removes an application's whole area. Throws RunTimeError when its file cannot be removed.
   void DeleteSetting(std::string_view application);
@@ -68,10 +73,13 @@ class SettingsStore {
 
  private:
   QSettings& Area(std::string_view application) const;
+  QSettings& OpenArea(std::string_view application) const;
+  void Sync(std::string_view application);
   std::string Checked(std::string_view key) const;
 
   std::string m_folder;
   mutable std::map<std::string, std::unique_ptr<QSettings>, std::less<>> m_areas;
+  bool m_savesTogether = false;
   std::map<std::string, std::string, std::less<>> m_overrides;
 };
 

@@ -72,18 +72,20 @@ void GetDefaults(const SettingsStore& store, SampleText& sample) {
 }
 
 void SaveDefaults(SettingsStore& store, const PageOptions& options, const MainOptions& main) {
-  store.SaveInteger("BackColor", options.txtSample.BackColor);
-  store.SaveInteger("ForeColor", options.txtSample.ForeColor);
-  store.SaveText("Font", options.txtSample.FontName);
-  store.SavePointSize("FontSize", options.txtSample.FontSize);
-  store.SaveFlag("Use83", options.chkUse83);
-  store.SaveBoolean("FontBold", options.txtSample.FontBold);
-  store.SaveBoolean("FontItalic", options.txtSample.FontItalic);
-  if (IsKnownAlignment(main.alignment)) store.SaveText("alignmentLR", main.alignment);
-  store.SaveFlag("chkDoubleSpace", options.chkDoubleSpace);
-  store.SaveText("Drive1", main.Drive1);
-  store.SaveText("Dir1", main.Dir1);
-  store.SaveText("Index_Alignment", main.alignment);
+  store.SaveTogether([&] {
+    store.SaveInteger("BackColor", options.txtSample.BackColor);
+    store.SaveInteger("ForeColor", options.txtSample.ForeColor);
+    store.SaveText("Font", options.txtSample.FontName);
+    store.SavePointSize("FontSize", options.txtSample.FontSize);
+    store.SaveFlag("Use83", options.chkUse83);
+    store.SaveBoolean("FontBold", options.txtSample.FontBold);
+    store.SaveBoolean("FontItalic", options.txtSample.FontItalic);
+    if (IsKnownAlignment(main.alignment)) store.SaveText("alignmentLR", main.alignment);
+    store.SaveFlag("chkDoubleSpace", options.chkDoubleSpace);
+    store.SaveText("Drive1", main.Drive1);
+    store.SaveText("Dir1", main.Dir1);
+    store.SaveText("Index_Alignment", main.alignment);
+  });
 }
 
 void LoadTitles(const SettingsStore& store, PageTitleOptions& options) {
@@ -92,8 +94,10 @@ void LoadTitles(const SettingsStore& store, PageTitleOptions& options) {
 }
 
 void SaveTitles(SettingsStore& store, const PageTitleOptions& options) {
-  store.SaveText("index_html", options.txtIndex_html);
-  store.SaveText("PageTitles", options.txtPageTitles);
+  store.SaveTogether([&] {
+    store.SaveText("index_html", options.txtIndex_html);
+    store.SaveText("PageTitles", options.txtPageTitles);
+  });
 }
 
 void LoadMETA(const SettingsStore& store, MetaOptions& options) {
@@ -104,10 +108,12 @@ void LoadMETA(const SettingsStore& store, MetaOptions& options) {
 }
 
 void SaveMETA(SettingsStore& store, const MetaOptions& options) {
-  store.SaveText("KeywordsI", options.txtKeywordsI);
-  store.SaveText("DescriptionI", options.txtDescriptionI);
-  store.SaveText("Keywords", options.txtKeyWords);
-  store.SaveText("Description", options.txtDescription);
+  store.SaveTogether([&] {
+    store.SaveText("KeywordsI", options.txtKeywordsI);
+    store.SaveText("DescriptionI", options.txtDescriptionI);
+    store.SaveText("Keywords", options.txtKeyWords);
+    store.SaveText("Description", options.txtDescription);
+  });
 }
 
 std::string_view AlignmentWord(int justification) {
@@ -153,14 +159,16 @@ void SetDefaultHyperlinkColors(const SettingsStore& store, EffectsOptions& optio
 }
 
 void SaveDefaultHyperlinkColors(SettingsStore& store, const EffectsOptions& options) {
-  for (const auto& [key, swatch] : kSwatches) store.SaveInteger(key, (options.*swatch).colour);
-  store.SaveText("cboFont", options.cboFont);
-  store.SaveText("cboSize", options.cboSize);
-  store.SaveText("cboStyle", options.cboStyle);
-  store.SaveFlag("chkSmallCaps", options.chkSmallCaps);
-  store.SaveFlag("chkAllCaps", options.chkAllCaps);
-  store.SaveFlag("chkUnderline", options.chkUnderline);
-  store.SaveFlag("chkRollover", options.chkRollover);
+  store.SaveTogether([&] {
+    for (const auto& [key, swatch] : kSwatches) store.SaveInteger(key, (options.*swatch).colour);
+    store.SaveText("cboFont", options.cboFont);
+    store.SaveText("cboSize", options.cboSize);
+    store.SaveText("cboStyle", options.cboStyle);
+    store.SaveFlag("chkSmallCaps", options.chkSmallCaps);
+    store.SaveFlag("chkAllCaps", options.chkAllCaps);
+    store.SaveFlag("chkUnderline", options.chkUnderline);
+    store.SaveFlag("chkRollover", options.chkRollover);
+  });
 }
 
 PageOptions LoadPageOptions(const SettingsStore& store, MainOptions& main) {

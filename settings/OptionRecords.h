@@ -9,7 +9,8 @@
 namespace folionet {
 
 // The option records with their loading and saving. A loading routine throws RunTimeError when a stored text has not
-// its key's form; the fields that it had read by then are set, the others are as they were.
+// its key's form; the fields that it had read by then are set, the others are as they were. A saving routine stores all
+// of its keys or, when it throws RunTimeError, none.
 
 // What the main form keeps beside the page options.
 struct MainOptions {

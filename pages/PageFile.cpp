@@ -2,7 +2,6 @@
 
 #include <fcntl.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 #include <cerrno>
 #include <cstdlib>
@@ -41,7 +40,7 @@ void PageFile::Open(const std::string& folder, const std::string& name) {
   m_isOpen = false;
   if (folder != m_folder || !m_folderHandle.IsOpen()) {
     m_folder = folder;
-    m_folderHandle = FileHandle(open(NativePath(folder).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    m_folderHandle = FileHandle::Open(NativePath(folder).c_str(), O_RDONLY | O_DIRECTORY);
     const bool isMissing = !m_folderHandle.IsOpen() && errno == ENOENT;
     if (!m_folderHandle.IsOpen() && !(m_dryRun && isMissing)) throw RunTimeError::FromErrno(errno, NativePath(folder));
   }
@@ -53,33 +52,41 @@ void PageFile::Open(const std::string& folder, const std::string& name) {
   m_isOpen = true;
 }
 
+void PageFile::Grow(std::size_t size) {
+  if (size > kLongest) {
+    throw RunTimeError(kOutOfMemory, NativePath(m_folder) + m_name,
+                       "The page is longer than " + std::to_string(kLongest) + " bytes.");
+  }
+  m_text.resize(std::min(2 * size, kLongest));
+}
+
 void PageFile::Fail(int systemError) const {
   throw RunTimeError::FromErrno(systemError, NativePath(m_folder) + m_name);
 }
 
 // A page is never written through a link that leads out of the folder, nor into anything but a regular file.
 FileHandle PageFile::OpenExisting() const {
-  constexpr int kFlags = O_RDWR | O_CLOEXEC | O_NONBLOCK | O_NOFOLLOW;
-  FileHandle file(openat(m_folderHandle.Get(), m_name.c_str(), kFlags));
+  constexpr int kFlags = O_RDWR | O_NONBLOCK | O_NOFOLLOW;
+  FileHandle file = FileHandle::OpenAt(m_folderHandle.Get(), m_name.c_str(), kFlags);
   if (!file.IsOpen() && errno == ELOOP) {
     const std::string path = NativePath(m_folder) + m_name;
     const std::string target = RealPath(path);
     if (!target.starts_with(WithSeparator(RealPath(NativePath(m_folder))))) {
       throw RunTimeError(kPathFileAccessError, path, "It is a link that leads out of the output folder.");
     }
-    file = FileHandle(open(target.c_str(), kFlags));
+    file = FileHandle::Open(target.c_str(), kFlags);
   }
   return file;
 }
 
 FileHandle PageFile::OpenForWriting(bool& isNew) const {
-  constexpr int kNewFlags = O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC;
+  constexpr int kNewFlags = O_WRONLY | O_CREAT | O_EXCL;
   constexpr mode_t kMode = 0666;
   isNew = m_expectNew;
-  FileHandle file = isNew ? FileHandle(openat(m_folderHandle.Get(), m_name.c_str(), kNewFlags, kMode)) : OpenExisting();
+  FileHandle file = isNew ? FileHandle::OpenAt(m_folderHandle.Get(), m_name.c_str(), kNewFlags, kMode) : OpenExisting();
   if (!file.IsOpen() && errno == (isNew ? EEXIST : ENOENT)) {
     isNew = !isNew;
-    file = isNew ? FileHandle(openat(m_folderHandle.Get(), m_name.c_str(), kNewFlags, kMode)) : OpenExisting();
+    file = isNew ? FileHandle::OpenAt(m_folderHandle.Get(), m_name.c_str(), kNewFlags, kMode) : OpenExisting();
   }
   if (!file.IsOpen()) Fail(errno);
   return file;
@@ -122,7 +129,7 @@ PageChange PageFile::Close() {
     if (HasText(file, oldSize)) return PageChange::kSame;
   }
   if (!WriteAll(file.Get(), Text(), 0)) Fail(errno);
-  if (oldSize > m_size && ftruncate(file.Get(), static_cast<off_t>(m_size)) != 0) Fail(errno);
+  if (oldSize > m_size && !CutToLength(file.Get(), m_size)) Fail(errno);
   if (!file.Close()) Fail(errno);
   return isNew ? PageChange::kNew : PageChange::kChanged;
 }

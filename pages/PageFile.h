@@ -21,7 +21,10 @@ class PageFile {
   // (kBadFileName) for a name that IsPageName refuses.
   void Open(const std::string& folder, const std::string& name);
 
-  // Adds the texts, one behind the other, and CR LF.
+  // A page may not be longer, nor may a part of one that is put together before it is added; it is kOutOfMemory.
+  static constexpr std::size_t kLongest = std::size_t{64} << 20;
+
+  // Adds the texts, one behind the other, and CR LF. Throws RunTimeError for a page that gets too long.
   template <typename... Texts>
   void Print(const Texts&... texts) {
     AddAll({std::string_view(texts)..., std::string_view("\r\n")});
@@ -50,12 +53,13 @@ class PageFile {
   void AddAll(std::initializer_list<std::string_view> texts) {
     std::size_t size = m_size;
     for (const std::string_view text : texts) size += text.size();
-    if (size > m_text.size()) m_text.resize(2 * size);
+    if (size > m_text.size()) Grow(size);
     char* at = m_text.data() + m_size;
     for (const std::string_view text : texts) at = std::copy(text.begin(), text.end(), at);
     m_size = size;
   }
 
+  void Grow(std::size_t size);
   std::string_view Text() const { return {m_text.data(), m_size}; }
 
   FileHandle OpenForWriting(bool& isNew) const;

@@ -21,10 +21,13 @@ class FileHandle {
   ~FileHandle() { static_cast<void>(Close()); }
 
   // Opens a file as open(2) does, however often a signal comes between. Not open, with errno set, when that fails.
-  static FileHandle Open(const char* path, int flags, mode_t mode = 0) {
+  static FileHandle Open(const char* path, int flags, mode_t mode = 0) { return OpenAt(AT_FDCWD, path, flags, mode); }
+
+  // As Open, of a file in an open folder.
+  static FileHandle OpenAt(int folder, const char* path, int flags, mode_t mode = 0) {
     int descriptor = -1;
     do {
-      descriptor = open(path, flags | O_CLOEXEC, mode);
+      descriptor = openat(folder, path, flags | O_CLOEXEC, mode);
     } while (descriptor < 0 && errno == EINTR);
     return FileHandle(descriptor);
   }

@@ -17,6 +17,16 @@
 namespace folionet {
 namespace {
 
+// Calls the system again for as long as a signal comes between.
+template <typename Call>
+bool Succeeds(Call call) {
+  int result = 0;
+  do {
+    result = call();
+  } while (result != 0 && errno == EINTR);
+  return result == 0;
+}
+
 // The file behind a link, so that replacing it leaves the link.
 std::string BehindLinks(const std::string& path) {
   const std::unique_ptr<char, decltype(&std::free)> real(realpath(path.c_str(), nullptr), &std::free);
@@ -33,16 +43,6 @@ bool IsSameFile(int descriptor, const std::string& path) {
   struct stat named {};
   return fstat(descriptor, &open) == 0 && lstat(path.c_str(), &named) == 0 && open.st_dev == named.st_dev &&
          open.st_ino == named.st_ino;
-}
-
-// Calls the system again for as long as a signal comes between.
-template <typename Call>
-bool Succeeds(Call call) {
-  int result = 0;
-  do {
-    result = call();
-  } while (result != 0 && errno == EINTR);
-  return result == 0;
 }
 
 // The new content of a file, on its way. "<path>.new" is locked from the start to the end, so that of two programs that
@@ -66,9 +66,8 @@ class Replacement {
   // Writes the content and gives it the target's name. Throws RunTimeError; the old content then stands.
   void Commit(std::string_view bytes) {
     const int file = m_file.Get();
-    const bool done = (m_mode == 0 || fchmod(file, m_mode) == 0) && Succeeds([&] { return ftruncate(file, 0); }) &&
-                      WriteAll(file, bytes, 0) && Succeeds([&] { return fsync(file); }) &&
-                      std::rename(m_fresh.c_str(), m_target.c_str()) == 0;
+    const bool done = (m_mode == 0 || fchmod(file, m_mode) == 0) && CutToLength(file, 0) && WriteAll(file, bytes, 0) &&
+                      Succeeds([&] { return fsync(file); }) && std::rename(m_fresh.c_str(), m_target.c_str()) == 0;
     if (!done) throw RunTimeError::FromErrno(errno, m_target);
     // All bytes are on the disk already; a failure to close would tell nothing.
     static_cast<void>(m_file.Close());
@@ -101,6 +100,10 @@ bool WriteAll(int descriptor, std::string_view bytes, std::size_t offset) {
     offset += static_cast<std::size_t>(count);
   }
   return true;
+}
+
+bool CutToLength(int descriptor, std::size_t length) {
+  return Succeeds([&] { return ftruncate(descriptor, static_cast<off_t>(length)); });
 }
 
 bool ReadAll(int descriptor, std::string& bytes, std::size_t wanted, std::size_t offset) {

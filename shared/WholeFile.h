@@ -23,6 +23,9 @@ void AppendToFile(const std::string& path, std::string_view bytes);
 // Writes all bytes to an open file at an offset, however often the system takes a part only. False with errno set.
 bool WriteAll(int descriptor, std::string_view bytes, std::size_t offset);
 
+// Makes an open file this long. False with errno set.
+bool CutToLength(int descriptor, std::size_t length);
+
 // Reads up to `wanted` bytes from an offset; fewer only at the file's end. False with errno set.
 bool ReadAll(int descriptor, std::string& bytes, std::size_t wanted, std::size_t offset);
 

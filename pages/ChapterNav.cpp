@@ -16,11 +16,19 @@ std::string ChapterLink(const PageInputs& inputs, int book, int chapter) {
   return "[<a href=" + InQuotes(inputs.names.InLink(book, chapter)) + ">" + std::to_string(chapter) + "</a>] ";
 }
 
+void CheckLength(const std::string& text, const char* what) {
+  if (text.size() <= PageFile::kLongest) return;
+  throw RunTimeError(kOutOfMemory, what, "They are longer than " + std::to_string(PageFile::kLongest) + " bytes.");
+}
+
 std::string BuildChapterNav(const PageInputs& inputs, const CompileContext& context, int book) {
   std::string block;
   if (!inputs.options.chkCSS) block = "<p align=" + InQuotes(context.LinkAlignment) + ">";
   const int chapters = ChaptersOf(inputs, book);
-  for (int chapter = 1; chapter <= chapters; ++chapter) block += ChapterLink(inputs, book, chapter) + "\r\n";
+  for (int chapter = 1; chapter <= chapters; ++chapter) {
+    block += ChapterLink(inputs, book, chapter) + "\r\n";
+    CheckLength(block, "The links to the chapters");
+  }
   return inputs.options.chkCSS ? "<h3>" + block + "</h3>" : block + "</font></p>";
 }
 

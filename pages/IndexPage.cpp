@@ -22,6 +22,7 @@ std::string Listing(const IndexPage& index, const PageInputs& inputs, const Code
     for (int chapter = 1; chapter <= chapters; ++chapter) {
       text += ChapterLink(inputs, book, chapter);
       if (inputs.names.Use83()) text += "\r\n";
+      CheckLength(text, "The links of the index page");
       inputs.ui.SetPanel(1, "Building index file" + std::to_string(chapter) + " Please stand by...");
     }
     text += "<br><br>\r\n";

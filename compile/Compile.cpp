@@ -220,9 +220,11 @@ CompileOutcome Run(const CompileRequest& request, ModGlob& glob, UserInterface& 
     return counted == Outcome::kEndProgram ? CompileOutcome::kEndProgram : CompileOutcome::kFailed;
   }
   CompileRun run(request, codePage, glob, ui);
+  FileHandle lock;
   try {
     run.Prepare();
     MakeOutputFolder(request);
+    lock = LockOutputFolder(request);
     run.WriteChapters();
     run.WriteIndex();
   } catch (const RunTimeError&) {

@@ -1,7 +1,9 @@
 #include "OutputFolder.h"
 
+#include <sys/file.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <filesystem>
 #include <string_view>
 #include <system_error>
@@ -37,11 +39,23 @@ void MakeOutputFolder(const CompileRequest& request) {
   if (!FolderExists(folder)) throw RunTimeError::FromErrno(error ? error.value() : ENOTDIR, folder);
 }
 
+FileHandle LockOutputFolder(const CompileRequest& request) {
+  if (request.dryRun) return {};
+  const std::string folder = NativePath(request.txtOutputPath);
+  FileHandle handle = FileHandle::Open(folder.c_str(), O_RDONLY | O_DIRECTORY);
+  // A file system that knows no locks is let pass; so is a folder that cannot be opened, which the first page tells.
+  if (handle.IsOpen() && flock(handle.Get(), LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK) {
+    throw RunTimeError(kPermissionDenied, folder, "Another compile is writing into this folder.");
+  }
+  return handle;
+}
+
 void CopyCSS(const CompileRequest& request) {
   if (!IsFolderChosen(request)) return;
   const std::string source = request.programFolder + kStyleSheet;
   const std::string content = ReadWholeFile(source);
   MakeOutputFolder(request);
+  const FileHandle lock = LockOutputFolder(request);
   const std::string target = NativePath(request.txtOutputPath) + kStyleSheet;
   std::error_code error;
   if (std::filesystem::equivalent(source, target, error) && !error) {

@@ -5,12 +5,17 @@
 
 #include "CompileContext.h"
 #include "CompileRequest.h"
+#include "FileHandle.h"
 #include "PageInputs.h"
 
 namespace folionet {
 
 // Makes the request's output folder, parents included, when it is missing and the request says so. Throws RunTimeError.
 void MakeOutputFolder(const CompileRequest& request);
+
+// Holds the output folder for one run, so that no two compiles mix their pages: a second one is kPermissionDenied for
+// as long as the handle is open. Nothing is held for a dry run or for a folder that is not there. Throws RunTimeError.
+FileHandle LockOutputFolder(const CompileRequest& request);
 
 // Writes a copy of the program folder's default.css, with one further CR LF, into the output folder. With no folder
 // chosen yet nothing is done. Throws RunTimeError; kFileAlreadyOpen when both are the same file.

@@ -155,6 +155,7 @@ void frmMain::RestoreAll() {
   }
   m_state.options.txtSample = SampleText();
   m_style->ShowSample();
+  ReadEncoding();
   m_state.ui.ShowMessage({MessageIcon::kInformation, std::string("Restart ") + kApplicationTitle,
                           std::string("Please restart ") + kApplicationTitle + " to complete."});
   End();

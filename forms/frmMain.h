@@ -54,6 +54,7 @@ class frmMain : public QMainWindow {
   bool LoadLibrary();
   bool LoadOptions();
   bool LoadLooks();
+  void ReadEncoding();
   void updateCheck();
   void CSSCheck();
   void Compile();

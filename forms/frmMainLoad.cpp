@@ -82,11 +82,7 @@ bool frmMain::LoadOptions() {
 bool frmMain::LoadLooks() {
   PageOptions& options = m_state.options;
   m_style->GetDefaults();
-  PageEncoding encoding;
-  LoadPageEncoding(m_state.store, encoding, m_state.ui);
-  m_state.texts.PageCharset = encoding.PageCharset;
-  m_state.texts.PageLanguage = encoding.PageLanguage;
-  m_state.codePage = CodePage(encoding.PageCharset);
+  ReadEncoding();
   m_dialogs.Load<frmLinkToMAin>();
   options.txtSample.FontBold = m_state.store.Boolean("FontBold");
   options.txtSample.FontItalic = m_state.store.Boolean("FontItalic");
@@ -95,6 +91,14 @@ bool frmMain::LoadLooks() {
   m_ui->chkCSS->setChecked(options.chkCSS);
   m_style->EnableDisableOptions();
   return true;
+}
+
+void frmMain::ReadEncoding() {
+  PageEncoding encoding;
+  LoadPageEncoding(m_state.store, encoding, m_state.ui);
+  m_state.texts.PageCharset = encoding.PageCharset;
+  m_state.texts.PageLanguage = encoding.PageLanguage;
+  m_state.codePage = CodePage(encoding.PageCharset);
 }
 
 }  // namespace folionet

@@ -73,6 +73,7 @@ TEST_F(Exit, RestoreAllEndsWithAnEmptyStore) {
   Store("PageTitles", "mine");
   Store("BackColor", "1");
   Store("chkRollover", "0");
+  Store("Charset", "utf-8 Unicode");
   ASSERT_TRUE(Start());
   m_ui->yesNo = {false, true};
   Click("cmdRestoreAll");
@@ -87,6 +88,7 @@ TEST_F(Exit, RestoreAllEndsWithAnEmptyStore) {
   EXPECT_TRUE(m_state->options.frmEffects.chkRollover);
   EXPECT_NE(m_state->texts.RolloverStyle, "");
   EXPECT_EQ(m_state->options.txtSample.BackColor, 16777215);
+  EXPECT_EQ(Panel(3), "Charset: windows-1252");
   EXPECT_EQ(m_ui->messages.back().title, "Restart Folionet");
   EXPECT_EQ(m_ui->messages.back().text, "Please restart Folionet to complete.");
   EXPECT_TRUE(m_hasEnded);

@@ -4,7 +4,9 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QFontDatabase>
+#include <QKeyEvent>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMouseEvent>
 
 #include "DialogBench.h"
@@ -99,6 +101,20 @@ TEST(EffectsTest, EveryOptionReachesTheStyle) {
   Click(form, "chkRollover");
   Click(form, "cmdClose");
   EXPECT_EQ(bench.State().texts.RolloverStyle, "");
+}
+
+// A list's own way is to make an entry of its out of a text that differs in letter case only.
+TEST(EffectsTest, ATypedTextIsUsedAsTyped) {
+  DialogBench bench;
+  frmEffects form(bench.State());
+  form.LoadForm();
+  auto& style = Find<QComboBox>(form, "cboStyle");
+  style.setEditText("bold");
+  QKeyEvent enter(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+  QApplication::sendEvent(style.lineEdit(), &enter);
+  EXPECT_EQ(FromQt(style.currentText()), "bold");
+  EXPECT_EQ(bench.State().options.frmEffects.cboStyle, "bold");
+  EXPECT_EQ(style.count(), 4);
 }
 
 TEST(EffectsTest, RestoreDefaultsAsksAndSavesNothing) {

@@ -68,6 +68,7 @@ void frmMain::ConnectCommands() {
   connect(m_lists, &LibraryLists::EndProgram, this, &frmMain::End);
   connect(m_ui->cmdCompile, &QPushButton::clicked, this, &frmMain::Compile);
   connect(m_ui->cmdOpenIndex, &QPushButton::clicked, this, &frmMain::OpenIndexPage);
+  connect(m_ui->cmdCheckSite, &QPushButton::clicked, this, &frmMain::CheckWrittenSite);
   connect(m_ui->cmdPageTitles, &QPushButton::clicked, this, [this] { m_dialogs.Open<frmPAgeTitles>(); });
   connect(m_ui->cmdKeyWords, &QPushButton::clicked, this, [this] { m_dialogs.Open<frmKeywords>(); });
   connect(m_ui->cmdEffects, &QPushButton::clicked, this, [this] { m_dialogs.Open<frmEffects>(); });
@@ -106,6 +107,7 @@ void frmMain::CSSCheck() {
 }
 
 void frmMain::Compile() {
+  if (m_startFailed && !LoadMissing()) return;
   const CompileRequest request = GatherRequest(m_state, *m_ui, *m_lists, *m_folders);
   CompileOutcome outcome = CompileOutcome::kFailed;
   {
@@ -118,9 +120,15 @@ void frmMain::Compile() {
   if (outcome != CompileOutcome::kDone) return;
   m_indexPage = IndexPagePath(request);
   m_ui->cmdOpenIndex->setEnabled(true);
+  m_ui->cmdCheckSite->setEnabled(true);
 }
 
 void frmMain::OpenIndexPage() { m_state.ui.ShowPage(m_indexPage); }
+
+void frmMain::CheckWrittenSite() {
+  const RunGuard guard(*this);
+  ShowSiteReport(m_indexPage, m_state.ui);
+}
 
 void frmMain::OpenEncoding() {
   m_dialogs.Open<frmEncoding>();
@@ -139,6 +147,7 @@ void frmMain::ShowHelp() {
 }
 
 void frmMain::SaveDefaults() {
+  if (m_startFailed) return;
   TrySave(m_state, "SaveDefaults",
           [&](SettingsStore& store) { folionet::SaveDefaults(store, m_state.options, m_state.main); });
 }

@@ -29,7 +29,8 @@ class frmMain : public QMainWindow {
   ~frmMain() override;
 
   // The start-up: reads every setting, the library and the dialogs' own, in a fixed order. A failure is reported and
-  // ends it there, and the form can be used as far as it got. False when the program must end, which was told.
+  // ends it there, and the form can be used as far as it got; its exit then saves nothing, for what was not read would
+  // be lost. False when the program must end, which was told.
   bool LoadForm();
 
   // For the way to the person: a panel of the status bar, counted from 1, and the control of that name.
@@ -61,6 +62,8 @@ class frmMain : public QMainWindow {
   void OpenEncoding();
   void OpenLinkToMain();
   void OpenIndexPage();
+  void CheckWrittenSite();
+  bool LoadMissing();
   void ShowHelp();
   void SaveDefaults();
   void RestoreAll();
@@ -76,6 +79,7 @@ class frmMain : public QMainWindow {
   Dialogs m_dialogs;
   HelpWindow* m_help = nullptr;  // made when first opened
   std::string m_indexPage;       // of the last run that was completed
+  bool m_startFailed = false;    // controls hold less than is stored
   bool m_hasEnded = false;
 };
 

@@ -34,6 +34,7 @@ CodePage StoredCodePage(const SettingsStore& store) {
 }  // namespace
 
 bool frmMain::LoadForm() {
+  m_startFailed = false;
   try {
     LoadFirstOptions();
     const bool goesOn = LoadLibrary() && LoadOptions() && LoadLooks();
@@ -42,8 +43,22 @@ bool frmMain::LoadForm() {
   } catch (const RunTimeError& error) {
     std::string extra = FromQt(m_ui->txtFilename->text());
     if (!extra.empty()) extra += "\r\n";
+    m_startFailed = true;
     m_state.ui.ShowErrorReport(error.Number(), "Form Load - MAIN", extra + error.Extra());
     return true;
+  }
+}
+
+// What pages are made of must not be missing from them because the start did not come to it. False when it still cannot
+// be read, which was reported.
+bool frmMain::LoadMissing() {
+  try {
+    m_dialogs.LoadMissing();
+    if (m_state.texts.PageLanguage.empty()) ReadEncoding();
+    return true;
+  } catch (const RunTimeError& error) {
+    m_state.ui.ShowErrorReport(error.Number(), "Form Load - MAIN", error.Extra());
+    return false;
   }
 }
 

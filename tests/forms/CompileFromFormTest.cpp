@@ -105,6 +105,42 @@ TEST_F(CompileFromForm, ShowsProgressAndThenTheIndexPage) {
   EXPECT_TRUE(fs::exists(m_ui->pagesShown[0]));
 }
 
+TEST_F(CompileFromForm, ChecksTheWrittenSite) {
+  ASSERT_TRUE(Start());
+  EXPECT_FALSE(IsEnabled("cmdCheckSite"));
+  ChooseOutput();
+  Click("cmdCompile");
+  Click("cmdCheckSite");
+  EXPECT_EQ(m_ui->messages.back().title, "Check site");
+  EXPECT_TRUE(m_ui->messages.back().text.ends_with(" links: 0 broken, 0 pages possibly stale."));
+  std::ofstream(m_output / "old.html") << "<a href=\"none.html\">";
+  Click("cmdCheckSite");
+  EXPECT_TRUE(m_ui->messages.back().text.ends_with(
+      " links: 1 broken, 1 pages possibly stale.\r\nold.html, line 1: \"none.html\" is not there.\r\n"
+      "old.html: the index does not lead here."));
+  fs::remove(m_output / "index.html");
+  Click("cmdCheckSite");
+  EXPECT_EQ(m_ui->log.back(), "report cmdCheckSite_Click");
+}
+
+// A start that stops at a bad setting leaves later ones unread: pages still get them, and an exit keeps them.
+TEST_F(CompileFromForm, AFailedStartLosesNothing) {
+  Store("BackColor", "x");
+  Store("FontSize", "20");
+  Store("Lang", "el Greek");
+  Store("LinkToMain", "Back");
+  ASSERT_TRUE(Start());
+  ChooseOutput();
+  Click("cmdCompile");
+  EXPECT_EQ(m_ui->messages.back().title, "Compilation Complete Folionet");
+  const std::string page = Bytes(m_output / "index.html");
+  EXPECT_NE(page.find("content=\"el\""), std::string::npos);
+  m_ui->yesNo = {true};
+  Click("cmdClose");
+  EXPECT_TRUE(m_hasEnded);
+  EXPECT_NE(Bytes(m_home / "config/Folionet.ini").find("FontSize=20\n"), std::string::npos);
+}
+
 TEST_F(CompileFromForm, AFailedRunIsReportedAndOffersNoPage) {
   ASSERT_TRUE(Start());
   ChooseOutput();

@@ -43,7 +43,7 @@ class PageNameCheck {
 void CheckTitleFile(const ModGlob& glob, const std::string& fileName, FaultList& faults) {
   try {
     const std::string path = SysdefsFile(glob, fileName);
-    LineReader lines(path);
+    LineReader lines(path, LineReader::kLongestEntry);
     faults.CheckLetterCase(path, glob.SysdefsPath + fileName);
     PageNameCheck names(lines, faults);
     std::string_view line;

@@ -16,9 +16,9 @@ constexpr std::size_t kChunk = std::size_t{128} << 10;
 
 }  // namespace
 
-LineReader::LineReader(const std::string& path)
+LineReader::LineReader(const std::string& path, std::size_t longest)
     // A pipe in the place of a file must not block the opening.
-    : m_path(path), m_file(FileHandle::Open(path.c_str(), O_RDONLY | O_NONBLOCK)) {
+    : m_path(path), m_longest(longest), m_file(FileHandle::Open(path.c_str(), O_RDONLY | O_NONBLOCK)) {
   if (!m_file.IsOpen()) throw RunTimeError::FromErrno(errno, path);
   struct stat status {};
   if (fstat(m_file.Get(), &status) != 0) throw RunTimeError::FromErrno(errno, path);
@@ -58,9 +58,10 @@ bool LineReader::Next(std::string_view& line) {
       break;
     }
     const std::size_t pending = m_end - m_begin;
-    if (pending > kLongestLine) {
+    if (pending > m_longest) {
+      SkipLine();
       ++m_lineNumber;
-      Fail(kOutOfMemory, "The line is longer than " + std::to_string(kLongestLine) + " bytes.");
+      FailTooLong();
     }
     if (m_atEnd) {
       if (pending == 0) return false;
@@ -71,9 +72,27 @@ bool LineReader::Next(std::string_view& line) {
     Fill();
     searched = m_begin + pending;
   }
-  if (!line.empty() && line.back() == '\r') line.remove_suffix(1);
   ++m_lineNumber;
+  if (line.size() > m_longest) FailTooLong();
+  if (!line.empty() && line.back() == '\r') line.remove_suffix(1);
   return true;
+}
+
+// So that one who goes on reading finds the line behind it.
+void LineReader::SkipLine() {
+  for (;;) {
+    if (const void* found = std::memchr(m_buffer.data() + m_begin, '\n', m_end - m_begin)) {
+      m_begin = static_cast<std::size_t>(static_cast<const char*>(found) - m_buffer.data()) + 1;
+      return;
+    }
+    m_begin = m_end;
+    if (m_atEnd) return;
+    Fill();
+  }
+}
+
+void LineReader::FailTooLong() const {
+  Fail(kOutOfMemory, "The line is longer than " + std::to_string(m_longest) + " bytes.");
 }
 
 bool LineReader::NextNotBlank(std::string_view& line) {

@@ -15,11 +15,12 @@ inline constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 // byte-order mark at the start is skipped; every other byte, NUL included, is passed on as it is.
 class LineReader {
  public:
-  // A longer line is refused with kOutOfMemory.
+  // A longer line is refused with kOutOfMemory: one of a text, and one of a list, which is kept.
   static constexpr std::size_t kLongestLine = std::size_t{4} << 20;
+  static constexpr std::size_t kLongestEntry = std::size_t{64} << 10;
 
   // Opens the file; throws RunTimeError when that fails or when it is no regular file.
-  explicit LineReader(const std::string& path);
+  explicit LineReader(const std::string& path, std::size_t longest = kLongestLine);
 
   // Gives the next line without its end; false at the end of the file. The line is valid until the next call. Throws
   // RunTimeError when reading fails.
@@ -36,8 +37,11 @@ class LineReader {
 
  private:
   bool Fill();
+  void SkipLine();
+  [[noreturn]] void FailTooLong() const;
 
   std::string m_path;
+  std::size_t m_longest;
   FileHandle m_file;
   std::string m_buffer;
   std::size_t m_begin = 0;

@@ -17,7 +17,7 @@ namespace folionet {
 // hold nothing but blanks are skipped.
 class RecordReader {
  public:
-  explicit RecordReader(const std::string& path) : m_lines(path) {}
+  explicit RecordReader(const std::string& path) : m_lines(path, LineReader::kLongestEntry) {}
 
   // Reads the next record into `fields`, which must be as many as the record has; false at the end of the file. Throws
   // RunTimeError: kInputPastEnd when the record has fewer fields or a quote is not closed, kInvalidProcedureCall when

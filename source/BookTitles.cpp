@@ -36,7 +36,7 @@ void ReadBookTitles(ModGlob& glob, const std::string& fileName) {
   if (fileName.find_first_of("/\\") != std::string::npos) {
     throw RunTimeError(kBadFileName, fileName, "The name of a book-title file without a folder was expected.");
   }
-  LineReader lines(SysdefsFile(glob, fileName));
+  LineReader lines(SysdefsFile(glob, fileName), LineReader::kLongestEntry);
   for (std::size_t book = 1; book <= kBooks; ++book) {
     std::string_view line;
     if (!lines.NextNotBlank(line)) {

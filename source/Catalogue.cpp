@@ -12,6 +12,7 @@ namespace folionet {
 namespace {
 
 constexpr std::int64_t kFirstHiddenNumber = 1000;
+constexpr int kMostListed = 10000;
 
 // A stem names a file in one folder; it must not lead out of it.
 void CheckStem(const RecordReader& records, const std::string& stem, const CodePage& codePage) {
@@ -64,8 +65,13 @@ void ReadCatalogue(ModGlob& glob, const CodePage& codePage) {
   glob.BibleFiles.assign(1, {});
   std::size_t counter = 0;
   CatalogueRecord record;
+  int listed = 0;
   while (ReadCatalogueRecord(records, codePage, record)) {
     if (!record.isListed) continue;
+    // Each is looked for on the disk.
+    if (++listed > kMostListed) {
+      records.Lines().Fail(kOutOfMemory, "More than " + std::to_string(kMostListed) + " translations are listed.");
+    }
     glob.BibleNames[counter] = record.name;
     glob.BibleFiles[counter] = record.stem;
     if (!FileExists(VerseFile(glob, codePage, record.stem))) continue;

@@ -49,7 +49,7 @@ bool VerseFileReader::Next(Verse& verse) {
   verse.verse = line.substr(tabs[2] + 1, last - tabs[2] - 1);
   verse.text = line.substr(last + 1);
   // Nearly every line has the book and the chapter of the one before.
-  if (verse.bookField != m_bookField || verse.chapterField != m_chapterField) {
+  if (m_book == 0 || verse.bookField != m_bookField || verse.chapterField != m_chapterField) {
     const auto book = static_cast<int>(Number(verse.bookField, "book"));
     m_chapter = static_cast<std::int16_t>(Number(verse.chapterField, "chapter"));
     m_book = book;

@@ -25,10 +25,12 @@ std::string OutputPath(const CompileArguments& arguments, const Session& session
   return isStored ? WithSeparator(NativePath(session.main.Dir1)) : CompileRequest().txtOutputPath;
 }
 
+// A folder that cannot be made, as in a home that is read only, does not matter where nothing of it is needed.
 std::string ProgramFolderOf(Session& session) {
   try {
     return FindProgramFolder(session.chosenProgramFolder);
   } catch (const RunTimeError& error) {
+    if (!session.options.chkCSS) return ProgramFolderPath(session.chosenProgramFolder);
     session.ui.ShowErrorReport(error.Number(), "Form Load - MAIN", error.Extra());
     throw ExitWith(kExitFailed);
   }

@@ -37,11 +37,15 @@ std::string ExecutableFolder() {
   return error ? "./" : path.parent_path().string() + "/";
 }
 
-std::string FindProgramFolder(const std::string& chosen) {
+std::string ProgramFolderPath(const std::string& chosen) {
   if (!chosen.empty()) return WithSeparator(NativePath(chosen));
-  const std::string own = ExecutableFolder();
-  if (FileExists(own + "default.css") && access(own.c_str(), W_OK) == 0) return own;
-  const std::string folder = UserDataFolder();
+  std::string own = ExecutableFolder();
+  return FileExists(own + "default.css") && access(own.c_str(), W_OK) == 0 ? own : UserDataFolder();
+}
+
+std::string FindProgramFolder(const std::string& chosen) {
+  std::string folder = ProgramFolderPath(chosen);
+  if (!chosen.empty() || folder == ExecutableFolder()) return folder;
   std::error_code error;
   std::filesystem::create_directories(folder, error);
   if (error) throw RunTimeError::FromErrno(error.value(), folder);

@@ -13,4 +13,7 @@ std::string ExecutableFolder();
 // it lacks. Throws RunTimeError when the last cannot be made or filled.
 std::string FindProgramFolder(const std::string& chosen);
 
+// The same folder, with nothing made or filled.
+std::string ProgramFolderPath(const std::string& chosen);
+
 }  // namespace folionet

@@ -1,6 +1,7 @@
 #include "IniFormat.h"
 
 #include <QByteArray>
+#include <QFileDevice>
 #include <QIODevice>
 #include <utility>
 
@@ -91,7 +92,9 @@ bool Write(QIODevice& device, const QSettings::SettingsMap& map) {
     }
     text += entry.key().mid(slash + 1).toUtf8() + '=' + Written(entry.value().toString().toUtf8()) + '\n';
   }
-  return device.write(text) == text.size();
+  // QSettings would not notice that the text, which is small, fails to leave the buffer.
+  auto* const file = qobject_cast<QFileDevice*>(&device);
+  return device.write(text) == text.size() && (file == nullptr || file->flush());
 }
 
 }  // namespace

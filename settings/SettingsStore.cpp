@@ -1,5 +1,7 @@
 #include "SettingsStore.h"
 
+#include <sys/file.h>
+
 #include <QFile>
 #include <QSettings>
 #include <cerrno>
@@ -10,6 +12,7 @@
 
 #include "BuildInfo.h"
 #include "CodePage.h"
+#include "FileHandle.h"
 #include "IniFormat.h"
 #include "Numbers.h"
 #include "Paths.h"
@@ -39,6 +42,20 @@ void CheckFile(const std::string& path) {
   if (const std::uintmax_t size = std::filesystem::file_size(path, error); !error && size > kLongest) {
     throw RunTimeError(kOutOfMemory, path, "The file is longer than " + std::to_string(kLongest) + " bytes.");
   }
+}
+
+// Our programs save one after the other, so that a lock file of QSettings' is what one of them left that was killed:
+// QSettings might wait half a minute for it.
+FileHandle TakeTurn(const std::string& folder, const std::string& lock) {
+  FileHandle turn = FileHandle::Open(folder.c_str(), O_RDONLY | O_DIRECTORY);
+  if (!turn.IsOpen()) return turn;
+  int result = 0;
+  do {
+    result = flock(turn.Get(), LOCK_EX);
+  } while (result != 0 && errno == EINTR);
+  std::error_code ignored;
+  if (result == 0) std::filesystem::remove(lock, ignored);
+  return turn;
 }
 
 // A number's text without more digits than it needs: 12, 10.5
@@ -98,6 +115,7 @@ void SettingsStore::SaveSetting(std::string_view application, std::string_view s
 
 void SettingsStore::Sync(std::string_view application) {
   QSettings& area = Area(application);
+  const FileHandle turn = TakeTurn(m_folder, FilePath(application) + ".lock");
   errno = 0;
   area.sync();
   if (area.status() != QSettings::NoError) {

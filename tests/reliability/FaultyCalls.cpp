@@ -1,0 +1,257 @@
+// A library to be preloaded into a program: it counts the program's calls to the file system that touch one folder and
+// makes one of them go wrong. What it is to do stands in the environment:
+//
+//   FAULT_FOLDER  the folder, ending in "/"
+//   FAULT_LOG     a file outside of it that gets a line for every call counted: its name, a blank, its path
+//   FAULT_AT      the number of the call that goes wrong, from 1; 0 for none
+//   FAULT_KIND    a value of errno to fail with; "short": half is read or written; "kill": the program is killed
+//                 before the call; "torn": it is killed after half of the bytes are written
+//
+// It uses system calls directly, so that nothing it does itself is counted.
+
+#include <dirent.h>
+#include <dlfcn.h>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <sys/syscall.h>
+#include <unistd.h>
+
+#include <array>
+#include <atomic>
+#include <cerrno>
+#include <climits>
+#include <csignal>
+#include <cstdarg>
+#include <cstdlib>
+#include <cstring>
+#include <string>
+#include <string_view>
+
+namespace {
+
+enum class Strike { kNone, kFail, kShort, kTorn };
+
+class Plan {
+ public:
+  Plan() : m_folder(Variable("FAULT_FOLDER")), m_kind(Variable("FAULT_KIND")), m_at(std::atol(Variable("FAULT_AT"))) {
+    m_log = static_cast<int>(syscall(SYS_openat, AT_FDCWD, Variable("FAULT_LOG"), O_WRONLY | O_APPEND | O_CLOEXEC, 0));
+  }
+
+  Strike Meet(std::string_view call, const std::string& path) {
+    if (m_folder.empty() || !path.starts_with(m_folder)) return Strike::kNone;
+    const std::string line = std::string(call) + " " + path + "\n";
+    syscall(SYS_write, m_log, line.data(), line.size());
+    if (++m_count != m_at) return Strike::kNone;
+    if (m_kind == "short") return Strike::kShort;
+    if (m_kind == "torn") return Strike::kTorn;
+    if (m_kind == "kill") Kill();
+    errno = std::atoi(m_kind.c_str());
+    return Strike::kFail;
+  }
+
+  [[noreturn]] static void Kill() {
+    syscall(SYS_kill, syscall(SYS_getpid), SIGKILL);
+    for (;;) pause();
+  }
+
+ private:
+  static const char* Variable(const char* name) {
+    const char* value = std::getenv(name);
+    return value != nullptr ? value : "";
+  }
+
+  std::string m_folder;
+  std::string m_kind;
+  long m_at;
+  int m_log;
+  std::atomic<long> m_count{0};
+};
+
+Plan& ThePlan() {
+  static Plan plan;
+  return plan;
+}
+
+std::string LinkText(const std::string& path) {
+  std::array<char, PATH_MAX> buffer{};
+  const long length = syscall(SYS_readlinkat, AT_FDCWD, path.c_str(), buffer.data(), buffer.size());
+  return length < 0 ? std::string() : std::string(buffer.data(), static_cast<std::size_t>(length));
+}
+
+std::string PathOf(int descriptor) { return LinkText("/proc/self/fd/" + std::to_string(descriptor)); }
+
+std::string PathAt(int folder, const char* path) {
+  if (path[0] == '/') return path;
+  return (folder == AT_FDCWD ? LinkText("/proc/self/cwd") : PathOf(folder)) + "/" + path;
+}
+
+// The folder's own path is met as "<folder>/", so that what lists it is counted.
+std::string FolderPath(const char* path) {
+  std::string whole = PathAt(AT_FDCWD, path);
+  if (!whole.ends_with('/')) whole += '/';
+  return whole;
+}
+
+bool Fails(std::string_view call, const std::string& path) {
+  const int before = errno;
+  const Strike strike = ThePlan().Meet(call, path);
+  if (strike != Strike::kFail) errno = before;
+  return strike == Strike::kFail;
+}
+
+int Open(int folder, const char* path, int flags, mode_t mode) {
+  if (Fails((flags & O_CREAT) != 0 ? "create" : "open", PathAt(folder, path))) return -1;
+  return static_cast<int>(syscall(SYS_openat, folder, path, flags, mode));
+}
+
+// Reads or writes through `number`, with what the plan has for it. `offset` is -1 for the file's own position.
+template <typename Pointer>
+ssize_t Transfer(std::string_view call, long number, int descriptor, Pointer bytes, std::size_t count, off_t offset) {
+  const int before = errno;
+  const Strike strike = ThePlan().Meet(call, PathOf(descriptor));
+  if (strike == Strike::kFail) return -1;
+  errno = before;
+  if (strike != Strike::kNone && count > 1) count /= 2;
+  const long done = offset < 0 ? syscall(number, descriptor, bytes, count)
+                               : syscall(number, descriptor, bytes, count, static_cast<long>(offset));
+  if (strike == Strike::kTorn) Plan::Kill();
+  return done;
+}
+
+mode_t ModeArgument(int flags, va_list arguments) {
+  const bool isGiven = (flags & O_CREAT) != 0 || (flags & O_TMPFILE) == O_TMPFILE;
+  return isGiven ? va_arg(arguments, mode_t) : 0;
+}
+
+template <typename Function>
+Function* Next(const char* name) {
+  return reinterpret_cast<Function*>(dlsym(RTLD_NEXT, name));
+}
+
+}  // namespace
+
+// The library's own names stand in the place of the C library's; each does what that one does.
+extern "C" {
+
+#define FAULTY_OPEN(name)                               \
+  int name(const char* path, int flags, ...) {          \
+    va_list arguments;                                  \
+    va_start(arguments, flags);                         \
+    const mode_t mode = ModeArgument(flags, arguments); \
+    va_end(arguments);                                  \
+    return Open(AT_FDCWD, path, flags, mode);           \
+  }
+FAULTY_OPEN(open)
+FAULTY_OPEN(open64)
+#undef FAULTY_OPEN
+
+#define FAULTY_OPENAT(name)                                \
+  int name(int folder, const char* path, int flags, ...) { \
+    va_list arguments;                                     \
+    va_start(arguments, flags);                            \
+    const mode_t mode = ModeArgument(flags, arguments);    \
+    va_end(arguments);                                     \
+    return Open(folder, path, flags, mode);                \
+  }
+FAULTY_OPENAT(openat)
+FAULTY_OPENAT(openat64)
+#undef FAULTY_OPENAT
+
+int __open_2(const char* path, int flags) { return Open(AT_FDCWD, path, flags, 0); }
+int __open64_2(const char* path, int flags) { return Open(AT_FDCWD, path, flags, 0); }
+
+ssize_t read(int descriptor, void* bytes, std::size_t count) {
+  return Transfer("read", SYS_read, descriptor, bytes, count, -1);
+}
+ssize_t __read_chk(int descriptor, void* bytes, std::size_t count, std::size_t /*room*/) {
+  return Transfer("read", SYS_read, descriptor, bytes, count, -1);
+}
+ssize_t pread(int descriptor, void* bytes, std::size_t count, off_t offset) {
+  return Transfer("read", SYS_pread64, descriptor, bytes, count, offset);
+}
+ssize_t pread64(int descriptor, void* bytes, std::size_t count, off_t offset) {
+  return Transfer("read", SYS_pread64, descriptor, bytes, count, offset);
+}
+ssize_t write(int descriptor, const void* bytes, std::size_t count) {
+  return Transfer("write", SYS_write, descriptor, bytes, count, -1);
+}
+ssize_t pwrite(int descriptor, const void* bytes, std::size_t count, off_t offset) {
+  return Transfer("write", SYS_pwrite64, descriptor, bytes, count, offset);
+}
+ssize_t pwrite64(int descriptor, const void* bytes, std::size_t count, off_t offset) {
+  return Transfer("write", SYS_pwrite64, descriptor, bytes, count, offset);
+}
+
+int ftruncate(int descriptor, off_t length) noexcept {
+  if (Fails("ftruncate", PathOf(descriptor))) return -1;
+  return static_cast<int>(syscall(SYS_ftruncate, descriptor, length));
+}
+int ftruncate64(int descriptor, off_t length) noexcept { return ftruncate(descriptor, length); }
+
+// The descriptor is gone also when the call fails, as it is here.
+int close(int descriptor) {
+  const bool fails = Fails("close", PathOf(descriptor));
+  const int error = errno;
+  const int result = static_cast<int>(syscall(SYS_close, descriptor));
+  if (!fails) return result;
+  errno = error;
+  return -1;
+}
+
+int fsync(int descriptor) {
+  if (Fails("fsync", PathOf(descriptor))) return -1;
+  return static_cast<int>(syscall(SYS_fsync, descriptor));
+}
+int fdatasync(int descriptor) {
+  if (Fails("fsync", PathOf(descriptor))) return -1;
+  return static_cast<int>(syscall(SYS_fdatasync, descriptor));
+}
+
+int unlink(const char* path) noexcept {
+  if (Fails("unlink", PathAt(AT_FDCWD, path))) return -1;
+  return static_cast<int>(syscall(SYS_unlinkat, AT_FDCWD, path, 0));
+}
+int unlinkat(int folder, const char* path, int flags) noexcept {
+  if (Fails("unlink", PathAt(folder, path))) return -1;
+  return static_cast<int>(syscall(SYS_unlinkat, folder, path, flags));
+}
+
+int rename(const char* from, const char* to) noexcept {
+  if (Fails("rename", PathAt(AT_FDCWD, to))) return -1;
+  return static_cast<int>(syscall(SYS_renameat2, AT_FDCWD, from, AT_FDCWD, to, 0));
+}
+int renameat2(int fromFolder, const char* from, int toFolder, const char* to, unsigned flags) noexcept {
+  if (Fails("rename", PathAt(toFolder, to))) return -1;
+  return static_cast<int>(syscall(SYS_renameat2, fromFolder, from, toFolder, to, flags));
+}
+int link(const char* from, const char* to) noexcept {
+  if (Fails("link", PathAt(AT_FDCWD, to))) return -1;
+  return static_cast<int>(syscall(SYS_linkat, AT_FDCWD, from, AT_FDCWD, to, 0));
+}
+int linkat(int fromFolder, const char* from, int toFolder, const char* to, int flags) noexcept {
+  if (Fails("link", PathAt(toFolder, to))) return -1;
+  return static_cast<int>(syscall(SYS_linkat, fromFolder, from, toFolder, to, flags));
+}
+
+int mkdir(const char* path, mode_t mode) noexcept {
+  if (Fails("mkdir", PathAt(AT_FDCWD, path))) return -1;
+  return static_cast<int>(syscall(SYS_mkdirat, AT_FDCWD, path, mode));
+}
+
+DIR* opendir(const char* path) {
+  if (Fails("opendir", FolderPath(path))) return nullptr;
+  static auto* const real = Next<DIR*(const char*)>("opendir");
+  return real(path);
+}
+struct dirent* readdir(DIR* folder) {
+  if (Fails("readdir", PathOf(dirfd(folder)) + "/")) return nullptr;
+  static auto* const real = Next<dirent*(DIR*)>("readdir");
+  return real(folder);
+}
+struct dirent64* readdir64(DIR* folder) {
+  if (Fails("readdir", PathOf(dirfd(folder)) + "/")) return nullptr;
+  static auto* const real = Next<dirent64*(DIR*)>("readdir64");
+  return real(folder);
+}
+
+}  // extern "C"

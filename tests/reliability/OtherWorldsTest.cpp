@@ -1,0 +1,103 @@
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "FolderContent.h"
+#include "SmallLibrary.h"
+
+// The same site whatever surrounds the program.
+
+namespace folionet::test {
+namespace {
+
+namespace fs = std::filesystem;
+
+using Command = std::vector<std::string>;
+
+Command With(Command before, const Command& command) {
+  before.insert(before.end(), command.begin(), command.end());
+  return before;
+}
+
+FolderContent UsualSite() {
+  const TemporaryFolder home;
+  MakeSmallLibrary(home);
+  EXPECT_EQ(RunProgram(CompileSmall(), home.Path()).status, 0);
+  return ReadFolder(home.Path() + "out");
+}
+
+TEST(OtherWorlds, TheSiteIsTheSameInEveryLocaleAndWithEveryMask) {
+  const FolderContent usual = UsualSite();
+  ASSERT_GT(usual.size(), 3U);
+  // A locale that is not installed is as good as none; nothing may hang on it either way.
+  for (const char* locale : {"C", "C.UTF-8", "POSIX", "tr_TR.UTF-8", "de_DE.UTF-8", "ja_JP.SJIS", "none such"}) {
+    for (const char* mask : {"000", "022", "077"}) {
+      const TemporaryFolder home;
+      MakeSmallLibrary(home);
+      const std::string name = std::string("LC_ALL=") + locale;
+      const Command shell{"/bin/sh", "-c", std::string("umask ") + mask + "; exec \"$@\"", "sh", "/usr/bin/env", name};
+      const ProgramResult run = RunProgram(With(shell, CompileSmall()), home.Path());
+      EXPECT_EQ(run.status, 0) << locale << ": " << run.errors;
+      EXPECT_EQ(DescribeDifference(usual, ReadFolder(home.Path() + "out")), "") << locale << " " << mask;
+    }
+  }
+}
+
+TEST(OtherWorlds, TheSiteIsTheSameInFoldersOfEveryName) {
+  const FolderContent usual = UsualSite();
+  for (const char* name :
+       {"with blanks  in it", "quotes \" and '", "Ünïcödé 聖書", "dots..", "-dash", "%s%n", "a\nb"}) {
+    const TemporaryFolder home;
+    const std::string folder = home.Path() + name + "/";
+    MakeSmallLibrary(home);
+    for (const char* part : {"installation", "program"}) {
+      fs::create_directories(folder);
+      fs::rename(home.Path() + part, folder + part);
+    }
+    const Command command{FOLIONET_CLI,       "compile",
+                          "--versalia-path",  folder + "installation",
+                          "--module-path",    folder + "installation/Modules",
+                          "--program-folder", folder + "program",
+                          "--output",         folder + "out",
+                          "--index-address",  "index.html"};
+    const ProgramResult run = RunProgram(command, "/");
+    EXPECT_EQ(run.status, 0) << name << ": " << run.errors;
+    EXPECT_EQ(DescribeDifference(usual, ReadFolder(folder + "out")), "") << name;
+  }
+}
+
+TEST(OtherWorlds, AHomeThatCannotBeWrittenIsNoHindrance) {
+  const FolderContent usual = UsualSite();
+  const TemporaryFolder home;
+  MakeSmallLibrary(home);
+  home.Write("file", "in the place of a home");
+  // A program without delivered files beside it, as an installed one is.
+  fs::create_directory(home.Path() + "bin");
+  fs::copy(FOLIONET_CLI, home.Path() + "bin/folionet-cli");
+  const Command surroundings{"/usr/bin/env", "HOME=" + home.Path() + "file", "XDG_CONFIG_HOME=" + home.Path() + "file",
+                             "XDG_DATA_HOME=" + home.Path() + "file"};
+  const Command compile{
+      home.Path() + "bin/folionet-cli", "compile",      "--versalia-path",           "installation", "--module-path",
+      "installation/Modules",           "--output=out", "--index-address=index.html"};
+  const ProgramResult run = RunProgram(With(surroundings, compile), home.Path());
+  EXPECT_EQ(run.status, 0) << run.errors;
+  EXPECT_EQ(DescribeDifference(usual, ReadFolder(home.Path() + "out")), "");
+  const ProgramResult styled = RunProgram(With(With(surroundings, compile), {"--set=chkCSS=1"}), home.Path());
+  EXPECT_EQ(styled.status, 3);
+  EXPECT_NE(styled.errors.find(home.Path() + "file/Folionet/"), std::string::npos) << styled.errors;
+}
+
+TEST(OtherWorlds, AnOutputFolderThatCannotBeWrittenIsReported) {
+  const TemporaryFolder home;
+  MakeSmallLibrary(home);
+  Command command = CompileSmall();
+  for (std::string& part : command) {
+    if (part == "--output=out") part = "--output=/proc/self/fdinfo";
+  }
+  const ProgramResult run = RunProgram(command, home.Path());
+  EXPECT_EQ(run.status, 3);
+  EXPECT_NE(run.errors.find("/proc/self/fdinfo/"), std::string::npos) << run.errors;
+}
+
+}  // namespace
+}  // namespace folionet::test

@@ -9,16 +9,20 @@ namespace {
 constexpr int kMostReplacements = 10000;
 constexpr std::size_t kLongestText = std::size_t{1} << 20;
 
+[[noreturn]] void FailEndless(std::string_view word, std::string_view value) {
+  throw RunTimeError(kInvalidProcedureCall, std::string(word),
+                     "The replacement does not end. Its value: " + Quoted(value));
+}
+
 // Replaces the first occurrence until there is none. The search need not start over: text before a replacement holds
 // no occurrence that does not reach into it.
 void ReplaceAll(std::string& text, std::string_view word, std::string_view value, int& replacements) {
   std::size_t at = text.find(word);
+  // A value that brings its own word back never ends; going on to the limits would only move a long text many times.
+  if (at != std::string::npos && value.find(word) != std::string_view::npos) FailEndless(word, value);
   while (at != std::string::npos) {
     text.replace(at, word.size(), value);
-    if (++replacements > kMostReplacements || text.size() > kLongestText) {
-      throw RunTimeError(kInvalidProcedureCall, std::string(word),
-                         "The replacement does not end. Its value: " + Quoted(value));
-    }
+    if (++replacements > kMostReplacements || text.size() > kLongestText) FailEndless(word, value);
     at = text.find(word, at < word.size() ? 0 : at - (word.size() - 1));
   }
 }

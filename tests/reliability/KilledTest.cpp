@@ -90,6 +90,8 @@ TEST_P(KilledSave, LeavesTheOldOrTheNew) {
     for (const auto& [name, bytes] : now) EXPECT_TRUE(name.starts_with(file)) << name;
     const FaultyRun next = RunFaulty(job.command(home), home);
     EXPECT_EQ(next.result.status, 0) << next.result.errors;
+    job.arrange(home);
+    EXPECT_EQ(RunFaulty(job.command(home), home).result.status, 0);
     EXPECT_EQ(ReadFolder(home.Path()).at(file), after.at(file));
   }
   RecordProperty("moments", static_cast<int>(moments.size()));

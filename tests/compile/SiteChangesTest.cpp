@@ -1,7 +1,6 @@
-#include "SiteChanges.h"
-
 #include <gtest/gtest.h>
 
+#include "SiteChanges.h"
 #include "Sitemap.h"
 
 namespace folionet {

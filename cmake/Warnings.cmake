@@ -8,6 +8,11 @@ if(FOLIONET_SANITIZE)
   add_link_options(-fsanitize=address,undefined)
 endif()
 
+if(FOLIONET_FUZZ)
+  add_compile_options(-fsanitize=fuzzer-no-link,address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=address,undefined)
+endif()
+
 # g++ 12 sees an overlap in "literal" + std::string that is not there.
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
   target_compile_options(folionet_warnings INTERFACE -Wno-restrict)

@@ -5,6 +5,7 @@
 #include <cstdio>
 
 #include "ErrorReport.h"
+#include "NextSteps.h"
 #include "ProgramFolder.h"
 
 namespace folionet {
@@ -38,6 +39,7 @@ void ConsoleUi::ShowMessage(const Message& message) {
   EndProgress();
   if (!message.isResult) {
     Write(stderr, message.title + ": " + WithNewLines(message.text));
+    if (const std::string_view step = NextStep(message.title); !step.empty()) Write(stderr, step);
   } else if (!m_quiet) {
     Write(stdout, WithNewLines(message.text));
   }

@@ -8,8 +8,9 @@
 
 namespace folionet {
 
-// The command line's half of the way to the person: messages and reports in the words of the boxes, on standard error;
-// what was asked for on standard output; progress on standard error when that is a terminal. Nothing is ever asked.
+// The command line's half of the way to the person: messages and reports in the words of the boxes, on standard error,
+// a refusal with a line that says what to do next; what was asked for on standard output; progress on standard error
+// when that is a terminal. Nothing is ever asked.
 class ConsoleUi : public UserInterface {
  public:
   explicit ConsoleUi(bool quiet);

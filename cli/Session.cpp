@@ -12,6 +12,8 @@
 namespace folionet {
 namespace {
 
+constexpr char kShowSettings[] = " \"folionet-cli list settings\" shows all of them.";
+
 // The place of the one text that equals `wanted`, exactly or else ignoring case; npos when there is none.
 std::size_t FindText(const std::vector<std::string>& texts, const std::string& wanted) {
   for (std::size_t i = 0; i < texts.size(); ++i) {
@@ -50,15 +52,17 @@ void Session::Override(const std::vector<std::string>& assignments) {
   for (const std::string& assignment : assignments) {
     const std::size_t equals = assignment.find('=');
     const std::string name = assignment.substr(0, equals);
-    if (equals == std::string::npos) RefuseUsage("--set: KEY=VALUE was expected: \"" + assignment + "\"");
+    if (equals == std::string::npos) {
+      RefuseUsage("--set: KEY=VALUE was expected: \"" + assignment + "\"." + kShowSettings);
+    }
     const SettingKey* key = FindSettingKey(name);
     if (key == nullptr) {
-      RefuseUsage("--set: there is no setting \"" + name + "\". \"folionet-cli list settings\" shows all of them.");
+      RefuseUsage("--set: there is no setting \"" + name + "\"." + kShowSettings);
     }
     std::string value = assignment.substr(equals + 1);
     if (CheckSetting(key->form, value) != 0) {
       RefuseUsage(std::string("--set: ").append(name).append(" must be ").append(Describe(key->form)) + ": \"" + value +
-                  "\"");
+                  "\"." + kShowSettings);
     }
     store.Override(name, std::move(value));
   }

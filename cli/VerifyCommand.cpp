@@ -10,7 +10,8 @@ namespace folionet {
 
 ExitStatus RunVerify(const std::string& folder, const std::string& indexName) {
   const std::string index = indexName.empty() ? FindIndexPage(folder) : indexName;
-  if (!FolderExists(folder)) RefuseUsage("There is no folder \"" + folder + "\".");
+  if (!FolderExists(folder))
+    RefuseUsage("There is no folder \"" + folder + "\": give the one that compile wrote into.");
   if (index.empty()) {
     RefuseUsage("There is no index.html and no index.htm in \"" + folder +
                 "\": give the index page with --index NAME.");

@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <sstream>
+
 #include "BuildInfo.h"
 #include "FolderContent.h"
 #include "Library.h"
@@ -44,9 +46,12 @@ TEST(UsageTest, NamesTheArgumentThatIsWrong) {
     const char* error;
   } cases[] = {
       {{"--set", "nope=1"}, "--set: there is no setting \"nope\". \"folionet-cli list settings\" shows all of them.\n"},
-      {{"--set", "chkCSS=2"}, "--set: chkCSS must be 0 or 1: \"2\"\n"},
-      {{"--set", "FontBold=yes"}, "--set: FontBold must be True or False: \"yes\"\n"},
-      {{"--set", "chkCSS"}, "--set: KEY=VALUE was expected: \"chkCSS\"\n"},
+      {{"--set", "chkCSS=2"},
+       "--set: chkCSS must be 0 or 1: \"2\". \"folionet-cli list settings\" shows all of them.\n"},
+      {{"--set", "FontBold=yes"},
+       "--set: FontBold must be True or False: \"yes\". \"folionet-cli list settings\" shows all of them.\n"},
+      {{"--set", "chkCSS"},
+       "--set: KEY=VALUE was expected: \"chkCSS\". \"folionet-cli list settings\" shows all of them.\n"},
       {{"--translation", "NONE"},
        "--translation: there is no translation \"NONE\". \"folionet-cli list translations\" shows those that are "
        "installed.\n"},
@@ -58,7 +63,7 @@ TEST(UsageTest, NamesTheArgumentThatIsWrong) {
        "them.\n"},
       {{"--sitemap", "example.org"},
        "--sitemap: an address such as https://example.org/bible/ was expected: \"example.org\"\n"},
-      {{"--set", "Font=\xE9"}, "Argument 5 is not UTF-8 text.\n"},
+      {{"--set", "Font=\xE9"}, "Argument 5 is not UTF-8 text: give it in UTF-8.\n"},
       {{"--no-such-option"},
        "The following argument was not expected: --no-such-option\nRun with --help for more "
        "information.\n"},
@@ -76,10 +81,19 @@ TEST(UsageTest, NamesTheArgumentThatIsWrong) {
 TEST(UsageTest, VersionAndHelpEndWell) {
   const TemporaryFolder home;
   EXPECT_EQ(RunCli({"--version"}, home.Path()).output, std::string("folionet-cli ") + kVersion + "\n");
-  for (const char* command : {"compile", "list", "check", "verify"}) {
-    const ProgramResult result = RunCli({command, "--help"}, home.Path());
+}
+
+TEST(UsageTest, HelpFitsAScreenAndGivesAnExample) {
+  const TemporaryFolder home;
+  for (const auto& arguments : std::vector<std::vector<std::string>>{
+           {"--help"}, {"compile", "--help"}, {"list", "--help"}, {"check", "--help"}, {"verify", "--help"}}) {
+    const ProgramResult result = RunCli(arguments, home.Path());
     EXPECT_EQ(result.status, 0);
-    EXPECT_LE(std::count(result.output.begin(), result.output.end(), '\n'), 40) << command;
+    EXPECT_NE(result.output.find("\nExample:\n  folionet-cli "), std::string::npos) << result.output;
+    std::istringstream lines(result.output);
+    int count = 0;
+    for (std::string line; std::getline(lines, line); ++count) EXPECT_LE(line.size(), 80U) << line;
+    EXPECT_LE(count, 40) << result.output;
   }
 }
 

@@ -42,7 +42,8 @@ TEST(VerifyTest, NamesEveryLinkThatLeadsNowhere) {
 TEST(VerifyTest, SaysWhatItNeeds) {
   const TemporaryFolder home;
   home.Write("site/main.html", "");
-  EXPECT_EQ(RunCli({"verify", "none"}, home.Path()).errors, "There is no folder \"none\".\n");
+  EXPECT_EQ(RunCli({"verify", "none"}, home.Path()).errors,
+            "There is no folder \"none\": give the one that compile wrote into.\n");
   EXPECT_EQ(RunCli({"verify", "site"}, home.Path()).errors,
             "There is no index.html and no index.htm in \"site\": give the index page with --index NAME.\n");
   EXPECT_EQ(RunCli({"verify", "site", "--index", "x.html"}, home.Path()).status, 3);

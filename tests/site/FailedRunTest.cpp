@@ -17,7 +17,8 @@ const FailingRun kBadIndexes[] = {
          ".\n"
          "Without this file Folionet cannot continue.\n"
          "To create this file run Versalia on 'King James Version' first.\n"
-         "Folionet will now close.\n"},
+         "Folionet will now close.\n"
+         "Then run this command again, or choose another translation with --translation NAME.\n"},
     {"IndexRecordIsShort", kAll, EndsWith(kChapterIndex, "0,0,67\r\n"), kFails,
      Report(62, "Input past end of file", "BooksInChapters",
             kChapterIndex + "\nLine 8\nA record of 7 fields was expected, 3 found: \"0,0,67\"")},

@@ -107,7 +107,9 @@ std::string ListReport(int number, const std::string& description, const std::st
          "Folionet will attempt to gather the correct information manually\n"
          "You will need to enter the values for the following:\n"
          "1. The Versalia Path\n"
-         "2. The Versalia Module Path\n";
+         "2. The Versalia Module Path\n"
+         "Give them with --versalia-path FOLDER, which holds Sysdefs and Index, and --module-path FOLDER, which holds "
+         "Bible; \"folionet-cli check\" names what is wrong in them.\n";
 }
 
 std::string IndexReport(int number, const std::string& description, const std::vector<std::string>& fields,

@@ -11,6 +11,18 @@ namespace {
 
 namespace fs = std::filesystem;
 
+// What the command line says to do next, after the words of the box.
+const std::string kGiveOutput = "Give one with --output FOLDER.\n";
+const std::string kGiveTranslation =
+    "Choose another with --translation NAME; \"folionet-cli list translations\" shows them.\n";
+const std::string kGiveAddress = "Give the name or address of the index page, such as --index-address index.html.\n";
+const std::string kGiveLanguage = "Give one with --language-file NAME; \"folionet-cli list languages\" shows them.\n";
+const std::string kGiveLongName =
+    "Give an address such as --index-address index.html, or short names with --set Use83=1.\n";
+const std::string kGiveShortName =
+    "Give an address such as --index-address index.htm, or long names with --set Use83=0.\n";
+const std::string kSeeCheck = "No translation has its text where Versalia keeps it: see \"folionet-cli check\".\n";
+
 const FailingRun kRefused[] = {
     {"NoOutputFolderComesFirst",
      {"--language-file=Default"},
@@ -19,78 +31,85 @@ const FailingRun kRefused[] = {
        home.Write("installation/Sysdefs/Default", home.Read(kTitles));
      },
      kIsRefused,
-     "No Path: No Output path Selected.\n"},
+     "No Path: No Output path Selected.\n" + kGiveOutput},
     {"NoOutputFolderThoughAStyleSheetIsWanted",
      {"--set=chkCSS=1"},
      Holds("program/default.css", "p {}"),
      kIsRefused,
-     "No Path: No Output path Selected.\n"},
+     "No Path: No Output path Selected.\n" + kGiveOutput},
     {"NoBibleComesSecond",
      {kOut},
      Says(kCatalogue, "King James Version", "txtBibleSel"),
      kIsRefused,
-     "No Bible: No Bible Selected.\n"},
+     "No Bible: No Bible Selected.\n" + kGiveTranslation},
     {"NoIndexAddressComesThird",
      {kOut, "--language-file=Default"},
      [](const TemporaryFolder& home) { home.Write("installation/Sysdefs/Default", home.Read(kTitles)); },
      kIsRefused,
-     "No HTTP Root: No HTTP root has been entered.\n"},
+     "No HTTP Root: No HTTP root has been entered.\n" + kGiveAddress},
     {"NoLanguageComesFourth",
      {kOut, "--index-address=index", "--language-file=Default"},
      [](const TemporaryFolder& home) { home.Write("installation/Sysdefs/Default", home.Read(kTitles)); },
      kIsRefused,
-     "Language not selected: Please select a language for the Book Titles first\n"},
+     "Language not selected: Please select a language for the Book Titles first\n" + kGiveLanguage},
     {"LongExtensionMustBeHtml",
      {kOut, "--index-address=http://example.org/index.htm"},
      {},
      kIsRefused,
      "Not a valid long file extension: \"htm\" is not a valid long filename extension. It must be \"html\"\n"
-     "Please correct and try again.\n"},
+     "Please correct and try again.\n" +
+         kGiveLongName},
     {"LongExtensionMustBeInLowerCase",
      {kOut, "--index-address=index.HTML"},
      {},
      kIsRefused,
      "Not a valid long file extension: \"HTML\" is not a valid long filename extension. It must be \"html\"\n"
-     "Please correct and try again.\n"},
+     "Please correct and try again.\n" +
+         kGiveLongName},
     {"LongExtensionEndsInASlash",
      {kOut, "--index-address=http://example.org/bible/"},
      {},
      kIsRefused,
      "Not a valid long file extension: \"org/bible/\" is not a valid long filename extension. It must be \"html\"\n"
-     "Please correct and try again.\n"},
+     "Please correct and try again.\n" +
+         kGiveLongName},
     {"ShortNameIsTooLong",
      {kOut, "--set=Use83=1", "--index-address=http://example.org/a/welcome01.htm"},
      {},
      kIsRefused,
-     "8.3 filename error: Either \"welcome01\" is an illegal 8.3 filename or \n\"htm\" is. Please correct.\n"},
+     "8.3 filename error: Either \"welcome01\" is an illegal 8.3 filename or \n\"htm\" is. Please correct.\n" +
+         kGiveShortName},
     {"ShortExtensionMustBeHtm",
      {kOut, "--set=Use83=1", kIndex},
      {},
      kIsRefused,
-     "8.3 filename error: Either \"index\" is an illegal 8.3 filename or \n\"html\" is. Please correct.\n"},
+     "8.3 filename error: Either \"index\" is an illegal 8.3 filename or \n\"html\" is. Please correct.\n" +
+         kGiveShortName},
     {"ShortExtensionMustBeInLowerCase",
      {kOut, "--set=Use83=1", "--index-address=index.HTM"},
      {},
      kIsRefused,
-     "8.3 filename error: Either \"index\" is an illegal 8.3 filename or \n\"HTM\" is. Please correct.\n"},
+     "8.3 filename error: Either \"index\" is an illegal 8.3 filename or \n\"HTM\" is. Please correct.\n" +
+         kGiveShortName},
     {"NoTranslationComesAfterTheAddress",
      {kOut, "--index-address=index.htm"},
      Holds(kCatalogue, ""),
      kIsRefused,
      "Not a valid long file extension: \"htm\" is not a valid long filename extension. It must be \"html\"\n"
-     "Please correct and try again.\n"},
+     "Please correct and try again.\n" +
+         kGiveLongName},
     {"NoTranslation",
      {kOut, kIndex},
      Holds(kCatalogue, ""),
      kIsRefused,
-     "No Bible Selected: Please Select a Bible to compile first\n"},
+     "No Bible Selected: Please Select a Bible to compile first\n" + kSeeCheck},
     {"NoTranslationWithAVerseFile",
      {kOut, kIndex},
      Lacks(kVerses),
      kIsRefused,
-     "No Bible Selected: Please Select a Bible to compile first\n"},
+     "No Bible Selected: Please Select a Bible to compile first\n" + kSeeCheck},
     {"VerseFileIsAFolder", kAll, IsFolder(kVerses), kIsRefused,
-     "No Bible Selected: Please Select a Bible to compile first\n"},
+     "No Bible Selected: Please Select a Bible to compile first\n" + kSeeCheck},
 };
 
 INSTANTIATE_TEST_SUITE_P(Refused, Run, testing::ValuesIn(kRefused), NameOf);
@@ -125,7 +144,7 @@ TEST(RefusedRun, HasCopiedTheStyleSheetAlready) {
   MakeLibrary(home);
   home.Write("program/default.css", "p { margin: 0 }");
   const ProgramResult run = RunCli(CompileArguments({kOut, "--set=chkCSS=1"}), home.Path());
-  EXPECT_EQ(run.errors, "No HTTP Root: No HTTP root has been entered.\n");
+  EXPECT_EQ(run.errors, "No HTTP Root: No HTTP root has been entered.\n" + kGiveAddress);
   EXPECT_EQ(run.status, kIsRefused);
   EXPECT_EQ(ReadFolder(home.Path() + "out"), (FolderContent{{"default.css", "p { margin: 0 }\r\n"}}));
 }

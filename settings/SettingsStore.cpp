@@ -109,7 +109,11 @@ std::string SettingsStore::GetSetting(std::string_view application, std::string_
 
 void SettingsStore::SaveSetting(std::string_view application, std::string_view section, std::string_view key,
                                 std::string_view value) {
-  Area(application).setValue(FullKey(section, key), ToQString(value));
+  QSettings& area = Area(application);
+  const QString name = FullKey(section, key);
+  m_unsaved.push_back({name.toStdString(),
+                       area.contains(name) ? std::optional(area.value(name).toString().toStdString()) : std::nullopt});
+  area.setValue(name, ToQString(value));
   if (!m_savesTogether) Sync(application);
 }
 
@@ -120,9 +124,23 @@ void SettingsStore::Sync(std::string_view application) {
   area.sync();
   if (area.status() != QSettings::NoError) {
     const int systemError = errno != 0 ? errno : EACCES;
-    m_areas.erase(m_areas.find(application));  // a refused value must not be tried again by every later one
+    Revert(area);
     throw RunTimeError::FromErrno(systemError, FilePath(application));
   }
+  m_unsaved.clear();
+}
+
+// A refused value must not be tried again by every later one, nor be read as if it were stored.
+void SettingsStore::Revert(QSettings& area) {
+  for (auto change = m_unsaved.rbegin(); change != m_unsaved.rend(); ++change) {
+    const QString name = ToQString(change->name);
+    if (change->stored) {
+      area.setValue(name, ToQString(*change->stored));
+    } else {
+      area.remove(name);
+    }
+  }
+  m_unsaved.clear();
 }
 
 void SettingsStore::SaveTogether(const std::function<void()>& saves) {
@@ -131,6 +149,7 @@ void SettingsStore::SaveTogether(const std::function<void()>& saves) {
     saves();
   } catch (...) {
     m_savesTogether = false;
+    Revert(Area(kApplicationTitle));
     throw;
   }
   m_savesTogether = false;

@@ -7,6 +7,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "Colours.h"
 
@@ -75,11 +76,19 @@ class SettingsStore {
   QSettings& Area(std::string_view application) const;
   QSettings& OpenArea(std::string_view application) const;
   void Sync(std::string_view application);
+  void Revert(QSettings& area);
   std::string Checked(std::string_view key) const;
 
   std::string m_folder;
   mutable std::map<std::string, std::unique_ptr<QSettings>, std::less<>> m_areas;
   bool m_savesTogether = false;
+
+  // A key that was set since the last saving, with what was stored before, if anything.
+  struct UnsavedChange {
+    std::string name;
+    std::optional<std::string> stored;
+  };
+  std::vector<UnsavedChange> m_unsaved;
   std::map<std::string, std::string, std::less<>> m_overrides;
 };
 

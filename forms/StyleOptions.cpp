@@ -14,15 +14,9 @@ StyleOptions::StyleOptions(AppState& state, Ui::frmMain& controls, QObject* pare
   connect(m_controls.cmdBackColour, &QPushButton::clicked, this, [this] { PickColour(&SampleText::BackColor); });
   connect(m_controls.cmdForeColour, &QPushButton::clicked, this, [this] { PickColour(&SampleText::ForeColor); });
   connect(m_controls.cmdFont, &QPushButton::clicked, this, &StyleOptions::PickFont);
-  connect(m_controls.optAlignLeft, &QRadioButton::toggled, this, [this](bool on) {
-    if (on) SetAlignment("Left");
-  });
-  connect(m_controls.OptAlignCenter, &QRadioButton::toggled, this, [this](bool on) {
-    if (on) SetAlignment("Center");
-  });
-  connect(m_controls.OptAlignJust, &QRadioButton::toggled, this, [this](bool on) {
-    if (on) SetAlignment("Justify");
-  });
+  connect(m_controls.optAlignLeft, &QRadioButton::clicked, this, [this] { SetAlignment("Left"); });
+  connect(m_controls.OptAlignCenter, &QRadioButton::clicked, this, [this] { SetAlignment("Center"); });
+  connect(m_controls.OptAlignJust, &QRadioButton::clicked, this, [this] { SetAlignment("Justify"); });
 }
 
 void StyleOptions::LoadAlignment() {

@@ -107,7 +107,7 @@ void frmMain::CSSCheck() {
 }
 
 void frmMain::Compile() {
-  if (m_startFailed && !LoadMissing()) return;
+  if (m_startFailed && !AreSettingsSound()) return;
   const CompileRequest request = GatherRequest(m_state, *m_ui, *m_lists, *m_folders);
   CompileOutcome outcome = CompileOutcome::kFailed;
   {
@@ -147,7 +147,6 @@ void frmMain::ShowHelp() {
 }
 
 void frmMain::SaveDefaults() {
-  if (m_startFailed) return;
   TrySave(m_state, "SaveDefaults",
           [&](SettingsStore& store) { folionet::SaveDefaults(store, m_state.options, m_state.main); });
 }

@@ -29,8 +29,8 @@ class frmMain : public QMainWindow {
   ~frmMain() override;
 
   // The start-up: reads every setting, the library and the dialogs' own, in a fixed order. A failure is reported and
-  // ends it there, and the form can be used as far as it got; its exit then saves nothing, for what was not read would
-  // be lost. False when the program must end, which was told.
+  // ends it there, and the form can be used as far as it got; what was not read is kept as stored when it exits. False
+  // when the program must end, which was told.
   bool LoadForm();
 
   // For the way to the person: a panel of the status bar, counted from 1, and the control of that name.
@@ -63,7 +63,7 @@ class frmMain : public QMainWindow {
   void OpenLinkToMain();
   void OpenIndexPage();
   void CheckWrittenSite();
-  bool LoadMissing();
+  bool AreSettingsSound();
   void ShowHelp();
   void SaveDefaults();
   void RestoreAll();

@@ -44,17 +44,20 @@ bool frmMain::LoadForm() {
     std::string extra = FromQt(m_ui->txtFilename->text());
     if (!extra.empty()) extra += "\r\n";
     m_startFailed = true;
+    ReadForSaveDefaults(m_state.store, m_state.options, m_state.main);
     m_state.ui.ShowErrorReport(error.Number(), "Form Load - MAIN", extra + error.Extra());
     return true;
   }
 }
 
-// What pages are made of must not be missing from them because the start did not come to it. False when it still cannot
-// be read, which was reported.
-bool frmMain::LoadMissing() {
+// After a start that stopped at a bad setting a compile is refused for the same setting, as on the command line: pages
+// with other options than those stored would be made without a word.
+bool frmMain::AreSettingsSound() {
   try {
+    MainOptions main;
+    LoadPageOptions(m_state.store, main);
+    ReadEncoding();
     m_dialogs.LoadMissing();
-    if (m_state.texts.PageLanguage.empty()) ReadEncoding();
     return true;
   } catch (const RunTimeError& error) {
     m_state.ui.ShowErrorReport(error.Number(), "Form Load - MAIN", error.Extra());

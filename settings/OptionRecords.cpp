@@ -88,6 +88,28 @@ void SaveDefaults(SettingsStore& store, const PageOptions& options, const MainOp
   });
 }
 
+void ReadForSaveDefaults(const SettingsStore& store, PageOptions& options, MainOptions& main) {
+  const auto read = [](const auto& reading) {
+    try {
+      reading();
+    } catch (const RunTimeError&) {
+      // The start has reported the one that it stopped at.
+    }
+  };
+  SampleText& sample = options.txtSample;
+  read([&] { sample.BackColor = store.ColourOf("BackColor"); });
+  read([&] { sample.ForeColor = store.ColourOf("ForeColor"); });
+  read([&] { sample.FontName = store.Text("Font"); });
+  read([&] { sample.FontSize = store.PointSize("FontSize"); });
+  read([&] { sample.FontBold = store.Boolean("FontBold"); });
+  read([&] { sample.FontItalic = store.Boolean("FontItalic"); });
+  read([&] { options.chkUse83 = store.Flag("Use83"); });
+  read([&] { options.chkDoubleSpace = store.Flag("chkDoubleSpace"); });
+  read([&] { main.alignment = LoadAlignment(store).text; });
+  read([&] { main.Drive1 = store.Text("Drive1"); });
+  read([&] { main.Dir1 = store.Text("Dir1"); });
+}
+
 void LoadTitles(const SettingsStore& store, PageTitleOptions& options) {
   options.txtIndex_html = store.Text("index_html");
   options.txtPageTitles = store.Text("PageTitles");

@@ -35,6 +35,10 @@ void GetDefaults(const SettingsStore& store, SampleText& sample);
 // The twelve keys that are written at exit.
 void SaveDefaults(SettingsStore& store, const PageOptions& options, const MainOptions& main);
 
+// Reads what SaveDefaults writes, each key by itself: one whose text has not its form leaves its field as it is. For a
+// start that stopped half-way, so that its exit does not write defaults over what is stored.
+void ReadForSaveDefaults(const SettingsStore& store, PageOptions& options, MainOptions& main);
+
 void LoadTitles(const SettingsStore& store, PageTitleOptions& options);
 void SaveTitles(SettingsStore& store, const PageTitleOptions& options);
 

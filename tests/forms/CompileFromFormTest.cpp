@@ -123,22 +123,22 @@ TEST_F(CompileFromForm, ChecksTheWrittenSite) {
   EXPECT_EQ(m_ui->log.back(), "report cmdCheckSite_Click");
 }
 
-// A start that stops at a bad setting leaves later ones unread: pages still get them, and an exit keeps them.
+// A start that stops at a bad setting leaves later ones unread: no page is made without them, and an exit keeps them.
 TEST_F(CompileFromForm, AFailedStartLosesNothing) {
   Store("BackColor", "x");
   Store("FontSize", "20");
-  Store("Lang", "el Greek");
-  Store("LinkToMain", "Back");
+  Store("Index_Alignment", "Center");
   ASSERT_TRUE(Start());
   ChooseOutput();
   Click("cmdCompile");
-  EXPECT_EQ(m_ui->messages.back().title, "Compilation Complete Folionet");
-  const std::string page = Bytes(m_output / "index.html");
-  EXPECT_NE(page.find("content=\"el\""), std::string::npos);
+  EXPECT_EQ(m_ui->log, (std::vector<std::string>{"report Form Load - MAIN", "report Form Load - MAIN"}));
+  EXPECT_TRUE(fs::is_empty(m_output));
   m_ui->yesNo = {true};
   Click("cmdClose");
   EXPECT_TRUE(m_hasEnded);
-  EXPECT_NE(Bytes(m_home / "config/Folionet.ini").find("FontSize=20\n"), std::string::npos);
+  EXPECT_EQ(Stored("FontSize"), "20");
+  EXPECT_EQ(Stored("Index_Alignment"), "Center");
+  EXPECT_EQ(Stored("BackColor"), "16777215");
 }
 
 TEST_F(CompileFromForm, AFailedRunIsReportedAndOffersNoPage) {

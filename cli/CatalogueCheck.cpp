@@ -49,6 +49,7 @@ void CheckCatalogue(ModGlob& glob, FaultList& faults) {
         more = error.Line() != 0;  // a bad record is passed over; a file that cannot be read on is not
       }
     }
+    if (glob.BibleNames.empty()) faults.Add(path, 0, "No translation is listed whose text is there.");
   } catch (const RunTimeError& error) {
     faults.Add(error);
   }

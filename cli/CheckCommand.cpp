@@ -9,8 +9,10 @@
 
 namespace folionet {
 
-ExitStatus RunCheck(const CommonOptions& common, const std::string& translation) {
+ExitStatus RunCheck(const CommonOptions& common, const std::string& translation,
+                    const std::vector<std::string>& settings) {
   Session session(common);
+  session.Override(settings);
   session.LoadCodePage();
   FaultList faults(session.codePage);
   CheckCatalogue(session.glob, faults);

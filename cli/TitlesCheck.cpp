@@ -69,8 +69,12 @@ void CheckTitleFile(const ModGlob& glob, const std::string& fileName, FaultList&
 
 void CheckTitles(const ModGlob& glob, const std::string& chosen, FaultList& faults) {
   CheckTitleFile(glob, chosen, faults);
-  for (const std::string& name : LanguageFiles(glob)) {
-    if (!EqualIgnoringCase(name, chosen)) CheckTitleFile(glob, name, faults);
+  try {
+    for (const std::string& name : LanguageFiles(glob)) {
+      if (!EqualIgnoringCase(name, chosen)) CheckTitleFile(glob, name, faults);
+    }
+  } catch (const RunTimeError& error) {
+    faults.Add(error);
   }
 }
 

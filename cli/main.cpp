@@ -1,4 +1,5 @@
 #include <CLI/CLI.hpp>
+#include <csignal>
 #include <cstdio>
 
 #include "BuildInfo.h"
@@ -6,6 +7,7 @@
 #include "CodePage.h"
 #include "CompileCommand.h"
 #include "ListCommand.h"
+#include "RunTimeError.h"
 #include "Session.h"
 #include "VerifyCommand.h"
 
@@ -92,10 +94,14 @@ void AddList(CLI::App& app, std::string& subject) {
       "  folionet-cli list translations");
 }
 
-void AddCheck(CLI::App& app, std::string& translation) {
+void AddCheck(CLI::App& app, std::string& translation, std::vector<std::string>& settings) {
   CLI::App* check = app.add_subcommand("check", "Reads a library and names every fault in it");
   check->add_option("--translation", translation, "Display name or file stem (default: all of them)")
       ->type_name("NAME|STEM");
+  check->add_option("--set", settings, "Gives a setting a value for this run")
+      ->type_name("KEY=VALUE")
+      ->expected(1)
+      ->take_all();
   check->footer(
       "Prints each fault with file and line, then their number; changes nothing.\n"
       "Exit status 1 when there are faults.\n\n"
@@ -146,7 +152,7 @@ ExitStatus Main(int argc, char** argv) {
   std::string subject;
   AddList(app, subject);
   std::string translation;
-  AddCheck(app, translation);
+  AddCheck(app, translation, arguments.settings);
   std::string folder;
   std::string indexName;
   AddVerify(app, folder, indexName);
@@ -157,18 +163,22 @@ ExitStatus Main(int argc, char** argv) {
   if (*compile) return RunCompile(common, arguments);
   if (app.got_subcommand("list")) return RunList(common, subject);
   if (app.got_subcommand("verify")) return RunVerify(folder, indexName);
-  return RunCheck(common, translation);
+  return RunCheck(common, translation, arguments.settings);
 }
 
 }  // namespace
 }  // namespace folionet
 
 int main(int argc, char** argv) {
+  // A limit on the size of files is a failure of the write that meets it, like a full disk.
+  std::signal(SIGXFSZ, SIG_IGN);
   int status = folionet::kExitFailed;
   try {
     status = folionet::Main(argc, argv);
   } catch (const folionet::ExitWith& exit) {
     status = exit.Status();
+  } catch (const folionet::RunTimeError& error) {
+    folionet::ConsoleUi(true).ShowErrorReport(error.Number(), "Form Load - MAIN", error.Extra());
   } catch (const std::exception& error) {
     std::fprintf(stderr, "folionet-cli: %s\n", error.what());
   }

@@ -223,7 +223,8 @@ std::size_t CodePage::FindUndecodable(std::string_view bytes) const {
   if (IsAscii(bytes)) return std::string_view::npos;
   std::size_t found = std::string_view::npos;
   m_converter->ForEach(bytes, [&](const Piece& piece) {
-    if (piece.character == kUndecodable && found == std::string_view::npos) {
+    const bool isControl = piece.character >= 0x80 && piece.character < 0xA0;
+    if ((piece.character == kUndecodable || isControl) && found == std::string_view::npos) {
       found = static_cast<std::size_t>(piece.bytes.data() - bytes.data());
     }
   });

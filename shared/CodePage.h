@@ -27,7 +27,8 @@ class CodePage {
   // Bytes to UTF-8 for showing: bytes that do not decode become U+FFFD.
   std::string DecodeForDisplay(std::string_view bytes) const;
 
-  // The place of the first byte that does not decode, npos when all do.
+  // The place of the first byte that stands for no character of a text, npos when all do: one that does not decode, or
+  // one of the control characters U+0080 to U+009F that ICU gives for bytes without a meaning.
   std::size_t FindUndecodable(std::string_view bytes) const;
 
   // Simple case mapping of each character, in no language's manner. A character whose other case the code page lacks,

@@ -28,7 +28,8 @@ const Row kRows[] = {
      "@Sysdefs/Translations.txt:3: Type mismatch. A number was expected: \"x\"\n"
      "@Sysdefs/Translations.txt:4: Bad file name or number. A file name without a folder was expected: \"../D\"\n"
      "@Sysdefs/Translations.txt:5: The text of \"Five\" is missing: @Modules/Bible/GONE.TXT\n"},
-    {kCatalogue, "A Bible", "\x81\x39 Bible", ""},  // windows-1252 as ICU has it holds every byte
+    {kCatalogue, "A Bible", "A \x81 Bible",
+     "@Sysdefs/Translations.txt:1: The charset windows-1252 does not hold the byte 0x81 at column 3.\n"},
     {kTitles, "2\tB2\tBook 2\r\n", "2 Book 2\r\n",
      "@Sysdefs/BOOKS.TXT:2: Invalid procedure call or argument. Three fields separated by tabs were expected: \"2 Book "
      "2\"\n"},

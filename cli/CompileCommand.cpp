@@ -91,7 +91,7 @@ ExitStatus RunCompile(const CommonOptions& common, const CompileArguments& argum
   SelectTranslation(arguments, session, request);
   if (!arguments.startBook.empty()) request.cboStartBook = session.FindBook(arguments.startBook);
   if (!arguments.endBook.empty()) request.cboEndBook = session.FindBook(arguments.endBook);
-  if (!arguments.indexAddress.empty()) request.options.txthttpRoot = arguments.indexAddress;
+  if (arguments.indexAddress) request.options.txthttpRoot = *arguments.indexAddress;
   request.txtOutputPath = OutputPath(arguments, session);
   request.makeOutputFolder = true;
   request.cboLang = session.store.Text("cboLang");

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -14,7 +15,7 @@ struct CompileArguments {
   std::string startBook;
   std::string endBook;
   std::string output;
-  std::string indexAddress;
+  std::optional<std::string> indexAddress;
   std::vector<std::string> settings;
   std::string sitemap;       // the public address of the output folder
   bool listChanged = false;  // print the names of the pages whose bytes changed

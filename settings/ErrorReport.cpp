@@ -10,6 +10,7 @@ std::string BuildErrorReport(int errorNumber, std::string_view moduleLabel, std:
   const std::string newLine = "\r\n";
   std::string text = "An Error has occured." + newLine;
   text += "Title        : " + std::string(kApplicationTitle) + newLine;
+  if (appPath.size() > 1 && appPath.ends_with('/')) appPath.remove_suffix(1);
   text += "App Path     : " + std::string(appPath) + newLine;
   text += "Software Ver : " + std::to_string(kVersionMajor) + "." + std::to_string(kVersionMinor) + "." +
           std::to_string(kVersionRevision) + "." + newLine;

@@ -15,8 +15,10 @@
 namespace folionet {
 namespace {
 
-// Where an installed program's delivered files are: beside a moved installation's bin folder first.
+// Where the delivered files are that a person's own folder is filled from: beside the program, as in a build that
+// belongs to somebody else, or where an installation, moved or not, has them.
 std::string InstalledDataFolder() {
+  if (FileExists(ExecutableFolder() + "default.css")) return ExecutableFolder();
   const std::string beside = ExecutableFolder() + "../share/folionet/";
   return FileExists(beside + "default.css") ? beside : std::string(FOLIONET_DATA_FOLDER) + "/";
 }

@@ -18,8 +18,11 @@ void LocateInstallation(const SettingsStore& store, const GivenFolders& given, M
     return chosen.empty() ? store.GetSetting(kVersalia, kModulePath, key, "") : WithSeparator(chosen);
   };
   const std::string install = folder(given.versaliaPath, "VersaliaPath");
-  std::string modules = folder(given.modulePath, "ModulePath");
-  if (modules.empty() && !install.empty()) modules = WithSeparator(install).append("Modules/");
+  // The stored module folder belongs to the stored installation: one that was given has its own, if anything.
+  const std::string own = install.empty() ? std::string() : WithSeparator(install).append("Modules/");
+  const bool hasOwn = !given.versaliaPath.empty() && given.modulePath.empty() && FolderExists(own);
+  std::string modules = hasOwn ? own : folder(given.modulePath, "ModulePath");
+  if (modules.empty()) modules = own;
   SetInstallation(glob, install, std::move(modules), "Sysdefs");
 }
 

@@ -25,7 +25,7 @@ struct GivenFolders {
 
 // Sets InstallPath and ModulesPath, each to the folder given or else to what Versalia's own settings hold (application
 // "Versalia", section "Module_Path"), empty when unknown, and SysdefsPath. A module folder that is still unknown is
-// looked for under the installation's.
+// looked for under the installation's, and so is that of an installation that was given without one.
 void LocateInstallation(const SettingsStore& store, const GivenFolders& given, ModGlob& glob);
 
 // Sets the folders from texts, used as they are; `sysdefs` is the name of the folder of definitions under InstallPath.

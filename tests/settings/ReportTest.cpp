@@ -13,7 +13,7 @@ TEST(ErrorReportTest, HasTheFixedLayout) {
   EXPECT_EQ(BuildErrorReport(53, "GetLang", "one\r\ntwo", "/opt/folionet/"),
             "An Error has occured.\r\n"
             "Title        : Folionet\r\n"
-            "App Path     : /opt/folionet/\r\n"
+            "App Path     : /opt/folionet\r\n"
             "Software Ver : " +
                 std::string(kVersion) +
                 ".\r\n"

@@ -80,7 +80,7 @@ std::string Report(int number, const std::string& description, const std::string
          "Title        : Folionet\n"
          "App Path     : " +
          fs::path(FOLIONET_CLI).parent_path().string() +
-         "/\n"
+         "\n"
          "Software Ver : 1.0.0.\n"
          "Module       : " +
          module +

@@ -4,6 +4,9 @@
 #include <QApplication>
 #include <QDir>
 #include <QIcon>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QTranslator>
 #include <cstdio>
 #include <cstdlib>
 
@@ -75,6 +78,21 @@ std::string ProgramFolderOf(const std::string& chosen, UserInterface& ui) {
   }
 }
 
+// The desktop's language for what is ours to word, and its direction for all of the layout, also where there is no
+// translation into it. `ours` and `qts` must outlive the application's windows.
+void SpeakDesktopLanguage(QTranslator& ours, QTranslator& qts) {
+  // Of the first language alone: a person of English and German would get German, which has a file, for English.
+  const QLocale locale(QLocale::system().uiLanguages().value(0));
+  const QString separator = QStringLiteral("_");
+  if (qts.load(locale, QStringLiteral("qtbase"), separator, QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+    QApplication::installTranslator(&qts);
+  }
+  if (ours.load(locale, QStringLiteral("folionet"), separator, QStringLiteral(":/translations"))) {
+    QApplication::installTranslator(&ours);
+  }
+  if (locale.textDirection() == Qt::RightToLeft) QApplication::setLayoutDirection(Qt::RightToLeft);
+}
+
 int OpenForm(QApplication& app, const Arguments& arguments) {
   SettingsStore store(SettingsStore::DefaultFolder());
   FormUi ui;
@@ -108,5 +126,8 @@ int main(int argc, char** argv) {
   QApplication::setDesktopFileName(QStringLiteral("folionet"));
   QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("folionet")));
   QApplication::setQuitOnLastWindowClosed(false);
+  QTranslator ours;
+  QTranslator qts;
+  folionet::SpeakDesktopLanguage(ours, qts);
   return folionet::OpenForm(app, arguments);
 }

@@ -126,7 +126,8 @@ std::string FormUi::ChooseFolder(const std::string& initial) {
 
 void FormUi::ShowPage(const std::string& path) {
   if (QDesktopServices::openUrl(QUrl::fromLocalFile(ToQt(path)))) return;
-  ShowMessage({MessageIcon::kWarning, kApplicationTitle, "No browser could be started. The page is:\r\n" + path});
+  ShowMessage({MessageIcon::kWarning, kApplicationTitle,
+               FromQt(QObject::tr("No browser could be started. The page is:")) + "\r\n" + path});
 }
 
 }  // namespace folionet

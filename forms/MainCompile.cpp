@@ -9,6 +9,11 @@
 #include "ui_frmMain.h"
 
 namespace folionet {
+namespace {
+
+QString Shown(std::size_t number) { return QString::number(number); }
+
+}  // namespace
 
 CompileRequest GatherRequest(const AppState& state, const Ui::frmMain& controls, const LibraryLists& lists,
                              const FolderPickers& folders) {
@@ -34,20 +39,21 @@ void ShowSiteReport(const std::string& indexPage, UserInterface& ui) {
   const std::size_t slash = indexPage.rfind('/') + 1;
   try {
     const SiteReport report = CheckSite(indexPage.substr(0, slash), indexPage.substr(slash));
-    std::string text = std::to_string(report.pages) + " pages, " + std::to_string(report.links) +
-                       " links: " + std::to_string(report.broken.size()) + " broken, " +
-                       std::to_string(report.unreachable.size()) + " pages possibly stale.";
+    std::string text = FromQt(QObject::tr("%1 pages, %2 links: %3 broken, %4 pages possibly stale.")
+                                  .arg(Shown(report.pages), Shown(report.links), Shown(report.broken.size()),
+                                       Shown(report.unreachable.size())));
     for (std::size_t i = 0; i < report.broken.size() && i < kShown; ++i) {
       const BrokenLink& link = report.broken[i];
-      text +=
-          "\r\n" + link.page + ", line " + std::to_string(link.line) + ": \"" + link.target + "\" " + link.why + ".";
+      text += "\r\n" + FromQt(QObject::tr("%1, line %2: \"%3\" %4.")
+                                  .arg(ToQt(link.page), Shown(link.line), ToQt(link.target), ToQt(link.why)));
     }
     if (report.broken.size() > kShown) text += "\r\n...";
     for (std::size_t i = 0; i < report.unreachable.size() && i < kShown; ++i) {
-      text += "\r\n" + report.unreachable[i] + ": the index does not lead here.";
+      text += "\r\n" + FromQt(QObject::tr("%1: the index does not lead here.").arg(ToQt(report.unreachable[i])));
     }
     if (report.unreachable.size() > kShown) text += "\r\n...";
-    ui.ShowMessage({report.IsSound() ? MessageIcon::kInformation : MessageIcon::kWarning, "Check site", text});
+    ui.ShowMessage({report.IsSound() ? MessageIcon::kInformation : MessageIcon::kWarning,
+                    FromQt(QObject::tr("Check site")), text});
   } catch (const RunTimeError& error) {
     ui.ShowErrorReport(error.Number(), "cmdCheckSite_Click", error.Extra());
   }

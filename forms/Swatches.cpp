@@ -32,8 +32,8 @@ QString ContrastAdvice(Colour colour, Colour background) {
   // Cut, not rounded: a ratio must not look readable when it is not.
   const QString text = QStringLiteral("%1 : 1").arg(std::floor(ratio * 100) / 100, 0, 'f', 2);
   if (ratio >= kReadableContrast) return text;
-  return text + (IsBestOnBlack(background) ? QStringLiteral(", hard to read: choose a darker color")
-                                           : QStringLiteral(", hard to read: choose a lighter color"));
+  return text + (IsBestOnBlack(background) ? QObject::tr(", hard to read: choose a darker color")
+                                           : QObject::tr(", hard to read: choose a lighter color"));
 }
 
 }  // namespace folionet

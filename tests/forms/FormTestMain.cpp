@@ -1,12 +1,22 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QTranslator>
+#include <cstdio>
 #include <cstdlib>
 
-// Forms need an application, but no display.
+// Forms need an application, but no display. FOLIONET_TEST_TRANSLATION names a .qm file to run the tests in.
 int main(int argc, char** argv) {
   setenv("QT_QPA_PLATFORM", "offscreen", 1);
   testing::InitGoogleTest(&argc, argv);
   const QApplication app(argc, argv);
+  QTranslator translator;
+  if (const char* file = std::getenv("FOLIONET_TEST_TRANSLATION"); file != nullptr) {
+    if (!translator.load(QString::fromLocal8Bit(file))) {
+      std::fprintf(stderr, "%s cannot be loaded\n", file);
+      return 1;
+    }
+    QApplication::installTranslator(&translator);
+  }
   return RUN_ALL_TESTS();
 }

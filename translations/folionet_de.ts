@@ -1,0 +1,292 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de" sourcelanguage="en">
+<context>
+    <name>QObject</name>
+    <message>
+        <source>Choose the Output Path</source>
+        <translation>Ausgabepfad wählen</translation>
+    </message>
+    <message>
+        <source>No browser could be started. The page is:</source>
+        <translation>Es konnte kein Browser gestartet werden. Die Seite ist:</translation>
+    </message>
+    <message>
+        <source>%1 pages, %2 links: %3 broken, %4 pages possibly stale.</source>
+        <translation>%1 Seiten, %2 Links: %3 ohne Ziel, %4 Seiten vielleicht veraltet.</translation>
+    </message>
+    <message>
+        <source>%1, line %2: &quot;%3&quot; %4.</source>
+        <translation>%1, Zeile %2: „%3“ %4.</translation>
+    </message>
+    <message>
+        <source>%1: the index does not lead here.</source>
+        <translation>%1: Die Indexseite führt nicht hierher.</translation>
+    </message>
+    <message>
+        <source>Check site</source>
+        <translation>Website prüfen</translation>
+    </message>
+    <message>
+        <source>, hard to read: choose a darker color</source>
+        <translation>, schwer zu lesen: dunklere Farbe wählen</translation>
+    </message>
+    <message>
+        <source>, hard to read: choose a lighter color</source>
+        <translation>, schwer zu lesen: hellere Farbe wählen</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>Persönlicher Ordner</translation>
+    </message>
+    <message>
+        <source>Computer</source>
+        <translation>Computer</translation>
+    </message>
+</context>
+<context>
+    <name>folionet::CustomHtmlDialog</name>
+    <message>
+        <source>HTML code</source>
+        <translation>HTML-Code</translation>
+    </message>
+</context>
+<context>
+    <name>folionet::HelpWindow</name>
+    <message>
+        <source>Folionet Help</source>
+        <translation>Folionet-Hilfe</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Hilfe</translation>
+    </message>
+    <message>
+        <source>C&amp;ontents</source>
+        <translation>&amp;Inhalt</translation>
+    </message>
+</context>
+<context>
+    <name>folionet::StatusPanels</name>
+    <message>
+        <source>Progress</source>
+        <translation>Fortschritt</translation>
+    </message>
+</context>
+<context>
+    <name>folionet::frmBackground</name>
+    <message>
+        <source>Image name</source>
+        <translation>Name des Bildes</translation>
+    </message>
+</context>
+<context>
+    <name>folionet::frmEffects</name>
+    <message>
+        <source>Contrast with the page background</source>
+        <translation>Kontrast zum Seitenhintergrund</translation>
+    </message>
+    <message>
+        <source>Text of the page</source>
+        <translation>Text der Seite</translation>
+    </message>
+    <message>
+        <source>Sample</source>
+        <translation>Muster</translation>
+    </message>
+    <message>
+        <source>Point at and click</source>
+        <translation>Zeigen Sie auf und klicken Sie</translation>
+    </message>
+    <message>
+        <source>this link</source>
+        <translation>diesen Link</translation>
+    </message>
+</context>
+<context>
+    <name>folionet::frmEncoding</name>
+    <message>
+        <source>Language</source>
+        <translation>Sprache</translation>
+    </message>
+    <message>
+        <source>Language to be used</source>
+        <translation>Zu verwendende Sprache</translation>
+    </message>
+    <message>
+        <source>Charset</source>
+        <translation>Zeichensatz</translation>
+    </message>
+    <message>
+        <source>Charset to be used</source>
+        <translation>Zu verwendender Zeichensatz</translation>
+    </message>
+</context>
+<context>
+    <name>folionet::frmErr</name>
+    <message>
+        <source>Error report</source>
+        <translation>Fehlerbericht</translation>
+    </message>
+</context>
+<context>
+    <name>folionet::frmKeywords</name>
+    <message>
+        <source>&amp;Index Page</source>
+        <translation>&amp;Indexseite</translation>
+    </message>
+    <message>
+        <source>I&amp;ndex Page</source>
+        <translation>I&amp;ndexseite</translation>
+    </message>
+    <message>
+        <source>META Keywords - Index page</source>
+        <translation>META-Schlüsselwörter – Indexseite</translation>
+    </message>
+    <message>
+        <source>META Description Index page</source>
+        <translation>META-Beschreibung der Indexseite</translation>
+    </message>
+</context>
+<context>
+    <name>folionet::frmLinkToMAin</name>
+    <message>
+        <source>HTML of the link</source>
+        <translation>HTML des Links</translation>
+    </message>
+</context>
+<context>
+    <name>folionet::frmMain</name>
+    <message>
+        <source>Bible</source>
+        <translation>Bibel</translation>
+    </message>
+    <message>
+        <source>&amp;Translation</source>
+        <translation>Überse&amp;tzung</translation>
+    </message>
+    <message>
+        <source>Translation</source>
+        <translation>Übersetzung</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Keine</translation>
+    </message>
+    <message>
+        <source>Output</source>
+        <translation>Ausgabe</translation>
+    </message>
+    <message>
+        <source>Dri&amp;ve</source>
+        <translation>Lauf&amp;werk</translation>
+    </message>
+    <message>
+        <source>Drive</source>
+        <translation>Laufwerk</translation>
+    </message>
+    <message>
+        <source>Bro&amp;wse...</source>
+        <translation>Durc&amp;hsuchen...</translation>
+    </message>
+    <message>
+        <source>Choose the folder in the desktop&apos;s own window.</source>
+        <translation>Den Ordner im Fenster des Desktops wählen.</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Ordner</translation>
+    </message>
+    <message>
+        <source>Output Path</source>
+        <translation>Ausgabepfad</translation>
+    </message>
+    <message>
+        <source>No folder chosen yet</source>
+        <translation>Noch kein Ordner gewählt</translation>
+    </message>
+    <message>
+        <source>&amp;HTTP root</source>
+        <translation>HTTP-Wur&amp;zel</translation>
+    </message>
+    <message>
+        <source>HTTP root: the address of the index page</source>
+        <translation>HTTP-Wurzel: die Adresse der Indexseite</translation>
+    </message>
+    <message>
+        <source>Address of the index page, such as index.html</source>
+        <translation>Adresse der Indexseite, etwa index.html</translation>
+    </message>
+    <message>
+        <source>The address of the index page, such as index.html or http://www.example.org/index.html.</source>
+        <translation>Die Adresse der Indexseite, etwa index.html oder http://www.example.org/index.html.</translation>
+    </message>
+    <message>
+        <source>Page text</source>
+        <translation>Text der Seiten</translation>
+    </message>
+    <message>
+        <source>Sample text</source>
+        <translation>Mustertext</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>Optionen</translation>
+    </message>
+    <message>
+        <source>Page details</source>
+        <translation>Einzelheiten der Seiten</translation>
+    </message>
+    <message>
+        <source>Pages compiled</source>
+        <translation>Erzeugte Seiten</translation>
+    </message>
+    <message>
+        <source>Open index page</source>
+        <translation>Indexseite öffnen</translation>
+    </message>
+    <message>
+        <source>Show the index page of the site that was compiled last.</source>
+        <translation>Die Indexseite der zuletzt erzeugten Website zeigen.</translation>
+    </message>
+    <message>
+        <source>Check site</source>
+        <translation>Website prüfen</translation>
+    </message>
+    <message>
+        <source>Look for links that lead nowhere in the site that was compiled last.</source>
+        <translation>In der zuletzt erzeugten Website nach Links ohne Ziel suchen.</translation>
+    </message>
+</context>
+<context>
+    <name>folionet::frmPAgeTitles</name>
+    <message>
+        <source>Page Titles</source>
+        <translation>Seitentitel</translation>
+    </message>
+    <message>
+        <source>&amp;Index Page</source>
+        <translation>&amp;Indexseite</translation>
+    </message>
+    <message>
+        <source>&amp;All other Pages</source>
+        <translation>&amp;Alle anderen Seiten</translation>
+    </message>
+    <message>
+        <source>Index Page</source>
+        <translation>Indexseite</translation>
+    </message>
+    <message>
+        <source>All other Pages</source>
+        <translation>Alle anderen Seiten</translation>
+    </message>
+    <message>
+        <source>&amp;Preview</source>
+        <translation>&amp;Vorschau</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Schließen</translation>
+    </message>
+</context>
+</TS>

@@ -7,6 +7,7 @@
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QTranslator>
+#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 
@@ -115,6 +116,8 @@ int OpenForm(QApplication& app, const Arguments& arguments) {
 }  // namespace folionet
 
 int main(int argc, char** argv) {
+  // A limit on the size of files is a failure of the write that meets it, like a full disk.
+  std::signal(SIGXFSZ, SIG_IGN);
   int status = 0;
   folionet::Arguments arguments;
   if (!folionet::Parse(argc, argv, arguments, status)) return status;

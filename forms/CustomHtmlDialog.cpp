@@ -2,6 +2,7 @@
 
 #include <QFontDatabase>
 
+#include "PageEncoding.h"
 #include "ui_CustomHtmlDialog.h"
 
 namespace folionet {
@@ -32,7 +33,7 @@ void CustomHtmlDialog::Load() {
 bool CustomHtmlDialog::Save() {
   const std::string text = m_ui->Text1->Text();
   if (m_isUnread && text.empty()) return true;
-  return SaveCustomHtml(m_state.programFolder, m_kind.file, m_state.codePage, text, m_state.ui);
+  return SaveCustomHtml(m_state.programFolder, m_kind.file, StoredCodePage(m_state.store), text, m_state.ui);
 }
 
 void CustomHtmlDialog::Done() {

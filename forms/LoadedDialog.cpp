@@ -1,5 +1,8 @@
 #include "LoadedDialog.h"
 
+#include <QKeyEvent>
+
+#include "HelpWindow.h"
 #include "RunTimeError.h"
 
 namespace folionet {
@@ -16,6 +19,15 @@ void LoadedDialog::showEvent(QShowEvent* event) {
     m_reports.ShowErrorReport(error.Number(), "Form Load - MAIN", error.Extra());
   }
   QDialog::showEvent(event);
+}
+
+void LoadedDialog::keyPressEvent(QKeyEvent* event) {
+  if (event->key() != Qt::Key_F1) {
+    QDialog::keyPressEvent(event);
+    return;
+  }
+  if (m_help == nullptr) m_help = new HelpWindow(this);
+  m_help->ShowContents();
 }
 
 }  // namespace folionet

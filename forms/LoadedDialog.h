@@ -6,6 +6,8 @@
 
 namespace folionet {
 
+class HelpWindow;
+
 // A dialog that is loaded once, hidden, as the program starts. One that a failed start left unloaded loads when it is
 // first shown: else its empty controls would be saved over what is stored.
 class LoadedDialog : public QDialog {
@@ -23,10 +25,12 @@ class LoadedDialog : public QDialog {
 
   virtual void Load() = 0;
   void showEvent(QShowEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;  // F1 shows the help
 
  private:
   UserInterface& m_reports;
   bool m_isLoaded = false;
+  HelpWindow* m_help = nullptr;  // made when first opened
 };
 
 }  // namespace folionet

@@ -3,6 +3,7 @@
 #include <utility>
 #include <vector>
 
+#include "CustomHtml.h"
 #include "EncodingLists.h"
 #include "PageEncoding.h"
 #include "QtText.h"
@@ -77,7 +78,14 @@ void frmEncoding::SaveLists() {
 }
 
 bool frmEncoding::SaveAndUse() {
+  const CodePage before = StoredCodePage(m_state.store);
   SaveLists();
+  const CodePage after = StoredCodePage(m_state.store);
+  if (before.Name() != after.Name()) {
+    for (const CustomHtmlKind& kind : {kCustomHeader, kCustomFooter}) {
+      RecodeCustomHtml(m_state.programFolder, kind, before, after, m_state.ui);
+    }
+  }
   const std::string typedLanguage = FromQt(m_ui->txtLang->text());
   const std::string typedCharset = FromQt(m_ui->txtCharset->text());
   PageEncoding encoding{m_state.texts.PageLanguage, m_state.texts.PageCharset};

@@ -21,16 +21,6 @@ QString Caption() {
       .arg(kVersionRevision);
 }
 
-// The code page that the stored charset names. Names and files are read in it long before the charset is shown and a
-// bad one reported.
-CodePage StoredCodePage(const SettingsStore& store) {
-  try {
-    return CodePage(EncodingCode(store.Text("Charset"), "Charset"));
-  } catch (const RunTimeError&) {
-    return CodePage();
-  }
-}
-
 }  // namespace
 
 bool frmMain::LoadForm() {
@@ -78,6 +68,7 @@ void frmMain::LoadFirstOptions() {
 }
 
 bool frmMain::LoadLibrary() {
+  // Names and files are read in it long before the charset is shown and a bad one reported.
   m_state.codePage = StoredCodePage(m_state.store);
   return m_lists->Fill() != Outcome::kEndProgram;
 }

@@ -41,4 +41,17 @@ bool SaveCustomHtml(const std::string& programFolder, const CustomHtmlKind& kind
   }
 }
 
+void RecodeCustomHtml(const std::string& programFolder, const CustomHtmlKind& kind, const CodePage& from,
+                      const CodePage& to, UserInterface& ui) {
+  const std::string path = programFolder + std::string(kind.fileName);
+  try {
+    const std::optional<std::string> bytes = ReadIfThere(path);
+    if (!bytes) return;
+    const std::string recoded = to.Encode(from.Decode(*bytes));
+    if (recoded != *bytes) ReplaceWholeFile(path, recoded);
+  } catch (const RunTimeError& error) {
+    Report(error, kind, kind.loadLabel, ui);
+  }
+}
+
 }  // namespace folionet

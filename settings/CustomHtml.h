@@ -27,4 +27,9 @@ bool LoadCustomHtml(const std::string& programFolder, const CustomHtmlKind& kind
 bool SaveCustomHtml(const std::string& programFolder, const CustomHtmlKind& kind, const CodePage& codePage,
                     std::string_view text, UserInterface& ui);
 
+// Rewrites the file, when it is there, from one code page into another, so that a charset chosen later finds the same
+// text in it. A failure is reported under the load label, and the file stays as it was.
+void RecodeCustomHtml(const std::string& programFolder, const CustomHtmlKind& kind, const CodePage& from,
+                      const CodePage& to, UserInterface& ui);
+
 }  // namespace folionet

@@ -13,6 +13,14 @@ std::string EncodingCode(std::string_view entry, std::string_view what) {
   return std::string(entry.substr(0, blank));
 }
 
+CodePage StoredCodePage(const SettingsStore& store) {
+  try {
+    return CodePage(EncodingCode(store.Text("Charset"), "Charset"));
+  } catch (const RunTimeError&) {
+    return CodePage();
+  }
+}
+
 void LoadPageEncoding(const SettingsStore& store, PageEncoding& encoding, UserInterface& ui) {
   encoding.PageCharset = EncodingCode(store.Text("Charset"), "Charset");
   ui.SetPanel(3, "Charset: " + encoding.PageCharset);

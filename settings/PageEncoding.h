@@ -3,6 +3,7 @@
 #include <string>
 #include <string_view>
 
+#include "CodePage.h"
 #include "SettingsStore.h"
 #include "UserInterface.h"
 
@@ -17,6 +18,10 @@ struct PageEncoding {
 // The code that an entry begins with: "en-us English USA" gives "en-us". Throws RunTimeError (kInvalidProcedureCall)
 // when the entry holds no blank.
 std::string EncodingCode(std::string_view entry, std::string_view what);
+
+// The code page that the stored charset names, windows-1252 when it cannot be read. The custom header and footer are
+// kept in it.
+CodePage StoredCodePage(const SettingsStore& store);
 
 // Reads both codes from the settings "Charset" and "Lang" and shows them in panels 3 and 2 of the status bar. Throws
 // RunTimeError; what was read by then is set.

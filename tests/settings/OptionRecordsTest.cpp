@@ -114,6 +114,21 @@ TEST(CustomHtmlTest, EverySaveAddsALineBreak) {
   EXPECT_TRUE(ui.said.empty());
 }
 
+TEST(CustomHtmlTest, AnotherCharsetFindsTheSameText) {
+  const TemporaryFolder folder;
+  test::RecordingUi ui;
+  const CodePage western("windows-1252");
+  const CodePage unicode("utf-8");
+  folder.Write("CustomHeader.txt", "caf\xE9 \x97\r\n");
+  RecodeCustomHtml(folder.Path(), kCustomHeader, western, unicode, ui);
+  EXPECT_EQ(folder.Read("CustomHeader.txt"), "café —\r\n");
+  RecodeCustomHtml(folder.Path(), kCustomHeader, unicode, CodePage("iso-8859-2"), ui);
+  EXPECT_EQ(folder.Read("CustomHeader.txt"), "caf\xE9 &#8212;\r\n");
+  RecodeCustomHtml(folder.Path(), kCustomFooter, western, unicode, ui);
+  EXPECT_FALSE(folder.Has("CustomFooter.txt"));
+  EXPECT_TRUE(ui.said.empty());
+}
+
 TEST(CustomHtmlTest, FailuresAreReported) {
   const TemporaryFolder folder;
   test::RecordingUi ui;

@@ -6,8 +6,10 @@
 #include <QFileDialog>
 #include <QFontDialog>
 #include <QInputDialog>
+#include <QLabel>
 #include <QMessageBox>
 #include <QUrl>
+#include <algorithm>
 
 #include "BuildInfo.h"
 #include "ErrorReport.h"
@@ -35,6 +37,15 @@ void PrepareBox(QMessageBox& box, const std::string& title, const std::string& t
   box.setWindowTitle(ToQt(title));
   box.setTextFormat(Qt::PlainText);
   box.setText(ToQtLines(text));
+  // Lines of our own stay lines; one with a long path in it may wrap.
+  constexpr int kWidest = 800;
+  QLabel* label = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+  if (label == nullptr) return;
+  int widest = 0;
+  for (const QString& line : label->text().split(QLatin1Char('\n'))) {
+    widest = std::max(widest, label->fontMetrics().horizontalAdvance(line));
+  }
+  label->setWordWrap(widest > kWidest);
 }
 
 }  // namespace
@@ -73,10 +84,14 @@ bool FormUi::AskYesNo(const std::string& title, const std::string& text) {
 }
 
 std::optional<std::string> FormUi::AskText(const InputBox& box) {
-  bool isGiven = false;
-  const QString text = QInputDialog::getText(Owner(), ToQt(box.title), ToQt(box.prompt), QLineEdit::Normal,
-                                             ToQt(box.defaultText), &isGiven);
-  return isGiven ? FromQt(text) : std::string();
+  QInputDialog dialog(Owner());
+  dialog.setWindowTitle(ToQt(box.title));
+  dialog.setLabelText(ToQt(box.prompt));
+  dialog.setTextValue(ToQt(box.defaultText));
+  // Wide enough for the default, its frame and some typing.
+  const QString room = ToQt(box.defaultText) + QString(12, QLatin1Char('M'));
+  dialog.resize(dialog.fontMetrics().horizontalAdvance(room), dialog.sizeHint().height());
+  return dialog.exec() == QDialog::Accepted ? FromQt(dialog.textValue()) : std::string();
 }
 
 void FormUi::ShowErrorReport(int errorNumber, std::string_view moduleLabel, const std::string& extraInfo) {
@@ -102,11 +117,13 @@ SampleText FormUi::ChooseFont(const SampleText& initial) {
   if (initial.FontSize > 0) font.setPointSizeF(initial.FontSize);
   font.setBold(initial.FontBold);
   font.setItalic(initial.FontItalic);
-  bool isChosen = false;
-  font = QFontDialog::getFont(&isChosen, font, Owner());
-  if (!isChosen) return initial;
+  QFontDialog dialog(font, Owner());
+  // A font that is not installed here shows as another one, which must not take its place unless it is chosen.
+  const QString shown = dialog.currentFont().family();
+  if (dialog.exec() != QDialog::Accepted) return initial;
+  font = dialog.selectedFont();
   SampleText chosen = initial;
-  chosen.FontName = FromQt(font.family());
+  if (font.family() != shown) chosen.FontName = FromQt(font.family());
   chosen.FontSize = font.pointSizeF();
   chosen.FontBold = font.bold();
   chosen.FontItalic = font.italic();

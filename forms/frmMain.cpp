@@ -1,6 +1,7 @@
 #include "frmMain.h"
 
 #include <QCloseEvent>
+#include <QKeyEvent>
 #include <QShortcut>
 
 #include "BuildInfo.h"
@@ -188,6 +189,16 @@ void frmMain::closeEvent(QCloseEvent* event) {
     End();
   }
   event->accept();
+}
+
+void frmMain::keyPressEvent(QKeyEvent* event) {
+  auto* button = qobject_cast<QPushButton*>(focusWidget());
+  const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  if (isReturn && button != nullptr && button->isEnabled()) {
+    button->click();
+  } else {
+    QMainWindow::keyPressEvent(event);
+  }
 }
 
 void frmMain::changeEvent(QEvent* event) {

@@ -47,6 +47,7 @@ class frmMain : public QMainWindow {
  protected:
   void closeEvent(QCloseEvent* event) override;
   void changeEvent(QEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;  // Return presses the button that has the focus
 
  private:
   void ConnectOptions();

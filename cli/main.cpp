@@ -21,7 +21,8 @@ void AddCommonOptions(CLI::App& app, CommonOptions& common) {
                  "Versalia's folder, which holds Sysdefs and Index\n(default: Versalia's own setting)")
       ->type_name("FOLDER");
   app.add_option("--module-path", common.folders.modulePath,
-                 "Versalia's module folder, which holds Bible\n(default: Versalia's own setting)")
+                 "Versalia's module folder, which holds Bible\n(default: Modules in a given Versalia folder, "
+                 "else\nVersalia's own setting)")
       ->type_name("FOLDER");
   app.add_option("--program-folder", common.programFolder,
                  "Holds default.css and the custom header and footer\n(default: the program's, if it can be written "

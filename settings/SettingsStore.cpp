@@ -132,15 +132,16 @@ void SettingsStore::Sync(std::string_view application) {
 
 // A refused value must not be tried again by every later one, nor be read as if it were stored.
 void SettingsStore::Revert(QSettings& area) {
-  for (auto change = m_unsaved.rbegin(); change != m_unsaved.rend(); ++change) {
-    const QString name = ToQString(change->name);
-    if (change->stored) {
-      area.setValue(name, ToQString(*change->stored));
+  while (!m_unsaved.empty()) {
+    const UnsavedChange& last = m_unsaved.back();
+    const QString name = ToQString(last.name);
+    if (last.stored) {
+      area.setValue(name, ToQString(*last.stored));
     } else {
       area.remove(name);
     }
+    m_unsaved.pop_back();
   }
-  m_unsaved.clear();
 }
 
 void SettingsStore::SaveTogether(const std::function<void()>& saves) {

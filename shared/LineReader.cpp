@@ -2,6 +2,7 @@
 
 #include <sys/stat.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstring>
 
@@ -23,7 +24,8 @@ LineReader::LineReader(const std::string& path, std::size_t longest)
   struct stat status {};
   if (fstat(m_file.Get(), &status) != 0) throw RunTimeError::FromErrno(errno, path);
   if (!S_ISREG(status.st_mode)) throw RunTimeError(kPathFileAccessError, path, "It is not a regular file.");
-  m_buffer.resize(kChunk);
+  // One byte more than the file has shows its end in the first fill.
+  m_buffer.resize(std::min(kChunk, static_cast<std::size_t>(status.st_size) + 1));
   Fill();
   if (std::string_view(m_buffer.data(), m_end).starts_with(kByteOrderMark)) m_begin = kByteOrderMark.size();
 }

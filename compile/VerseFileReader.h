@@ -34,10 +34,11 @@ class VerseFileReader {
 
  private:
   std::int64_t Number(std::string_view field, const char* what) const;
+  void ReadPlace(const Verse& verse);
 
   LineReader m_lines;
-  std::string m_bookField;  // of the line before
-  std::string m_chapterField;
+  std::string m_place;           // the book's and the chapter's field of the line before, each with the tab behind it
+  std::size_t m_bookLength = 0;  // of the book's field in it; 0 when m_place does not hold
   int m_book = 0;
   std::int16_t m_chapter = 0;
 };

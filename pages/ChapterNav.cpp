@@ -12,8 +12,9 @@ int ChaptersOf(const PageInputs& inputs, int book) {
   return inputs.glob.ChaptersInBook[static_cast<std::size_t>(book)];
 }
 
-std::string ChapterLink(const PageInputs& inputs, int book, int chapter) {
-  return "[<a href=" + InQuotes(inputs.names.InLink(book, chapter)) + ">" + std::to_string(chapter) + "</a>] ";
+void AddChapterLink(std::string& text, const PageInputs& inputs, int book, int chapter) {
+  text.append("[<a href=\"").append(inputs.names.InLink(book, chapter)).append("\">");
+  text.append(std::to_string(chapter)).append("</a>] ");
 }
 
 void CheckLength(const std::string& text, const char* what) {
@@ -26,7 +27,8 @@ std::string BuildChapterNav(const PageInputs& inputs, const CompileContext& cont
   if (!inputs.options.chkCSS) block = "<p align=" + InQuotes(context.LinkAlignment) + ">";
   const int chapters = ChaptersOf(inputs, book);
   for (int chapter = 1; chapter <= chapters; ++chapter) {
-    block += ChapterLink(inputs, book, chapter) + "\r\n";
+    AddChapterLink(block, inputs, book, chapter);
+    block += "\r\n";
     CheckLength(block, "The links to the chapters");
   }
   return inputs.options.chkCSS ? "<h3>" + block + "</h3>" : block + "</font></p>";

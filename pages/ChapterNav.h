@@ -10,8 +10,8 @@ namespace folionet {
 // The number of chapters of a book; throws RunTimeError (kSubscriptOutOfRange) for a book outside 0 to 66.
 int ChaptersOf(const PageInputs& inputs, int book);
 
-// One link to a chapter's page, with the blank behind it: [<a href="genesis_1.html">1</a>]
-std::string ChapterLink(const PageInputs& inputs, int book, int chapter);
+// Adds one link to a chapter's page, with the blank behind it: [<a href="genesis_1.html">1</a>]
+void AddChapterLink(std::string& text, const PageInputs& inputs, int book, int chapter);
 
 // Throws RunTimeError (kOutOfMemory) when a text that is put together for a page gets longer than a page may be.
 void CheckLength(const std::string& text, const char* what);

@@ -20,7 +20,7 @@ std::string Listing(const IndexPage& index, const PageInputs& inputs, const Code
     text += codePage.ToUpper(BookName(inputs, book)) + " \r\n";
     const int chapters = ChaptersOf(inputs, book);
     for (int chapter = 1; chapter <= chapters; ++chapter) {
-      text += ChapterLink(inputs, book, chapter);
+      AddChapterLink(text, inputs, book, chapter);
       if (inputs.names.Use83()) text += "\r\n";
       CheckLength(text, "The links of the index page");
       inputs.ui.SetPanel(1, "Building index file" + std::to_string(chapter) + " Please stand by...");

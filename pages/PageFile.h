@@ -1,7 +1,6 @@
 #pragma once
 
 #include <algorithm>
-#include <initializer_list>
 #include <string>
 #include <string_view>
 
@@ -27,13 +26,13 @@ class PageFile {
   // Adds the texts, one behind the other, and CR LF. Throws RunTimeError for a page that gets too long.
   template <typename... Texts>
   void Print(const Texts&... texts) {
-    AddAll({std::string_view(texts)..., std::string_view("\r\n")});
+    AddAll(std::string_view(texts)..., std::string_view("\r\n"));
   }
 
   // Adds the texts to the line that the next Print ends.
   template <typename... Texts>
   void Add(const Texts&... texts) {
-    AddAll({std::string_view(texts)...});
+    AddAll(std::string_view(texts)...);
   }
 
   // Writes the page, or with SetDryRun only finds out what that would do. Throws RunTimeError naming the file; what has
@@ -50,12 +49,12 @@ class PageFile {
 
  private:
   // One look at the room that there is for all of the texts.
-  void AddAll(std::initializer_list<std::string_view> texts) {
-    std::size_t size = m_size;
-    for (const std::string_view text : texts) size += text.size();
+  template <typename... Views>
+  void AddAll(const Views... texts) {
+    const std::size_t size = (m_size + ... + texts.size());
     if (size > m_text.size()) Grow(size);
     char* at = m_text.data() + m_size;
-    for (const std::string_view text : texts) at = std::copy(text.begin(), text.end(), at);
+    ((at = std::copy(texts.begin(), texts.end(), at)), ...);
     m_size = size;
   }
 

@@ -8,9 +8,10 @@
 namespace folionet {
 
 std::string_view TrimBlanks(std::string_view text) {
-  const std::size_t first = text.find_first_not_of(" \t");
-  if (first == std::string_view::npos) return {};
-  return text.substr(first, text.find_last_not_of(" \t") - first + 1);
+  const auto isBlank = [](char c) { return c == ' ' || c == '\t'; };
+  while (!text.empty() && isBlank(text.front())) text.remove_prefix(1);
+  while (!text.empty() && isBlank(text.back())) text.remove_suffix(1);
+  return text;
 }
 
 IntegerReading ReadInteger(std::string_view text, std::int64_t lowest, std::int64_t highest) {
@@ -41,6 +42,10 @@ std::optional<std::int16_t> LeadingInteger(std::string_view text) {
   if (first == std::string_view::npos) return 0;
   text.remove_prefix(first);
   if (text.front() == '+') text.remove_prefix(1);
+  // Nearly always the whole text is a small number.
+  std::int16_t whole = 0;
+  const auto [wholeEnd, wholeError] = std::from_chars(text.data(), text.data() + text.size(), whole);
+  if (wholeError == std::errc() && wholeEnd == text.data() + text.size()) return whole;
   double value = 0;
   const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value, std::chars_format::fixed);
   if (error == std::errc::invalid_argument) return 0;

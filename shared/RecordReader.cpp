@@ -17,8 +17,9 @@ std::size_t SkipBlanks(std::string_view line, std::size_t at) {
 void RecordReader::TakeField(std::string_view line, std::size_t& at, std::string& field) const {
   at = SkipBlanks(line, at);
   if (at == line.size() || line[at] != '"') {
+    // Most fields are numbers of a few digits: a loop finds their ends sooner than a call.
     const std::size_t start = at;
-    at = std::min(line.find(',', at), line.size());
+    while (at < line.size() && line[at] != ',') ++at;
     field = TrimBlanks(line.substr(start, at - start));
     return;
   }

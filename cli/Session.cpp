@@ -39,7 +39,7 @@ void RefuseUsage(const std::string& text) {
 }
 
 Session::Session(const CommonOptions& common)
-    : store(SettingsStore::DefaultFolder()), ui(common.quiet), chosenProgramFolder(common.programFolder) {
+    : store(StoredSettings::DefaultFolder()), ui(common.quiet), chosenProgramFolder(common.programFolder) {
   try {
     LocateInstallation(store, common.folders, glob);
   } catch (const RunTimeError& error) {

@@ -9,7 +9,7 @@
 #include "ConsoleUi.h"
 #include "Installation.h"
 #include "OptionRecords.h"
-#include "SettingsStore.h"
+#include "StoredSettings.h"
 #include "modGlob.h"
 
 namespace folionet {
@@ -64,7 +64,7 @@ class Session {
   // The place in the book lists of a book, by number from 1 or by title. Ends the command when there is none.
   int FindBook(const std::string& numberOrTitle) const;
 
-  SettingsStore store;
+  StoredSettings store;
   ConsoleUi ui;
   ModGlob glob;
   CodePage codePage;

@@ -3,6 +3,7 @@
 #include <exception>
 
 #include "Follow.h"
+#include "OptionSaving.h"
 #include "TrySave.h"
 #include "ui_frmBackground.h"
 

@@ -6,6 +6,7 @@
 
 #include "Effects.h"
 #include "Follow.h"
+#include "OptionSaving.h"
 #include "RunTimeError.h"
 #include "Swatches.h"
 #include "TrySave.h"

@@ -8,6 +8,7 @@
 #include "Follow.h"
 #include "LinkBack.h"
 #include "Numbers.h"
+#include "OptionSaving.h"
 #include "PreviewBox.h"
 #include "RunTimeError.h"
 #include "TrySave.h"

@@ -11,6 +11,7 @@
 #include "HelpWindow.h"
 #include "LibraryLists.h"
 #include "MainCompile.h"
+#include "OptionSaving.h"
 #include "QtText.h"
 #include "RunGuard.h"
 #include "RunTimeError.h"

@@ -2,6 +2,7 @@
 
 #include "Follow.h"
 #include "KeyReleases.h"
+#include "OptionSaving.h"
 #include "PreviewBox.h"
 #include "TrySave.h"
 #include "ui_frmPAgeTitles.h"

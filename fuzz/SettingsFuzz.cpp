@@ -22,7 +22,7 @@ void Try(Load load) {
 }
 
 void LoadAll(const std::string& folder) {
-  const SettingsStore store(folder);
+  const StoredSettings store(folder);
   SilentUi ui;
   Try([&] {
     MainOptions main;

@@ -4,7 +4,7 @@
 
 namespace folionet {
 
-// The QSettings format of our files (see SettingsStore): INI whose values read back as their whole text, also where a
+// The QSettings format of our files (see IniText.h): INI whose values read back as their whole text, also where a
 // person edited them by hand. QSettings' own INI splits a value at its commas and takes its backslashes away.
 QSettings::Format VerbatimIniFormat();
 

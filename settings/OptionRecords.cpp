@@ -27,9 +27,7 @@ Colour DefaultColour(std::string_view key) {
   return static_cast<Colour>(ReadInteger(DefaultText(key), kInt32Min, kInt32Max).value);
 }
 
-bool IsKnownAlignment(std::string_view text) { return text == "Left" || text == "Center" || text == "Justify"; }
-
-void LoadHyperlinkOptions(const SettingsStore& store, EffectsOptions& options) {
+void LoadHyperlinkOptions(const StoredSettings& store, EffectsOptions& options) {
   for (const auto& [key, swatch] : kSwatches) {
     (options.*swatch).colour = store.ColourOf(key);
     if ((options.*swatch).colour == DefaultColour(key)) (options.*swatch).isDefault = true;
@@ -56,7 +54,9 @@ void ResetHyperlinkOptions(EffectsOptions& options) {
 
 }  // namespace
 
-AlignmentReading LoadAlignment(const SettingsStore& store) {
+bool IsKnownAlignment(std::string_view text) { return text == "Left" || text == "Center" || text == "Justify"; }
+
+AlignmentReading LoadAlignment(const StoredSettings& store) {
   AlignmentReading reading;
   reading.selected = store.Text("alignmentLR") == "Left" ? "Left" : "Center";
   reading.text = store.Text("Index_Alignment");
@@ -64,31 +64,14 @@ AlignmentReading LoadAlignment(const SettingsStore& store) {
   return reading;
 }
 
-void GetDefaults(const SettingsStore& store, SampleText& sample) {
+void GetDefaults(const StoredSettings& store, SampleText& sample) {
   sample.BackColor = store.ColourOf("BackColor");
   sample.ForeColor = store.ColourOf("ForeColor");
   sample.FontName = store.Text("Font");
   sample.FontSize = store.PointSize("FontSize");
 }
 
-void SaveDefaults(SettingsStore& store, const PageOptions& options, const MainOptions& main) {
-  store.SaveTogether([&] {
-    store.SaveInteger("BackColor", options.txtSample.BackColor);
-    store.SaveInteger("ForeColor", options.txtSample.ForeColor);
-    store.SaveText("Font", options.txtSample.FontName);
-    store.SavePointSize("FontSize", options.txtSample.FontSize);
-    store.SaveFlag("Use83", options.chkUse83);
-    store.SaveBoolean("FontBold", options.txtSample.FontBold);
-    store.SaveBoolean("FontItalic", options.txtSample.FontItalic);
-    if (IsKnownAlignment(main.alignment)) store.SaveText("alignmentLR", main.alignment);
-    store.SaveFlag("chkDoubleSpace", options.chkDoubleSpace);
-    store.SaveText("Drive1", main.Drive1);
-    store.SaveText("Dir1", main.Dir1);
-    store.SaveText("Index_Alignment", main.alignment);
-  });
-}
-
-void ReadForSaveDefaults(const SettingsStore& store, PageOptions& options, MainOptions& main) {
+void ReadForSaveDefaults(const StoredSettings& store, PageOptions& options, MainOptions& main) {
   const auto read = [](const auto& reading) {
     try {
       reading();
@@ -110,32 +93,16 @@ void ReadForSaveDefaults(const SettingsStore& store, PageOptions& options, MainO
   read([&] { main.Dir1 = store.Text("Dir1"); });
 }
 
-void LoadTitles(const SettingsStore& store, PageTitleOptions& options) {
+void LoadTitles(const StoredSettings& store, PageTitleOptions& options) {
   options.txtIndex_html = store.Text("index_html");
   options.txtPageTitles = store.Text("PageTitles");
 }
 
-void SaveTitles(SettingsStore& store, const PageTitleOptions& options) {
-  store.SaveTogether([&] {
-    store.SaveText("index_html", options.txtIndex_html);
-    store.SaveText("PageTitles", options.txtPageTitles);
-  });
-}
-
-void LoadMETA(const SettingsStore& store, MetaOptions& options) {
+void LoadMETA(const StoredSettings& store, MetaOptions& options) {
   options.txtKeywordsI = store.Text("KeywordsI");
   options.txtDescriptionI = store.Text("DescriptionI");
   options.txtKeyWords = store.Text("Keywords");
   options.txtDescription = store.Text("Description");
-}
-
-void SaveMETA(SettingsStore& store, const MetaOptions& options) {
-  store.SaveTogether([&] {
-    store.SaveText("KeywordsI", options.txtKeywordsI);
-    store.SaveText("DescriptionI", options.txtDescriptionI);
-    store.SaveText("Keywords", options.txtKeyWords);
-    store.SaveText("Description", options.txtDescription);
-  });
 }
 
 std::string_view AlignmentWord(int justification) {
@@ -143,7 +110,7 @@ std::string_view AlignmentWord(int justification) {
   return justification >= 1 && justification <= 3 ? kWords[static_cast<std::size_t>(justification - 1)] : "";
 }
 
-void LoadLinkToMain(const SettingsStore& store, LinkToMainOptions& options) {
+void LoadLinkToMain(const StoredSettings& store, LinkToMainOptions& options) {
   options.txtLinkToMain = store.Text("LinkToMain");
   options.LCR = store.Number("LCR");
   if (const std::string_view word = AlignmentWord(options.LCR); !word.empty()) options.alignment = word;
@@ -154,46 +121,17 @@ void LoadLinkToMain(const SettingsStore& store, LinkToMainOptions& options) {
   }
 }
 
-void SaveLinkToMain(SettingsStore& store, const LinkToMainOptions& options) {
-  store.SaveText("LinkToMain", options.txtLinkToMain);
-}
-
-void SaveLCR(SettingsStore& store, int justification) { store.SaveInteger("LCR", justification); }
-
-void SaveLinkBackSize(SettingsStore& store, int size) { store.SaveInteger("LinkBackSize", size); }
-
-void LoadBackground(const SettingsStore& store, BackgroundOptions& options) {
+void LoadBackground(const StoredSettings& store, BackgroundOptions& options) {
   options.chkWaterMark = store.Flag("WaterMark");
   options.txtImagepath = store.Text("BackImage");
 }
 
-void SaveBackImage(SettingsStore& store, const BackgroundOptions& options) {
-  store.SaveText("BackImage", options.txtImagepath);
-}
-
-void SaveWaterMark(SettingsStore& store, const BackgroundOptions& options) {
-  store.SaveFlag("WaterMark", options.chkWaterMark);
-}
-
-void SetDefaultHyperlinkColors(const SettingsStore& store, EffectsOptions& options, int ask) {
+void SetDefaultHyperlinkColors(const StoredSettings& store, EffectsOptions& options, int ask) {
   if (ask == 0) LoadHyperlinkOptions(store, options);
   if (ask == 1) ResetHyperlinkOptions(options);
 }
 
-void SaveDefaultHyperlinkColors(SettingsStore& store, const EffectsOptions& options) {
-  store.SaveTogether([&] {
-    for (const auto& [key, swatch] : kSwatches) store.SaveInteger(key, (options.*swatch).colour);
-    store.SaveText("cboFont", options.cboFont);
-    store.SaveText("cboSize", options.cboSize);
-    store.SaveText("cboStyle", options.cboStyle);
-    store.SaveFlag("chkSmallCaps", options.chkSmallCaps);
-    store.SaveFlag("chkAllCaps", options.chkAllCaps);
-    store.SaveFlag("chkUnderline", options.chkUnderline);
-    store.SaveFlag("chkRollover", options.chkRollover);
-  });
-}
-
-PageOptions LoadPageOptions(const SettingsStore& store, MainOptions& main) {
+PageOptions LoadPageOptions(const StoredSettings& store, MainOptions& main) {
   PageOptions options;
   options.chkBack = store.Flag("chkBack");
   options.chkUseNames = store.Flag("chkUseNames");

@@ -13,7 +13,7 @@ std::string EncodingCode(std::string_view entry, std::string_view what) {
   return std::string(entry.substr(0, blank));
 }
 
-CodePage StoredCodePage(const SettingsStore& store) {
+CodePage StoredCodePage(const StoredSettings& store) {
   try {
     return CodePage(EncodingCode(store.Text("Charset"), "Charset"));
   } catch (const RunTimeError&) {
@@ -21,7 +21,7 @@ CodePage StoredCodePage(const SettingsStore& store) {
   }
 }
 
-void LoadPageEncoding(const SettingsStore& store, PageEncoding& encoding, UserInterface& ui) {
+void LoadPageEncoding(const StoredSettings& store, PageEncoding& encoding, UserInterface& ui) {
   encoding.PageCharset = EncodingCode(store.Text("Charset"), "Charset");
   ui.SetPanel(3, "Charset: " + encoding.PageCharset);
   encoding.PageLanguage = EncodingCode(store.Text("Lang"), "Lang");

@@ -4,7 +4,7 @@
 #include <string_view>
 
 #include "CodePage.h"
-#include "SettingsStore.h"
+#include "StoredSettings.h"
 #include "UserInterface.h"
 
 namespace folionet {
@@ -21,10 +21,10 @@ std::string EncodingCode(std::string_view entry, std::string_view what);
 
 // The code page that the stored charset names, windows-1252 when it cannot be read. The custom header and footer are
 // kept in it.
-CodePage StoredCodePage(const SettingsStore& store);
+CodePage StoredCodePage(const StoredSettings& store);
 
 // Reads both codes from the settings "Charset" and "Lang" and shows them in panels 3 and 2 of the status bar. Throws
 // RunTimeError; what was read by then is set.
-void LoadPageEncoding(const SettingsStore& store, PageEncoding& encoding, UserInterface& ui);
+void LoadPageEncoding(const StoredSettings& store, PageEncoding& encoding, UserInterface& ui);
 
 }  // namespace folionet

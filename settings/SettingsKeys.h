@@ -21,7 +21,10 @@ struct SettingKey {
   std::string_view defaultText;
 };
 
-// Every key of the section "Keys", in the order in which they are listed to a person.
+// Where our own keys stand.
+inline constexpr std::string_view kSettingsSection = "Keys";
+
+// Every key of that section, in the order in which they are listed to a person.
 std::span<const SettingKey> SettingKeys();
 
 // The key of that name; nullptr when there is none.

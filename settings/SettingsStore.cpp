@@ -6,41 +6,30 @@
 #include <QSettings>
 #include <cerrno>
 #include <charconv>
-#include <cstdlib>
 #include <filesystem>
 #include <system_error>
 
 #include "BuildInfo.h"
-#include "CodePage.h"
 #include "FileHandle.h"
 #include "IniFormat.h"
-#include "Numbers.h"
-#include "Paths.h"
 #include "RunTimeError.h"
 #include "SettingsKeys.h"
 
 namespace folionet {
 namespace {
 
-constexpr char kSection[] = "Keys";
-
 QString ToQString(std::string_view text) { return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())); }
 
-QString FullKey(std::string_view section, std::string_view key) {
-  return ToQString(section) + QLatin1Char('/') + ToQString(key);
-}
-
 // A pipe in the place of the file would keep the program waiting, a device could fill its memory.
-void CheckFile(const std::string& path) {
-  constexpr std::uintmax_t kLongest = std::uintmax_t{16} << 20;
+void CheckFile(const std::string& path, std::size_t longest) {
   std::error_code error;
   const std::filesystem::file_status status = std::filesystem::status(path, error);
   if (!std::filesystem::exists(status)) return;
   if (!std::filesystem::is_regular_file(status)) {
     throw RunTimeError(kPathFileAccessError, path, "It is not a regular file.");
   }
-  if (const std::uintmax_t size = std::filesystem::file_size(path, error); !error && size > kLongest) {
-    throw RunTimeError(kOutOfMemory, path, "The file is longer than " + std::to_string(kLongest) + " bytes.");
+  if (const std::uintmax_t size = std::filesystem::file_size(path, error); !error && size > longest) {
+    throw RunTimeError(kOutOfMemory, path, "The file is longer than " + std::to_string(longest) + " bytes.");
   }
 }
 
@@ -68,19 +57,9 @@ std::string PlainText(double value) {
 
 }  // namespace
 
-SettingsStore::SettingsStore(const std::string& folder) : m_folder(WithSeparator(folder)) {}
+SettingsStore::SettingsStore(const std::string& folder) : StoredSettings(folder) {}
 
 SettingsStore::~SettingsStore() = default;
-
-std::string SettingsStore::DefaultFolder() {
-  if (const char* folder = std::getenv("XDG_CONFIG_HOME"); folder != nullptr && folder[0] == '/') return folder;
-  const char* home = std::getenv("HOME");
-  return std::string(home != nullptr ? home : "") + "/.config";
-}
-
-std::string SettingsStore::FilePath(std::string_view application) const {
-  return m_folder + std::string(application) + ".ini";
-}
 
 QSettings& SettingsStore::Area(std::string_view application) const {
   const auto found = m_areas.find(application);
@@ -89,7 +68,7 @@ QSettings& SettingsStore::Area(std::string_view application) const {
 
 QSettings& SettingsStore::OpenArea(std::string_view application) const {
   const std::string path = FilePath(application);
-  CheckFile(path);
+  CheckFile(path, kLongestFile);
   errno = 0;
   auto area = std::make_unique<QSettings>(ToQString(path), VerbatimIniFormat());
   if (area->status() != QSettings::NoError || !IsWholeReading(*area)) {
@@ -98,28 +77,23 @@ QSettings& SettingsStore::OpenArea(std::string_view application) const {
   return *m_areas.emplace(application, std::move(area)).first->second;
 }
 
-std::string SettingsStore::GetSetting(std::string_view application, std::string_view section, std::string_view key,
-                                      std::string_view defaultText) const {
-  if (application == kApplicationTitle && section == kSection) {
-    if (const auto found = m_overrides.find(key); found != m_overrides.end()) return found->second;
-  }
-  const QVariant value = Area(application).value(FullKey(section, key));
-  return value.isValid() ? value.toString().toStdString() : std::string(defaultText);
+std::optional<std::string> SettingsStore::Stored(std::string_view application, const std::string& name) const {
+  const QVariant value = Area(application).value(ToQString(name));
+  return value.isValid() ? std::optional(value.toString().toStdString()) : std::nullopt;
 }
 
 void SettingsStore::SaveSetting(std::string_view application, std::string_view section, std::string_view key,
                                 std::string_view value) {
   QSettings& area = Area(application);
-  const QString name = FullKey(section, key);
-  m_unsaved.push_back({name.toStdString(),
-                       area.contains(name) ? std::optional(area.value(name).toString().toStdString()) : std::nullopt});
-  area.setValue(name, ToQString(value));
+  const std::string name = NameOf(section, key);
+  m_unsaved.push_back({name, Stored(application, name)});
+  area.setValue(ToQString(name), ToQString(value));
   if (!m_savesTogether) Sync(application);
 }
 
 void SettingsStore::Sync(std::string_view application) {
   QSettings& area = Area(application);
-  const FileHandle turn = TakeTurn(m_folder, FilePath(application) + ".lock");
+  const FileHandle turn = TakeTurn(Folder(), FilePath(application) + ".lock");
   errno = 0;
   area.sync();
   if (area.status() != QSettings::NoError) {
@@ -166,53 +140,8 @@ void SettingsStore::DeleteSetting(std::string_view application) {
   }
 }
 
-void SettingsStore::Override(std::string_view key, std::string value) {
-  m_overrides.insert_or_assign(std::string(key), std::move(value));
-}
-
-bool SettingsStore::Has(std::string_view key) const {
-  return m_overrides.contains(key) || Area(kApplicationTitle).contains(FullKey(kSection, key));
-}
-
-std::string SettingsStore::Text(std::string_view key) const {
-  const SettingKey* known = FindSettingKey(key);
-  return GetSetting(kApplicationTitle, kSection, key, known != nullptr ? known->defaultText : std::string_view());
-}
-
-std::string SettingsStore::Checked(std::string_view key) const {
-  const SettingKey* known = FindSettingKey(key);
-  const std::string text = Text(key);
-  if (known == nullptr) return text;
-  const int error = CheckSetting(known->form, text);
-  if (error != 0) {
-    throw RunTimeError(
-        error, FilePath(kApplicationTitle),
-        "The setting " + std::string(key) + " must be " + std::string(Describe(known->form)) + ": \"" + text + "\"");
-  }
-  return std::string(TrimBlanks(text));
-}
-
-bool SettingsStore::Flag(std::string_view key) const { return ReadInteger(Checked(key), 0, 1).value == 1; }
-
-bool SettingsStore::Boolean(std::string_view key) const { return EqualIgnoringCase(Checked(key), "True"); }
-
-Colour SettingsStore::ColourOf(std::string_view key) const {
-  return static_cast<Colour>(ReadInteger(Checked(key), kInt32Min, kInt32Max).value);
-}
-
-std::int16_t SettingsStore::Number(std::string_view key) const {
-  return static_cast<std::int16_t>(ReadInteger(Checked(key), kInt16Min, kInt16Max).value);
-}
-
-double SettingsStore::PointSize(std::string_view key) const {
-  const std::string text = Checked(key);
-  float points = 0;
-  std::from_chars(text.data(), text.data() + text.size(), points);
-  return static_cast<double>(points);
-}
-
 void SettingsStore::SaveText(std::string_view key, std::string_view value) {
-  SaveSetting(kApplicationTitle, kSection, key, value);
+  SaveSetting(kApplicationTitle, kSettingsSection, key, value);
 }
 
 void SettingsStore::SaveFlag(std::string_view key, bool value) { SaveText(key, value ? "1" : "0"); }

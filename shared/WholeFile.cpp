@@ -134,9 +134,9 @@ std::string ReadWholeFile(const std::string& path, std::size_t longest) {
   return bytes;
 }
 
-std::optional<std::string> ReadIfThere(const std::string& path) {
+std::optional<std::string> ReadIfThere(const std::string& path, std::size_t longest) {
   try {
-    return ReadWholeFile(path);
+    return ReadWholeFile(path, longest);
   } catch (const RunTimeError& error) {
     if (error.Number() == kFileNotFound || error.Number() == kPathNotFound) return std::nullopt;
     throw;

@@ -10,7 +10,7 @@ namespace folionet {
 std::string ReadWholeFile(const std::string& path, std::size_t longest = std::size_t{64} << 20);
 
 // As ReadWholeFile; nothing when there is no such file. One that is there and cannot be read still throws.
-std::optional<std::string> ReadIfThere(const std::string& path);
+std::optional<std::string> ReadIfThere(const std::string& path, std::size_t longest = std::size_t{64} << 20);
 
 // Gives the file `path` the content `bytes`, old or new and never a part: the bytes go to "<path>.new" beside it,
 // which then takes its place. A link is followed. Of two programs that do so at once, the second waits for the first.

@@ -3,7 +3,7 @@
 #include <utility>
 
 #include "Paths.h"
-#include "SettingsStore.h"
+#include "StoredSettings.h"
 
 namespace folionet {
 namespace {
@@ -13,7 +13,7 @@ constexpr char kModulePath[] = "Module_Path";
 
 }  // namespace
 
-void LocateInstallation(const SettingsStore& store, const GivenFolders& given, ModGlob& glob) {
+void LocateInstallation(const StoredSettings& store, const GivenFolders& given, ModGlob& glob) {
   const auto folder = [&](const std::string& chosen, const char* key) {
     return chosen.empty() ? store.GetSetting(kVersalia, kModulePath, key, "") : WithSeparator(chosen);
   };

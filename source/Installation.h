@@ -8,7 +8,7 @@
 
 namespace folionet {
 
-class SettingsStore;
+class StoredSettings;
 
 // How a routine that can end the program went on.
 enum class Outcome {
@@ -26,7 +26,7 @@ struct GivenFolders {
 // Sets InstallPath and ModulesPath, each to the folder given or else to what Versalia's own settings hold (application
 // "Versalia", section "Module_Path"), empty when unknown, and SysdefsPath. A module folder that is still unknown is
 // looked for under the installation's, and so is that of an installation that was given without one.
-void LocateInstallation(const SettingsStore& store, const GivenFolders& given, ModGlob& glob);
+void LocateInstallation(const StoredSettings& store, const GivenFolders& given, ModGlob& glob);
 
 // Sets the folders from texts, used as they are; `sysdefs` is the name of the folder of definitions under InstallPath.
 void SetInstallation(ModGlob& glob, std::string installPath, std::string modulesPath, std::string_view sysdefs);

@@ -13,7 +13,7 @@
 
 #include "CustomHtml.h"
 #include "EncodingLists.h"
-#include "OptionRecords.h"
+#include "OptionSaving.h"
 #include "RunTimeError.h"
 #include "SettingsStore.h"
 

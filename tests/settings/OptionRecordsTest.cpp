@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "CustomHtml.h"
-#include "OptionRecords.h"
+#include "OptionSaving.h"
 #include "PageEncoding.h"
 #include "RecordingUi.h"
 #include "RunTimeError.h"

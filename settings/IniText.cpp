@@ -1,0 +1,102 @@
+#include "IniText.h"
+
+#include <algorithm>
+
+#include "CodePage.h"
+#include "LineReader.h"
+
+namespace folionet {
+namespace {
+
+// An escaped character as it is written and as it reads; a backslash before any other stands for itself.
+struct Escape {
+  char letter;
+  char character;
+};
+constexpr Escape kEscapes[] = {{'n', '\n'}, {'r', '\r'}, {'t', '\t'}, {'"', '"'}, {'\\', '\\'}};
+
+bool IsBlank(char c) { return c == ' ' || (c >= '\t' && c <= '\r'); }
+
+std::string_view Trimmed(std::string_view text) {
+  while (!text.empty() && IsBlank(text.front())) text.remove_prefix(1);
+  while (!text.empty() && IsBlank(text.back())) text.remove_suffix(1);
+  return text;
+}
+
+std::string Unquoted(std::string_view inner) {
+  std::string text;
+  for (std::size_t i = 0; i < inner.size(); ++i) {
+    char c = inner[i];
+    if (c == '\\' && i + 1 < inner.size()) {
+      const auto* const escape = std::find_if(std::begin(kEscapes), std::end(kEscapes),
+                                              [&](const Escape& known) { return known.letter == inner[i + 1]; });
+      if (escape != std::end(kEscapes)) {
+        c = escape->character;
+        ++i;
+      }
+    }
+    text += c;
+  }
+  return text;
+}
+
+// Whether the quote that opens a value is closed by its very last character.
+bool IsWholeQuoted(std::string_view value) {
+  if (value.size() < 2 || value.front() != '"' || value.back() != '"') return false;
+  for (std::size_t i = 1; i < value.size(); ++i) {
+    if (value[i] == '\\') {
+      ++i;
+    } else if (value[i] == '"') {
+      return i == value.size() - 1;
+    }
+  }
+  return false;
+}
+
+void ReadLine(std::string_view line, std::string& section, IniValues& values) {
+  if (line.empty() || line.front() == ';' || line.front() == '#') return;
+  if (line.front() == '[' && line.back() == ']') {
+    section = line.size() > 2 ? Trimmed(line.substr(1, line.size() - 2)) : std::string_view();
+    if (!section.empty()) section += '/';
+    return;
+  }
+  const std::size_t equals = line.find('=');
+  if (equals == 0 || equals == std::string_view::npos) return;
+  const std::string_view value = Trimmed(line.substr(equals + 1));
+  values.insert_or_assign(section + std::string(Trimmed(line.substr(0, equals))),
+                          IsWholeQuoted(value) ? Unquoted(value.substr(1, value.size() - 2)) : std::string(value));
+}
+
+}  // namespace
+
+IniValues ParseIni(std::string_view text) {
+  std::string repaired;
+  if (!IsUtf8(text)) {
+    repaired = CodePage("utf-8").DecodeForDisplay(text);
+    text = repaired;
+  }
+  if (text.starts_with(kByteOrderMark)) text.remove_prefix(kByteOrderMark.size());
+  IniValues values;
+  std::string section;
+  while (!text.empty()) {
+    const std::size_t end = std::min(text.find('\n'), text.size());
+    ReadLine(Trimmed(text.substr(0, end)), section, values);
+    text.remove_prefix(std::min(end + 1, text.size()));
+  }
+  return values;
+}
+
+std::string IniValueText(std::string_view value) {
+  constexpr std::string_view kNeedsQuotes("\"\r\n\0", 4);
+  if (value == Trimmed(value) && value.find_first_of(kNeedsQuotes) == std::string_view::npos) return std::string(value);
+  std::string quoted = "\"";
+  for (const char c : value) {
+    const auto* const escape = std::find_if(std::begin(kEscapes), std::end(kEscapes),
+                                            [&](const Escape& known) { return known.character == c; });
+    if (escape != std::end(kEscapes)) quoted += '\\';
+    quoted += escape != std::end(kEscapes) ? escape->letter : c;
+  }
+  return quoted + '"';
+}
+
+}  // namespace folionet

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <functional>
+#include <map>
+#include <string>
+#include <string_view>
+
+namespace folionet {
+
+// The values of an INI text by "section/key"; those before the first section have the key only.
+using IniValues = std::map<std::string, std::string, std::less<>>;
+
+// Reads an INI text whose values stand as they are, commas and backslashes included:
+//
+//   [Keys]
+//   chkCSS=1
+//   Keywords=%bible%, Online Bible
+//
+// A value in double quotes is what they enclose, with \", \\, \r, \n and \t inside. Blanks around keys and values do
+// not count; lines that begin with ";" or "#", and those without "=", are passed over; of two values for one key the
+// last holds. Bytes that are not UTF-8 become U+FFFD. Any text can be read.
+IniValues ParseIni(std::string_view text);
+
+// A value as ParseIni reads it back: as it stands or, where it begins or ends with a blank, or holds a quote, a line
+// break or NUL, in double quotes.
+std::string IniValueText(std::string_view value);
+
+}  // namespace folionet

@@ -1,0 +1,96 @@
+#include "StoredSettings.h"
+
+#include <charconv>
+#include <cstdlib>
+
+#include "BuildInfo.h"
+#include "CodePage.h"
+#include "Numbers.h"
+#include "Paths.h"
+#include "RunTimeError.h"
+#include "SettingsKeys.h"
+#include "WholeFile.h"
+
+namespace folionet {
+
+StoredSettings::StoredSettings(const std::string& folder) : m_folder(WithSeparator(folder)) {}
+
+std::string StoredSettings::DefaultFolder() {
+  if (const char* folder = std::getenv("XDG_CONFIG_HOME"); folder != nullptr && folder[0] == '/') return folder;
+  const char* home = std::getenv("HOME");
+  return std::string(home != nullptr ? home : "") + "/.config";
+}
+
+std::string StoredSettings::FilePath(std::string_view application) const {
+  return m_folder + std::string(application) + ".ini";
+}
+
+std::string StoredSettings::GetSetting(std::string_view application, std::string_view section, std::string_view key,
+                                       std::string_view defaultText) const {
+  if (application == kApplicationTitle && section == kSettingsSection) {
+    if (const auto found = m_overrides.find(key); found != m_overrides.end()) return found->second;
+  }
+  return Stored(application, NameOf(section, key)).value_or(std::string(defaultText));
+}
+
+std::string StoredSettings::NameOf(std::string_view section, std::string_view key) {
+  return std::string(section).append("/").append(key);
+}
+
+std::optional<std::string> StoredSettings::Stored(std::string_view application, const std::string& name) const {
+  auto area = m_areas.find(application);
+  if (area == m_areas.end()) {
+    const std::optional<std::string> text = ReadIfThere(FilePath(application), kLongestFile);
+    area = m_areas.emplace(application, text ? ParseIni(*text) : IniValues()).first;
+  }
+  const auto found = area->second.find(name);
+  return found == area->second.end() ? std::nullopt : std::optional(found->second);
+}
+
+void StoredSettings::Override(std::string_view key, std::string value) {
+  m_overrides.insert_or_assign(std::string(key), std::move(value));
+}
+
+bool StoredSettings::Has(std::string_view key) const {
+  return m_overrides.contains(key) || Stored(kApplicationTitle, NameOf(kSettingsSection, key)).has_value();
+}
+
+std::string StoredSettings::Text(std::string_view key) const {
+  const SettingKey* known = FindSettingKey(key);
+  return GetSetting(kApplicationTitle, kSettingsSection, key,
+                    known != nullptr ? known->defaultText : std::string_view());
+}
+
+std::string StoredSettings::Checked(std::string_view key) const {
+  const SettingKey* known = FindSettingKey(key);
+  const std::string text = Text(key);
+  if (known == nullptr) return text;
+  const int error = CheckSetting(known->form, text);
+  if (error != 0) {
+    throw RunTimeError(
+        error, FilePath(kApplicationTitle),
+        "The setting " + std::string(key) + " must be " + std::string(Describe(known->form)) + ": \"" + text + "\"");
+  }
+  return std::string(TrimBlanks(text));
+}
+
+bool StoredSettings::Flag(std::string_view key) const { return ReadInteger(Checked(key), 0, 1).value == 1; }
+
+bool StoredSettings::Boolean(std::string_view key) const { return EqualIgnoringCase(Checked(key), "True"); }
+
+Colour StoredSettings::ColourOf(std::string_view key) const {
+  return static_cast<Colour>(ReadInteger(Checked(key), kInt32Min, kInt32Max).value);
+}
+
+std::int16_t StoredSettings::Number(std::string_view key) const {
+  return static_cast<std::int16_t>(ReadInteger(Checked(key), kInt16Min, kInt16Max).value);
+}
+
+double StoredSettings::PointSize(std::string_view key) const {
+  const std::string text = Checked(key);
+  float points = 0;
+  std::from_chars(text.data(), text.data() + text.size(), points);
+  return static_cast<double>(points);
+}
+
+}  // namespace folionet

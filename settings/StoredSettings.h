@@ -1,0 +1,72 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <map>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "Colours.h"
+#include "IniText.h"
+
+namespace folionet {
+
+// The per-user option texts, to be read: one INI file "<application>.ini" per application name in one folder, in the
+// form that IniText.h tells. All texts are UTF-8.
+//
+// A program that only reads them needs nothing else, Qt least of all, whose loading takes longer than the reading.
+class StoredSettings {
+ public:
+  // `folder` is where the files are.
+  explicit StoredSettings(const std::string& folder);
+  virtual ~StoredSettings() = default;
+  StoredSettings(const StoredSettings&) = delete;
+  StoredSettings& operator=(const StoredSettings&) = delete;
+
+  // $XDG_CONFIG_HOME, or ~/.config.
+  static std::string DefaultFolder();
+
+  // The stored text, or `defaultText` when the key is missing. This and every routine below throws RunTimeError when
+  // the application's file is there and cannot be read.
+  std::string GetSetting(std::string_view application, std::string_view section, std::string_view key,
+                         std::string_view defaultText) const;
+
+  std::string FilePath(std::string_view application) const;
+
+  // Gives a key of our own a value for this run only: it is read as if stored and never written.
+  void Override(std::string_view key, std::string value);
+
+  // Whether a key of our own is stored or overridden.
+  bool Has(std::string_view key) const;
+
+  // Typed reading of our own keys, with the defaults of the table of keys. A stored text that has not the key's form
+  // throws RunTimeError (kTypeMismatch, kOverflow or kInvalidProcedureCall) naming file, key and text.
+  std::string Text(std::string_view key) const;
+  bool Flag(std::string_view key) const;
+  bool Boolean(std::string_view key) const;
+  Colour ColourOf(std::string_view key) const;
+  std::int16_t Number(std::string_view key) const;
+  double PointSize(std::string_view key) const;
+
+ protected:
+  // A longer settings file is not read.
+  static constexpr std::size_t kLongestFile = std::size_t{16} << 20;
+
+  // "section/key"
+  static std::string NameOf(std::string_view section, std::string_view key);
+
+  // The value stored under NameOf's name; nothing when there is none. The file is read once.
+  virtual std::optional<std::string> Stored(std::string_view application, const std::string& name) const;
+
+  const std::string& Folder() const { return m_folder; }
+
+ private:
+  std::string Checked(std::string_view key) const;
+
+  std::string m_folder;
+  mutable std::map<std::string, IniValues, std::less<>> m_areas;
+  std::map<std::string, std::string, std::less<>> m_overrides;
+};
+
+}  // namespace folionet

@@ -138,8 +138,9 @@ class CompileRun {
   void TurnPage() {
     if (m_context.PagesCreated == kInt16Max) throw RunTimeError(kOverflow, "More than 32767 pages.");
     ++m_context.PagesCreated;
-    m_ui.SetPanel(1, "Compiling file " + std::to_string(m_context.PagesCreated) + " " +
-                         m_codePage.DecodeForDisplay(BookName(m_inputs, m_verse.book)));
+    if (m_shownBook.empty() || m_verse.book != m_context.BookNumber)
+      m_shownBook = m_codePage.DecodeForDisplay(BookName(m_inputs, m_verse.book));
+    m_ui.SetPanel(1, "Compiling file " + std::to_string(m_context.PagesCreated) + " " + m_shownBook);
     ClosePage();
     OpenChapter(m_verse.book, m_verse.chapter, m_verse.chapterField);
   }
@@ -197,6 +198,7 @@ class CompileRun {
   PageInputs m_inputs;
   CompileContext m_context;
   std::array<std::string, kBooks + 1> m_labels;
+  std::string m_shownBook;                  // the title of the page's book, as the status bar shows it
   std::optional<VerseFileReader> m_verses;  // outlives a failure, whose report shows what m_verse points to
   Verse m_verse;
   bool m_holdsStartPage = false;

@@ -1,9 +1,8 @@
-// Reads any bytes as a settings file, takes every option from it, and stores texts that must read back as they were.
+// Reads any bytes as a settings file, takes every option from it, and writes texts that must read back as they were.
 
-#include <QString>
-#include <optional>
-
+#include "CodePage.h"
 #include "FuzzFiles.h"
+#include "IniText.h"
 #include "OptionRecords.h"
 #include "PageEncoding.h"
 #include "RunTimeError.h"
@@ -52,12 +51,11 @@ void LoadAll(const std::string& folder) {
   }
 }
 
-void SaveAndRead(const std::string& folder, const std::string& text) {
-  SettingsStore(folder).SaveText("Keywords", text);
+void WriteAndRead(const std::string& text) {
   // Bytes that are no UTF-8 do not survive, and need not.
-  const bool isUtf8 = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())).toStdString() == text;
-  const bool isSame = SettingsStore(folder).Text("Keywords") == text;
-  if (isUtf8 && !isSame) std::abort();
+  if (!IsUtf8(text)) return;
+  const IniValues values = ParseIni("[Keys]\nKeywords=" + IniValueText(text) + "\nLang=x\n");
+  if (values != IniValues{{"Keys/Keywords", text}, {"Keys/Lang", "x"}}) std::abort();
 }
 
 }  // namespace
@@ -65,15 +63,10 @@ void SaveAndRead(const std::string& folder, const std::string& text) {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   using namespace folionet::fuzz;
-  static const Folder root;
-  // QSettings keeps what it knows of a file's path, so that each input is given a path of its own.
-  static int number = 0;
-  const std::string folder = root.Path() + std::to_string(++number);
-  std::filesystem::create_directory(folder);
+  static const Folder folder;
   const std::vector<std::string> parts = Parts(Text(data, size), 2);
-  root.Write(std::to_string(number) + "/Folionet.ini", parts[0]);
-  LoadAll(folder);
-  SaveAndRead(folder, parts[1]);
-  std::filesystem::remove_all(folder);
+  folder.Write("Folionet.ini", parts[0]);
+  LoadAll(folder.Path());
+  WriteAndRead(parts[1]);
   return 0;
 }

@@ -1,5 +1,7 @@
 #include "BuildTitles.h"
 
+#include <algorithm>
+
 #include "LineReader.h"
 #include "RunTimeError.h"
 
@@ -8,6 +10,10 @@ namespace {
 
 constexpr int kMostReplacements = 10000;
 constexpr std::size_t kLongestText = std::size_t{1} << 20;
+constexpr std::size_t kLongestNumbers = 8;  // what a word of a chapter's number stands for, at most
+
+constexpr std::string_view kChapterWord = "%ch%";
+constexpr std::string_view kVersesWord = "%vs%";
 
 [[noreturn]] void FailEndless(std::string_view word, std::string_view value) {
   throw RunTimeError(kInvalidProcedureCall, std::string(word),
@@ -27,7 +33,44 @@ void ReplaceAll(std::string& text, std::string_view word, std::string_view value
   }
 }
 
+// Whether the text is a number of at most four digits: it cannot bring a word with it, nor join two halves of one.
+bool IsPlainNumber(std::string_view text) {
+  return !text.empty() && text.size() <= 4 &&
+         std::all_of(text.begin(), text.end(), [](char c) { return c >= '0' && c <= '9'; });
+}
+
 }  // namespace
+
+void PageTitles::CutAtWords(const Stage& stage) {
+  std::string_view text = stage.text;
+  m_pieces.clear();
+  m_namesVerses = text.find(kVersesWord) != std::string_view::npos;
+  for (;;) {
+    const std::size_t chapterAt = text.find(kChapterWord);
+    std::string_view before = text.substr(0, chapterAt);
+    for (std::size_t at = before.find(kVersesWord); at != std::string_view::npos; at = before.find(kVersesWord)) {
+      m_pieces.push_back({std::string(before.substr(0, at)), Word::kVerses});
+      before.remove_prefix(at + kVersesWord.size());
+    }
+    const bool isLast = chapterAt == std::string_view::npos;
+    m_pieces.push_back({std::string(before), isLast ? Word::kNone : Word::kChapter});
+    if (isLast) break;
+    text.remove_prefix(chapterAt + kChapterWord.size());
+  }
+  m_isFarFromLimits = m_pieces.size() + static_cast<std::size_t>(stage.replacements) < kMostReplacements &&
+                      stage.text.size() + m_pieces.size() * kLongestNumbers < kLongestText;
+}
+
+std::string PageTitles::Joined(std::string_view chapter, const std::string& verses) const {
+  std::string text;
+  text.reserve(m_withBook->text.size() + kLongestNumbers * m_pieces.size());
+  for (const Piece& piece : m_pieces) {
+    text += piece.text;
+    if (piece.wordBehind == Word::kChapter) text += chapter;
+    if (piece.wordBehind == Word::kVerses) text.append("1-").append(verses);
+  }
+  return text;
+}
 
 std::optional<std::string> PageTitles::Build(std::string_view book, std::string_view chapter, const VerseCounts& counts,
                                              UserInterface& ui) {
@@ -42,11 +85,15 @@ std::optional<std::string> PageTitles::Build(std::string_view book, std::string_
       ReplaceAll(stage.text, "%bk%", book, stage.replacements);
       m_withBook = std::move(stage);
       m_book = book;
+      CutAtWords(*m_withBook);
+    }
+    if (IsPlainNumber(chapter) && m_isFarFromLimits) {
+      return Joined(chapter, m_namesVerses ? counts.GetVSCnt(book, chapter, ui) : std::string());
     }
     Stage page = *m_withBook;
-    ReplaceAll(page.text, "%ch%", chapter, page.replacements);
-    if (page.text.find("%vs%") != std::string::npos) {
-      ReplaceAll(page.text, "%vs%", "1-" + counts.GetVSCnt(book, chapter, ui), page.replacements);
+    ReplaceAll(page.text, kChapterWord, chapter, page.replacements);
+    if (page.text.find(kVersesWord) != std::string::npos) {
+      ReplaceAll(page.text, kVersesWord, "1-" + counts.GetVSCnt(book, chapter, ui), page.replacements);
     }
     return std::move(page.text);
   } catch (const RunTimeError& error) {

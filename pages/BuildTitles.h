@@ -3,6 +3,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "ChapterIndex.h"
 #include "UserInterface.h"
@@ -23,6 +24,7 @@ std::optional<std::string> BuildTitles(std::string_view pattern, const TitleWord
                                        UserInterface& ui);
 
 // BuildTitles for the many pages of one translation: what pages, or the pages of a book, have in common is put in once.
+// (A plain number cannot bring a word with it: for chapters that are one, what is left is cut up once a book.)
 class PageTitles {
  public:
   // `pattern` and `bible` must outlive this.
@@ -39,11 +41,25 @@ class PageTitles {
     int replacements = 0;
   };
 
+  enum class Word { kNone, kChapter, kVerses };
+
+  // A part of a text that holds no word, and the word behind it.
+  struct Piece {
+    std::string text;
+    Word wordBehind;
+  };
+
+  void CutAtWords(const Stage& stage);
+  std::string Joined(std::string_view chapter, const std::string& verses) const;
+
   std::string_view m_pattern;
   std::string_view m_bible;
   std::optional<Stage> m_withBible;
   std::optional<Stage> m_withBook;
-  std::string m_book;  // of m_withBook
+  std::string m_book;           // of m_withBook
+  std::vector<Piece> m_pieces;  // of m_withBook, for pages whose chapter is a plain number
+  bool m_namesVerses = false;
+  bool m_isFarFromLimits = false;
 };
 
 }  // namespace folionet

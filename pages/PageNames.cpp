@@ -13,12 +13,12 @@ std::string Padded(int number, std::size_t digits) {
   return number < 0 ? "-" + text : text;
 }
 
-std::string ShortTail(int chapter) { return Padded(chapter, 3) + ".htm"; }
-
-std::string LongTail(int chapter) { return std::to_string(chapter) + ".html"; }
-
 std::string BookPart(std::string_view bookName, int bookNumber, bool use83, const CodePage& codePage) {
   return (use83 ? Padded(bookNumber, 2) : UnderscoreSpaces(codePage.ToLower(bookName))) + "_";
+}
+
+std::string WithChapter(const std::string& bookPart, int chapter, bool use83) {
+  return bookPart + (use83 ? Padded(chapter, 3) + ".htm" : std::to_string(chapter) + ".html");
 }
 
 }  // namespace
@@ -31,7 +31,7 @@ std::string UnderscoreSpaces(std::string_view text) {
 
 std::string ChapterPageName(std::string_view bookName, int bookNumber, int chapter, bool use83,
                             const CodePage& codePage) {
-  return BookPart(bookName, bookNumber, use83, codePage) + (use83 ? ShortTail(chapter) : LongTail(chapter));
+  return WithChapter(BookPart(bookName, bookNumber, use83, codePage), chapter, use83);
 }
 
 std::string IndexFileName(std::string_view httpRoot) {
@@ -39,12 +39,15 @@ std::string IndexFileName(std::string_view httpRoot) {
   return std::string(slash == std::string_view::npos ? httpRoot : httpRoot.substr(slash + 1));
 }
 
-PageNames::PageNames(const std::vector<std::string>& titles, bool use83, const CodePage& codePage)
-    : m_use83(use83), m_tail(use83 ? ShortTail : LongTail) {
+PageNames::PageNames(const std::vector<std::string>& titles, bool use83, const CodePage& codePage) : m_use83(use83) {
   for (std::size_t i = 0; i < titles.size(); ++i) {
     m_inLink.push_back(BookPart(titles[i], static_cast<int>(i) + 1, use83, codePage));
     m_onDisk.push_back(codePage.Decode(m_inLink.back()));
   }
+}
+
+std::string PageNames::Joined(const std::string& bookPart, int chapter) const {
+  return WithChapter(bookPart, chapter, m_use83);
 }
 
 }  // namespace folionet

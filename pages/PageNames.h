@@ -26,18 +26,18 @@ class PageNames {
   PageNames(const std::vector<std::string>& titles, bool use83, const CodePage& codePage);
 
   // The name as it stands in a link. `book` is 1 to 66.
-  std::string InLink(int book, int chapter) const { return m_inLink[Index(book)] + m_tail(chapter); }
+  std::string InLink(int book, int chapter) const { return Joined(m_inLink[Index(book)], chapter); }
 
   // The name of the file, as Unicode in UTF-8, so that a link and its file agree in a browser whatever the charset.
-  std::string OnDisk(int book, int chapter) const { return m_onDisk[Index(book)] + m_tail(chapter); }
+  std::string OnDisk(int book, int chapter) const { return Joined(m_onDisk[Index(book)], chapter); }
 
   bool Use83() const { return m_use83; }
 
  private:
   static std::size_t Index(int book) { return static_cast<std::size_t>(book - 1); }
+  std::string Joined(const std::string& bookPart, int chapter) const;
 
   bool m_use83;
-  std::string (*m_tail)(int chapter);
   std::vector<std::string> m_inLink;
   std::vector<std::string> m_onDisk;
 };

@@ -29,6 +29,7 @@ TEST(BuildTitlesTest, ReplacesEveryWordInTheirOrder) {
       {"%ch%", {"KJV", "Genesis", "%bible%"}, "%bible%"},       // an earlier word does not see later ones
       {"%b%bk%k%", {"KJV", "", "1"}, ""},                       // what a value joins is a word too
       {"%%bible%bible%", {"bible", "", ""}, "%biblebible%"},
+      {"%%ch%ch%%vs%vs%%v%ch%s%", {"", "Genesis", "1"}, "%1ch%1-31vs%%v1s%"},  // a number joins nothing
   };
   const VerseCounts counts(GenesisOnly());
   test::RecordingUi ui;

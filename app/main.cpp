@@ -14,6 +14,7 @@
 #include "AppState.h"
 #include "BuildInfo.h"
 #include "CodePage.h"
+#include "FormStyle.h"
 #include "FormUi.h"
 #include "ProgramFolder.h"
 #include "QtText.h"
@@ -129,6 +130,7 @@ int main(int argc, char** argv) {
   QApplication::setDesktopFileName(QStringLiteral("folionet"));
   QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("folionet")));
   QApplication::setQuitOnLastWindowClosed(false);
+  folionet::DressApplication();
   QTranslator ours;
   QTranslator qts;
   folionet::SpeakDesktopLanguage(ours, qts);

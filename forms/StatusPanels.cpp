@@ -26,6 +26,9 @@ StatusPanels::StatusPanels(QStatusBar& bar, QProgressBar& progress, QObject* par
     bar.addWidget(label, kStretches[i]);
     m_panels[i] = label;
   }
+  QSizePolicy room = m_progress.sizePolicy();
+  room.setRetainSizeWhenHidden(true);  // else the window would grow as a run begins
+  m_progress.setSizePolicy(room);
   m_panels[0]->setAccessibleName(tr("Progress"));
   m_late.setSingleShot(true);
   m_late.setInterval(kInterval);
@@ -38,7 +41,7 @@ void StatusPanels::Set(int panel, std::string_view text) {
     m_panels[static_cast<std::size_t>(panel - 1)]->setText(ToQt(text));
     return;
   }
-  ++m_steps;
+  if (++m_steps == 1) m_progress.show();
   m_text = ToQt(text);
   if (m_sinceShown.elapsed() < kInterval) {
     if (!m_late.isActive()) m_late.start();
@@ -53,7 +56,7 @@ void StatusPanels::BeginRun(int steps) {
   m_steps = 0;
   m_progress.setRange(0, std::max(steps, 1));
   m_progress.setValue(0);
-  m_progress.show();
+  m_progress.hide();
   m_sinceShown.start();
 }
 

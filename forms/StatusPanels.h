@@ -25,6 +25,7 @@ class StatusPanels : public QObject {
   // `panel` counts from 1; others are passed over.
   void Set(int panel, std::string_view text);
 
+  // The progress bar shows with the first text that a run sets: one that is refused sets none.
   void BeginRun(int steps);
   void EndRun(bool isComplete);
   bool IsRunning() const { return m_isRunning; }

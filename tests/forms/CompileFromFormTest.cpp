@@ -90,9 +90,17 @@ TEST_F(CompileFromForm, WritesTheBytesOfTheCommandLine) {
 
 TEST_F(CompileFromForm, ShowsProgressAndThenTheIndexPage) {
   ASSERT_TRUE(Start());
-  ChooseOutput("http://example.org/b/index.html");
+  ChooseOutput();
   auto& bar = Get<QProgressBar>("progressCompile");
+  EXPECT_TRUE(bar.sizePolicy().retainSizeWhenHidden());
   EXPECT_FALSE(bar.isVisible());
+  bool isBoxAlone = false;
+  m_ui->onMessage = [&](const Message& /*message*/) { isBoxAlone = !bar.isVisible(); };
+  Get<QLineEdit>("txthttpRoot").setText("index.txt");
+  Click("cmdCompile");
+  EXPECT_TRUE(isBoxAlone);  // a refused run has not begun
+  m_ui->onMessage = {};
+  Get<QLineEdit>("txthttpRoot").setText("http://example.org/b/index.html");
   Click("cmdCompile");
   EXPECT_EQ(Panel(1), m_ui->panels[1]);  // the last text is shown, however soon it came
   EXPECT_NE(Panel(1), "");

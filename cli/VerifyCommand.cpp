@@ -19,7 +19,7 @@ ExitStatus RunVerify(const std::string& folder, const std::string& indexName) {
   try {
     const SiteReport report = CheckSite(folder, index);
     for (const BrokenLink& link : report.broken) {
-      std::printf("%s:%zu: \"%s\" %s.\n", link.page.c_str(), link.line, link.target.c_str(), link.why.c_str());
+      std::printf("%s:%zu: \"%s\" %s.\n", link.page.c_str(), link.line, link.target.c_str(), FaultText(link).c_str());
     }
     for (const std::string& page : report.unreachable) {
       std::printf("%s: %s does not lead here; it may be stale.\n", page.c_str(), index.c_str());

@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <map>
+#include <optional>
 #include <set>
 #include <utility>
 
@@ -52,26 +53,27 @@ class SiteChecker {
       const std::string target = LocalTarget(shown);
       if (target.empty()) continue;
       ++m_report.links;
-      const std::string why = WhyMissing(target);
-      if (why.empty()) {
-        linked.insert(target);
+      std::string otherCase;
+      if (const auto fault = FindFault(target, otherCase)) {
+        m_report.broken.push_back({name, link.line, codePage.DecodeForDisplay(link.value), *fault, otherCase});
       } else {
-        m_report.broken.push_back({name, link.line, codePage.DecodeForDisplay(link.value), why});
+        linked.insert(target);
       }
     }
   }
 
-  // Why there is no file behind a link; empty when there is one.
-  std::string WhyMissing(const std::string& target) const {
-    if (m_names.contains(target)) return {};
+  // Why there is no file behind a link; nothing when there is one.
+  std::optional<LinkFault> FindFault(const std::string& target, std::string& otherCase) const {
+    if (m_names.contains(target)) return std::nullopt;
     if (target.front() == '/' || std::filesystem::path(target).lexically_normal().string().starts_with("..")) {
-      return "leads out of the folder";
+      return LinkFault::kLeadsOut;
     }
-    if (target.find('\\') != std::string::npos) return "holds \"\\\", which no address does";
-    if (target.find('/') != std::string::npos && FileExists(m_folder + target)) return {};
+    if (target.find('\\') != std::string::npos) return LinkFault::kBackslash;
+    if (target.find('/') != std::string::npos && FileExists(m_folder + target)) return std::nullopt;
     const std::string other = LocateIgnoringCase(m_folder, target);
-    if (FileExists(other)) return "is there in another letter case only, " + other.substr(m_folder.size());
-    return "is not there";
+    if (!FileExists(other)) return LinkFault::kMissing;
+    otherCase = other.substr(m_folder.size());
+    return LinkFault::kOtherCase;
   }
 
   void FindUnreachable(const std::string& indexName) {
@@ -96,6 +98,20 @@ class SiteChecker {
 };
 
 }  // namespace
+
+std::string FaultText(const BrokenLink& link) {
+  switch (link.fault) {
+    case LinkFault::kOtherCase:
+      return "is there in another letter case only, " + link.otherCase;
+    case LinkFault::kLeadsOut:
+      return "leads out of the folder";
+    case LinkFault::kBackslash:
+      return "holds \"\\\", which no address does";
+    case LinkFault::kMissing:
+      break;
+  }
+  return "is not there";
+}
 
 SiteReport CheckSite(const std::string& folder, const std::string& indexName) {
   return SiteChecker(folder).Check(indexName);

@@ -6,13 +6,20 @@
 
 namespace folionet {
 
+// Why there is no file behind a link.
+enum class LinkFault { kMissing, kOtherCase, kLeadsOut, kBackslash };
+
 // A page that names something that is not there.
 struct BrokenLink {
   std::string page;    // file name
   std::size_t line;    // of the page, from 1
   std::string target;  // as the page has it, decoded to UTF-8
-  std::string why;
+  LinkFault fault;
+  std::string otherCase;  // of kOtherCase: the name that is there
 };
+
+// The fault in English words that go on a sentence: "is not there".
+std::string FaultText(const BrokenLink& link);
 
 // What is found in a written site.
 struct SiteReport {

@@ -13,6 +13,25 @@ namespace {
 
 QString Shown(std::size_t number) { return QString::number(number); }
 
+// FaultText in the desktop's language, as a sentence of its own.
+QString LinkSentence(const BrokenLink& link) {
+  const auto worded = [&](const QString& sentence) {
+    return sentence.arg(ToQt(link.page), Shown(link.line), ToQt(link.target));
+  };
+  switch (link.fault) {
+    case LinkFault::kOtherCase:
+      return QObject::tr("%1, line %2: \"%3\" is there in another letter case only, %4.")
+          .arg(ToQt(link.page), Shown(link.line), ToQt(link.target), ToQt(link.otherCase));
+    case LinkFault::kLeadsOut:
+      return worded(QObject::tr("%1, line %2: \"%3\" leads out of the folder."));
+    case LinkFault::kBackslash:
+      return worded(QObject::tr("%1, line %2: \"%3\" holds \"\\\", which no address does."));
+    case LinkFault::kMissing:
+      break;
+  }
+  return worded(QObject::tr("%1, line %2: \"%3\" is not there."));
+}
+
 }  // namespace
 
 CompileRequest GatherRequest(const AppState& state, const Ui::frmMain& controls, const LibraryLists& lists,
@@ -43,9 +62,7 @@ void ShowSiteReport(const std::string& indexPage, UserInterface& ui) {
                                   .arg(Shown(report.pages), Shown(report.links), Shown(report.broken.size()),
                                        Shown(report.unreachable.size())));
     for (std::size_t i = 0; i < report.broken.size() && i < kShown; ++i) {
-      const BrokenLink& link = report.broken[i];
-      text += "\r\n" + FromQt(QObject::tr("%1, line %2: \"%3\" %4.")
-                                  .arg(ToQt(link.page), Shown(link.line), ToQt(link.target), ToQt(link.why)));
+      text += "\r\n" + FromQt(LinkSentence(report.broken[i]));
     }
     if (report.broken.size() > kShown) text += "\r\n...";
     for (std::size_t i = 0; i < report.unreachable.size() && i < kShown; ++i) {

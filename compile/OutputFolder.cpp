@@ -45,7 +45,8 @@ FileHandle LockOutputFolder(const CompileRequest& request) {
   FileHandle handle = FileHandle::Open(folder.c_str(), O_RDONLY | O_DIRECTORY);
   // A file system that knows no locks is let pass; so is a folder that cannot be opened, which the first page tells.
   if (handle.IsOpen() && flock(handle.Get(), LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK) {
-    throw RunTimeError(kPermissionDenied, folder, "Another compile is writing into this folder.");
+    throw RunTimeError(kPermissionDenied, folder,
+                       "Another compile is writing into this folder. Wait for it to end, or choose another folder.");
   }
   return handle;
 }
@@ -59,7 +60,7 @@ void CopyCSS(const CompileRequest& request) {
   const std::string target = NativePath(request.txtOutputPath) + kStyleSheet;
   std::error_code error;
   if (std::filesystem::equivalent(source, target, error) && !error) {
-    throw RunTimeError(kFileAlreadyOpen, target, "The output folder is the program's own folder.");
+    throw RunTimeError(kFileAlreadyOpen, target, "The output folder is the program's own folder. Choose another one.");
   }
   WriteOtherFile(request, kStyleSheet, content + "\r\n");
 }

@@ -40,7 +40,8 @@ std::optional<Refusal> CheckAddress(const CompileRequest& request) {
 IndexAddress SplitIndexAddress(const std::string& httpRoot, bool use83) {
   const std::size_t dot = httpRoot.rfind('.');
   if (dot == std::string::npos) {
-    throw RunTimeError(kInvalidProcedureCall, httpRoot, "The address of the index page has no \".\".");
+    throw RunTimeError(kInvalidProcedureCall, httpRoot,
+                       "The address of the index page has no \".\". Enter one such as index.html.");
   }
   IndexAddress address{httpRoot.substr(0, dot), httpRoot.substr(dot + 1)};
   if (const std::size_t slash = address.base.rfind('/'); use83 && slash != std::string::npos) {

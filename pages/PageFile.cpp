@@ -45,7 +45,8 @@ void PageFile::Open(const std::string& folder, const std::string& name) {
     if (!m_folderHandle.IsOpen() && !(m_dryRun && isMissing)) throw RunTimeError::FromErrno(errno, NativePath(folder));
   }
   if (!IsPageName(name)) {
-    throw RunTimeError(kBadFileName, folder + name, "The page cannot have this file name: \"" + name + "\"");
+    throw RunTimeError(kBadFileName, folder + name,
+                       "Choose 8.3 file names or another address, for no page can have this name: \"" + name + "\"");
   }
   m_name = name;
   m_size = 0;
@@ -72,7 +73,8 @@ FileHandle PageFile::OpenExisting() const {
     const std::string path = NativePath(m_folder) + m_name;
     const std::string target = RealPath(path);
     if (!target.starts_with(WithSeparator(RealPath(NativePath(m_folder))))) {
-      throw RunTimeError(kPathFileAccessError, path, "It is a link that leads out of the output folder.");
+      throw RunTimeError(kPathFileAccessError, path,
+                         "It is a link that leads out of the output folder. Remove it and compile again.");
     }
     file = FileHandle::Open(target.c_str(), kFlags);
   }

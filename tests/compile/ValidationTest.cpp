@@ -97,7 +97,7 @@ TEST(ValidationTest, AnAddressWithoutADotIsAFailureOfTheRun) {
   test::RecordingUi ui;
   EXPECT_EQ(cmdCompile_Click(request, glob, ui), CompileOutcome::kFailed);
   EXPECT_EQ(ui.said, Texts{"5 cmdCompile_Click: INDEX: \r\nSL: \r\nSR: \r\nindex\r\n"
-                           "The address of the index page has no \".\"."});
+                           "The address of the index page has no \".\". Enter one such as index.html."});
 }
 
 TEST(CopyCssTest, CopiesWithOneLineBreakMoreAndOnlyWhereAFolderIsChosen) {

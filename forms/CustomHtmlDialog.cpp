@@ -33,7 +33,10 @@ void CustomHtmlDialog::Load() {
 bool CustomHtmlDialog::Save() {
   const std::string text = m_ui->Text1->Text();
   if (m_isUnread && text.empty()) return true;
-  return SaveCustomHtml(m_state.programFolder, m_kind.file, StoredCodePage(m_state.store), text, m_state.ui);
+  const bool isSaved =
+      SaveCustomHtml(m_state.programFolder, m_kind.file, StoredCodePage(m_state.store), text, m_state.ui);
+  m_unsaved = isSaved ? std::nullopt : std::optional(text);
+  return isSaved;
 }
 
 void CustomHtmlDialog::Done() {
@@ -42,7 +45,9 @@ void CustomHtmlDialog::Done() {
 }
 
 void CustomHtmlDialog::reject() {
-  Save();
+  const std::optional<std::string> refused = m_unsaved;
+  if (!Save() && m_unsaved != refused) return;
+  m_unsaved.reset();
   QDialog::reject();
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "AppState.h"
@@ -31,8 +32,8 @@ class CustomHtmlDialog : public LoadedDialog {
  public:
   ~CustomHtmlDialog() override;
 
-  // Saves the file, then hides the dialog. It hides also when saving failed, which was reported: a person must be able
-  // to leave. The text stays in the box.
+  // Saves the file, then hides the dialog, but not when saving failed, which was reported. A person who then closes it
+  // again with the same text gets out all the same: the folder may not be theirs to mend. The text stays in the box.
   void reject() override;
 
  protected:
@@ -47,7 +48,8 @@ class CustomHtmlDialog : public LoadedDialog {
 
   AppState& m_state;
   const CustomHtmlDialogKind& m_kind;
-  bool m_isUnread = false;  // there is a file and reading it failed
+  bool m_isUnread = false;                 // there is a file and reading it failed
+  std::optional<std::string> m_unsaved{};  // the text whose saving failed last
   std::unique_ptr<Ui::CustomHtmlDialog> m_ui;
 };
 

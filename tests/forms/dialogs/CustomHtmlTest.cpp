@@ -100,7 +100,7 @@ TEST(CustomHtmlTest, AFileThatCannotBeReadIsReportedAndTheNoteLeftOut) {
   }
 }
 
-TEST(CustomHtmlTest, AFailedSaveKeepsDoneOpenButLetsThePersonLeave) {
+TEST(CustomHtmlTest, AFailedSaveKeepsTheDialogOpenButLetsThePersonLeave) {
   for (const Case& c : kCases) {
     SCOPED_TRACE(c.file);
     DialogBench bench;
@@ -115,10 +115,13 @@ TEST(CustomHtmlTest, AFailedSaveKeepsDoneOpenButLetsThePersonLeave) {
     ASSERT_EQ(bench.ui.reports.size(), 1U);
     EXPECT_EQ(bench.ui.reports[0].label, "Unload_Form");
     EXPECT_EQ(bench.ui.reports[0].extra.rfind(c.file, 0), 0U);
+    Find<TextBox>(*form, "Text1").setPlainText("typed more");
+    form->close();
+    EXPECT_TRUE(form->isVisible());
     form->close();
     EXPECT_FALSE(form->isVisible());
-    EXPECT_EQ(bench.ui.reports.size(), 2U);
-    EXPECT_EQ(Find<TextBox>(*form, "Text1").Text(), "typed");
+    EXPECT_EQ(bench.ui.reports.size(), 3U);
+    EXPECT_EQ(Find<TextBox>(*form, "Text1").Text(), "typed more");
   }
 }
 

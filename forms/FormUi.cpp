@@ -1,13 +1,19 @@
 #include "FormUi.h"
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QColorDialog>
 #include <QDesktopServices>
+#include <QDir>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QFontDialog>
+#include <QFontInfo>
+#include <QGroupBox>
 #include <QInputDialog>
 #include <QLabel>
 #include <QMessageBox>
+#include <QStandardPaths>
 #include <QUrl>
 #include <algorithm>
 
@@ -46,6 +52,23 @@ void PrepareBox(QMessageBox& box, const std::string& title, const std::string& t
     widest = std::max(widest, label->fontMetrics().horizontalAdvance(line));
   }
   label->setWordWrap(widest > kWidest);
+}
+
+// A page's text is neither struck out nor underlined. Only Qt's own chooser lets them be left out.
+void HideEffects(QFontDialog& dialog) {
+  dialog.setOption(QFontDialog::DontUseNativeDialog);
+  constexpr int kSampleLines = 5;  // the sample had its height from what is hidden
+  for (QGroupBox* group : dialog.findChildren<QGroupBox*>()) {
+    group->setHidden(group->findChild<QCheckBox*>() != nullptr);
+    group->setMinimumHeight(kSampleLines * group->fontMetrics().height());
+  }
+}
+
+// Where a chooser of pictures opens: at the one that was chosen last, else where a person keeps them.
+QString PictureStart(const QString& previous) {
+  if (!previous.isEmpty() && QFileInfo(previous).absoluteDir().exists()) return previous;
+  const QString pictures = QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);
+  return QFileInfo(pictures).isDir() ? pictures : QDir::homePath();
 }
 
 }  // namespace
@@ -117,8 +140,11 @@ SampleText FormUi::ChooseFont(const SampleText& initial) {
   if (initial.FontSize > 0) font.setPointSizeF(initial.FontSize);
   font.setBold(initial.FontBold);
   font.setItalic(initial.FontItalic);
+  // A font that is not installed here shows as the one that stands in for it, with that one's styles, which must not
+  // take its place unless it is chosen.
+  font.setFamilies({QFontInfo(font).family()});
   QFontDialog dialog(font, Owner());
-  // A font that is not installed here shows as another one, which must not take its place unless it is chosen.
+  HideEffects(dialog);
   const QString shown = dialog.currentFont().family();
   if (dialog.exec() != QDialog::Accepted) return initial;
   font = dialog.selectedFont();
@@ -131,7 +157,8 @@ SampleText FormUi::ChooseFont(const SampleText& initial) {
 }
 
 std::string FormUi::ChooseFile(const std::string& filter, const std::string& previous) {
-  const QString chosen = QFileDialog::getOpenFileName(Owner(), {}, ToQt(previous), ToQt(FileDialogFilter(filter)));
+  const QString chosen =
+      QFileDialog::getOpenFileName(Owner(), {}, PictureStart(ToQt(previous)), ToQt(FileDialogFilter(filter)));
   return chosen.isEmpty() ? previous : FromQt(chosen);
 }
 

@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QCheckBox>
+#include <QFontDialog>
 #include <QInputDialog>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -71,6 +73,23 @@ TEST(FormUi, ACancelledInputBoxGivesAnEmptyText) {
       isAccepted ? box.accept() : box.reject();
     });
     EXPECT_EQ(ui.AskText({"prompt", "title", "C:\\"}), isAccepted ? "C:\\" : "");
+  }
+}
+
+TEST(FormUi, TheFontChooserOffersOnlyWhatAPageTakes) {
+  FormUi ui;
+  for (const bool isAccepted : {true, false}) {
+    WhenShown<QFontDialog>([isAccepted](QFontDialog& box) {
+      for (const QCheckBox* effect : box.findChildren<QCheckBox*>()) EXPECT_FALSE(effect->isVisible());
+      QFont font = box.currentFont();
+      font.setPointSize(20);
+      box.setCurrentFont(font);
+      isAccepted ? box.accept() : box.reject();
+    });
+    const SampleText chosen = ui.ChooseFont({"No Such Font", 12, true, false, 0, 0});
+    EXPECT_EQ(chosen.FontName, "No Such Font");
+    EXPECT_EQ(chosen.FontSize, isAccepted ? 20 : 12);
+    EXPECT_TRUE(chosen.FontBold);
   }
 }
 

@@ -59,6 +59,23 @@ void frmEncoding::Fill(const char* fileName, const char* key, TextCombo& list, Q
   box.setText(stored);
 }
 
+// The entries in the code page as it is now. What is chosen stays, letter for letter, and so does what was typed.
+void frmEncoding::ShowListsAnew() {
+  for (const auto& [fileName, list] :
+       {std::pair{kCharsetList, m_ui->cboCharset}, std::pair{kLanguageList, m_ui->cboLang}}) {
+    std::vector<std::string> entries;
+    try {
+      ReadEncodingList(m_state.programFolder + fileName, m_state.codePage, entries);
+    } catch (const RunTimeError&) {
+      continue;  // was told when the lists were filled; the old entries serve
+    }
+    const QString chosen = list->Text();
+    list->clear();
+    for (const std::string& entry : entries) list->addItem(ToQt(entry));
+    list->SetText(chosen);
+  }
+}
+
 void frmEncoding::AddNew() {
   if (m_addNew == nullptr) {
     m_addNew = new frmAddnew(m_state, this);
@@ -101,7 +118,9 @@ bool frmEncoding::SaveAndUse() {
   }
   m_state.texts.PageLanguage = encoding.PageLanguage;
   m_state.texts.PageCharset = encoding.PageCharset;
+  const std::string shownIn = m_state.codePage.Name();
   m_state.codePage = CodePage(encoding.PageCharset);
+  if (m_state.codePage.Name() != shownIn) ShowListsAnew();
   return isDone;
 }
 

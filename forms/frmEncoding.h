@@ -38,6 +38,7 @@ class frmEncoding : public LoadedDialog {
  private:
   void PopCombo();
   void Fill(const char* fileName, const char* key, TextCombo& list, QLineEdit& box);
+  void ShowListsAnew();
   void AddNew();
   void SaveLists();
   bool SaveAndUse();

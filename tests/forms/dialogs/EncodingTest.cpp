@@ -81,6 +81,23 @@ TEST(EncodingTest, DoneStoresTheListsEntriesAndUsesTheTypedCodes) {
   }
 }
 
+TEST(EncodingTest, TheListsAreShownAnewInANewCodePage) {
+  DialogBench bench;
+  bench.Folder().Write("program/lang.txt",
+                       "\"en-us\",\"English USA\"\r\n\"fr\",\"Fran\xC3\xA7"
+                       "ais\"\r\n");
+  frmEncoding form(bench.State());
+  form.show();
+  Choose(form, "cboCharset", 1);
+  Type(form, "txtLang", "fr typed");
+  Click(form, "cmdDone");
+  EXPECT_EQ(Entries(Find<QComboBox>(form, "cboLang")), (std::vector<std::string>{"en-us English USA",
+                                                                                 "fr Fran\xC3\xA7"
+                                                                                 "ais"}));
+  EXPECT_EQ(FromQt(Find<QComboBox>(form, "cboLang").currentText()), "en-us English USA");
+  EXPECT_EQ(Typed(form, "txtLang"), "fr typed");
+}
+
 TEST(EncodingTest, ClosingTheWindowIsDone) {
   DialogBench bench;
   frmEncoding form(bench.State());

@@ -1,6 +1,7 @@
 #include "FolderPickers.h"
 
 #include <QDir>
+#include <algorithm>
 #include <cerrno>
 
 #include "CompileRequest.h"
@@ -49,8 +50,11 @@ void FolderPickers::ListVolumes() {
   m_volumes = volumes();
   m_controls.Drive1->clear();
   for (const Volume& volume : m_volumes) {
-    m_controls.Drive1->addItem(volume.name + QStringLiteral("  \u2014  ") + QDir::toNativeSeparators(volume.path),
-                               volume.path);
+    const QString path = QDir::toNativeSeparators(volume.path);
+    const bool isOnlyOne = std::count_if(m_volumes.begin(), m_volumes.end(),
+                                         [&](const Volume& other) { return other.name == volume.name; }) == 1;
+    m_controls.Drive1->addItem(isOnlyOne ? volume.name : volume.name + QStringLiteral(" \u2014 ") + path, volume.path);
+    m_controls.Drive1->setItemData(m_controls.Drive1->count() - 1, path, Qt::ToolTipRole);
   }
 }
 

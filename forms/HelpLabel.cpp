@@ -10,6 +10,7 @@ HelpLabel::HelpLabel(QWidget* parent) : QLabel(parent) {
   setTextFormat(Qt::PlainText);
   setTextInteractionFlags(Qt::TextSelectableByMouse);
   setWordWrap(true);
+  setAlignment(Qt::AlignLeading | Qt::AlignTop);
   FitWidth();
 }
 
@@ -25,16 +26,20 @@ QSize HelpLabel::sizeHint() const {
   return {width, heightForWidth(width)};
 }
 
+// Not by a minimum height, which heightForWidth would never go below again.
+QSize HelpLabel::minimumSizeHint() const {
+  const bool isLaidOut = testAttribute(Qt::WA_Resized);
+  return {minimumWidth(), heightForWidth(isLaidOut ? width() : sizeHint().width())};
+}
+
 void HelpLabel::resizeEvent(QResizeEvent* event) {
   QLabel::resizeEvent(event);
-  setMinimumHeight(heightForWidth(width()));
+  if (event->size().width() != event->oldSize().width()) updateGeometry();
 }
 
 void HelpLabel::changeEvent(QEvent* event) {
   QLabel::changeEvent(event);
-  if (event->type() != QEvent::FontChange) return;
-  FitWidth();
-  setMinimumHeight(heightForWidth(width()));
+  if (event->type() == QEvent::FontChange) FitWidth();
 }
 
 }  // namespace folionet

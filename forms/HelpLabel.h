@@ -13,6 +13,7 @@ class HelpLabel : public QLabel {
   explicit HelpLabel(QWidget* parent = nullptr);
 
   QSize sizeHint() const override;
+  QSize minimumSizeHint() const override;
 
  protected:
   void resizeEvent(QResizeEvent* event) override;

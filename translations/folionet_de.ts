@@ -16,10 +16,6 @@
         <translation>%1 Seiten, %2 Links: %3 ohne Ziel, %4 Seiten vielleicht veraltet.</translation>
     </message>
     <message>
-        <source>%1, line %2: &quot;%3&quot; %4.</source>
-        <translation>%1, Zeile %2: „%3“ %4.</translation>
-    </message>
-    <message>
         <source>%1: the index does not lead here.</source>
         <translation>%1: Die Indexseite führt nicht hierher.</translation>
     </message>
@@ -42,6 +38,22 @@
     <message>
         <source>Computer</source>
         <translation>Computer</translation>
+    </message>
+    <message>
+        <source>%1, line %2: &quot;%3&quot; is there in another letter case only, %4.</source>
+        <translation>%1, Zeile %2: „%3“ gibt es nur in anderer Groß- und Kleinschreibung, %4.</translation>
+    </message>
+    <message>
+        <source>%1, line %2: &quot;%3&quot; leads out of the folder.</source>
+        <translation>%1, Zeile %2: „%3“ führt aus dem Ordner hinaus.</translation>
+    </message>
+    <message>
+        <source>%1, line %2: &quot;%3&quot; holds &quot;\&quot;, which no address does.</source>
+        <translation>%1, Zeile %2: „%3“ enthält „\“, was in keiner Adresse vorkommt.</translation>
+    </message>
+    <message>
+        <source>%1, line %2: &quot;%3&quot; is not there.</source>
+        <translation>%1, Zeile %2: „%3“ ist nicht vorhanden.</translation>
     </message>
 </context>
 <context>
@@ -78,6 +90,10 @@
     <message>
         <source>Image name</source>
         <translation>Name des Bildes</translation>
+    </message>
+    <message>
+        <source>Image &amp;name</source>
+        <translation>Name des &amp;Bildes</translation>
     </message>
 </context>
 <context>
@@ -121,6 +137,22 @@
         <source>Charset to be used</source>
         <translation>Zu verwendender Zeichensatz</translation>
     </message>
+    <message>
+        <source>&amp;Language</source>
+        <translation>&amp;Sprache</translation>
+    </message>
+    <message>
+        <source>In &amp;pages</source>
+        <translation>In den S&amp;eiten</translation>
+    </message>
+    <message>
+        <source>&amp;Charset</source>
+        <translation>&amp;Zeichensatz</translation>
+    </message>
+    <message>
+        <source>In pa&amp;ges</source>
+        <translation>In den Se&amp;iten</translation>
+    </message>
 </context>
 <context>
     <name>folionet::frmErr</name>
@@ -151,8 +183,8 @@
 <context>
     <name>folionet::frmLinkToMAin</name>
     <message>
-        <source>HTML of the link</source>
-        <translation>HTML des Links</translation>
+        <source>&amp;HTML of the link</source>
+        <translation>&amp;HTML des Links</translation>
     </message>
 </context>
 <context>
@@ -214,10 +246,6 @@
         <translation>HTTP-Wurzel: die Adresse der Indexseite</translation>
     </message>
     <message>
-        <source>Address of the index page, such as index.html</source>
-        <translation>Adresse der Indexseite, etwa index.html</translation>
-    </message>
-    <message>
         <source>The address of the index page, such as index.html or http://www.example.org/index.html.</source>
         <translation>Die Adresse der Indexseite, etwa index.html oder http://www.example.org/index.html.</translation>
     </message>
@@ -246,16 +274,20 @@
         <translation>Indexseite öffnen</translation>
     </message>
     <message>
-        <source>Show the index page of the site that was compiled last.</source>
-        <translation>Die Indexseite der zuletzt erzeugten Website zeigen.</translation>
-    </message>
-    <message>
         <source>Check site</source>
         <translation>Website prüfen</translation>
     </message>
     <message>
-        <source>Look for links that lead nowhere in the site that was compiled last.</source>
-        <translation>In der zuletzt erzeugten Website nach Links ohne Ziel suchen.</translation>
+        <source>Index page, such as index.html</source>
+        <translation>Indexseite, etwa index.html</translation>
+    </message>
+    <message>
+        <source>Show the index page of the site that was compiled last (Ctrl+O).</source>
+        <translation>Die Indexseite der zuletzt erzeugten Website zeigen (Strg+O).</translation>
+    </message>
+    <message>
+        <source>Look for links that lead nowhere in the site that was compiled last (Ctrl+K).</source>
+        <translation>In der zuletzt erzeugten Website nach Links ohne Ziel suchen (Strg+K).</translation>
     </message>
 </context>
 <context>

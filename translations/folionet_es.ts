@@ -16,10 +16,6 @@
         <translation>%1 páginas, %2 enlaces: %3 rotos, %4 páginas quizá obsoletas.</translation>
     </message>
     <message>
-        <source>%1, line %2: &quot;%3&quot; %4.</source>
-        <translation>%1, línea %2: «%3» %4.</translation>
-    </message>
-    <message>
         <source>%1: the index does not lead here.</source>
         <translation>%1: el índice no lleva aquí.</translation>
     </message>
@@ -42,6 +38,22 @@
     <message>
         <source>Computer</source>
         <translation>Equipo</translation>
+    </message>
+    <message>
+        <source>%1, line %2: &quot;%3&quot; is there in another letter case only, %4.</source>
+        <translation>%1, línea %2: «%3» existe solo con otras mayúsculas y minúsculas, %4.</translation>
+    </message>
+    <message>
+        <source>%1, line %2: &quot;%3&quot; leads out of the folder.</source>
+        <translation>%1, línea %2: «%3» sale de la carpeta.</translation>
+    </message>
+    <message>
+        <source>%1, line %2: &quot;%3&quot; holds &quot;\&quot;, which no address does.</source>
+        <translation>%1, línea %2: «%3» contiene «\», que no aparece en ninguna dirección.</translation>
+    </message>
+    <message>
+        <source>%1, line %2: &quot;%3&quot; is not there.</source>
+        <translation>%1, línea %2: «%3» no existe.</translation>
     </message>
 </context>
 <context>
@@ -78,6 +90,10 @@
     <message>
         <source>Image name</source>
         <translation>Nombre de la imagen</translation>
+    </message>
+    <message>
+        <source>Image &amp;name</source>
+        <translation>&amp;Nombre de la imagen</translation>
     </message>
 </context>
 <context>
@@ -121,6 +137,22 @@
         <source>Charset to be used</source>
         <translation>Juego de caracteres que se usará</translation>
     </message>
+    <message>
+        <source>&amp;Language</source>
+        <translation>&amp;Idioma</translation>
+    </message>
+    <message>
+        <source>In &amp;pages</source>
+        <translation>En las &amp;páginas</translation>
+    </message>
+    <message>
+        <source>&amp;Charset</source>
+        <translation>&amp;Juego de caracteres</translation>
+    </message>
+    <message>
+        <source>In pa&amp;ges</source>
+        <translation>En las pá&amp;ginas</translation>
+    </message>
 </context>
 <context>
     <name>folionet::frmErr</name>
@@ -151,8 +183,8 @@
 <context>
     <name>folionet::frmLinkToMAin</name>
     <message>
-        <source>HTML of the link</source>
-        <translation>HTML del enlace</translation>
+        <source>&amp;HTML of the link</source>
+        <translation>&amp;HTML del enlace</translation>
     </message>
 </context>
 <context>
@@ -214,10 +246,6 @@
         <translation>Raíz HTTP: la dirección de la página índice</translation>
     </message>
     <message>
-        <source>Address of the index page, such as index.html</source>
-        <translation>Dirección de la página índice, como index.html</translation>
-    </message>
-    <message>
         <source>The address of the index page, such as index.html or http://www.example.org/index.html.</source>
         <translation>La dirección de la página índice, como index.html o http://www.example.org/index.html.</translation>
     </message>
@@ -246,16 +274,20 @@
         <translation>Abrir la página índice</translation>
     </message>
     <message>
-        <source>Show the index page of the site that was compiled last.</source>
-        <translation>Mostrar la página índice del último sitio compilado.</translation>
-    </message>
-    <message>
         <source>Check site</source>
         <translation>Comprobar el sitio</translation>
     </message>
     <message>
-        <source>Look for links that lead nowhere in the site that was compiled last.</source>
-        <translation>Buscar enlaces que no llevan a ninguna parte en el último sitio compilado.</translation>
+        <source>Index page, such as index.html</source>
+        <translation>Página índice, como index.html</translation>
+    </message>
+    <message>
+        <source>Show the index page of the site that was compiled last (Ctrl+O).</source>
+        <translation>Mostrar la página índice del último sitio compilado (Ctrl+O).</translation>
+    </message>
+    <message>
+        <source>Look for links that lead nowhere in the site that was compiled last (Ctrl+K).</source>
+        <translation>Buscar enlaces que no llevan a ninguna parte en el último sitio compilado (Ctrl+K).</translation>
     </message>
 </context>
 <context>

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <QComboBox>
+#include <QLabel>
 #include <QVariant>
 #include <memory>
 #include <set>
@@ -212,6 +213,29 @@ TEST(CaptionsTest, EveryTextIsLetterForLetter) {
     }
   }
   for (const auto& c : kTexts) EXPECT_TRUE(forms.contains(c.form)) << c.form;
+}
+
+TEST(CaptionsTest, ControlsCanBeNamedAndNoTwoMnemonicsAreTheSame) {
+  DialogBench bench;
+  for (const auto& form : LoadedDialogs(bench.State())) {
+    std::set<const QWidget*> named;
+    std::set<QChar> mnemonics;
+    for (const QWidget* control : form->findChildren<QWidget*>()) {
+      const QString caption = control->property("text").toString() + control->property("title").toString();
+      const auto* label = qobject_cast<const QLabel*>(control);
+      const bool isCaption = label == nullptr || label->buddy() != nullptr;
+      if (label != nullptr) named.insert(label->buddy());
+      if (!control->accessibleName().isEmpty() || !caption.isEmpty()) named.insert(control);
+      const qsizetype at = isCaption ? caption.indexOf('&') : -1;
+      const bool isNew = at < 0 || mnemonics.insert(caption[at + 1].toUpper()).second;
+      EXPECT_TRUE(isNew) << FromQt(caption);
+    }
+    for (const QWidget* control : form->findChildren<QWidget*>()) {
+      if (control->objectName().isEmpty() || control->objectName().startsWith("qt_")) continue;
+      const bool takesFocus = (control->focusPolicy() & Qt::TabFocus) != 0;
+      EXPECT_TRUE(!takesFocus || named.contains(control)) << FromQt(form->objectName() + '.' + control->objectName());
+    }
+  }
 }
 
 }  // namespace

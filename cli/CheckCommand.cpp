@@ -1,7 +1,5 @@
 #include "CheckCommand.h"
 
-#include <cstdio>
-
 #include "CatalogueCheck.h"
 #include "FaultList.h"
 #include "TextCheck.h"
@@ -28,7 +26,7 @@ ExitStatus RunCheck(const CommonOptions& common, const std::string& translation,
   for (std::size_t place = first; place < end; ++place) {
     CheckText(session.glob, session.glob.BibleFiles[place], faults);
   }
-  std::printf("%zu %s found.\n", faults.Count(), faults.Count() == 1 ? "fault" : "faults");
+  faults.PrintCount();
   return faults.Count() == 0 ? kExitDone : kExitRefused;
 }
 

@@ -8,7 +8,7 @@
 namespace folionet {
 
 void FaultList::Add(const std::string& path, std::size_t line, const std::string& text) {
-  ++m_count;
+  if (++m_count > kMostListed) return;
   const std::string place = path + (line != 0 ? ":" + std::to_string(line) : "");
   std::fputs((place + ": " + text + "\n").c_str(), stdout);
 }
@@ -21,6 +21,11 @@ void FaultList::Add(const RunTimeError& error) {
 void FaultList::CheckLetterCase(const std::string& found, const std::string& expected) {
   const std::string exact = NativePath(expected);
   if (found != exact) Add(found, 0, "The name is found only in another letter case; it should be " + exact);
+}
+
+void FaultList::PrintCount() const {
+  if (m_count > kMostListed) std::printf("%zu more are not listed.\n", m_count - kMostListed);
+  std::printf("%zu %s found.\n", m_count, m_count == 1 ? "fault" : "faults");
 }
 
 void FaultList::CheckBytes(const std::string& path, std::size_t line, std::string_view bytes) {

@@ -11,6 +11,9 @@ namespace folionet {
 // Prints the faults that a check finds, and counts them.
 class FaultList {
  public:
+  // More are counted only: nobody reads them, and a library of nothing but faults must come to an end.
+  static constexpr std::size_t kMostListed = 1000;
+
   explicit FaultList(const CodePage& codePage) : m_codePage(codePage) {}
 
   // `line` is counted from 1; 0 is a fault of the file as a whole.
@@ -22,6 +25,9 @@ class FaultList {
 
   // Names the first byte of a text that the declared charset does not hold.
   void CheckBytes(const std::string& path, std::size_t line, std::string_view bytes);
+
+  // Prints how many there are.
+  void PrintCount() const;
 
   std::size_t Count() const { return m_count; }
   const CodePage& Charset() const { return m_codePage; }

@@ -14,7 +14,8 @@ constexpr std::array<std::pair<std::string_view, std::string_view>, 9> kNextStep
     {"Not a valid long file extension",
      "Give an address such as --index-address index.html, or short names with --set Use83=1."},
     {"8.3 filename error", "Give an address such as --index-address index.htm, or long names with --set Use83=0."},
-    {"No Bible Selected", "No translation has its text where Versalia keeps it: see \"folionet-cli check\"."},
+    {"No Bible Selected",
+     "No translation has a text that can be read where Versalia keeps it: see \"folionet-cli check\"."},
     {"Path and/or file not found",
      "Give them with --versalia-path FOLDER, which holds Sysdefs and Index, and --module-path FOLDER, which holds "
      "Bible; \"folionet-cli check\" names what is wrong in them."},

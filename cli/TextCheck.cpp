@@ -1,7 +1,9 @@
 #include "TextCheck.h"
 
 #include <array>
+#include <filesystem>
 #include <set>
+#include <system_error>
 
 #include "ChapterOrder.h"
 #include "Installation.h"
@@ -152,7 +154,10 @@ void Compare(const ChapterTable& index, const std::string& indexPath, const Chap
 void CheckText(const ModGlob& glob, const std::string& stem, FaultList& faults) {
   const std::string indexPath = IndexFile(glob, faults.Charset(), stem);
   const std::string textPath = VerseFile(glob, faults.Charset(), stem);
-  if (!FileExists(indexPath)) {
+  // One that is there and cannot be read is told by its reader.
+  std::error_code ignored;
+  const bool hasIndex = std::filesystem::exists(std::filesystem::symlink_status(indexPath, ignored));
+  if (!hasIndex) {
     faults.Add(indexPath, 0,
                "The chapter index is missing. Versalia makes it at the first search in this translation.");
   } else {
@@ -160,7 +165,7 @@ void CheckText(const ModGlob& glob, const std::string& stem, FaultList& faults) 
   }
   try {
     TextReader text(textPath, faults);
-    const ChapterTable index = FileExists(indexPath) ? CheckIndex(indexPath, faults) : ChapterTable();
+    const ChapterTable index = hasIndex ? CheckIndex(indexPath, faults) : ChapterTable();
     const ChapterTable chapters = text.ReadAll();
     if (FileExists(indexPath)) Compare(index, indexPath, chapters, textPath, faults);
   } catch (const RunTimeError& error) {

@@ -12,7 +12,6 @@ namespace folionet {
 namespace {
 
 constexpr std::int64_t kFirstHiddenNumber = 1000;
-constexpr int kMostListed = 10000;
 
 // A stem names a file in one folder; it must not lead out of it.
 void CheckStem(const RecordReader& records, const std::string& stem, const CodePage& codePage) {
@@ -59,6 +58,10 @@ bool ReadCatalogueRecord(RecordReader& records, const CodePage& codePage, Catalo
   return true;
 }
 
+void FailMoreThanMostListed(const RecordReader& records) {
+  records.Lines().Fail(kOutOfMemory, "More than " + std::to_string(kMostListed) + " translations are listed.");
+}
+
 void ReadCatalogue(ModGlob& glob, const CodePage& codePage) {
   RecordReader records(SysdefsFile(glob, "Translations.txt"));
   glob.BibleNames.assign(1, {});
@@ -68,10 +71,7 @@ void ReadCatalogue(ModGlob& glob, const CodePage& codePage) {
   int listed = 0;
   while (ReadCatalogueRecord(records, codePage, record)) {
     if (!record.isListed) continue;
-    // Each is looked for on the disk.
-    if (++listed > kMostListed) {
-      records.Lines().Fail(kOutOfMemory, "More than " + std::to_string(kMostListed) + " translations are listed.");
-    }
+    if (++listed > kMostListed) FailMoreThanMostListed(records);
     glob.BibleNames[counter] = record.name;
     glob.BibleFiles[counter] = record.stem;
     if (!FileExists(VerseFile(glob, codePage, record.stem))) continue;

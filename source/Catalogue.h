@@ -23,6 +23,12 @@ struct CatalogueRecord {
 // stem would lead out of its folder.
 bool ReadCatalogueRecord(RecordReader& records, const CodePage& codePage, CatalogueRecord& record);
 
+// So many translations may be listed: each is looked for on the disk.
+inline constexpr int kMostListed = 10000;
+
+// Fails, at the line that was read last, with kOutOfMemory.
+[[noreturn]] void FailMoreThanMostListed(const RecordReader& records);
+
 // Reads the catalogue into BibleNames and BibleFiles and appends the names to cboBibleName. Only records that are
 // listed are considered, of which there may be 10,000; a translation whose text file is missing is left out. Both
 // arrays keep one spare element at their end. Throws RunTimeError; cboBibleName is then unchanged.

@@ -32,8 +32,7 @@ const std::vector<std::string>& KindsOf(const std::string& call) {
       {"link", kinds({EACCES, ENOSPC})},
       {"mkdir", kinds({EACCES, ENOSPC, EIO})},
       {"opendir", kinds({EACCES, EMFILE})},
-      {"readdir", kinds({EIO})},
-  };
+      {"readdir", kinds({EIO})}};
   return table.at(call);
 }
 

@@ -1,14 +1,11 @@
 #include "FaultyRun.h"
 
-#include <filesystem>
 #include <fstream>
 #include <ostream>
 #include <stdexcept>
 
 namespace folionet::test {
 namespace {
-
-namespace fs = std::filesystem;
 
 std::vector<Call> ReadCalls(const std::string& path) {
   std::vector<Call> calls;
@@ -22,20 +19,14 @@ std::vector<Call> ReadCalls(const std::string& path) {
 }
 
 void ArrangeLibrary(const TemporaryFolder& home) {
-  fs::copy(std::string(SITE_CASES) + "/defaults/installation", home.Path() + "installation",
-           fs::copy_options::recursive);
-  home.Write("program/default.css", "body { color: black }\r\n");
+  MakeSmallLibrary(home);
   home.Write("program/CustomHeader.txt", "<p>the header</p>\r\n");
   home.Write("program/CustomFooter.txt", "<p>the footer</p>\r\n");
   home.Write("config/Folionet.ini", "[Keys]\nchkCSS=1\nPageTitles=%bible%: %bk% %ch%\n");
 }
 
 Command Compile(const Command& more) {
-  Command command{FOLIONET_CLI,       "compile",       "--versalia-path",
-                  "installation",     "--module-path", "installation/Modules",
-                  "--program-folder", "program",       "--index-address=index.html"};
-  command.insert(command.end(), more.begin(), more.end());
-  return command;
+  return CompileCommand(With({"--index-address=index.html", "--translation=KJV"}, more));
 }
 
 Job Save(const std::string& what, const std::string& file, const std::string& before) {
@@ -67,9 +58,7 @@ FaultyRun RunFaulty(const Command& command, const TemporaryFolder& home, const F
 }
 
 Job CompileAnew() {
-  return {"CompileAnew", ArrangeLibrary, [](const TemporaryFolder&) {
-            return Compile({"--output=made/site", "--translation=KJV"});
-          }};
+  return {"CompileAnew", ArrangeLibrary, [](const TemporaryFolder&) { return Compile({"--output=made/site"}); }};
 }
 
 Job CompileOver() {
@@ -82,7 +71,7 @@ Job CompileOver() {
             home.Write("site/not-ours.html", "not ours");
           },
           [](const TemporaryFolder&) {
-            return Compile({"--output=site", "--start-book=2", "--translation=KJV"});
+            return Compile({"--output=site", "--start-book=2"});
           }};
 }
 

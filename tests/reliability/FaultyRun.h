@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "FolderContent.h"
+#include "Library.h"
 #include "ProgramRun.h"
 #include "TemporaryFolder.h"
 
@@ -30,8 +31,6 @@ struct FaultyRun {
   ProgramResult result;
   std::vector<Call> calls;  // those that were counted, the one that went wrong included
 };
-
-using Command = std::vector<std::string>;
 
 // Runs the program in the folder, where calls are counted. One that hangs is ended after a minute with status 124.
 FaultyRun RunFaulty(const Command& command, const TemporaryFolder& home, const Fault& fault = {});

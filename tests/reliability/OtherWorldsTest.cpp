@@ -3,7 +3,8 @@
 #include <unistd.h>
 
 #include "FolderContent.h"
-#include "SmallLibrary.h"
+#include "Library.h"
+#include "ProgramRun.h"
 
 // The same site whatever surrounds the program.
 
@@ -11,13 +12,6 @@ namespace folionet::test {
 namespace {
 
 namespace fs = std::filesystem;
-
-using Command = std::vector<std::string>;
-
-Command With(Command before, const Command& command) {
-  before.insert(before.end(), command.begin(), command.end());
-  return before;
-}
 
 FolderContent UsualSite() {
   const TemporaryFolder home;
@@ -85,18 +79,6 @@ TEST(OtherWorlds, AHomeThatCannotBeWrittenIsNoHindrance) {
   const ProgramResult styled = RunProgram(With(With(surroundings, compile), {"--set=chkCSS=1"}), home.Path());
   EXPECT_EQ(styled.status, 3);
   EXPECT_NE(styled.errors.find(home.Path() + "file/Folionet/"), std::string::npos) << styled.errors;
-}
-
-TEST(OtherWorlds, AnOutputFolderThatCannotBeWrittenIsReported) {
-  const TemporaryFolder home;
-  MakeSmallLibrary(home);
-  Command command = CompileSmall();
-  for (std::string& part : command) {
-    if (part == "--output=out") part = "--output=/proc/self/fdinfo";
-  }
-  const ProgramResult run = RunProgram(command, home.Path());
-  EXPECT_EQ(run.status, 3);
-  EXPECT_NE(run.errors.find("/proc/self/fdinfo/"), std::string::npos) << run.errors;
 }
 
 }  // namespace

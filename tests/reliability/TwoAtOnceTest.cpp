@@ -5,7 +5,8 @@
 #include <thread>
 
 #include "FolderContent.h"
-#include "SmallLibrary.h"
+#include "Library.h"
+#include "ProgramRun.h"
 
 namespace folionet::test {
 namespace {

@@ -30,13 +30,6 @@ TEST(ErrorReportTest, HasTheFixedLayout) {
                 "EXACTLY as you see it in this error message.");
 }
 
-TEST(ErrorReportTest, UnknownNumbersAndEmptyExtrasHaveTheirLines) {
-  const std::string report = BuildErrorReport(-7, "Select Font", "", "/");
-  EXPECT_NE(report.find("Error Number : -7\r\nDescription  : Application-defined or object-defined error.\r\n"
-                        "Extra Info   : \r\n\r\n\r\nIf the error"),
-            std::string::npos);
-}
-
 TEST(ProgramFolderTest, AChosenFolderIsUsedAsItIs) {
   EXPECT_EQ(FindProgramFolder("/some\\where"), "/some/where/");
   EXPECT_EQ(FindProgramFolder("/x/"), "/x/");

@@ -41,31 +41,6 @@ TEST(LineReaderTest, SplitsAtCrLfAndLf) {
   for (const auto& c : cases) EXPECT_EQ(ReadLines(folder.Write("file", c.bytes)), c.lines);
 }
 
-TEST(LineReaderTest, RefusesWhatIsNoTextFile) {
-  const test::TemporaryFolder folder;
-  const std::string longLine = folder.Write("long", "a\n" + std::string(LineReader::kLongestLine + 200000, 'x'));
-  const struct {
-    std::string path;
-    int number;
-    std::string extra;
-  } cases[] = {
-      {folder.Path() + "none", kFileNotFound, folder.Path() + "none\r\nNo such file or directory"},
-      {folder.Path() + "no/file", kPathNotFound, folder.Path() + "no/file\r\nNo such file or directory"},
-      {folder.Path(), kPathFileAccessError, folder.Path() + "\r\nIt is not a regular file."},
-      {"/dev/zero", kPathFileAccessError, "/dev/zero\r\nIt is not a regular file."},
-      {longLine, kOutOfMemory, longLine + "\r\nLine 2\r\nThe line is longer than 4194304 bytes."},
-  };
-  for (const auto& c : cases) {
-    try {
-      ReadLines(c.path);
-      ADD_FAILURE() << c.path << " was read";
-    } catch (const RunTimeError& error) {
-      EXPECT_EQ(error.Number(), c.number);
-      EXPECT_EQ(error.Extra(), c.extra);
-    }
-  }
-}
-
 TEST(RecordReaderTest, ReadsFieldsQuotedOrNot) {
   const test::TemporaryFolder folder;
   const std::string path = folder.Write("file",
@@ -83,35 +58,6 @@ TEST(RecordReaderTest, ReadsFieldsQuotedOrNot) {
     EXPECT_EQ(fields, record);
   }
   EXPECT_FALSE(reader.Next(fields));
-}
-
-TEST(RecordReaderTest, NamesLineAndFaultAndGoesOn) {
-  const test::TemporaryFolder folder;
-  const struct {
-    const char* record;
-    int number;
-    const char* detail;
-  } cases[] = {
-      {"1,2", kInputPastEnd, "A record of 3 fields was expected, 2 found: \"1,2\""},
-      {"1,\"2,3", kInputPastEnd, "A quoted field is not closed: \"1,\"2,3\""},
-      {"1,2,3,4", kInvalidProcedureCall, "A record of 3 fields was expected, more found: \"1,2,3,4\""},
-      {"1,\"2\"x,3", kInvalidProcedureCall, "Text follows the closing quote of a field: \"1,\"2\"x,3\""},
-  };
-  for (const auto& c : cases) {
-    RecordReader reader(folder.Write("file", std::string("a,b,c\n") + c.record + "\nd,e,f\n"));
-    std::array<std::string, 3> fields;
-    ASSERT_TRUE(reader.Next(fields));
-    try {
-      reader.Next(fields);
-      ADD_FAILURE() << c.record;
-    } catch (const RunTimeError& error) {
-      EXPECT_EQ(error.Number(), c.number) << c.record;
-      EXPECT_EQ(error.Line(), 2U);
-      EXPECT_EQ(error.Detail(), c.detail);
-    }
-    ASSERT_TRUE(reader.Next(fields));
-    EXPECT_EQ(fields[2], "f");
-  }
 }
 
 TEST(RecordReaderTest, ReadsBackWhatIsWrittenQuoted) {

@@ -21,18 +21,18 @@ namespace folionet::test {
 namespace {
 
 namespace fs = std::filesystem;
+using Texts = std::vector<std::string>;
 
 constexpr std::size_t kChapters = 1189;
 constexpr std::size_t kVerses = 31102;
-const std::vector<std::string> kCompile{
-    "compile", "--versalia-path", "library", "--module-path",   "library/Modules", "--program-folder",
-    ".",       "--output",        "out",     "--index-address", "index.html"};
+const Texts kCompile{"compile", "--versalia-path", "library", "--module-path",   "library/Modules", "--program-folder",
+                     ".",       "--output",        "out",     "--index-address", "index.html"};
 
 bool IsDigit(char c) { return std::isdigit(static_cast<unsigned char>(c)) != 0; }
 
 // The texts between two marks, in order.
-std::vector<std::string> Between(const std::string& text, const std::string& from, const std::string& to) {
-  std::vector<std::string> found;
+Texts Between(const std::string& text, const std::string& from, const std::string& to) {
+  Texts found;
   for (std::size_t at = text.find(from); at != std::string::npos; at = text.find(from, at)) {
     at += from.size();
     found.push_back(text.substr(at, text.find(to, at) - at));
@@ -122,68 +122,35 @@ class WholeBible : public testing::Test {
   static inline FolderContent s_site;
 };
 
-TEST_F(WholeBible, HasAPageForEachChapterAndAnIndex) {
-  EXPECT_EQ(s_site.size(), kChapters + 1);
+TEST_F(WholeBible, HasAPageForEachChapterThatHoldsItsVerses) {
   EXPECT_EQ(s_run.output, "Compilation Complete!\n1190 HTML pages created.\n0 pages removed\nRemaining pages 1190\n");
-}
-
-TEST_F(WholeBible, HoldsEveryVerseOnItsPage) {
   const auto expected = ExpectedVerses(s_printed, ReadBooks(s_home->Path() + "library/Sysdefs/BOOKS.TXT"));
   ASSERT_EQ(expected.size(), kChapters);
+  EXPECT_EQ(s_site.size(), kChapters + 1);
   ASSERT_EQ(static_cast<std::size_t>(std::count(s_printed.begin(), s_printed.end(), '\n')), kVerses);
   for (const auto& [name, verses] : expected) {
     ASSERT_EQ(s_site.count(name), 1u) << name;
-    const auto found = Between(s_site.at(name), "<font face=\"Verdana\" size= \"3\">\r\n", "</blockquote>");
+    const Texts found = Between(s_site.at(name), "<font face=\"Verdana\" size= \"3\">\r\n", "</blockquote>");
     ASSERT_EQ(found.size(), 1u) << name;
     EXPECT_EQ(DescribeDifference(name, verses, found.front()), "");
   }
 }
 
-TEST_F(WholeBible, HasNoLinkThatLeadsNowhere) {
-  for (const auto& [name, page] : s_site) {
-    for (const std::string& link : Between(page, "href=\"", "\"")) {
-      if (link.rfind("https://", 0) == 0) continue;
-      EXPECT_EQ(s_site.count(link), 1u) << link << " on " << name;
-    }
-  }
-}
-
-TEST_F(WholeBible, LinksEveryPageFromTheIndexInOrder) {
-  std::vector<std::string> links = Between(s_site.at("index.html"), "[<a href=\"", "\"");
+TEST_F(WholeBible, LinksEveryPageInOrderAndNothingElse) {
+  EXPECT_EQ(RunCli({"verify", "out"}, s_home->Path()).output,
+            "1190 pages, 57056 links: 0 broken, 0 pages possibly stale.\n");
+  const Texts links = Between(s_site.at("index.html"), "[<a href=\"", "\"");
   ASSERT_EQ(links.size(), kChapters);
   EXPECT_EQ(links.front(), "genesis_1.html");
   EXPECT_EQ(links.at(50), "exodus_1.html");
   EXPECT_EQ(links.back(), "revelation_22.html");
-  std::sort(links.begin(), links.end());
-  EXPECT_EQ(std::unique(links.begin(), links.end()), links.end()) << "a page is linked twice";
 }
 
 TEST_F(WholeBible, HeadsItsPagesWithBookAndChapter) {
-  struct Sample {
-    const char* file;
-    const char* title;
-    const char* heading;
-    std::size_t chapters;
-    std::size_t verses;
-  };
-  const std::vector<Sample> samples{
-      {"genesis_1.html", "FREE Online King James Version. Genesis Chapter 1:1-31.", "Genesis 1", 50, 31},
-      {"psalms_119.html", "FREE Online King James Version. Psalms Chapter 119:1-176.", "Psalms 119", 150, 176},
-      {"song_of_solomon_8.html", "FREE Online King James Version. Song of Solomon Chapter 8:1-14.", "Song of Solomon 8",
-       8, 14},
-      {"jude_1.html", "FREE Online King James Version. Jude Chapter 1:1-25.", "Jude 1", 1, 25},
-      {"revelation_22.html", "FREE Online King James Version. Revelation Chapter 22:1-21.", "Revelation 22", 22, 21}};
-  using Texts = std::vector<std::string>;
-  for (const Sample& sample : samples) {
-    ASSERT_EQ(s_site.count(sample.file), 1u) << sample.file;
-    const std::string& page = s_site.at(sample.file);
-    EXPECT_EQ(Between(page, "<title>", "</title>"), Texts{sample.title});
-    EXPECT_EQ(Between(page, "<u>", "<br><br></u>"), Texts{sample.heading});
-    EXPECT_EQ(Between(page, "[<a href=\"", "</a>]").size(), sample.chapters) << sample.file;
-    const Texts body = Between(page, "<font face=\"Verdana\" size= \"3\">\r\n", "</blockquote>");
-    ASSERT_EQ(body.size(), 1u) << sample.file;
-    EXPECT_EQ(Between(body.front(), "<br>", "\r\n").size(), sample.verses) << sample.file;
-  }
+  const std::string& page = s_site.at("psalms_119.html");
+  EXPECT_EQ(Between(page, "<title>", "</title>"), Texts{"FREE Online King James Version. Psalms Chapter 119:1-176."});
+  EXPECT_EQ(Between(page, "<u>", "<br><br></u>"), Texts{"Psalms 119"});
+  EXPECT_EQ(Between(page, "[<a href=\"", "</a>]").size(), 150U);
 }
 
 TEST_F(WholeBible, LeavesTheTimeStampsOfPagesThatDoNotChange) {

@@ -1,0 +1,40 @@
+#include <gtest/gtest.h>
+
+#include <sstream>
+
+#include "ProgramRun.h"
+#include "TemporaryFolder.h"
+
+namespace folionet::test {
+namespace {
+
+TEST(ProgramTest, HelpFitsAScreenAndGivesAnExample) {
+  const TemporaryFolder home;
+  for (const auto& arguments : std::vector<std::vector<std::string>>{
+           {"--help"}, {"compile", "--help"}, {"list", "--help"}, {"check", "--help"}, {"verify", "--help"}}) {
+    const ProgramResult result = RunCli(arguments, home.Path());
+    EXPECT_EQ(result.status, 0);
+    EXPECT_NE(result.output.find("\nExample:\n  folionet-cli "), std::string::npos) << result.output;
+    std::istringstream lines(result.output);
+    int count = 0;
+    for (std::string line; std::getline(lines, line); ++count) EXPECT_LE(line.size(), 80U) << line;
+    EXPECT_LE(count, 40) << result.output;
+  }
+}
+
+TEST(ProgramTest, TellsThatItsResultCannotBeWritten) {
+  const TemporaryFolder home;
+  const ProgramResult run = RunCli({"list", "settings"}, home.Path(), "/dev/full");
+  EXPECT_EQ(run.errors, "folionet-cli: standard output cannot be written\n");
+  EXPECT_EQ(run.status, 3);
+}
+
+TEST(ProgramTest, LinksNoQt) {
+  const TemporaryFolder home;
+  const ProgramResult result = RunProgram({"/usr/bin/ldd", FOLIONET_CLI}, home.Path());
+  EXPECT_NE(result.output.find("libicuuc"), std::string::npos);
+  EXPECT_EQ(result.output.find("libQt"), std::string::npos) << result.output;
+}
+
+}  // namespace
+}  // namespace folionet::test

@@ -2,10 +2,8 @@
 
 #include <deque>
 #include <functional>
-#include <map>
-#include <optional>
+#include <stdexcept>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "UserInterface.h"
@@ -16,101 +14,66 @@ namespace folionet {
 // A queue that has run out answers No, an empty text, or what the chooser was given.
 class ScriptedUi : public UserInterface {
  public:
-  struct Report {
-    int number;
-    std::string label;
-    std::string extra;
-  };
-
   void ShowMessage(const Message& message) override {
-    messages.push_back(message);
-    Log("message " + message.title);
-    if (onMessage) onMessage(message);
+    icon = message.icon;
+    Keep(message.title, message.text);
+    if (onMessage) onMessage();
   }
-
   bool AskYesNo(const std::string& title, const std::string& text) override {
-    questions.push_back({MessageIcon::kInformation, title, text});
-    Log("question " + title);
+    Keep(title + "?", text);
     return Take(yesNo, false);
   }
-
   std::optional<std::string> AskText(const InputBox& box) override {
-    inputBoxes.push_back(box);
-    Log("input " + box.title);
+    Keep(box.title + "?", box.prompt + " [" + box.defaultText + "]");
     return Take(texts, std::string());
   }
-
   void ShowErrorReport(int errorNumber, std::string_view moduleLabel, const std::string& extraInfo) override {
-    reports.push_back({errorNumber, std::string(moduleLabel), extraInfo});
-    Log("report " + std::string(moduleLabel));
+    Keep(std::to_string(errorNumber) + " " + std::string(moduleLabel), extraInfo);
   }
+  void SetPanel(int panel, std::string_view text) override { onPanel(panel, text); }
+  void FocusControl(std::string_view name) override { onFocus(name); }
 
-  void SetPanel(int panel, std::string_view text) override {
-    panels[panel] = text;
-    ++panelCalls[panel];
-    if (onPanel) onPanel(panel, text);
-  }
-
-  void FocusControl(std::string_view name) override {
-    focused.emplace_back(name);
-    if (onFocus) onFocus(name);
-  }
-
-  Colour ChooseColour(Colour initial) override {
-    colourInitials.push_back(initial);
-    return Take(colours, initial);
-  }
-
-  SampleText ChooseFont(const SampleText& initial) override {
-    fontInitials.push_back(initial);
-    return Take(fonts, initial);
-  }
-
+  Colour ChooseColour(Colour initial) override { return Take(colours, Offer(initial, std::to_string(initial))); }
+  SampleText ChooseFont(const SampleText& initial) override { return Take(fonts, Offer(initial, initial.FontName)); }
   std::string ChooseFile(const std::string& filter, const std::string& previous) override {
-    fileFilters.push_back(filter);
-    return Take(files, previous);
+    if (isChooserBroken) throw std::runtime_error("no chooser");
+    return Take(texts, Offer(previous, filter));
   }
+  std::string ChooseFolder(const std::string& initial) override { return Take(texts, Offer(initial, initial)); }
+  void ShowPage(const std::string& path) override { pageShown = path; }
 
-  std::string ChooseFolder(const std::string& initial) override {
-    folderInitials.push_back(initial);
-    return Take(folders, initial);
-  }
-
-  void ShowPage(const std::string& path) override { pagesShown.push_back(path); }
-
-  // The answers to come.
+  // The answers to come; files and folders are chosen from the texts.
   std::deque<bool> yesNo;
   std::deque<std::string> texts;
   std::deque<Colour> colours;
   std::deque<SampleText> fonts;
-  std::deque<std::string> files;
-  std::deque<std::string> folders;
+  bool isChooserBroken = false;
 
-  // What was shown or asked.
-  std::vector<Message> messages;
-  std::vector<Message> questions;
-  std::vector<InputBox> inputBoxes;
-  std::vector<Report> reports;
-  std::map<int, std::string> panels;
-  std::map<int, int> panelCalls;
-  std::vector<std::string> focused;
-  std::vector<Colour> colourInitials;
-  std::vector<SampleText> fontInitials;
-  std::vector<std::string> fileFilters;
-  std::vector<std::string> folderInitials;
-  std::vector<std::string> pagesShown;
-  std::vector<std::string> log;  // boxes of every kind in their order: "report GetLang", "message No Path"
+  // Boxes in their order, "Title", "Question?" or "53 Label of the report", and what each said.
+  std::vector<std::string> log;
+  std::vector<std::string> said;
+  std::vector<std::string> offered;  // to choosers: what each began with, and a file chooser's filter
+  MessageIcon icon{};                // of the last message
+  std::string pageShown;
 
-  // What a box does besides, such as passing panels on to a form.
+  std::function<void()> onMessage;
   std::function<void(int, std::string_view)> onPanel;
   std::function<void(std::string_view)> onFocus;
-  std::function<void(const Message&)> onMessage;
 
  private:
-  void Log(std::string entry) { log.push_back(std::move(entry)); }
+  void Keep(std::string title, std::string text) {
+    log.push_back(std::move(title));
+    said.push_back(std::move(text));
+  }
 
   template <typename T>
-  static T Take(std::deque<T>& answers, T otherwise) {
+  const T& Offer(const T& initial, std::string shown) {
+    offered.push_back(std::move(shown));
+    return initial;
+  }
+
+  template <typename T>
+  static T Take(std::deque<T>& answers, const T& otherwise) {
     if (answers.empty()) return otherwise;
     T answer = std::move(answers.front());
     answers.pop_front();

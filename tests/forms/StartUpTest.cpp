@@ -1,49 +1,31 @@
-#include "MainFormTest.h"
-#include "RunTimeError.h"
-#include "TextCombo.h"
+#include <QComboBox>
+
+#include "FormTest.h"
 
 namespace folionet {
 namespace {
 
-using Log = std::vector<std::string>;
-
-class StartUp : public MainFormTest {};
+class StartUp : public FormTest {};
 
 TEST_F(StartUp, ShowsTheLibraryAndTheDefaults) {
   ASSERT_TRUE(Start());
-  EXPECT_EQ(m_ui->log, Log{});
-  EXPECT_EQ(FromQt(m_form->windowTitle()), "Versalia HTML Bible Compiler Ver 1.0.0");
-  EXPECT_EQ(ListText("cboBibleName"), "Small Bible");
-  EXPECT_EQ(TextOf("txtBibleSel"), "Small Bible");
-  EXPECT_EQ(TextOf("txtFilename"), m_library.Path() + "Modules/Bible/SMALL.TXT");
-  EXPECT_EQ(ListText("cboStartBook"), "Book1");
-  EXPECT_EQ(ListText("cboEndBook"), "Book66");
-  EXPECT_EQ(FromQt(Get<TextCombo>("cboLang").Text()), "BOOKS.TXT");
+  EXPECT_EQ(m_ui.log, Log{});
+  const std::pair<const char*, std::string> shown[] = {
+      {"cboBibleName", "Small Bible"},
+      {"txtBibleSel", "Small Bible"},
+      {"txtFilename", m_home.Path() + "library/Modules/Bible/SMALL.TXT"},
+      {"cboStartBook", "Book1"},
+      {"cboEndBook", "Book66"},
+      {"cboLang", "BOOKS.TXT"},
+      {"txtOutputPath", ""},
+      {"txthttpRoot", ""},
+      {"frmMain.StatusBar1_Panel2", "Language: en-us"},
+      {"frmMain.StatusBar1_Panel3", "Charset: windows-1252"},
+  };
+  for (const auto& [control, text] : shown) EXPECT_EQ(Shown(control), text) << control;
   EXPECT_EQ(Get<QComboBox>("cboLang").count(), 2);
-  EXPECT_EQ(TextOf("txtOutputPath"), "");
-  EXPECT_EQ(TextOf("txthttpRoot"), "");
-  EXPECT_EQ(Panel(2), "Language: en-us");
-  EXPECT_EQ(Panel(3), "Charset: windows-1252");
   EXPECT_EQ(m_state->glob.ChapterIndex.size(), 4U);
   EXPECT_EQ(m_state->glob.ChaptersInBook[1], 2);
-}
-
-TEST_F(StartUp, EveryDialogLoadsItsOptions) {
-  std::ofstream(m_home / "program/CustomHeader.txt") << "<b>top</b>\r\n";
-  std::ofstream(m_home / "program/CustomFooter.txt") << "<b>foot</b>\r\n";
-  Store("BackImage", "paper.gif");
-  Store("PageTitles", "%bk%");
-  Store("lblActive", "1");
-  Store("Keywords", "words");
-  Store("LinkToMain", "back");
-  ASSERT_TRUE(Start());
-  EXPECT_EQ(m_state->texts.CustomHeader, "<b>top</b>\r\n");
-  EXPECT_EQ(m_state->texts.CustomFooter, "<b>foot</b>\r\n");
-  EXPECT_EQ(m_state->options.frmBackground.txtImagepath, "paper.gif");
-  EXPECT_EQ(m_state->options.frmPAgeTitles.txtPageTitles, "%bk%");
-  EXPECT_EQ(m_state->texts.BodyLinkTag, "<body  alink=\"#010000\"");
-  EXPECT_EQ(m_state->options.frmKeywords.txtKeyWords, "words");
-  EXPECT_EQ(m_state->options.frmLinkToMAin.txtLinkToMain, "back");
 }
 
 // A setting that does not convert ends the start-up where it is read: what comes before is shown, what comes after
@@ -54,107 +36,113 @@ TEST_F(StartUp, ABadSettingEndsItWhereItIsRead) {
     bool listsAreFilled;
     bool titlesAreLoaded;
     bool languageIsShown;
-  } kCases[] = {
-      {"chkBack", false, false, false},   {"Use83", false, false, false},   {"chkDoubleSpace", true, false, false},
-      {"WaterMark", true, false, false},  {"lblActive", true, true, false}, {"BackColor", true, true, false},
-      {"LinkBackSize", true, true, true}, {"FontBold", true, true, true},   {"chkCSS", true, true, true},
+    const char* text = "x";
+    const char* report = "13 Form Load - MAIN";
+  } cases[] = {
+      {"chkBack", false, false, false},       {"Use83", false, false, false},
+      {"chkDoubleSpace", true, false, false}, {"WaterMark", true, false, false},
+      {"lblActive", true, true, false},       {"BackColor", true, true, false},
+      {"LinkBackSize", true, true, true},     {"FontBold", true, true, true},
+      {"chkCSS", true, true, true},           {"Lang", true, true, false, "english", "5 Form Load - MAIN"},
   };
-  for (const auto& row : kCases) {
-    SCOPED_TRACE(row.key);
-    Store(row.key, "x");
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.key);
+    Remove("config/Folionet.ini");
+    Store(c.key, c.text);
     ASSERT_TRUE(Start());
-    EXPECT_EQ(m_ui->log, Log{"report Form Load - MAIN"});
-    EXPECT_EQ(m_ui->reports[0].number, kTypeMismatch);
-    EXPECT_NE(m_ui->reports[0].extra.find(std::string("The setting ") + row.key), std::string::npos);
-    EXPECT_EQ(m_ui->reports[0].extra.find(m_library.Path() + "Modules/Bible/SMALL.TXT") == 0, row.listsAreFilled);
-    EXPECT_EQ(Get<QComboBox>("cboStartBook").count(), row.listsAreFilled ? 66 : 0);
-    EXPECT_EQ(m_state->options.frmPAgeTitles.txtPageTitles.empty(), !row.titlesAreLoaded);
-    EXPECT_EQ(Panel(2).empty(), !row.languageIsShown);
-    std::filesystem::remove(m_home / "config/Folionet.ini");
+    ASSERT_EQ(m_ui.log, Log{c.report});
+    EXPECT_NE(m_ui.said[0].find(c.key), std::string::npos) << m_ui.said[0];
+    EXPECT_EQ(m_ui.said[0].starts_with(m_home.Path() + "library/Modules/Bible/SMALL.TXT\r\n"), c.listsAreFilled);
+    EXPECT_EQ(Get<QComboBox>("cboStartBook").count(), c.listsAreFilled ? 66 : 0);
+    EXPECT_EQ(m_state->options.frmPAgeTitles.txtPageTitles.empty(), !c.titlesAreLoaded);
+    EXPECT_EQ(Shown("frmMain.StatusBar1_Panel2").empty(), !c.languageIsShown);
   }
 }
 
-TEST_F(StartUp, AnEntryWithoutACodeIsReported) {
-  Store("Lang", "english");
+// No page is made without the settings that such a start left unread, and an exit keeps them.
+TEST_F(StartUp, ABadSettingRefusesToCompileAndLosesNothing) {
+  Store("BackColor", "x");
+  Store("FontSize", "20");
+  Store("Index_Alignment", "Center");
   ASSERT_TRUE(Start());
-  EXPECT_EQ(m_ui->log, Log{"report Form Load - MAIN"});
-  EXPECT_EQ(m_ui->reports[0].number, kInvalidProcedureCall);
-  EXPECT_EQ(Panel(3), "Charset: windows-1252");
-  EXPECT_EQ(Panel(2), "");
+  ChooseOutput();
+  Click("cmdCompile");
+  EXPECT_EQ(m_ui.log, (Log{"13 Form Load - MAIN", "13 Form Load - MAIN"}));
+  EXPECT_TRUE(std::filesystem::is_empty(m_home.Path() + "site"));
+  Exit();
+  EXPECT_EQ(Stored("FontSize"), "20");
+  EXPECT_EQ(Stored("Index_Alignment"), "Center");
+  EXPECT_EQ(Stored("BackColor"), "16777215");
 }
 
 TEST_F(StartUp, AMissingOrBadIndexEndsTheProgram) {
   const struct {
     const char* index;  // nullptr for none
     Log log;
-  } kCases[] = {
-      {nullptr, {"message INDEX File Not Found"}},
-      {"1,0,1,1,256,50,\"B1\"\r\n", {"report Load Verse Count", "message File not found"}},
-      {"1,0,1\r\n", {"report BooksInChapters", "report Load Verse Count", "message File not found"}},
+  } cases[] = {
+      {nullptr, {"INDEX File Not Found"}},
+      {"1,0,1,1,256,50,\"B1\"\r\n", {"6 Load Verse Count", "File not found"}},
+      {"1,0,1\r\n", {"62 BooksInChapters", "62 Load Verse Count", "File not found"}},
   };
-  for (const auto& row : kCases) {
-    m_library.Remove("Index/SMALL.TXT.INDEX");
-    if (row.index != nullptr) m_library.Write("Index/SMALL.TXT.INDEX", row.index);
+  for (const auto& c : cases) {
+    Remove("library/Index/SMALL.TXT.INDEX");
+    if (c.index != nullptr) m_home.Write("library/Index/SMALL.TXT.INDEX", c.index);
     EXPECT_FALSE(Start());
     EXPECT_TRUE(m_hasEnded);
-    EXPECT_EQ(m_ui->log, row.log);
-    EXPECT_FALSE(std::filesystem::exists(m_home / "config/Folionet.ini"));
+    EXPECT_EQ(m_ui.log, c.log);
+    EXPECT_FALSE(m_home.Has("config/Folionet.ini"));
   }
 }
 
 TEST_F(StartUp, WithoutVersaliaAsksForItsFoldersFourTimes) {
-  std::filesystem::remove(m_home / "config/Versalia.ini");
+  Remove("config/Versalia.ini");
   EXPECT_FALSE(Start());
-  Log expected{"report GetLang"};
+  Log expected{"53 GetLang"};
   for (int i = 0; i < 4; ++i) {
-    for (const char* box : {"report Populate Combos", "message Path and/or file not found", "input Enter Versalia Path",
-                            "input Enter Module Path"}) {
+    for (const char* box :
+         {"76 Populate Combos", "Path and/or file not found", "Enter Versalia Path?", "Enter Module Path?"}) {
       expected.emplace_back(box);
     }
   }
-  EXPECT_EQ(m_ui->log, expected);
+  EXPECT_EQ(m_ui.log, expected);
+  EXPECT_EQ(m_ui.said.at(3), "Enter the Versalia Path [C:\\Program Files\\Versalia\\]");
   EXPECT_TRUE(m_hasEnded);
 }
 
-TEST_F(StartUp, FoldersThatAreEnteredAreUsed) {
-  std::filesystem::remove(m_home / "config/Versalia.ini");
-  m_script = [this](ScriptedUi& ui) { ui.texts = {"", "", m_library.Path(), m_library.Path() + "Modules/"}; };
+TEST_F(StartUp, FoldersThatAreEnteredOrGivenForTheRunAreUsed) {
+  const std::string library = m_home.Path() + "library/";
+  Remove("config/Versalia.ini");
+  m_ui.texts = {"", "", library, library + "Modules/"};
   ASSERT_TRUE(Start());
-  EXPECT_EQ(m_ui->inputBoxes.size(), 4U);
-  EXPECT_EQ(ListText("cboBibleName"), "Small Bible");
-  EXPECT_EQ(m_ui->inputBoxes[0].prompt, "Enter the Versalia Path");
-  EXPECT_EQ(m_ui->inputBoxes[0].defaultText, "C:\\Program Files\\Versalia\\");
+  EXPECT_EQ(Shown("cboBibleName"), "Small Bible");
+  EXPECT_TRUE(m_ui.texts.empty());
+  m_given = {library, ""};
+  ASSERT_TRUE(Start());
+  EXPECT_EQ(m_ui.log, Log{});
+  EXPECT_EQ(Shown("cboBibleName"), "Small Bible");
 }
 
-TEST_F(StartUp, FoldersGivenForTheRunWin) {
-  std::filesystem::remove(m_home / "config/Versalia.ini");
-  AppState state{*(m_store = std::make_unique<SettingsStore>((m_home / "config").string())),
-                 *(m_ui = std::make_unique<ScriptedUi>()),
-                 (m_home / "program/").string(),
-                 {m_library.Path(), ""}};
-  frmMain form(state);
-  ASSERT_TRUE(form.LoadForm());
-  EXPECT_EQ(m_ui->log, Log{});
-  EXPECT_EQ(state.glob.cboBibleName.size(), 2U);
+TEST_F(StartUp, ARetryThatListsTranslationsTwiceStillCompilesTheRightOne) {
+  const std::string good = m_home.Read("library/Sysdefs/BOOKS.TXT");
+  m_home.Write("library/Sysdefs/BOOKS.TXT", "1\tGen\tGenesis\r\n");
+  m_ui.texts = {m_home.Path() + "library/", m_home.Path() + "library/Modules/"};
+  m_ui.onMessage = [&] { m_home.Write("library/Sysdefs/BOOKS.TXT", good); };
+  ASSERT_TRUE(Start());
+  auto& list = Get<QComboBox>("cboBibleName");
+  ASSERT_EQ(list.count(), 4);
+  list.setCurrentIndex(3);
+  emit list.activated(3);
+  EXPECT_EQ(Shown("txtFilename"), m_home.Path() + "library/Modules/Bible/OTHER.TXT");
 }
 
-TEST_F(StartUp, ACatalogueWithoutATextLeavesNothingSelected) {
-  m_library.Remove("Modules/Bible/SMALL.TXT");
-  m_library.Remove("Modules/Bible/OTHER.TXT");
+TEST_F(StartUp, ACatalogueWithoutATextLeavesNothingToCompile) {
+  Remove("library/Modules/Bible/SMALL.TXT");
+  Remove("library/Modules/Bible/OTHER.TXT");
   ASSERT_TRUE(Start());
-  EXPECT_EQ(m_ui->log, Log{});
   EXPECT_EQ(Get<QComboBox>("cboBibleName").currentIndex(), -1);
   ChooseOutput();
   Click("cmdCompile");
-  ASSERT_EQ(m_ui->messages.size(), 1U);
-  EXPECT_EQ(m_ui->messages[0].text, "Please Select a Bible to compile first");
-}
-
-TEST_F(StartUp, ALanguageThatIsNotListedIsShownAllTheSame) {
-  Store("cboLang", "BOOKS_DUTCH.TXT");
-  ASSERT_TRUE(Start());
-  EXPECT_EQ(Get<QComboBox>("cboLang").currentText(), "BOOKS_DUTCH.TXT");
-  EXPECT_EQ(ListText("cboStartBook"), "Boek1");
+  EXPECT_EQ(m_ui.said, Log{"Please Select a Bible to compile first"});
 }
 
 }  // namespace

@@ -1,0 +1,144 @@
+#include <QApplication>
+#include <QComboBox>
+#include <QProgressBar>
+#include <QTest>
+
+#include "FolderContent.h"
+#include "FormTest.h"
+#include "ProgramRun.h"
+#include "frmMain.h"
+
+namespace folionet {
+namespace {
+
+class CompileFromForm : public FormTest {};
+
+TEST_F(CompileFromForm, RefusalsPutTheFocusWhereTheyAreMended) {
+  ASSERT_TRUE(Start());
+  Click("cmdCompile");
+  EXPECT_EQ(m_form->focusWidget(), &Get("Dir1"));
+  ChooseOutput("");
+  Click("cmdCompile");
+  EXPECT_EQ(m_form->focusWidget(), &Get("txthttpRoot"));
+  Give("txthttpRoot", "index.htm");
+  Click("cmdCompile");
+  EXPECT_EQ(m_ui.log, (Log{"No Path", "No HTTP Root", "Not a valid long file extension"}));
+  EXPECT_TRUE(std::filesystem::is_empty(m_home.Path() + "site"));
+  EXPECT_FALSE(IsEnabled("cmdOpenIndex"));
+  EXPECT_FALSE(IsEnabled("cmdCheckSite"));
+}
+
+TEST_F(CompileFromForm, WritesTheBytesOfTheCommandLine) {
+  const struct {
+    std::vector<const char*> clicks;
+    const char* endBook;
+    std::vector<std::string> arguments;
+    std::size_t files;
+  } cases[] = {
+      {{}, "Book66", {"index.html"}, 4},
+      {{"chkCSS", "OptAlignCenter"},
+       "Book1",
+       {"a/index.html", "--set=chkCSS=1", "--set=Index_Alignment=Center", "--end-book=1"},
+       5},
+      {{"chkUse83", "chkDoubleSpace", "chkUseNames", "chkBack"},
+       "Book2",
+       {"index.htm", "--set=Use83=1", "--set=chkDoubleSpace=1", "--set=chkUseNames=0", "--set=chkBack=1",
+        "--start-book=2", "--end-book=2"},
+       2},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.arguments[0]);
+    for (const char* name : {"config/Folionet.ini", "site", "cli"}) Remove(name);
+    std::filesystem::create_directory(m_home.Path() + "site");
+    ASSERT_TRUE(Start());
+    for (const char* name : c.clicks) Click(name);
+    if (c.clicks.size() > 2) Give("cboStartBook", "Book2");
+    Give("cboEndBook", c.endBook);
+    ChooseOutput(c.arguments[0].c_str());
+    Click("cmdCompile");
+    EXPECT_EQ(m_ui.log.back(), "Compilation Complete Folionet");
+    Remove("config/Folionet.ini");
+    std::vector<std::string> command{"compile", "--program-folder=" + m_home.Path() + "program",
+                                     "--output=" + m_home.Path() + "cli", "--index-address=" + c.arguments[0]};
+    command.insert(command.end(), c.arguments.begin() + 1, c.arguments.end());
+    const test::ProgramResult result = test::RunCli(command, m_home.Path());
+    ASSERT_EQ(result.status, 0) << result.errors;
+    const test::FolderContent site = test::ReadFolder(m_home.Path() + "site");
+    EXPECT_EQ(test::DescribeDifference(test::ReadFolder(m_home.Path() + "cli"), site), "");
+    EXPECT_EQ(site.size(), c.files);
+  }
+}
+
+TEST_F(CompileFromForm, ShowsProgressAndThenTheSite) {
+  ASSERT_TRUE(Start());
+  ChooseOutput("http://example.org/b/index.html");
+  auto& bar = Get<QProgressBar>("progressCompile");
+  EXPECT_FALSE(bar.isVisible());
+  std::string last;
+  m_ui.onPanel = [&](int panel, std::string_view text) {
+    m_form->ShowPanel(panel, text);
+    if (panel == 1) last = text;
+  };
+  Click("cmdCompile");
+  EXPECT_EQ(Shown("frmMain.StatusBar1_Panel1"), last) << "however soon it came";
+  EXPECT_NE(last, "");
+  EXPECT_TRUE(bar.isVisible());
+  EXPECT_EQ(bar.value(), bar.maximum());
+  EXPECT_EQ(m_ui.said.back(), "Compilation Complete!\r\n4 HTML pages created.\r\n0 pages removed\r\nRemaining pages 4");
+  Click("cmdOpenIndex");
+  EXPECT_EQ(m_ui.pageShown, m_home.Path() + "site/index.html");
+
+  Click("cmdCheckSite");
+  EXPECT_EQ(m_ui.log.back(), "Check site");
+  EXPECT_TRUE(m_ui.said.back().ends_with(" links: 0 broken, 0 pages possibly stale.")) << m_ui.said.back();
+  m_home.Write("site/old.html", "<a href=\"none.html\">");
+  Click("cmdCheckSite");
+  EXPECT_TRUE(m_ui.said.back().ends_with(
+      " links: 1 broken, 1 pages possibly stale.\r\nold.html, line 1: \"none.html\" is not there.\r\n"
+      "old.html: the index does not lead here."));
+  Remove("site/index.html");
+  Click("cmdCheckSite");
+  EXPECT_EQ(m_ui.log.back(), "53 cmdCheckSite_Click");
+}
+
+TEST_F(CompileFromForm, AFailedRunIsReportedAndOffersNoPage) {
+  ASSERT_TRUE(Start());
+  ChooseOutput();
+  Remove("library/Modules/Bible/SMALL.TXT");
+  Click("cmdCompile");
+  EXPECT_EQ(m_ui.log, Log{"53 cmdCompile_Click"});
+  EXPECT_FALSE(IsEnabled("cmdOpenIndex"));
+  EXPECT_FALSE(IsShown("progressCompile"));
+  EXPECT_FALSE(m_hasEnded);
+  Remove("library/Index/SMALL.TXT.INDEX");
+  Click("cmdCompile");
+  EXPECT_EQ(m_ui.log.back(), "INDEX File Not Found");
+  EXPECT_TRUE(m_hasEnded);
+}
+
+// During a run, clicks and keys go nowhere, not even later, and the form does not close.
+TEST_F(CompileFromForm, ARunTakesNoInput) {
+  ASSERT_TRUE(Start());
+  ChooseOutput();
+  int pages = 0;
+  m_ui.onPanel = [&](int panel, std::string_view text) {
+    m_form->ShowPanel(panel, text);
+    ++pages;
+    QTest::mouseClick(&Get("chkDoubleSpace"), Qt::LeftButton);
+    for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+      QCoreApplication::postEvent(&Get("chkUse83"), new QKeyEvent(type, Qt::Key_Space, {}));
+    }
+    m_form->close();
+  };
+  Click("cmdCompile");
+  QCoreApplication::processEvents();
+  EXPECT_GE(pages, 2);
+  EXPECT_EQ(Shown("chkDoubleSpace") + Shown("chkUse83"), "00");
+  EXPECT_EQ(m_ui.log, Log{"Compilation Complete Folionet"});
+  EXPECT_TRUE(m_form->isVisible());
+  QTest::mouseClick(&Get("chkDoubleSpace"), Qt::LeftButton);
+  EXPECT_EQ(Shown("chkDoubleSpace"), "1");
+}
+
+}  // namespace
+}  // namespace folionet

@@ -1,0 +1,154 @@
+#include "FormTest.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QKeyEvent>
+#include <QLineEdit>
+
+#include "FolderPickers.h"
+#include "TextBox.h"
+#include "TextCombo.h"
+#include "frmMain.h"
+
+namespace folionet {
+namespace {
+
+std::string Titles(const std::string& word) {
+  std::string text;
+  for (int book = 1; book <= 66; ++book) {
+    const std::string number = std::to_string(book);
+    text += number + "\tB" + number + "\t" + word + number + "\r\n";
+  }
+  return text;
+}
+
+void WriteLibrary(const test::TemporaryFolder& home) {
+  const std::pair<const char*, std::string> files[] = {
+      {"Sysdefs/Translations.txt", "1,0,\"Small Bible\",\"SMALL\"\r\n2,0,\"Other Bible\",\"OTHER\"\r\n"},
+      {"Sysdefs/BOOKS.TXT", Titles("Book")},
+      {"Sysdefs/BOOKS_ENGLISH.TXT", Titles("Book")},
+      {"Sysdefs/BOOKS_DUTCH.TXT", Titles("Boek")},
+      {"Index/SMALL.TXT.INDEX", "1,0,1,1,3,50,\"B1\"\r\n2,50,1,2,2,40,\"B1\"\r\n3,90,2,1,1,20,\"B2\"\r\n"},
+      {"Index/OTHER.TXT.INDEX", "1,0,1,1,1,20,\"B1\"\r\n"},
+      {"Modules/Bible/SMALL.TXT",
+       "1\t1\t1\t1\tIn the beginning\r\n2\t1\t1\t2\tAnd the earth\r\n3\t1\t1\t3\tLet there be light\r\n"
+       "4\t1\t2\t1\tThus the heavens\r\n5\t1\t2\t2\tAnd on the seventh day\r\n6\t2\t1\t1\tThese are the names\r\n"},
+      {"Modules/Bible/OTHER.TXT", "1\t1\t1\t1\tAt first\r\n"}};
+  for (const auto& [name, bytes] : files) home.Write(std::string("library/") + name, bytes);
+}
+
+}  // namespace
+
+FormTest::FormTest() {
+  WriteLibrary(m_home);
+  const std::string library = m_home.Path() + "library/";
+  m_home.Write("config/Versalia.ini",
+               "[Module_Path]\nVersaliaPath=" + library + "\nModulePath=" + library + "Modules/\n");
+  m_home.Write("program/default.css", "body {}\n");
+  m_home.Write("program/lang.txt", "\"en-us\",\"English USA\"\r\n\"el\",\"Greek\"\r\n");
+  m_home.Write("program/enc.txt", "\"windows-1252\",\"(ANSI Latin 1)\"\r\n\"utf-8\",\"(Unicode)\"\r\n");
+  std::filesystem::create_directory(m_home.Path() + "site");
+  m_ui.onPanel = [this](int panel, std::string_view text) { m_form->ShowPanel(panel, text); };
+  m_ui.onFocus = [this](std::string_view name) { m_form->FocusControl(name); };
+  m_whenOpen = [](QWidget& dialog) { dialog.show(); };
+}
+
+FormTest::~FormTest() = default;
+
+bool FormTest::Start() {
+  m_form.reset();
+  m_state.reset();
+  m_ui.log.clear();
+  m_ui.said.clear();
+  m_hasEnded = false;
+  m_store = std::make_unique<SettingsStore>(m_home.Path() + "config");
+  m_state = std::make_unique<AppState>(AppState{*m_store, m_ui, m_home.Path() + "program/", m_given});
+  m_form = std::make_unique<frmMain>(*m_state);
+  m_form->OptionDialogs().openModal = [this](QDialog& dialog) {
+    m_opened.push_back(FromQt(dialog.objectName()));
+    m_whenOpen(dialog);
+  };
+  m_form->OptionDialogs().Get<frmEncoding>().openModal = [](QDialog& dialog) { dialog.show(); };
+  m_form->Folders().volumes = [this] {
+    return std::vector<Volume>{{"Home", ToQt(m_home.Path()).chopped(1)}, {"Computer", "/"}};
+  };
+  QObject::connect(m_form.get(), &frmMain::Ended, m_form.get(), [this] { m_hasEnded = true; });
+  const bool goesOn = m_form->LoadForm();
+  if (goesOn) m_form->show();
+  return goesOn;
+}
+
+void FormTest::Exit() {
+  m_ui.yesNo = {true};
+  Click("cmdClose");
+  EXPECT_TRUE(m_hasEnded);
+}
+
+QWidget& FormTest::Find(const std::string& name) const {
+  const std::size_t dot = name.find('.');
+  const QString formName = ToQt(name.substr(0, dot == std::string::npos ? 0 : dot));
+  const QString controlName = ToQt(name.substr(dot + 1));
+  QWidget* form = formName.isEmpty() ? m_form->centralWidget() : m_form.get();
+  if (!formName.isEmpty() && formName != QLatin1String("frmMain")) form = m_form->findChild<QDialog*>(formName);
+  auto* found = form == nullptr || controlName.isEmpty() ? form : form->findChild<QWidget*>(controlName);
+  if (found == nullptr) throw std::runtime_error("no control " + name);
+  return *found;
+}
+
+std::string FormTest::Shown(const std::string& name) const {
+  const QWidget& control = Find(name);
+  if (const auto* list = qobject_cast<const TextCombo*>(&control)) return FromQt(list->Text());
+  if (const auto* list = qobject_cast<const QComboBox*>(&control)) return FromQt(list->currentText());
+  if (const auto* box = qobject_cast<const TextBox*>(&control)) return box->Text();
+  if (const auto* box = qobject_cast<const QPlainTextEdit*>(&control)) return FromQt(box->toPlainText());
+  const auto* button = qobject_cast<const QAbstractButton*>(&control);
+  if (button != nullptr && button->isCheckable()) return button->isChecked() ? "1" : "0";
+  return FromQt(control.property("text").toString() + control.accessibleDescription());
+}
+
+void FormTest::Click(const std::string& name) const { Get<QAbstractButton>(name).click(); }
+
+void FormTest::Give(const std::string& name, const std::string& text) {
+  QWidget& control = Find(name);
+  if (auto* line = qobject_cast<QLineEdit*>(&control)) return line->setText(ToQt(text));
+  if (auto* box = qobject_cast<TextBox*>(&control)) return box->setPlainText(ToQt(text));
+  auto* list = qobject_cast<QComboBox*>(&control);
+  if (list == nullptr) {
+    m_ui.texts = {text};
+    m_ui.colours = {ToQt(text).toInt()};
+    Click(name);
+    m_ui.texts.clear();
+    m_ui.colours.clear();
+  } else if (list->isEditable()) {
+    list->setEditText(ToQt(text));
+  } else {
+    list->setCurrentIndex(list->findText(ToQt(text)));
+    emit list->activated(list->currentIndex());
+    emit list->textActivated(list->currentText());
+  }
+}
+
+void FormTest::Key(QWidget& control, QEvent::Type type, int key) {
+  QKeyEvent event(type, key, Qt::NoModifier);
+  QApplication::sendEvent(&control, &event);
+}
+
+void FormTest::ChooseOutput(const char* address) {
+  Give("cmdBrowse", m_home.Path() + "site");
+  Give("txthttpRoot", address);
+}
+
+std::string FormTest::Stored(const std::string& key) const {
+  return SettingsStore(m_home.Path() + "config").GetSetting("Folionet", "Keys", key, "<missing>");
+}
+
+void FormTest::Store(const std::string& key, const std::string& text) const {
+  SettingsStore(m_home.Path() + "config").SaveText(key, text);
+}
+
+void FormTest::BlockSettings() const {
+  Remove("config");
+  m_home.Write("config", "");
+}
+
+}  // namespace folionet

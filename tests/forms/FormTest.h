@@ -1,0 +1,81 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QEvent>
+#include <QWidget>
+#include <filesystem>
+#include <functional>
+#include <memory>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "AppState.h"
+#include "QtText.h"
+#include "ScriptedUi.h"
+#include "TemporaryFolder.h"
+
+namespace folionet {
+
+class frmMain;
+using Log = std::vector<std::string>;
+
+// A home of its own with a small library that Versalia's settings name, and starts of the main form in it:
+//
+//   Small Bible  SMALL  Book1 1 (3 verses), 2 (2 verses); Book2 1 (1 verse)
+//   Other Bible  OTHER  Book1 1 (1 verse)
+//
+// The titles are Book1..Book66 in BOOKS.TXT and BOOKS_ENGLISH.TXT, Boek1..Boek66 in BOOKS_DUTCH.TXT. Controls of the
+// main form go by their names, those of a dialog by "frmEffects.cmdClose", a form itself by "frmEffects.".
+class FormTest : public testing::Test {
+ protected:
+  FormTest();
+  ~FormTest() override;
+
+  // A start of the program up to the shown form; what the run before had is dropped. False when it must end.
+  bool Start();
+  void Exit();  // by the button, with everything saved
+
+  template <typename Widget = QWidget>
+  Widget& Get(const std::string& name) const {
+    auto* widget = dynamic_cast<Widget*>(&Find(name));
+    if (widget == nullptr) throw std::runtime_error(name + " is of another type");
+    return *widget;
+  }
+  bool IsEnabled(const std::string& name) const { return Find(name).isEnabled(); }
+  bool IsShown(const std::string& name) const { return Find(name).isVisible(); }
+
+  // What a person sees: a text, a caption with its description, or "1" and "0" of a check box.
+  std::string Shown(const std::string& name) const;
+
+  void Click(const std::string& name) const;
+  // Types a text, picks a list's entry, or clicks a button with `text` as the answer to what it asks.
+  void Give(const std::string& name, const std::string& text);
+  static void Key(QWidget& control, QEvent::Type type, int key);
+
+  // Makes the form ready to compile into "site/".
+  void ChooseOutput(const char* address = "index.html");
+
+  // What the settings file holds, "<missing>" for a key that is not stored.
+  std::string Stored(const std::string& key) const;
+  void Store(const std::string& key, const std::string& text) const;
+  // Makes every later saving of settings fail: their folder's name is taken by a file.
+  void BlockSettings() const;
+  void Remove(const std::string& name) const { std::filesystem::remove_all(m_home.Path() + name); }
+
+  test::TemporaryFolder m_home;
+  GivenFolders m_given;
+  ScriptedUi m_ui;  // answers are kept from one start to the next
+  std::unique_ptr<SettingsStore> m_store;
+  std::unique_ptr<AppState> m_state;
+  std::unique_ptr<frmMain> m_form;
+  Log m_opened;                              // dialogs, in their order
+  std::function<void(QWidget&)> m_whenOpen;  // what a person does in a dialog of the main form
+  bool m_hasEnded = false;
+
+ private:
+  QWidget& Find(const std::string& name) const;
+};
+
+}  // namespace folionet

@@ -1,0 +1,228 @@
+#include <map>
+#include <set>
+
+#include "FormTest.h"
+#include "SettingsKeys.h"
+#include "frmMain.h"
+
+namespace folionet {
+namespace {
+
+// A key, what is stored after a person changed it, and the control for that. A key without a control changes with the
+// one above it.
+const struct Row {
+  const char* key;
+  const char* stored;
+  const char* control;
+  const char* given = nullptr;    // what is stored, unless it is said here
+  const char* shownBy = nullptr;  // the same control, unless it is said here
+  const char* shows = nullptr;    // what it shows only then, for one that does not show the stored text as it is
+} kRows[] = {
+    {"chkUseNames", "0", "chkUseNames"},
+    {"Use83", "1", "chkUse83"},
+    {"chkDoubleSpace", "1", "chkDoubleSpace"},
+    {"cboLang", "BOOKS_DUTCH.TXT", "cboLang"},
+    {"alignmentLR", "Justify", "OptAlignJust", "", "OptAlignJust", "1"},
+    {"Index_Alignment", "Justify", "", "", "OptAlignJust", "1"},
+    {"Drive1", "/", "cmdBrowse", "/usr", "Drive1", "Computer"},
+    {"Dir1", "/usr", "", "", "txtOutputPath", "/usr/"},
+    {"BackColor", "66051", "cmdBackColour", "66051", "txtSample", "[Background:#030201#]"},
+    {"ForeColor", "66052", "cmdForeColour", "66052", "txtSample", "[Foreground:#040201#]"},
+    {"Font", "DejaVu Serif", "cmdFont", "", "txtSample", "[Font:  DejaVu Serif]"},
+    {"FontSize", "10.5", "", "", "txtSample", "[Fontsize:2]"},
+    {"FontBold", "True", "", "", "txtSample", "Bold"},
+    {"FontItalic", "True", "cmdFont", "", "txtSample", "Italic"},
+    {"lblHyperlink", "1", "frmEffects.cmdHyperlink", "1", "frmEffects.lblHyperlink", "#010000"},
+    {"lblActive", "2", "frmEffects.cmdActive", "2", "frmEffects.lblActive", "#020000"},
+    {"lblFollowed", "3", "frmEffects.cmdFollowed", "3", "frmEffects.lblFollowed", "#030000"},
+    {"lblRColor", "4", "frmEffects.cmdRollover", "4", "frmEffects.lblRColor", "#040000"},
+    {"cboFont", "typed, by hand", "frmEffects.cboFont"},
+    {"cboSize", "1\\n \"em\"", "frmEffects.cboSize"},
+    {"cboStyle", "bold", "frmEffects.cboStyle"},
+    {"chkSmallCaps", "1", "frmEffects.chkSmallCaps"},
+    {"chkAllCaps", "1", "frmEffects.chkAllCaps"},
+    {"chkUnderline", "1", "frmEffects.chkUnderline"},
+    {"chkRollover", "0", "frmEffects.chkRollover"},
+    {"KeywordsI", "  \"new\", <b>\r\nline  ", "frmKeywords.txtKeywordsI"},
+    {"DescriptionI", "", "frmKeywords.txtDescriptionI"},
+    {"Keywords", "a; b, 'c'", "frmKeywords.txtKeyWords"},
+    {"Description", "100%\r\n\r\n", "frmKeywords.txtDescription"},
+    {"index_html", "%bible%, \\n", "frmPAgeTitles.txtIndex_html"},
+    {"PageTitles", " \xCE\xB2 ", "frmPAgeTitles.txtPageTitles"},
+    {"LinkToMain", "up, %bible%", "frmLinkToMAin.txtLinkToMain"},
+    {"LCR", "3", "frmLinkToMAin.ORight", "", "frmLinkToMAin.ORight", "1"},
+    {"LinkBackSize", "5", "frmLinkToMAin.cboSize"},
+    {"WaterMark", "1", "frmBackground.chkWaterMark"},
+    {"BackImage", "a, b.gif", "frmBackground.txtImagepath"},
+    {"Charset", "utf-8 (Unicode)", "frmEncoding.cboCharset"},
+    {"Lang", "el Greek", "frmEncoding.cboLang"},
+    {"chkBack", "1", "chkBack"},
+    {"chkCSS", "1", "chkCSS"},
+};
+
+class Settings : public FormTest {
+ protected:
+  Settings() {
+    for (const SettingKey& key : SettingKeys()) m_expected[std::string(key.name)] = key.defaultText;
+  }
+
+  // Leaves a dialog by its button, which saves.
+  void Leave(const std::string& dialog) {
+    const bool isHtml = dialog == "frmCustomHeader" || dialog == "frmCustomizeFooter";
+    if (!isHtml) Click(dialog + (dialog == "frmEncoding" ? ".cmdDone" : ".cmdClose"));
+  }
+
+  void Change(const Row& row) {
+    const std::string control = row.control;
+    const std::string dialog = control.substr(0, control.find('.') + 1);
+    if (!dialog.empty()) Get(dialog).show();
+    m_ui.fonts = {{"DejaVu Serif", 10.5, true, row.key == std::string("FontItalic"), 0, 0}};
+    if (!control.empty()) Give(control, row.given == nullptr ? row.stored : row.given);
+    if (!dialog.empty()) Leave(dialog.substr(0, dialog.size() - 1));
+    m_expected[row.key] = row.stored;
+  }
+
+  // Starts the program and compares what its controls show with the settings that it must have found.
+  void ExpectStartShowsThem() {
+    ASSERT_TRUE(Start());
+    Get("frmEncoding.").show();  // loads when it is first shown
+    EXPECT_EQ(m_ui.log, Log{});
+    for (const Row& row : kRows) {
+      const std::string shown = Shown(row.shownBy == nullptr ? row.control : row.shownBy);
+      if (row.shows == nullptr) {
+        EXPECT_EQ(shown, m_expected[row.key]) << row.key;
+      } else {
+        EXPECT_EQ(shown.find(row.shows) != std::string::npos, m_expected[row.key] == row.stored) << row.key << shown;
+      }
+    }
+  }
+
+  void ExpectStored() {
+    const SettingsStore store(m_home.Path() + "config");
+    for (const auto& [key, text] : m_expected) EXPECT_EQ(store.Text(key), text) << key;
+  }
+
+  std::map<std::string, std::string> m_expected;
+};
+
+TEST_F(Settings, EveryKeySurvivesARestartByItself) {
+  for (const Row& row : kRows) {
+    SCOPED_TRACE(row.key);
+    if (*row.control != '\0') ExpectStartShowsThem();
+    Change(row);
+    const Row* next = &row + 1;
+    if (next != std::end(kRows) && *next->control == '\0') continue;
+    Exit();
+    ExpectStored();
+  }
+  std::set<std::string> covered;
+  for (const Row& row : kRows) covered.insert(row.key);
+  EXPECT_EQ(covered.size(), m_expected.size());
+  ExpectStartShowsThem();
+}
+
+TEST_F(Settings, RestoreAllBringsEveryDefaultBack) {
+  ASSERT_TRUE(Start());
+  for (const Row& row : kRows) Change(row);
+  Exit();
+  ExpectStored();
+  ASSERT_TRUE(Start());
+  m_ui.yesNo = {false, true};
+  Click("cmdRestoreAll");
+  EXPECT_EQ(m_ui.log, Log{"Restore Factory Settings?"});
+  EXPECT_EQ(m_ui.said[0], "Rerurn all settings to default?\r\nAre you sure???");
+  EXPECT_FALSE(m_hasEnded);
+  ExpectStored();
+
+  Click("cmdRestoreAll");
+  EXPECT_EQ(m_ui.log.back(), "Restart Folionet");
+  EXPECT_EQ(m_ui.said.back(), "Please restart Folionet to complete.");
+  EXPECT_TRUE(m_hasEnded);
+  EXPECT_EQ(m_state->options.frmPAgeTitles.txtPageTitles, "FREE Online %bible%. %bk% Chapter %ch%:%vs%.");
+  EXPECT_NE(m_state->texts.RolloverStyle, "");
+  EXPECT_EQ(m_state->options.txtSample.BackColor, 16777215);
+  EXPECT_EQ(Shown("frmMain.StatusBar1_Panel3"), "Charset: windows-1252");
+  EXPECT_TRUE(m_form->close());
+  EXPECT_EQ(m_ui.log.size(), 3U) << "nothing more is asked";
+  EXPECT_FALSE(m_home.Has("config/Folionet.ini"));
+  for (const SettingKey& key : SettingKeys()) m_expected[std::string(key.name)] = key.defaultText;
+  ExpectStartShowsThem();
+}
+
+// Opening a dialog that a failed start left unloaded and closing it must not store its empty controls.
+TEST_F(Settings, AFailedStartLosesNoneOfThem) {
+  ASSERT_TRUE(Start());
+  for (const Row& row : kRows) Change(row);
+  Exit();
+  Store("chkBack", "x");
+  ASSERT_TRUE(Start());
+  m_form->OptionDialogs().Get<frmBackground>().show();
+  for (const char* name : {"cmdPageTitles", "cmdKeyWords", "cmdEffects", "cmdLinkToMain", "cmdPageEncoding"}) {
+    Click(name);
+  }
+  for (const std::string& dialog : m_opened) Leave(dialog);
+  Leave("frmBackground");
+  Exit();
+  EXPECT_EQ(Stored("chkBack"), "x");
+  Store("chkBack", "1");
+  ExpectStored();
+}
+
+TEST_F(Settings, ABadOneThatTheStartDidNotReachIsReportedWhenItsDialogIsShown) {
+  Store("chkBack", "x");
+  Store("WaterMark", "maybe");
+  ASSERT_TRUE(Start());
+  auto& dialog = m_form->OptionDialogs().Get<frmBackground>();
+  dialog.show();
+  dialog.hide();
+  dialog.show();
+  EXPECT_EQ(m_ui.log, (Log{"13 Form Load - MAIN", "13 Form Load - MAIN"}));
+}
+
+// A settings file that cannot be written is told of once; every option still works, and nothing that was typed is lost.
+TEST_F(Settings, AFailureToSaveIsToldOnce) {
+  const struct {
+    const char* control;
+    const char* given;
+    const char* report;
+  } cases[] = {
+      {"chkUseNames", "", "75 chkUseNames_Click"},
+      {"cboLang", "BOOKS_DUTCH.TXT", "75 cboLang_Click"},
+      {"chkBack", "", "75 updateCheck"},
+      {"chkCSS", "", "75 CSSCheck"},
+      {"cmdClose", "", "75 SaveDefaults"},
+      {"frmBackground.chkWaterMark", "", "75 chkWaterMark_Click"},
+      {"frmBackground.cmdClose", "", "75 SaveBackImage"},
+      {"frmPAgeTitles.cmdCheck", "", "75 SaveTitles"},
+      {"frmKeywords.cmdClose", "", "75 SaveMETA"},
+      {"frmEffects.cmdClose", "", "75 SaveDefaultHyperlinkColors"},
+      {"frmLinkToMAin.OLeft", "", "75 SetJustification"},
+      {"frmLinkToMAin.cboSize", "4", "75 SetFontSize"},
+      {"frmLinkToMAin.cmdClose", "", "75 SaveLinkToMain"},
+      {"frmEncoding.cmdDone", "", "75 UnloadEncoding"},
+  };
+  ASSERT_TRUE(Start());
+  Get("frmEncoding.").show();
+  BlockSettings();
+  for (const auto& c : cases) {
+    m_ui.log.clear();
+    m_state->saveFailureTold = false;
+    m_ui.yesNo = {true, true};
+    Give(c.control, c.given);
+    Give("chkUseNames", "");
+    std::erase_if(m_ui.log, [](const std::string& entry) { return entry.starts_with("C"); });  // other boxes
+    EXPECT_EQ(m_ui.log, Log{c.report});
+  }
+  EXPECT_TRUE(m_hasEnded);
+}
+
+TEST_F(Settings, AreReadWhereTheyCannotBeWritten) {
+  BlockSettings();
+  m_given = {m_home.Path() + "library/", ""};
+  ASSERT_TRUE(Start());
+  EXPECT_EQ(m_ui.log, Log{"75 SetFontSize"});
+  EXPECT_NE(Shown("frmLinkToMAin.txtBackToString"), "");
+}
+
+}  // namespace
+}  // namespace folionet

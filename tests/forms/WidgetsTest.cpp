@@ -1,0 +1,122 @@
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QDialog>
+#include <QInputDialog>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTimer>
+
+#include "FormUi.h"
+#include "KeyReleases.h"
+#include "QtText.h"
+#include "TextBox.h"
+#include "frmErr.h"
+
+namespace folionet {
+namespace {
+
+// What each text that was put in gives back, untouched and with "!" typed at its end.
+TEST(TextBoxTest, GivesBackWhatWasPutIn) {
+  const std::pair<const char*, const char*> cases[] = {
+      {"", "!"},
+      {"one\r\ntwo\r\n", "one\r\ntwo\r\n!"},
+      {"one\ntwo", "one\r\ntwo!"},
+      {"a\xC2\xA0z", "a\xC2\xA0z!"},                                              // a hard blank
+      {"caf\xE9 caf\xC3\xA9", "caf\xE9 caf\xC3\xA9!"},                            // a byte that is not UTF-8
+      {"\xF0\x9F\x8C\x8D\xFF\xED\xB2\x80", "\xF0\x9F\x8C\x8D\xFF\xED\xB2\x80!"},  // beyond 16 bits, and bad bytes
+  };
+  for (const auto& [given, edited] : cases) {
+    TextBox box;
+    box.SetText(given);
+    EXPECT_EQ(box.Text(), given);
+    box.moveCursor(QTextCursor::End);
+    box.insertPlainText(QStringLiteral("!"));
+    EXPECT_EQ(box.Text(), edited);
+  }
+}
+
+// Keys released one after the other in a box that keeps them and in one that leaves them to the form around it.
+TEST(KeyReleasesTest, EveryReleaseRefreshesOnce) {
+  QDialog form;
+  QWidget* controls[] = {new QLineEdit(&form), new QWidget(new QWidget(&form)), &form};
+  int refreshes = 0;
+  new KeyReleases(form, [&] { return ++refreshes > 0; });
+  for (QWidget* control : controls) {
+    refreshes = 0;
+    for (int i = 0; i < 3; ++i) {
+      QKeyEvent event(QEvent::KeyRelease, Qt::Key_A, Qt::NoModifier, QStringLiteral("a"));
+      QApplication::sendEvent(control, &event);
+    }
+    EXPECT_EQ(refreshes, 3) << control->metaObject()->className();
+  }
+}
+
+// Does something with the box that comes up next.
+template <typename Box>
+void WhenShown(const std::function<void(Box&)>& act) {
+  QTimer::singleShot(0, qApp, [act] {
+    auto* box = qobject_cast<Box*>(QApplication::activeModalWidget());
+    ASSERT_NE(box, nullptr);
+    act(*box);
+  });
+}
+
+TEST(FormUiTest, MessagesShowTitleTextAndIcon) {
+  const std::pair<MessageIcon, QMessageBox::Icon> cases[] = {{MessageIcon::kInformation, QMessageBox::Information},
+                                                             {MessageIcon::kWarning, QMessageBox::Warning},
+                                                             {MessageIcon::kCritical, QMessageBox::Critical}};
+  FormUi ui;
+  for (const auto& [icon, shown] : cases) {
+    WhenShown<QMessageBox>([shownIcon = shown](QMessageBox& box) {
+      EXPECT_EQ(FromQt(box.windowTitle()), "Title");
+      EXPECT_EQ(FromQt(box.text()), "<b>one</b>\ntwo");
+      EXPECT_EQ(box.textFormat(), Qt::PlainText);
+      EXPECT_EQ(box.icon(), shownIcon);
+      box.button(QMessageBox::Ok)->click();
+    });
+    ui.ShowMessage({icon, "Title", "<b>one</b>\r\ntwo"});
+  }
+}
+
+TEST(FormUiTest, NoIsTheDefaultAnswerAndACancelledInputIsEmpty) {
+  FormUi ui;
+  for (const bool answer : {true, false}) {
+    WhenShown<QMessageBox>([answer](QMessageBox& box) {
+      EXPECT_EQ(box.icon(), QMessageBox::Question);
+      EXPECT_EQ(box.defaultButton(), box.button(QMessageBox::No));
+      box.button(answer ? QMessageBox::Yes : QMessageBox::No)->click();
+    });
+    EXPECT_EQ(ui.AskYesNo("T", "Q"), answer);
+    WhenShown<QInputDialog>([answer](QInputDialog& box) {
+      EXPECT_EQ(FromQt(box.textValue() + box.labelText()), "C:\\prompt");
+      answer ? box.accept() : box.reject();
+    });
+    EXPECT_EQ(ui.AskText({"prompt", "title", "C:\\"}), answer ? "C:\\" : "");
+  }
+  WhenShown<QMessageBox>([](QMessageBox& box) { box.close(); });
+  EXPECT_FALSE(ui.AskYesNo("T", "Q"));
+}
+
+TEST(FormUiTest, TheReportCanBeCopiedWhole) {
+  FormUi ui;
+  for (const char* extra : {"", "a\r\nb"}) {
+    WhenShown<frmErr>([extra](frmErr& window) {
+      EXPECT_EQ(FromQt(window.windowTitle()), "An Error has ocurred.");
+      auto* report = window.findChild<QPlainTextEdit*>(QStringLiteral("txtErr"));
+      EXPECT_TRUE(report->textInteractionFlags().testFlag(Qt::TextSelectableByMouse));
+      EXPECT_TRUE(report->toPlainText().startsWith(QStringLiteral("An Error has occured.\nTitle        : Folionet\n")));
+      EXPECT_TRUE(report->toPlainText().contains(QStringLiteral("Module       : GetLang.\nError Number : 53\n")));
+      EXPECT_TRUE(report->toPlainText().contains(QStringLiteral("Extra Info   : \n") + ToQtLines(extra) + "\n\n"));
+      window.findChild<QPushButton*>(QStringLiteral("cmdClose"))->click();
+    });
+    ui.ShowErrorReport(53, "GetLang", extra);
+  }
+  EXPECT_EQ(FileDialogFilter("*.gif - Compuserve GIF|*.gif| *.bmp - Windows Bitmap| *.bmp | *.* - All Files| *.*"),
+            "*.gif - Compuserve GIF (*.gif);;*.bmp - Windows Bitmap (*.bmp);;*.* - All Files (*.*)");
+}
+
+}  // namespace
+}  // namespace folionet

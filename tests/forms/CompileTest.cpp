@@ -13,21 +13,6 @@ namespace {
 
 class CompileFromForm : public FormTest {};
 
-TEST_F(CompileFromForm, RefusalsPutTheFocusWhereTheyAreMended) {
-  ASSERT_TRUE(Start());
-  Click("cmdCompile");
-  EXPECT_EQ(m_form->focusWidget(), &Get("Dir1"));
-  ChooseOutput("");
-  Click("cmdCompile");
-  EXPECT_EQ(m_form->focusWidget(), &Get("txthttpRoot"));
-  Give("txthttpRoot", "index.htm");
-  Click("cmdCompile");
-  EXPECT_EQ(m_ui.log, (Log{"No Path", "No HTTP Root", "Not a valid long file extension"}));
-  EXPECT_TRUE(std::filesystem::is_empty(m_home.Path() + "site"));
-  EXPECT_FALSE(IsEnabled("cmdOpenIndex"));
-  EXPECT_FALSE(IsEnabled("cmdCheckSite"));
-}
-
 TEST_F(CompileFromForm, WritesTheBytesOfTheCommandLine) {
   const struct {
     std::vector<const char*> clicks;
@@ -99,21 +84,6 @@ TEST_F(CompileFromForm, ShowsProgressAndThenTheSite) {
   Remove("site/index.html");
   Click("cmdCheckSite");
   EXPECT_EQ(m_ui.log.back(), "53 cmdCheckSite_Click");
-}
-
-TEST_F(CompileFromForm, AFailedRunIsReportedAndOffersNoPage) {
-  ASSERT_TRUE(Start());
-  ChooseOutput();
-  Remove("library/Modules/Bible/SMALL.TXT");
-  Click("cmdCompile");
-  EXPECT_EQ(m_ui.log, Log{"53 cmdCompile_Click"});
-  EXPECT_FALSE(IsEnabled("cmdOpenIndex"));
-  EXPECT_FALSE(IsShown("progressCompile"));
-  EXPECT_FALSE(m_hasEnded);
-  Remove("library/Index/SMALL.TXT.INDEX");
-  Click("cmdCompile");
-  EXPECT_EQ(m_ui.log.back(), "INDEX File Not Found");
-  EXPECT_TRUE(m_hasEnded);
 }
 
 // During a run, clicks and keys go nowhere, not even later, and the form does not close.

@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <map>
 
 #include "FolderPickers.h"
 #include "TextBox.h"
@@ -38,6 +39,22 @@ void WriteLibrary(const test::TemporaryFolder& home) {
 }
 
 }  // namespace
+
+std::string Unescaped(const std::string& text) {
+  const std::map<char, char> controls{{'n', '\n'}, {'r', '\r'}, {'t', '\t'}, {'\\', '\\'}};
+  std::string plain;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    if (text[i] != '\\') {
+      plain += text[i];
+    } else if (text.at(++i) == 'x') {
+      plain += static_cast<char>(std::stoi(text.substr(i + 1, 2), nullptr, 16));
+      i += 2;
+    } else {
+      plain += controls.at(text[i]);
+    }
+  }
+  return plain;
+}
 
 FormTest::FormTest() {
   WriteLibrary(m_home);
@@ -104,6 +121,13 @@ std::string FormTest::Shown(const std::string& name) const {
   const auto* button = qobject_cast<const QAbstractButton*>(&control);
   if (button != nullptr && button->isCheckable()) return button->isChecked() ? "1" : "0";
   return FromQt(control.property("text").toString() + control.accessibleDescription());
+}
+
+std::string FormTest::Items(const std::string& list) const {
+  QStringList items;
+  const auto& combo = Get<QComboBox>(list);
+  for (int i = 0; i < combo.count(); ++i) items << combo.itemText(i);
+  return FromQt(items.join('\n'));
 }
 
 void FormTest::Click(const std::string& name) const { Get<QAbstractButton>(name).click(); }

@@ -21,6 +21,9 @@ namespace folionet {
 class frmMain;
 using Log = std::vector<std::string>;
 
+// A text of a data file with "\n", "\r", "\t", "\\" and bytes such as "\xE9" as what they stand for.
+std::string Unescaped(const std::string& text);
+
 // A home of its own with a small library that Versalia's settings name, and starts of the main form in it:
 //
 //   Small Bible  SMALL  Book1 1 (3 verses), 2 (2 verses); Book2 1 (1 verse)
@@ -48,6 +51,8 @@ class FormTest : public testing::Test {
 
   // What a person sees: a text, a caption with its description, or "1" and "0" of a check box.
   std::string Shown(const std::string& name) const;
+
+  std::string Items(const std::string& list) const;  // a line each
 
   void Click(const std::string& name) const;
   // Types a text, picks a list's entry, or clicks a button with `text` as the answer to what it asks.

@@ -23,7 +23,7 @@ class Looks : public FormTest {
 
 constexpr Colour Rgb(int red, int green, int blue) { return red + 256 * green + 65536 * blue; }
 
-TEST_F(Looks, SampleTextNamesItsStyle) {
+TEST(SampleText, NamesItsStyle) {
   const struct {
     SampleText sample;
     const char* text;
@@ -57,83 +57,14 @@ TEST_F(Looks, PickersChangeTheSample) {
   EXPECT_TRUE(font.bold());
 }
 
-constexpr char kDefaultStyle[] = "<style fprolloverstyle>A:hover {color: #FF0000; text-decoration: none; }</style>";
-
-// Each colour button: which swatch it sets, and whether the pages' texts follow at once. Leaving the chooser picks the
-// colour that was there until the next start.
-TEST_F(Looks, ColourButtonsSetTheirSwatch) {
-  const struct {
-    std::string button;
-    const char* swatch;
-    const char* tagAtClose;
-    const char* tagOfDefault;
-    bool isRollover;
-  } cases[] = {
-      {"frmEffects.cmdHyperlink", "frmEffects.lblHyperlink", "<body link=\"#010203\"", "<body link=\"#0000FF\"", false},
-      {"frmEffects.cmdActive", "frmEffects.lblActive", "<body  alink=\"#010203\"", "<body  alink=\"#FF0000\"", false},
-      {"frmEffects.cmdFollowed", "frmEffects.lblFollowed", "<body  vlink=\"#010203\"", "<body  vlink=\"#7F007F\"",
-       false},
-      {"frmEffects.cmdRollover", "frmEffects.lblRColor", "", "", true},
-  };
-  for (const auto& c : cases) {
-    SCOPED_TRACE(c.button);
-    Remove("config/Folionet.ini");
-    ASSERT_TRUE(Start());
-    EXPECT_EQ(m_state->texts.RolloverStyle, kDefaultStyle);
-    EXPECT_TRUE(Shown(c.swatch).starts_with("Default"));
-    Click(c.button);
-    EXPECT_TRUE(Shown(c.swatch).starts_with("#"));
-    Click("frmEffects.cmdClose");
-    EXPECT_EQ(m_state->texts.BodyLinkTag, c.tagOfDefault);
-    ASSERT_TRUE(Start());
-    EXPECT_EQ(m_state->texts.BodyLinkTag, "");
-    Give(c.button, "197121");
-    EXPECT_EQ(ColourOf(c.swatch, QPalette::Window), 197121);
-    EXPECT_EQ(m_state->texts.RolloverStyle.find("#010203") != std::string::npos, c.isRollover);
-    EXPECT_EQ(m_state->texts.BodyLinkTag, "");
-    Click("frmEffects.cmdClose");
-    EXPECT_EQ(m_state->texts.BodyLinkTag, c.tagAtClose);
-  }
-}
-
-TEST_F(Looks, EveryEffectReachesTheStyleAtClose) {
+TEST_F(Looks, TheLinkBackStandsAsChosen) {
   ASSERT_TRUE(Start());
-  EXPECT_EQ(Get<QComboBox>("frmEffects.cboFont").count(), QFontDatabase::families().size());
-  Give("frmEffects.cboFont", "Arial");
-  Give("frmEffects.cboSize", "12pt");
-  Give("frmEffects.cboStyle", "bold");
-  // A list's own way is to make an entry of its out of a text that differs in letter case only.
-  Key(*Get<QComboBox>("frmEffects.cboStyle").lineEdit(), QEvent::KeyPress, Qt::Key_Return);
-  EXPECT_EQ(Shown("frmEffects.cboStyle"), "bold");
-  Give("frmEffects.cboStyle", "Bold Italic");
-  for (const char* box : {"chkSmallCaps", "chkAllCaps", "chkUnderline"}) Click(std::string("frmEffects.") + box);
-  EXPECT_EQ(m_state->texts.RolloverStyle, kDefaultStyle);
-  Click("frmEffects.cmdClose");
-  EXPECT_EQ(m_state->texts.RolloverStyle,
-            "<style fprolloverstyle>A:hover {color: #FF0000; font-family: Arial; font-size: 12pt; font-style: italic; "
-            "text-transform: uppercase; text-decoration: underline; font-variant: small-caps; font-weight: bold "
-            "}</style>");
-  Click("frmEffects.chkRollover");
-  Click("frmEffects.cmdClose");
-  EXPECT_EQ(m_state->texts.RolloverStyle, "");
-
-  m_ui.yesNo = {false, true};
-  for (const bool answer : {false, true}) {
-    Click("frmEffects.cmdRestoreDefaults");
-    EXPECT_EQ(m_ui.log.back() + m_ui.said.back(), "Confirm Restore Defaults?Are you sure?");
-    EXPECT_EQ(Shown("frmEffects.cboFont"), answer ? "Default Font" : "Arial");
-    EXPECT_EQ(Shown("frmEffects.chkRollover"), answer ? "1" : "0");
-    EXPECT_EQ(Stored("cboFont"), "Arial") << "saves nothing";
-    EXPECT_EQ(m_state->texts.RolloverStyle, "");
+  Click("frmLinkToMAin.ORight");
+  Give("frmLinkToMAin.cboSize", "7");
+  for (const char* box : {"frmLinkToMAin.txtLinkToMain", "frmLinkToMAin.txtLinkToMainOK"}) {
+    EXPECT_TRUE(Get<QLineEdit>(box).alignment().testFlag(Qt::AlignRight)) << box;
+    EXPECT_EQ(Get(box).font().pointSize(), 15) << box;
   }
-}
-
-TEST_F(Looks, ABadColourLeavesWhatCameBeforeShown) {
-  Store("lblHyperlink", "197121");
-  Store("lblActive", "red");
-  ASSERT_TRUE(Start());
-  EXPECT_EQ(Shown("frmEffects.lblHyperlink"), "#010203");
-  EXPECT_EQ(Shown("frmEffects.lblActive"), "#ff0000");
 }
 
 TEST_F(Looks, TheSampleLinkLooksAsInAPage) {
@@ -146,6 +77,8 @@ TEST_F(Looks, TheSampleLinkLooksAsInAPage) {
     QMouseEvent event(type, QPointF(1, 1), QPointF(1, 1), Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(&link, &event);
   };
+  EXPECT_EQ(Get<QComboBox>("frmEffects.cboFont").count(), QFontDatabase::families().size());
+  EXPECT_EQ(ColourOf("frmEffects.lblRColor", QPalette::Window), 4478310);
   const QSize size = link.sizeHint();
   EXPECT_EQ(colour(), 16711680);
   press(QEvent::MouseButtonPress);
@@ -162,14 +95,7 @@ TEST_F(Looks, TheSampleLinkLooksAsInAPage) {
   EXPECT_FALSE(link.font().bold());
 }
 
-TEST_F(Looks, TheContrastIsThatOfThePagesColours) {
-  ASSERT_TRUE(Start());
-  Give("cmdBackColour", "0");
-  Give("cmdForeColour", "16777215");
-  Click("cmdEffects");
-  EXPECT_EQ(Shown("frmEffects.lblTextRatio"), "21.00 : 1");
-  EXPECT_EQ(Shown("frmEffects.lblHyperlinkRatio"), "2.44 : 1, hard to read: choose a lighter color");
-
+TEST(Contrast, AdvisesOnColoursThatAreHardToRead) {
   const struct {
     Colour colour;
     Colour background;
@@ -185,7 +111,7 @@ TEST_F(Looks, TheContrastIsThatOfThePagesColours) {
   for (const auto& c : cases) EXPECT_EQ(FromQt(ContrastAdvice(c.colour, c.background)), c.advice);
 }
 
-TEST_F(Looks, TheRolloverFontRestylesThePages) {
+TEST(RolloverFontTest, RestylesThePagesFont) {
   const std::pair<const char*, double> lengths[] = {{"12pt", 12},   {"10px", 7.5},  {"0.5in", 36}, {"1pc", 12},
                                                     {"2.54cm", 72}, {"25.4mm", 72}, {"12", 0},     {"", 0},
                                                     {"pt", 0},      {"-3pt", 0},    {"big", 0},    {"Default Size", 0}};

@@ -168,17 +168,6 @@ TEST_F(Settings, AFailedStartLosesNoneOfThem) {
   ExpectStored();
 }
 
-TEST_F(Settings, ABadOneThatTheStartDidNotReachIsReportedWhenItsDialogIsShown) {
-  Store("chkBack", "x");
-  Store("WaterMark", "maybe");
-  ASSERT_TRUE(Start());
-  auto& dialog = m_form->OptionDialogs().Get<frmBackground>();
-  dialog.show();
-  dialog.hide();
-  dialog.show();
-  EXPECT_EQ(m_ui.log, (Log{"13 Form Load - MAIN", "13 Form Load - MAIN"}));
-}
-
 // A settings file that cannot be written is told of once; every option still works, and nothing that was typed is lost.
 TEST_F(Settings, AFailureToSaveIsToldOnce) {
   const struct {

@@ -13,23 +13,6 @@ namespace {
 
 class Texts : public FormTest {};
 
-std::string Unescaped(const std::string& text) {
-  std::string plain;
-  for (std::size_t i = 0; i < text.size(); ++i) {
-    if (text[i] == '\\') ++i;
-    plain += i > 0 && text[i - 1] == '\\' && text[i] == 'n' ? '\n' : text[i];
-  }
-  return plain;
-}
-
-std::string TextOf(const QWidget& control, const std::string& property) {
-  if (property != "items") return FromQt(control.property(property.c_str()).toString().remove('&'));
-  std::string items;
-  const auto& list = dynamic_cast<const QComboBox&>(control);
-  for (int i = 0; i < list.count(); ++i) items += (i == 0 ? "" : "\n") + FromQt(list.itemText(i));
-  return items;
-}
-
 // What a person reads, letter for letter; slips in it are meant. A line of the file is control, property and text, with
 // "\n" for a line break, "\\" for a backslash and no "&" of mnemonics; "items" stands for the entries of a list.
 TEST_F(Texts, AreThoseOfTheFile) {
@@ -40,7 +23,9 @@ TEST_F(Texts, AreThoseOfTheFile) {
   for (std::string control, property, text; std::getline(file, control, '\t');) {
     std::getline(file, property, '\t');
     std::getline(file, text);
-    EXPECT_EQ(TextOf(Get(control), property), Unescaped(text)) << control;
+    const bool isList = property == "items";
+    const QString shown = Get(control).property(property.c_str()).toString().remove('&');
+    EXPECT_EQ(isList ? Items(control) : FromQt(shown), Unescaped(text)) << control;
     ++counts[control.substr(0, control.find('.') + 1)];
   }
   EXPECT_EQ(counts.size(), 11U) << "two main forms' kinds of names and nine dialogs";

@@ -56,8 +56,14 @@ TEST_F(CompileFromForm, WritesTheBytesOfTheCommandLine) {
 
 TEST_F(CompileFromForm, ShowsProgressAndThenTheSite) {
   ASSERT_TRUE(Start());
-  ChooseOutput("http://example.org/b/index.html");
+  ChooseOutput("index.txt");
   auto& bar = Get<QProgressBar>("progressCompile");
+  EXPECT_TRUE(bar.sizePolicy().retainSizeWhenHidden());
+  m_ui.onMessage = [&] { EXPECT_FALSE(bar.isVisible()) << "a refused run has not begun"; };
+  Click("cmdCompile");
+  EXPECT_EQ(m_ui.log.size(), 1U);
+  m_ui.onMessage = {};
+  Give("txthttpRoot", "http://example.org/b/index.html");
   EXPECT_FALSE(bar.isVisible());
   std::string last;
   m_ui.onPanel = [&](int panel, std::string_view text) {

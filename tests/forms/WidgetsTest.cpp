@@ -1,7 +1,9 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QDialog>
+#include <QFontDialog>
 #include <QInputDialog>
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -98,6 +100,23 @@ TEST(FormUiTest, NoIsTheDefaultAnswerAndACancelledInputIsEmpty) {
   }
   WhenShown<QMessageBox>([](QMessageBox& box) { box.close(); });
   EXPECT_FALSE(ui.AskYesNo("T", "Q"));
+}
+
+TEST(FormUiTest, TheFontChooserOffersOnlyWhatAPageTakes) {
+  FormUi ui;
+  for (const bool isAccepted : {true, false}) {
+    WhenShown<QFontDialog>([isAccepted](QFontDialog& box) {
+      for (const QCheckBox* effect : box.findChildren<QCheckBox*>()) EXPECT_FALSE(effect->isVisible());
+      QFont font = box.currentFont();
+      font.setPointSize(20);
+      box.setCurrentFont(font);
+      isAccepted ? box.accept() : box.reject();
+    });
+    const SampleText chosen = ui.ChooseFont({"No Such Font", 12, true, false, 0, 0});
+    EXPECT_EQ(chosen.FontName, "No Such Font");
+    EXPECT_EQ(chosen.FontSize, isAccepted ? 20 : 12);
+    EXPECT_TRUE(chosen.FontBold);
+  }
 }
 
 TEST(FormUiTest, TheReportCanBeCopiedWhole) {

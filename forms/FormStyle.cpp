@@ -20,7 +20,7 @@ QColor Between(const QColor& ground, const QColor& text, float part) {
 // The style makes each outline from the window's colour by darkening it, which on a dark window leaves none to see.
 class OutlineStyle : public QProxyStyle {
  public:
-  OutlineStyle() : QProxyStyle(QLatin1String(kStyledHere)) {}
+  explicit OutlineStyle(QObject* owner) : QProxyStyle(QLatin1String(kStyledHere)) { setParent(owner); }
 
   void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                      const QWidget* widget) const override {
@@ -88,7 +88,7 @@ class OutlineStyle : public QProxyStyle {
 }  // namespace
 
 void DressApplication() {
-  if (QApplication::style()->name() == QLatin1String(kStyledHere)) QApplication::setStyle(new OutlineStyle);
+  if (QApplication::style()->name() == QLatin1String(kStyledHere)) QApplication::setStyle(new OutlineStyle(qApp));
 }
 
 }  // namespace folionet

@@ -36,15 +36,30 @@ struct Arguments {
 bool Parse(int argc, char** argv, Arguments& arguments, int& status) {
   CLI::App app("Turns a Bible translation installed by Versalia into a static web site.", "folionet");
   app.set_version_flag("--version", std::string("folionet ") + kVersion);
-  app.add_option("--versalia-path", arguments.folders.versaliaPath, "Versalia's folder, for this run")
+  app.add_option("--versalia-path", arguments.folders.versaliaPath, "Holds Sysdefs and Index (default: Versalia's own)")
       ->type_name("FOLDER");
-  app.add_option("--module-path", arguments.folders.modulePath, "Versalia's module folder, for this run")
+  app.add_option("--module-path", arguments.folders.modulePath,
+                 "Holds Bible (default: Modules in a given Versalia\nfolder, else Versalia's own)")
       ->type_name("FOLDER");
-  app.add_option("--program-folder", arguments.programFolder, "Where default.css and the custom header and footer are")
+  app.add_option("--program-folder", arguments.programFolder,
+                 "Holds default.css (default: the program's if\nwritable, else ~/.local/share/Folionet)")
       ->type_name("FOLDER");
+  app.footer(
+      "The folders count for this run only. F1 in the form explains every control.\n\n"
+      "Example:\n"
+      "  folionet --versalia-path ~/library");
+  const auto refuseEmpty = [](const std::string& value) {
+    return value.empty() ? std::string("a value was expected, but the text given is empty") : std::string();
+  };
+  for (const char* option : {"--versalia-path", "--module-path", "--program-folder"}) {
+    app.get_option(option)->check(refuseEmpty, "");
+  }
+  app.failure_message([](const CLI::App* /*app*/, const CLI::Error& error) {
+    return std::string(error.what()) + "\nSee \"folionet --help\".\n";
+  });
   for (int i = 1; i < argc; ++i) {
     if (!IsUtf8(argv[i])) {
-      std::fprintf(stderr, "Argument %d is not UTF-8 text.\n", i);
+      std::fprintf(stderr, "Argument %d is not UTF-8 text: give it in UTF-8.\n", i);
       status = kExitUsage;
       return false;
     }

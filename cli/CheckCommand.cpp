@@ -1,5 +1,7 @@
 #include "CheckCommand.h"
 
+#include <cstdio>
+
 #include "CatalogueCheck.h"
 #include "FaultList.h"
 #include "TextCheck.h"
@@ -27,7 +29,13 @@ ExitStatus RunCheck(const CommonOptions& common, const std::string& translation,
     CheckText(session.glob, session.glob.BibleFiles[place], faults);
   }
   faults.PrintCount();
-  return faults.Count() == 0 ? kExitDone : kExitRefused;
+  if (faults.Count() == 0) return kExitDone;
+  std::fflush(stdout);
+  std::fputs(count == 0 ? "Give Versalia's folders with --versalia-path FOLDER and --module-path FOLDER, or install a "
+                          "translation in Versalia.\n"
+                        : "Correct these places, or let Versalia install the translation anew, and check again.\n",
+             stderr);
+  return kExitRefused;
 }
 
 }  // namespace folionet

@@ -7,6 +7,7 @@
 #include "CustomHtml.h"
 #include "Effects.h"
 #include "Installation.h"
+#include "PageNames.h"
 #include "Paths.h"
 #include "ProgramFolder.h"
 #include "RunTimeError.h"
@@ -53,6 +54,22 @@ void SelectTranslation(const CompileArguments& arguments, Session& session, Comp
             Outcome::kDone);
 }
 
+// The index page would be written over a chapter's page of the same name.
+void WarnOfSharedName(const CompileRequest& request, const ModGlob& glob, const CodePage& codePage) {
+  const PageNames names(glob.cboStartBook, request.options.chkUse83, codePage);
+  const std::string index = IndexFileName(request.options.txthttpRoot);
+  for (int book = 1; book <= static_cast<int>(glob.cboStartBook.size()); ++book) {
+    for (int chapter = 1; chapter <= glob.ChaptersInBook[static_cast<std::size_t>(book)]; ++chapter) {
+      if (names.OnDisk(book, chapter) != index) continue;
+      std::fprintf(stderr,
+                   "Warning: the index page %s takes the place of a chapter's page. Give it a name of its own with "
+                   "--index-address.\n",
+                   index.c_str());
+      return;
+    }
+  }
+}
+
 void PrintNames(const char* before, const std::vector<std::string>& names) {
   for (const std::string& name : names) std::printf("%s%s\n", before, name.c_str());
 }
@@ -82,7 +99,10 @@ ExitStatus RunCompile(const CommonOptions& common, const CompileArguments& argum
   quietWhenListing.quiet = common.quiet || arguments.listChanged || arguments.dryRun;
   Session session(quietWhenListing);
   session.Override(arguments.settings);
-  if (!arguments.languageFile.empty()) session.store.Override("cboLang", arguments.languageFile);
+  if (!arguments.languageFile.empty()) {
+    session.CheckLanguageFile(arguments.languageFile);
+    session.store.Override("cboLang", arguments.languageFile);
+  }
   session.LoadOptions();
   session.LoadLists(true);
 
@@ -109,6 +129,7 @@ ExitStatus RunCompile(const CommonOptions& common, const CompileArguments& argum
   if (arguments.dryRun || arguments.listChanged) request.changes = &changes;
   request.sitemapAddress = arguments.sitemap;
   request.dryRun = arguments.dryRun;
+  WarnOfSharedName(request, session.glob, session.codePage);
   switch (cmdCompile_Click(request, session.glob, session.ui)) {
     case CompileOutcome::kDone:
       PrintChanges(arguments, changes);

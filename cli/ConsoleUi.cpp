@@ -52,6 +52,9 @@ std::optional<std::string> ConsoleUi::AskText(const InputBox& /*box*/) { return 
 void ConsoleUi::ShowErrorReport(int errorNumber, std::string_view moduleLabel, const std::string& extraInfo) {
   EndProgress();
   Write(stderr, WithNewLines(BuildErrorReport(errorNumber, moduleLabel, extraInfo, ExecutableFolder())));
+  if (const std::string_view step = NextStepAfterReport(errorNumber, moduleLabel); !step.empty()) {
+    Write(stderr, "\n" + std::string(step));
+  }
 }
 
 void ConsoleUi::SetPanel(int panel, std::string_view text) {

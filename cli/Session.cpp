@@ -98,6 +98,13 @@ void Session::LoadLists(bool withCatalogue) {
   }
 }
 
+void Session::CheckLanguageFile(const std::string& name) const {
+  if (!FolderExists(glob.SysdefsPath)) return;
+  if (name.find_first_of("/\\") == std::string::npos && FileExists(SysdefsFile(glob, name))) return;
+  RefuseUsage("--language-file: there is no file of book titles \"" + name +
+              "\". \"folionet-cli list languages\" shows those that are there.");
+}
+
 std::size_t Session::FindTranslation(const std::string& nameOrStem) const {
   const std::size_t count = glob.cboBibleName.size();
   for (const auto* list : {&glob.BibleNames, &glob.BibleFiles}) {

@@ -57,6 +57,9 @@ class Session {
   // Ends the command when that fails.
   void LoadLists(bool withCatalogue);
 
+  // Ends the command when Versalia's folder of definitions is there, but no file of book titles of that name.
+  void CheckLanguageFile(const std::string& name) const;
+
   // The place in BibleNames of a translation, by display name or file stem, exactly or else ignoring case. Ends the
   // command when there is none.
   std::size_t FindTranslation(const std::string& nameOrStem) const;

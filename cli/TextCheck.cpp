@@ -138,8 +138,8 @@ void Compare(const ChapterTable& index, const std::string& indexPath, const Chap
       faults.Add(indexPath, seen.line, place + " stands in the index but not in the text.");
     } else if (found->second.verses != seen.verses) {
       faults.Add(indexPath, seen.line,
-                 place + " has " + std::to_string(seen.verses) + " verses in the index, " +
-                     std::to_string(found->second.verses) + " in the text.");
+                 place + " has " + std::to_string(seen.verses) + (seen.verses == 1 ? " verse" : " verses") +
+                     " in the index, " + std::to_string(found->second.verses) + " in the text.");
     }
   }
   for (const auto& [key, seen] : text) {

@@ -10,8 +10,9 @@ namespace folionet {
 
 ExitStatus RunVerify(const std::string& folder, const std::string& indexName) {
   const std::string index = indexName.empty() ? FindIndexPage(folder) : indexName;
-  if (!FolderExists(folder))
+  if (!FolderExists(folder)) {
     RefuseUsage("There is no folder \"" + folder + "\": give the one that compile wrote into.");
+  }
   if (index.empty()) {
     RefuseUsage("There is no index.html and no index.htm in \"" + folder +
                 "\": give the index page with --index NAME.");
@@ -26,9 +27,15 @@ ExitStatus RunVerify(const std::string& folder, const std::string& indexName) {
     }
     std::printf("%zu pages, %zu links: %zu broken, %zu pages possibly stale.\n", report.pages, report.links,
                 report.broken.size(), report.unreachable.size());
-    return report.IsSound() ? kExitDone : kExitRefused;
+    if (report.IsSound()) return kExitDone;
+    std::fflush(stdout);
+    std::fputs(
+        "Compile into this folder again; then correct what is still broken in the custom header and footer, or "
+        "put the missing file there.\n",
+        stderr);
+    return kExitRefused;
   } catch (const RunTimeError& error) {
-    std::fprintf(stderr, "%s\n", error.what());
+    std::fprintf(stderr, "%s\nSee that it may be read, or give another index page with --index NAME.\n", error.what());
     return kExitFailed;
   }
 }

@@ -9,6 +9,7 @@
 #include "ListCommand.h"
 #include "RunTimeError.h"
 #include "Session.h"
+#include "Usage.h"
 #include "VerifyCommand.h"
 
 namespace folionet {
@@ -17,64 +18,46 @@ namespace {
 // Help texts are wrapped by hand: a line holds 80 columns.
 
 void AddCommonOptions(CLI::App& app, CommonOptions& common) {
-  app.add_option("--versalia-path", common.folders.versaliaPath,
-                 "Versalia's folder, which holds Sysdefs and Index\n(default: Versalia's own setting)")
+  app.add_option("--versalia-path", common.folders.versaliaPath, "Holds Sysdefs and Index (default: Versalia's own)")
       ->type_name("FOLDER");
   app.add_option("--module-path", common.folders.modulePath,
-                 "Versalia's module folder, which holds Bible\n(default: Modules in a given Versalia folder, "
-                 "else\nVersalia's own setting)")
+                 "Holds Bible (default: Modules in a given Versalia\nfolder, else Versalia's own)")
       ->type_name("FOLDER");
   app.add_option("--program-folder", common.programFolder,
-                 "Holds default.css and the custom header and footer\n(default: the program's, if it can be written "
-                 "to,\nelse ~/.local/share/Folionet)")
+                 "Holds default.css (default: the program's if\nwritable, else ~/.local/share/Folionet)")
       ->type_name("FOLDER");
   app.footer(
-      "Every command knows the three folders; they may stand before or after it.\n"
-      "\"folionet-cli COMMAND --help\" shows the options of a command.\n\n"
-      "Exit status: 0 done; 1 refused, or faults were found; 2 a wrong argument;\n"
-      "3 a failure, with the whole report on standard error.\n\n"
+      "\"folionet-cli COMMAND --help\" shows a command's options. Exit status: 0 done;\n"
+      "1 refused, or faults were found; 2 a wrong argument; 3 a failure.\n\n"
       "Example:\n"
       "  folionet-cli compile --output ~/site --index-address index.html");
 }
 
 void AddCompileOptions(CLI::App& compile, CompileArguments& arguments, CommonOptions& common) {
-  compile
-      .add_option("--translation", arguments.translation,
-                  "Display name or file stem (default: the first of\n\"list translations\")")
+  compile.add_option("--translation", arguments.translation, "One of \"list translations\" (default: the first)")
       ->type_name("NAME|STEM");
-  compile
-      .add_option("--language-file", arguments.languageFile,
-                  "Book titles, one of \"list languages\" (default: the\nsetting cboLang, at first BOOKS.TXT)")
+  compile.add_option("--language-file", arguments.languageFile, "One of \"list languages\" (default: setting cboLang)")
       ->type_name("NAME");
   compile.add_option("--start-book", arguments.startBook, "First book of the index page (default: 1)")
       ->type_name("N|TITLE");
   compile.add_option("--end-book", arguments.endBook, "Last book of the index page (default: 66)")
       ->type_name("N|TITLE");
-  compile
-      .add_option("--output", arguments.output,
-                  "Where the pages go; made when missing (default:\nthe setting Dir1, the folder chosen in the form)")
+  compile.add_option("--output", arguments.output, "Where the pages go (default: the setting Dir1)")
       ->type_name("FOLDER");
-  compile
-      .add_option("--index-address", arguments.indexAddress,
-                  "Name or address of the index page: .html, or .htm\nwith Use83=1 (no default)")
+  compile.add_option("--index-address", arguments.indexAddress, "Name or address of the index page (no default)")
       ->type_name("TEXT");
-  compile
-      .add_option("--set", arguments.settings,
-                  "Gives a setting a value for this run; repeatable\n(default: as \"list settings\" shows)")
+  compile.add_option("--set", arguments.settings, "Gives a setting a value; repeatable (no default)")
       ->type_name("KEY=VALUE")
       ->expected(1)
       ->take_all();
-  compile
-      .add_option("--sitemap", arguments.sitemap,
-                  "Also write sitemap.xml, for a site at this public\naddress (default: none is written)")
+  compile.add_option("--sitemap", arguments.sitemap, "Write sitemap.xml for this address (default: none)")
       ->type_name("ADDRESS");
   compile.add_flag("--list-changed", arguments.listChanged, "Print the names of the pages whose bytes changed");
-  compile.add_flag("--dry-run", arguments.dryRun,
-                   "Write nothing; print what would be new, changed,\nthe same, removed");
+  compile.add_flag("--dry-run", arguments.dryRun, "Write nothing; print what each page would become");
   compile.add_flag("--quiet", common.quiet, "Say nothing when all goes well");
   compile.footer(
-      "Files in the output folder that bear a page's name are overwritten, and the\n"
-      "pages of the books before the start book deleted.\n\n"
+      "Pages that are there are overwritten, those of books before the start book\n"
+      "deleted. \"folionet-cli list settings\" shows the settings and their values.\n\n"
       "Example:\n"
       "  folionet-cli compile --translation KJV --output ~/site \\\n"
       "                       --index-address index.html --set chkCSS=1");
@@ -82,6 +65,10 @@ void AddCompileOptions(CLI::App& compile, CompileArguments& arguments, CommonOpt
 
 void AddList(CLI::App& app, std::string& subject) {
   CLI::App* list = app.add_subcommand("list", "Shows what can be chosen, or the settings");
+  const auto isSubject = [](const std::string& what) {
+    const bool isKnown = what == "translations" || what == "languages" || what == "books" || what == "settings";
+    return isKnown ? std::string() : "translations, languages, books or settings was expected: \"" + what + "\"";
+  };
   list->add_option("WHAT", subject,
                    "translations: file stem and name of each;\n"
                    "languages: the files of book titles;\n"
@@ -89,7 +76,7 @@ void AddList(CLI::App& app, std::string& subject) {
                    "settings: KEY=VALUE, stored or default")
       ->required()
       ->type_name("")
-      ->check(CLI::IsMember({"translations", "languages", "books", "settings"}).description(""));
+      ->check(isSubject, "");
   list->footer(
       "Example:\n"
       "  folionet-cli list translations");
@@ -99,7 +86,7 @@ void AddCheck(CLI::App& app, std::string& translation, std::vector<std::string>&
   CLI::App* check = app.add_subcommand("check", "Reads a library and names every fault in it");
   check->add_option("--translation", translation, "Display name or file stem (default: all of them)")
       ->type_name("NAME|STEM");
-  check->add_option("--set", settings, "Gives a setting a value for this run")
+  check->add_option("--set", settings, "Gives a setting a value; repeatable (no default)")
       ->type_name("KEY=VALUE")
       ->expected(1)
       ->take_all();
@@ -157,6 +144,8 @@ ExitStatus Main(int argc, char** argv) {
   std::string folder;
   std::string indexName;
   AddVerify(app, folder, indexName);
+  RefuseEmptyValues(app);
+  app.failure_message(UsageText);
 
   bool parsed = false;
   const ExitStatus status = Parse(app, argc, argv, parsed);

@@ -30,6 +30,8 @@ fs::path VersaliaSettingsFile() {
   return folder / "Versalia.ini";
 }
 
+bool CanRegister(const std::string& folder) { return folder.find_first_of("\"\\") == std::string::npos; }
+
 void RegisterLibrary(const fs::path& settings, const std::string& folder) {
   MakeFolder(settings.parent_path());
   QSettings store(QString::fromStdString(settings.string()), QSettings::IniFormat);

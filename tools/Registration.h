@@ -9,6 +9,10 @@ namespace folionet::tools {
 // folder.
 std::filesystem::path VersaliaSettingsFile();
 
+// Whether a folder can be noted: not one with a quote or a backslash in its path, which programs read back in more than
+// one way.
+bool CanRegister(const std::string& folder);
+
 // Notes in `settings` where the library is: VersaliaPath and ModulePath in the section Module_Path. `folder` is
 // absolute and ends in "/". Other settings stay. Throws LibraryError, naming the file, when it cannot be read or
 // written.

@@ -61,6 +61,13 @@ int Run(int argc, char** argv) {
     std::cerr << "make_library: " << refusal << '\n';
     return kUsage;
   }
+  const std::string folder = AbsoluteFolder(request.folder);
+  if (registerIt && !CanRegister(folder)) {
+    std::cerr << "make_library: --register: " << folder
+              << ": expected a folder without \" and \\ in its path; choose another, or leave --register out and give "
+                 "the folder with --versalia-path\n";
+    return kUsage;
+  }
   Build(input, request, registerIt);
   return 0;
 }

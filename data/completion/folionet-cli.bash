@@ -32,7 +32,7 @@ _folionet_cli() {
       common+=" --list-changed --dry-run --quiet"
       ;;
     list) common="translations languages books settings $common" ;;
-    check) common+=" --translation" ;;
+    check) common+=" --translation --set" ;;
     verify)
       common+=" --index"
       [[ $word == -* ]] || { mapfile -t COMPREPLY < <(compgen -d -- "$word"); return; }

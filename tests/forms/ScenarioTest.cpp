@@ -55,6 +55,7 @@ Line Parsed(const std::string& text, const std::string& place) {
 std::vector<Scenario> ReadScenarios() {
   std::vector<Scenario> scenarios;
   for (const auto& entry : std::filesystem::directory_iterator(FORM_SCENARIOS)) {
+    if (entry.path().extension() != ".txt") continue;  // such as an editor's copy
     std::ifstream file(entry.path());
     int number = 0;
     for (std::string text; std::getline(file, text);) {

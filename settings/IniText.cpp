@@ -67,6 +67,19 @@ void ReadLine(std::string_view line, std::string& section, IniValues& values) {
                           IsWholeQuoted(value) ? Unquoted(value.substr(1, value.size() - 2)) : std::string(value));
 }
 
+std::string ValueText(std::string_view value) {
+  constexpr std::string_view kNeedsQuotes("\"\r\n\0", 4);
+  if (value == Trimmed(value) && value.find_first_of(kNeedsQuotes) == std::string_view::npos) return std::string(value);
+  std::string quoted = "\"";
+  for (const char c : value) {
+    const auto* const escape = std::find_if(std::begin(kEscapes), std::end(kEscapes),
+                                            [&](const Escape& known) { return known.character == c; });
+    if (escape != std::end(kEscapes)) quoted += '\\';
+    quoted += escape != std::end(kEscapes) ? escape->letter : c;
+  }
+  return quoted + '"';
+}
+
 }  // namespace
 
 IniValues ParseIni(std::string_view text) {
@@ -86,17 +99,20 @@ IniValues ParseIni(std::string_view text) {
   return values;
 }
 
-std::string IniValueText(std::string_view value) {
-  constexpr std::string_view kNeedsQuotes("\"\r\n\0", 4);
-  if (value == Trimmed(value) && value.find_first_of(kNeedsQuotes) == std::string_view::npos) return std::string(value);
-  std::string quoted = "\"";
-  for (const char c : value) {
-    const auto* const escape = std::find_if(std::begin(kEscapes), std::end(kEscapes),
-                                            [&](const Escape& known) { return known.character == c; });
-    if (escape != std::end(kEscapes)) quoted += '\\';
-    quoted += escape != std::end(kEscapes) ? escape->letter : c;
+std::string BuildIni(const IniValues& values) {
+  std::string text;
+  std::string_view section;
+  for (const auto& [name, value] : values) {
+    const std::size_t slash = name.find('/');
+    const std::string_view own = std::string_view(name).substr(0, slash == std::string::npos ? 0 : slash);
+    if (own != section) {
+      if (!text.empty()) text += '\n';
+      text.append("[").append(own).append("]\n");
+      section = own;
+    }
+    text.append(name, slash == std::string::npos ? 0 : slash + 1).append("=").append(ValueText(value)).append("\n");
   }
-  return quoted + '"';
+  return text;
 }
 
 }  // namespace folionet

@@ -21,8 +21,8 @@ using IniValues = std::map<std::string, std::string, std::less<>>;
 // last holds. Bytes that are not UTF-8 become U+FFFD. Any text can be read.
 IniValues ParseIni(std::string_view text);
 
-// A value as ParseIni reads it back: as it stands or, where it begins or ends with a blank, or holds a quote, a line
-// break or NUL, in double quotes.
-std::string IniValueText(std::string_view value);
+// The text that ParseIni reads back as these values, section by section. A value stands as it is or, where it begins or
+// ends with a blank, or holds a quote, a line break or NUL, in double quotes.
+std::string BuildIni(const IniValues& values);
 
 }  // namespace folionet

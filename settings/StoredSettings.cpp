@@ -47,6 +47,10 @@ std::optional<std::string> StoredSettings::Stored(std::string_view application, 
   return found == area->second.end() ? std::nullopt : std::optional(found->second);
 }
 
+void StoredSettings::Take(std::string_view application, IniValues values) const {
+  m_areas.insert_or_assign(std::string(application), std::move(values));
+}
+
 void StoredSettings::Override(std::string_view key, std::string value) {
   m_overrides.insert_or_assign(std::string(key), std::move(value));
 }

@@ -15,7 +15,6 @@ namespace folionet {
 // The per-user option texts, to be read: one INI file "<application>.ini" per application name in one folder, in the
 // form that IniText.h tells. All texts are UTF-8.
 //
-// A program that only reads them needs nothing else, Qt least of all, whose loading takes longer than the reading.
 class StoredSettings {
  public:
   // `folder` is where the files are.
@@ -58,6 +57,9 @@ class StoredSettings {
 
   // The value stored under NameOf's name; nothing when there is none. The file is read once.
   virtual std::optional<std::string> Stored(std::string_view application, const std::string& name) const;
+
+  // Takes what a file holds now in the place of what was read.
+  void Take(std::string_view application, IniValues values) const;
 
   const std::string& Folder() const { return m_folder; }
 

@@ -145,12 +145,17 @@ std::optional<std::string> ReadIfThere(const std::string& path, std::size_t long
 
 void ReplaceWholeFile(const std::string& path, std::string_view bytes) { Replacement(path).Commit(bytes); }
 
-void AppendToFile(const std::string& path, std::string_view bytes) {
+void EditWholeFile(const std::string& path, std::size_t longest,
+                   const std::function<std::string(std::string content)>& edit) {
   Replacement replacement(path);
-  std::string content = ReadIfThere(path).value_or("");
-  if (!content.empty() && content.back() != '\n') content += "\r\n";
-  content += bytes;
-  replacement.Commit(content);
+  replacement.Commit(edit(ReadIfThere(path, longest).value_or("")));
+}
+
+void AppendToFile(const std::string& path, std::string_view bytes) {
+  EditWholeFile(path, std::size_t{64} << 20, [&](std::string content) {
+    if (!content.empty() && content.back() != '\n') content += "\r\n";
+    return content.append(bytes);
+  });
 }
 
 }  // namespace folionet

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -16,6 +17,11 @@ std::optional<std::string> ReadIfThere(const std::string& path, std::size_t long
 // which then takes its place. A link is followed. Of two programs that do so at once, the second waits for the first.
 // Throws RunTimeError, and the old content stands.
 void ReplaceWholeFile(const std::string& path, std::string_view bytes);
+
+// Replaces a file's content, which is empty when there is no such file, by what `edit` makes of it, with the same
+// promise: whatever another program does to the file so comes before or after. A file over `longest` bytes is refused.
+void EditWholeFile(const std::string& path, std::size_t longest,
+                   const std::function<std::string(std::string content)>& edit);
 
 // Adds bytes at the end of a file, which is made when missing, on a line of their own and with the same promise.
 void AppendToFile(const std::string& path, std::string_view bytes);

@@ -35,6 +35,9 @@ TEST(EffectsTest, RolloverStyleKeepsTheFixedOrder) {
             "<style fprolloverstyle>A:hover {color: #FF0000; font-family: Arial; font-size: 12pt; font-style: italic; "
             "text-transform: uppercase; text-decoration: underline; font-variant: small-caps; font-weight: bold "
             "}</style>");
+  options.chkAllCaps = false;
+  EXPECT_EQ(Effects(options).RolloverStyle.find("uppercase"), std::string::npos);
+  EXPECT_NE(Effects(options).RolloverStyle.find("small-caps"), std::string::npos);
   options.chkRollover = false;
   EXPECT_EQ(Effects(options).RolloverStyle, "");
   options = Defaults();

@@ -42,7 +42,7 @@ TEST(SettingsStoreTest, ReadsWhatAPersonEdited) {
       {"Keywords=", ""},
   };
   for (const auto& c : cases) {
-    const TemporaryFolder folder;  // of its own, for QSettings may take a file of the same size and time for the same
+    const TemporaryFolder folder;
     folder.Write("Folionet.ini", "\xEF\xBB\xBF[Keys]\r\n" + c.line + "\r\n");
     EXPECT_EQ(SettingsStore(folder.Path()).Text("Keywords"), c.text) << c.line;
   }

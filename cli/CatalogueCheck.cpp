@@ -16,7 +16,7 @@ bool CheckVerseFile(const RecordReader& records, const std::string& name, const 
   if (FileExists(text)) return true;
   std::string fault = "The text of " + Quoted(name) + " is missing: " + text;
   try {
-    LineReader reader(text);
+    const LineReader reader(text);
   } catch (const RunTimeError& error) {
     if (error.Number() != kFileNotFound && error.Number() != kPathNotFound) {
       fault = "The text of " + Quoted(name) + " cannot be read: " + text + ": " + error.Detail();

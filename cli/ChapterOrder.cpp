@@ -7,11 +7,11 @@ namespace {
 
 std::string Range(int from, int to) { return std::to_string(from) + (to > from ? " to " + std::to_string(to) : ""); }
 
+}  // namespace
+
 std::string Place(int book, int chapter) {
   return "Book " + std::to_string(book) + " chapter " + std::to_string(chapter);
 }
-
-}  // namespace
 
 void ChapterOrder::CheckStep(int book, int chapter, std::size_t line) {
   if (book < m_book || (book == m_book && chapter < m_chapter)) {

@@ -9,6 +9,9 @@
 
 namespace folionet {
 
+// A chapter's name in a message: "Book 1 chapter 1"
+std::string Place(int book, int chapter);
+
 // A chapter as a file has it: how many verses, and where it begins.
 struct ChapterSeen {
   int verses = 0;

@@ -18,10 +18,6 @@ namespace {
 
 constexpr std::int64_t kByteMax = 255;
 
-std::string Place(int book, int chapter) {
-  return "Book " + std::to_string(book) + " chapter " + std::to_string(chapter);
-}
-
 void CheckIndexRecord(RecordReader& records, const std::array<std::string, 7>& fields, ChapterOrder& order,
                       FaultList& faults) {
   const std::string& path = records.Lines().Path();

@@ -45,8 +45,8 @@ void StyleOptions::EnableDisableOptions() {
 }
 
 void StyleOptions::PickColour(Colour SampleText::*colour) {
-  SampleText& sample = m_state.options.txtSample;
-  sample.*colour = m_state.ui.ChooseColour(sample.*colour);
+  Colour& picked = m_state.options.txtSample.*colour;
+  picked = m_state.ui.ChooseColour(picked);
   ShowSample();
 }
 

@@ -3,7 +3,7 @@
 namespace folionet {
 namespace {
 
-constexpr CustomHtmlDialogKind kKind{
+constexpr CustomHtmlDialogKind kHeaderDialog{
     kCustomHeader,
     "frmCustomHeader",
     "Custom Header - Paste HTML Code here.",
@@ -16,6 +16,6 @@ constexpr CustomHtmlDialogKind kKind{
 
 }  // namespace
 
-frmCustomHeader::frmCustomHeader(AppState& state, QWidget* parent) : CustomHtmlDialog(state, kKind, parent) {}
+frmCustomHeader::frmCustomHeader(AppState& state, QWidget* parent) : CustomHtmlDialog(state, kHeaderDialog, parent) {}
 
 }  // namespace folionet

@@ -3,7 +3,7 @@
 namespace folionet {
 namespace {
 
-constexpr CustomHtmlDialogKind kKind{
+constexpr CustomHtmlDialogKind kFooterDialog{
     kCustomFooter,
     "frmCustomizeFooter",
     "Custom Footer - Paste HTML Code here.",
@@ -17,6 +17,6 @@ constexpr CustomHtmlDialogKind kKind{
 
 }  // namespace
 
-frmCustomizeFooter::frmCustomizeFooter(AppState& state, QWidget* parent) : CustomHtmlDialog(state, kKind, parent) {}
+frmCustomizeFooter::frmCustomizeFooter(AppState& state, QWidget* parent) : CustomHtmlDialog(state, kFooterDialog, parent) {}
 
 }  // namespace folionet

@@ -57,13 +57,14 @@ void PageTitles::CutAtWords(const Stage& stage) {
     if (isLast) break;
     text.remove_prefix(chapterAt + kChapterWord.size());
   }
-  m_isFarFromLimits = m_pieces.size() + static_cast<std::size_t>(stage.replacements) < kMostReplacements &&
-                      stage.text.size() + m_pieces.size() * kLongestNumbers < kLongestText;
+  m_joinedLength = stage.text.size() + m_pieces.size() * kLongestNumbers;
+  m_isFarFromLimits = m_joinedLength < kLongestText &&
+                      m_pieces.size() + static_cast<std::size_t>(stage.replacements) < kMostReplacements;
 }
 
 std::string PageTitles::Joined(std::string_view chapter, const std::string& verses) const {
   std::string text;
-  text.reserve(m_withBook->text.size() + kLongestNumbers * m_pieces.size());
+  text.reserve(m_joinedLength);
   for (const Piece& piece : m_pieces) {
     text += piece.text;
     if (piece.wordBehind == Word::kChapter) text += chapter;

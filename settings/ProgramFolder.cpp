@@ -41,7 +41,7 @@ std::string ExecutableFolder() {
 
 std::string ProgramFolderPath(const std::string& chosen) {
   if (!chosen.empty()) return WithSeparator(NativePath(chosen));
-  std::string own = ExecutableFolder();
+  const std::string own = ExecutableFolder();
   return FileExists(own + "default.css") && access(own.c_str(), W_OK) == 0 ? own : UserDataFolder();
 }
 

@@ -15,8 +15,6 @@ namespace {
 
 constexpr int kFirstOtherNumber = 1000;
 constexpr std::size_t kFieldCount = 4;
-constexpr std::string_view kBlanks = " \t";
-constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
 void SkipBlanks(std::string_view& text) { text.remove_prefix(std::min(text.find_first_not_of(kBlanks), text.size())); }
 
@@ -100,16 +98,16 @@ std::string WithTranslation(std::string_view content, const std::string& file, s
       text += whole;
       continue;
     }
-    const auto fields = SplitRecord(record);
-    const auto id = fields && fields->size() == kFieldCount ? ReadNumber(fields->at(0)) : std::nullopt;
-    if (!id || !ReadNumber(fields->at(1))) {
+    const std::vector<std::string> fields = SplitRecord(record).value_or(std::vector<std::string>());
+    const auto id = fields.size() == kFieldCount ? ReadNumber(fields[0]) : std::nullopt;
+    if (!id || !ReadNumber(fields[1])) {
       throw LibraryError(file + ":" + std::to_string(number) + ": \"" + std::string(record) +
                          "\": expected number,integer,\"name\",\"stem\"");
     }
     taken.insert(*id);
-    if (*id < kFirstOtherNumber && SameIgnoringCase(fields->at(3), stem)) {
+    if (*id < kFirstOtherNumber && SameIgnoringCase(fields[3], stem)) {
       // A second record of the stem would list the translation twice.
-      if (!placed) text += fields->at(0) + "," + fields->at(1) + "," + tail;
+      if (!placed) text += fields[0] + "," + fields[1] + "," + tail;
       placed = true;
     } else {
       text += whole;

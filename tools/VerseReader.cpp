@@ -16,9 +16,7 @@ namespace {
 
 // The chapter index keeps numbers and verse counts in a byte.
 constexpr int kHighestNumber = 255;
-constexpr std::string_view kBlanks = " \t";
 constexpr std::string_view kDigits = "0123456789";
-constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
 struct Line {
   std::size_t number = 0;

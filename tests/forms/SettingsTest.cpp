@@ -194,7 +194,7 @@ TEST_F(Settings, AFailureToSaveIsToldOnce) {
     Give(control, control == "cboLang" ? "BOOKS_DUTCH.TXT" : "4");
     Give("chkUseNames", "");
     std::erase_if(m_ui.log, [](const std::string& box) { return box.starts_with("C"); });  // boxes that ask or inform
-    EXPECT_EQ(m_ui.log, Log{"75 " + label});
+    EXPECT_EQ(m_ui.log, Log{"76 " + label});
   }
   EXPECT_TRUE(m_hasEnded);
 }
@@ -203,7 +203,7 @@ TEST_F(Settings, AreReadWhereTheyCannotBeWritten) {
   BlockSettings();
   m_given = {m_home.Path() + "library/", ""};
   ASSERT_TRUE(Start());
-  EXPECT_EQ(m_ui.log, Log{"75 SetFontSize"});
+  EXPECT_EQ(m_ui.log, Log{"76 SetFontSize"});
   EXPECT_NE(Shown("frmLinkToMAin.txtBackToString"), "");
 }
 

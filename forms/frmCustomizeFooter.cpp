@@ -17,6 +17,7 @@ constexpr CustomHtmlDialogKind kFooterDialog{
 
 }  // namespace
 
-frmCustomizeFooter::frmCustomizeFooter(AppState& state, QWidget* parent) : CustomHtmlDialog(state, kFooterDialog, parent) {}
+frmCustomizeFooter::frmCustomizeFooter(AppState& state, QWidget* parent)
+    : CustomHtmlDialog(state, kFooterDialog, parent) {}
 
 }  // namespace folionet

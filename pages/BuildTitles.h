@@ -56,8 +56,8 @@ class PageTitles {
   std::string_view m_bible;
   std::optional<Stage> m_withBible;
   std::optional<Stage> m_withBook;
-  std::string m_book;           // of m_withBook
-  std::vector<Piece> m_pieces;  // of m_withBook, for pages whose chapter is a plain number
+  std::string m_book;              // of m_withBook
+  std::vector<Piece> m_pieces;     // of m_withBook, for pages whose chapter is a plain number
   std::size_t m_joinedLength = 0;  // at most
   bool m_namesVerses = false;
   bool m_isFarFromLimits = false;

@@ -36,12 +36,6 @@ TEST(PageNamesTest, LinkAndFileAreOneNameInTwoEncodings) {
   EXPECT_EQ(PageNames({"x"}, true, CodePage()).OnDisk(1, 7), "01_007.htm");
 }
 
-TEST(PageNamesTest, TheIndexNameFollowsTheLastSlash) {
-  EXPECT_EQ(IndexFileName("index.html"), "index.html");
-  EXPECT_EQ(IndexFileName("https://a.b/c/main.html"), "main.html");
-  EXPECT_EQ(IndexFileName("a.b/"), "");
-}
-
 TEST(PageNamesTest, NamesThatLeadElsewhereAreRefused) {
   for (const char* name : {"genesis_1.html", "...", ".a", "a b", "é.html", "\xE9", "a:b"}) {
     EXPECT_TRUE(IsPageName(name)) << name;

@@ -160,26 +160,26 @@ FAULTY_OPENAT(openat64)
 int __open_2(const char* path, int flags) { return Open(AT_FDCWD, path, flags, 0); }
 int __open64_2(const char* path, int flags) { return Open(AT_FDCWD, path, flags, 0); }
 
-ssize_t read(int descriptor, void* bytes, std::size_t count) {
-  return Transfer("read", SYS_read, descriptor, bytes, count, -1);
-}
+#define FAULTY_TRANSFER(name, call, number, Bytes)                \
+  ssize_t name(int descriptor, Bytes* bytes, std::size_t count) { \
+    return Transfer(call, number, descriptor, bytes, count, -1);  \
+  }
+FAULTY_TRANSFER(read, "read", SYS_read, void)
+FAULTY_TRANSFER(write, "write", SYS_write, const void)
+#undef FAULTY_TRANSFER
+
+#define FAULTY_TRANSFER_AT(name, call, number, Bytes)                           \
+  ssize_t name(int descriptor, Bytes* bytes, std::size_t count, off_t offset) { \
+    return Transfer(call, number, descriptor, bytes, count, offset);            \
+  }
+FAULTY_TRANSFER_AT(pread, "read", SYS_pread64, void)
+FAULTY_TRANSFER_AT(pread64, "read", SYS_pread64, void)
+FAULTY_TRANSFER_AT(pwrite, "write", SYS_pwrite64, const void)
+FAULTY_TRANSFER_AT(pwrite64, "write", SYS_pwrite64, const void)
+#undef FAULTY_TRANSFER_AT
+
 ssize_t __read_chk(int descriptor, void* bytes, std::size_t count, std::size_t /*room*/) {
-  return Transfer("read", SYS_read, descriptor, bytes, count, -1);
-}
-ssize_t pread(int descriptor, void* bytes, std::size_t count, off_t offset) {
-  return Transfer("read", SYS_pread64, descriptor, bytes, count, offset);
-}
-ssize_t pread64(int descriptor, void* bytes, std::size_t count, off_t offset) {
-  return Transfer("read", SYS_pread64, descriptor, bytes, count, offset);
-}
-ssize_t write(int descriptor, const void* bytes, std::size_t count) {
-  return Transfer("write", SYS_write, descriptor, bytes, count, -1);
-}
-ssize_t pwrite(int descriptor, const void* bytes, std::size_t count, off_t offset) {
-  return Transfer("write", SYS_pwrite64, descriptor, bytes, count, offset);
-}
-ssize_t pwrite64(int descriptor, const void* bytes, std::size_t count, off_t offset) {
-  return Transfer("write", SYS_pwrite64, descriptor, bytes, count, offset);
+  return read(descriptor, bytes, count);
 }
 
 int ftruncate(int descriptor, off_t length) noexcept {

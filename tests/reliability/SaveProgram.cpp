@@ -7,29 +7,18 @@
 //
 // Ends with 3 and a line on standard error when that fails.
 
-#include <cstdio>
 #include <iostream>
 #include <string>
 
 #include "CustomHtml.h"
 #include "EncodingLists.h"
 #include "OptionSaving.h"
+#include "RecordingUi.h"
 #include "RunTimeError.h"
 #include "SettingsStore.h"
 
 namespace folionet {
 namespace {
-
-class PrintingUi : public UserInterface {
- public:
-  void ShowMessage(const Message& message) override { std::cerr << message.text << '\n'; }
-  bool AskYesNo(const std::string& /*title*/, const std::string& /*text*/) override { return false; }
-  std::optional<std::string> AskText(const InputBox& /*box*/) override { return std::nullopt; }
-  void ShowErrorReport(int errorNumber, std::string_view moduleLabel, const std::string& extraInfo) override {
-    std::cerr << errorNumber << ' ' << moduleLabel << ' ' << extraInfo << '\n';
-  }
-  void SetPanel(int /*panel*/, std::string_view /*text*/) override {}
-};
 
 void SaveSettings(const std::string& folder, const std::string& text) {
   SettingsStore store(folder);
@@ -39,11 +28,13 @@ void SaveSettings(const std::string& folder, const std::string& text) {
 }
 
 bool Save(const std::string& what, const std::string& folder, const std::string& text) {
-  PrintingUi ui;
+  test::RecordingUi ui;
   if (what == "settings") {
     SaveSettings(folder, text);
   } else if (what == "header") {
-    return SaveCustomHtml(folder + "/", kCustomHeader, CodePage(), text, ui);
+    const bool isSaved = SaveCustomHtml(folder + "/", kCustomHeader, CodePage(), text, ui);
+    for (const std::string& report : ui.said) std::cerr << report << '\n';
+    return isSaved;
   } else if (what == "record") {
     AppendEncodingRecord(folder + "/" + kLanguageList, CodePage(), {"xx", text});
   } else if (what == "read") {

@@ -14,9 +14,9 @@ namespace {
 namespace fs = std::filesystem;
 
 // Runs both commands at the same time, so many times each one after the other.
-void RunBoth(const std::string& folder, const std::vector<std::string>& one, const std::vector<std::string>& other,
-             int times, const std::function<void(const ProgramResult&)>& check) {
-  const auto runAll = [&](const std::vector<std::string>& command, std::vector<ProgramResult>& results) {
+void RunBoth(const std::string& folder, const Command& one, const Command& other, int times,
+             const std::function<void(const ProgramResult&)>& check) {
+  const auto runAll = [&](const Command& command, std::vector<ProgramResult>& results) {
     for (int i = 0; i < times; ++i) results.push_back(RunProgram(command, folder));
   };
   std::vector<ProgramResult> ofOne;
@@ -32,38 +32,38 @@ void RunBoth(const std::string& folder, const std::vector<std::string>& one, con
 
 constexpr int kTimes = 40;
 
-TEST(TwoAtOnce, SettingsAreThoseOfOneOfBoth) {
-  const TemporaryFolder home;
-  home.Write("Folionet.ini", "[Keys]\nKeywords=kept\n");
-  const auto save = [&](const std::string& text) {
-    return std::vector<std::string>{SAVE_PROGRAM, "settings", home.Path(), text};
-  };
-  const std::string one(3000, '1');
-  const std::string other(7000, '2');
-  RunBoth(home.Path(), save(one), save(other), kTimes,
-          [](const ProgramResult& result) { EXPECT_EQ(result.status, 0) << result.errors; });
-  const std::string stored = RunProgram({SAVE_PROGRAM, "read", home.Path()}, home.Path()).output;
-  EXPECT_TRUE(stored == one + "\n" || stored == other + "\n") << stored.substr(0, 100);
-  EXPECT_NE(home.Read("Folionet.ini").find("Keywords=kept"), std::string::npos);
-  EXPECT_EQ(ReadFolder(home.Path()).size(), 1U);
-}
-
-TEST(TwoAtOnce, AHeaderIsThatOfOneOfBoth) {
-  const TemporaryFolder home;
-  const std::string one(30000, '1');
-  const std::string other(100000, '2');
-  RunBoth(home.Path(), {SAVE_PROGRAM, "header", home.Path(), one}, {SAVE_PROGRAM, "header", home.Path(), other}, kTimes,
-          [&](const ProgramResult& result) { EXPECT_EQ(result.status, 0) << result.errors; });
-  const std::string stored = home.Read("CustomHeader.txt");
-  EXPECT_TRUE(stored == one + "\r\n" || stored == other + "\r\n") << stored.size();
-  EXPECT_EQ(ReadFolder(home.Path()).size(), 1U);
+TEST(TwoAtOnce, WhatIsSavedIsThatOfOneOfBoth) {
+  const struct {
+    const char* what;
+    const char* file;
+    const char* before;
+  } cases[] = {{"settings", "Folionet.ini", "[Keys]\nKeywords=kept\n"}, {"header", "CustomHeader.txt", "kept"}};
+  for (const auto& c : cases) {
+    const auto save = [&](const TemporaryFolder& home, const std::string& text) {
+      return Command{SAVE_PROGRAM, c.what, home.Path(), text};
+    };
+    const std::string one(3000, '1');
+    const std::string other(70000, '2');
+    FolderContent saved[2];
+    for (int i = 0; i < 2; ++i) {
+      const TemporaryFolder alone;
+      alone.Write(c.file, c.before);
+      RunProgram(save(alone, i == 0 ? one : other), alone.Path());
+      saved[i] = ReadFolder(alone.Path());
+    }
+    ASSERT_NE(saved[0], saved[1]);
+    const TemporaryFolder home;
+    home.Write(c.file, c.before);
+    RunBoth(home.Path(), save(home, one), save(home, other), kTimes,
+            [](const ProgramResult& result) { EXPECT_EQ(result.status, 0) << result.errors; });
+    const FolderContent now = ReadFolder(home.Path());
+    EXPECT_TRUE(now == saved[0] || now == saved[1]) << c.what;
+  }
 }
 
 TEST(TwoAtOnce, NoAddedRecordIsLost) {
   const TemporaryFolder home;
-  const auto add = [&](const char* text) {
-    return std::vector<std::string>{SAVE_PROGRAM, "record", home.Path(), text};
-  };
+  const auto add = [&](const char* text) { return Command{SAVE_PROGRAM, "record", home.Path(), text}; };
   RunBoth(home.Path(), add("one"), add("other"), kTimes,
           [](const ProgramResult& result) { EXPECT_EQ(result.status, 0) << result.errors; });
   const std::string stored = home.Read("lang.txt");

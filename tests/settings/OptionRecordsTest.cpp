@@ -129,14 +129,5 @@ TEST(CustomHtmlTest, AnotherCharsetFindsTheSameText) {
   EXPECT_TRUE(ui.said.empty());
 }
 
-TEST(CustomHtmlTest, FailuresAreReported) {
-  const TemporaryFolder folder;
-  test::RecordingUi ui;
-  const std::string missing = folder.Path() + "none/";
-  EXPECT_FALSE(SaveCustomHtml(missing, kCustomFooter, CodePage(), "x", ui));
-  EXPECT_EQ(ui.said, std::vector<std::string>{"76 Unload_Form: CustomFooter.txt\r\n" + missing +
-                                              "CustomFooter.txt\r\nNo such file or directory"});
-}
-
 }  // namespace
 }  // namespace folionet

@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <QSettings>
 #include <functional>
 
 #include "RunTimeError.h"
@@ -46,15 +45,6 @@ TEST(SettingsStoreTest, ReadsWhatAPersonEdited) {
     folder.Write("Folionet.ini", "\xEF\xBB\xBF[Keys]\r\n" + c.line + "\r\n");
     EXPECT_EQ(SettingsStore(folder.Path()).Text("Keywords"), c.text) << c.line;
   }
-}
-
-TEST(SettingsStoreTest, ReadsFilesThatQtWrote) {
-  const TemporaryFolder folder;
-  QSettings qt(QString::fromStdString(folder.Path() + "Versalia.ini"), QSettings::IniFormat);
-  qt.setValue("Module_Path/VersaliaPath", "/home/José, senior/Versalia/");
-  qt.sync();
-  EXPECT_EQ(SettingsStore(folder.Path()).GetSetting("Versalia", "Module_Path", "VersaliaPath", ""),
-            "/home/José, senior/Versalia/");
 }
 
 TEST(SettingsStoreTest, KeepsKeysThatItDoesNotKnow) {

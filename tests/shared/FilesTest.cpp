@@ -31,35 +31,11 @@ TEST(PathsTest, FindsNamesInAnyLetterCaseAndTheExactOneFirst) {
   for (const auto& c : cases) EXPECT_EQ(LocateIgnoringCase(folder.Path(), c.name), folder.Path() + c.found) << c.name;
 }
 
-TEST(PathsTest, OnlyReadableFilesExist) {
-  const test::TemporaryFolder folder;
-  const std::string file = folder.Write("file", "x");
-  ASSERT_EQ(mkfifo((folder.Path() + "pipe").c_str(), 0600), 0);
-  EXPECT_TRUE(FileExists(file));
-  EXPECT_FALSE(FileExists(folder.Path()));
-  EXPECT_FALSE(FileExists(folder.Path() + "none"));
-  EXPECT_FALSE(FileExists(folder.Path() + "pipe"));
-  EXPECT_TRUE(FolderExists(folder.Path()));
-  EXPECT_FALSE(FolderExists(file));
-}
-
 TEST(PathsTest, SeparatorsOfEitherKindAreTaken) {
   EXPECT_EQ(WithSeparator("/a"), "/a/");
   EXPECT_EQ(WithSeparator("/a/"), "/a/");
   EXPECT_EQ(WithSeparator("C:\\"), "C:\\");
   EXPECT_EQ(NativePath("a\\b/c"), "a/b/c");
-}
-
-TEST(WholeFileTest, ReplacesAndAppendsWithoutLeftovers) {
-  const test::TemporaryFolder folder;
-  const std::string path = folder.Path() + "file";
-  ReplaceWholeFile(path, "one");
-  EXPECT_EQ(ReadWholeFile(path), "one");
-  AppendToFile(path, "two\r\n");
-  EXPECT_EQ(folder.Read("file"), "one\r\ntwo\r\n");
-  AppendToFile(path, "three\r\n");
-  EXPECT_EQ(folder.Read("file"), "one\r\ntwo\r\nthree\r\n");
-  EXPECT_EQ(ListFolder(folder.Path()), std::vector<std::string>{"file"});
 }
 
 TEST(WholeFileTest, FollowsALinkAndKeepsTheMode) {
@@ -71,15 +47,6 @@ TEST(WholeFileTest, FollowsALinkAndKeepsTheMode) {
   EXPECT_TRUE(std::filesystem::is_symlink(folder.Path() + "link"));
   EXPECT_EQ(folder.Read("target"), "new");
   EXPECT_EQ(static_cast<int>(std::filesystem::status(target).permissions()), 0640);
-}
-
-TEST(WholeFileTest, AFailureLeavesTheOldContent) {
-  const test::TemporaryFolder folder;
-  const std::string path = folder.Write("file", "old");
-  std::filesystem::create_directory(folder.Path() + "file.new");
-  EXPECT_THROW(ReplaceWholeFile(path, "new"), RunTimeError);
-  EXPECT_EQ(folder.Read("file"), "old");
-  EXPECT_THROW(ReadWholeFile(path, 2), RunTimeError);
 }
 
 }  // namespace

@@ -62,12 +62,5 @@ TEST(ColoursTest, EveryPartHasTwoDigits) {
   for (const auto& c : cases) EXPECT_EQ(HtmlColour(c.colour), c.html) << c.colour;
 }
 
-TEST(RunTimeErrorTest, NumbersHaveFixedTexts) {
-  EXPECT_EQ(StandardMessage(53), "File not found");
-  EXPECT_EQ(StandardMessage(76), "Path not found");
-  EXPECT_EQ(StandardMessage(55), "File already open");
-  EXPECT_EQ(StandardMessage(380), "Application-defined or object-defined error");
-}
-
 }  // namespace
 }  // namespace folionet

@@ -20,16 +20,23 @@ constexpr std::string_view kVersesWord = "%vs%";
                      "The replacement does not end. Its value: " + Quoted(value));
 }
 
-// Replaces the first occurrence until there is none. The search need not start over: text before a replacement holds
-// no occurrence that does not reach into it.
+// Replaces the first occurrence until there is none, those included that a value makes with what stands around it. Each
+// character is looked at once, however often a text grows: the first occurrence is the one that ends first.
 void ReplaceAll(std::string& text, std::string_view word, std::string_view value, int& replacements) {
-  std::size_t at = text.find(word);
-  // A value that brings its own word back never ends; going on to the limits would only move a long text many times.
-  if (at != std::string::npos && value.find(word) != std::string_view::npos) FailEndless(word, value);
-  while (at != std::string::npos) {
-    text.replace(at, word.size(), value);
-    if (++replacements > kMostReplacements || text.size() > kLongestText) FailEndless(word, value);
-    at = text.find(word, at < word.size() ? 0 : at - (word.size() - 1));
+  const std::size_t first = text.find(word);
+  if (first == std::string::npos) return;
+  // A value that brings its own word back never ends.
+  if (value.find(word) != std::string_view::npos) FailEndless(word, value);
+  // What is still to be looked at, the next character last.
+  std::string rest(text.rbegin(), text.rend() - static_cast<std::ptrdiff_t>(first));
+  text.resize(first);
+  while (!rest.empty()) {
+    text += rest.back();
+    rest.pop_back();
+    if (text.back() != word.back() || !text.ends_with(word)) continue;
+    text.resize(text.size() - word.size());
+    rest.append(value.rbegin(), value.rend());
+    if (++replacements > kMostReplacements || text.size() + rest.size() > kLongestText) FailEndless(word, value);
   }
 }
 

@@ -63,5 +63,17 @@ TEST(BuildTitlesTest, EndsAReplacementThatFeedsItself) {
   }
 }
 
+TEST(BuildTitlesTest, ReplacesTenThousandWordsAndNoMore) {
+  const VerseCounts counts(GenesisOnly());
+  for (const std::string word : {"%bk%", "%ch%"}) {
+    std::string pattern;
+    for (int i = 0; i < 10000; ++i) pattern += word;
+    test::RecordingUi ui;
+    EXPECT_EQ(BuildTitles(pattern, {"", "1", "1"}, counts, ui), std::string(10000, '1'));
+    EXPECT_EQ(BuildTitles(pattern + word, {"", "1", "1"}, counts, ui), std::nullopt);
+    EXPECT_EQ(ui.said.size(), 1U);
+  }
+}
+
 }  // namespace
 }  // namespace folionet

@@ -3,6 +3,7 @@
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QShortcut>
+#include <utility>
 
 #include "BuildInfo.h"
 #include "Compile.h"
@@ -80,6 +81,11 @@ void frmMain::ConnectCommands() {
   connect(m_ui->cmdPageEncoding, &QPushButton::clicked, this, &frmMain::OpenEncoding);
   connect(m_ui->cmdHelp, &QPushButton::clicked, this, &frmMain::ShowHelp);
   connect(new QShortcut(QKeySequence(Qt::Key_F1), this), &QShortcut::activated, this, &frmMain::ShowHelp);
+  // Not the buttons' own shortcuts, which setting their translated texts clears.
+  for (const auto& [key, button] : {std::pair{QKeySequence(Qt::CTRL | Qt::Key_O), m_ui->cmdOpenIndex},
+                                    std::pair{QKeySequence(Qt::Key_F8), m_ui->cmdCheckSite}}) {
+    connect(new QShortcut(key, this), &QShortcut::activated, button, &QPushButton::click);
+  }
   connect(m_ui->cmdRestoreAll, &QPushButton::clicked, this, &frmMain::RestoreAll);
   connect(m_ui->cmdClose, &QPushButton::clicked, this, &QWidget::close);
 }

@@ -286,8 +286,8 @@
         <translation>Die Indexseite der zuletzt erzeugten Website zeigen (Strg+O).</translation>
     </message>
     <message>
-        <source>Look for links that lead nowhere in the site that was compiled last (Ctrl+K).</source>
-        <translation>In der zuletzt erzeugten Website nach Links ohne Ziel suchen (Strg+K).</translation>
+        <source>Look for links that lead nowhere in the site that was compiled last (F8).</source>
+        <translation>In der zuletzt erzeugten Website nach Links ohne Ziel suchen (F8).</translation>
     </message>
 </context>
 <context>

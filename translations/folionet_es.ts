@@ -286,8 +286,8 @@
         <translation>Mostrar la página índice del último sitio compilado (Ctrl+O).</translation>
     </message>
     <message>
-        <source>Look for links that lead nowhere in the site that was compiled last (Ctrl+K).</source>
-        <translation>Buscar enlaces que no llevan a ninguna parte en el último sitio compilado (Ctrl+K).</translation>
+        <source>Look for links that lead nowhere in the site that was compiled last (F8).</source>
+        <translation>Buscar enlaces que no llevan a ninguna parte en el último sitio compilado (F8).</translation>
     </message>
 </context>
 <context>

@@ -92,6 +92,24 @@ TEST_F(CompileFromForm, ShowsProgressAndThenTheSite) {
   EXPECT_EQ(m_ui.log.back(), "53 cmdCheckSite_Click");
 }
 
+// The keys of the two buttons, which setting their texts must not clear, do nothing before there is a site.
+TEST_F(CompileFromForm, KeysShowTheSiteThatWasCompiled) {
+  ASSERT_TRUE(Start());
+  ChooseOutput();
+  QApplication::setActiveWindow(m_form.get());
+  const auto pressKeys = [this] {
+    QTest::keyClick(m_form.get(), Qt::Key_O, Qt::ControlModifier);
+    QTest::keyClick(m_form.get(), Qt::Key_F8);
+  };
+  pressKeys();
+  EXPECT_EQ(m_ui.pageShown + Shown("frmMain.StatusBar1_Panel1"), "");
+  EXPECT_EQ(m_ui.log, Log{});
+  Click("cmdCompile");
+  pressKeys();
+  EXPECT_EQ(m_ui.pageShown, m_home.Path() + "site/index.html");
+  EXPECT_EQ(m_ui.log, (Log{"Compilation Complete Folionet", "Check site"}));
+}
+
 // During a run, clicks and keys go nowhere, not even later, and the form does not close.
 TEST_F(CompileFromForm, ARunTakesNoInput) {
   ASSERT_TRUE(Start());

@@ -141,15 +141,18 @@ SampleText FormUi::ChooseFont(const SampleText& initial) {
   font.setBold(initial.FontBold);
   font.setItalic(initial.FontItalic);
   // A font that is not installed here shows as the one that stands in for it, with that one's styles, which must not
-  // take its place unless it is chosen.
+  // take its place unless it is chosen, be it by coming back to it from another.
   font.setFamilies({QFontInfo(font).family()});
   QFontDialog dialog(font, Owner());
   HideEffects(dialog);
   const QString shown = dialog.currentFont().family();
+  bool isFamilyChosen = false;
+  QObject::connect(&dialog, &QFontDialog::currentFontChanged, &dialog,
+                   [&](const QFont& current) { isFamilyChosen = isFamilyChosen || current.family() != shown; });
   if (dialog.exec() != QDialog::Accepted) return initial;
   font = dialog.selectedFont();
   SampleText chosen = initial;
-  if (font.family() != shown) chosen.FontName = FromQt(font.family());
+  if (isFamilyChosen || font.family() != shown) chosen.FontName = FromQt(font.family());
   chosen.FontSize = font.pointSizeF();
   chosen.FontBold = font.bold();
   chosen.FontItalic = font.italic();

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QDialog>
+#include <QFontDatabase>
 #include <QFontDialog>
 #include <QInputDialog>
 #include <QKeyEvent>
@@ -117,6 +118,25 @@ TEST(FormUiTest, TheFontChooserOffersOnlyWhatAPageTakes) {
     EXPECT_EQ(chosen.FontSize, isAccepted ? 20 : 12);
     EXPECT_TRUE(chosen.FontBold);
   }
+}
+
+// What stands in for a font that is not installed is taken when the person comes back to it from another.
+TEST(FormUiTest, AStandInIsTakenOnceAFontWasChosen) {
+  FormUi ui;
+  std::string standIn;
+  WhenShown<QFontDialog>([&](QFontDialog& box) {
+    const QFont shown = box.currentFont();
+    standIn = FromQt(shown.family());
+    QFont other = shown;
+    for (const QString& family : QFontDatabase::families()) {
+      if (family != shown.family()) other.setFamilies({family});
+    }
+    ASSERT_NE(other.family(), shown.family());
+    box.setCurrentFont(other);
+    box.setCurrentFont(shown);
+    box.accept();
+  });
+  EXPECT_EQ(ui.ChooseFont({"No Such Font", 12, false, false, 0, 0}).FontName, standIn);
 }
 
 TEST(FormUiTest, TheReportCanBeCopiedWhole) {

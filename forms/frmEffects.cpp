@@ -13,6 +13,15 @@
 #include "ui_frmEffects.h"
 
 namespace folionet {
+namespace {
+
+// The arrow keys go on from the entry that is shown, and start at the first one from a text that is no entry.
+void ShowText(QComboBox& list, const std::string& text) {
+  list.setCurrentIndex(list.findText(ToQt(text), Qt::MatchExactly | Qt::MatchCaseSensitive));
+  list.setEditText(ToQt(text));
+}
+
+}  // namespace
 
 frmEffects::frmEffects(AppState& state, QWidget* parent)
     : LoadedDialog(state.ui, parent),
@@ -101,9 +110,9 @@ void frmEffects::Close() {
 // Setting a control writes its field: each gets its own value back.
 void frmEffects::ShowRecord() {
   const EffectsOptions record = m_record;
-  m_ui->cboFont->setEditText(ToQt(record.cboFont));
-  m_ui->cboSize->setEditText(ToQt(record.cboSize));
-  m_ui->cboStyle->setEditText(ToQt(record.cboStyle));
+  ShowText(*m_ui->cboFont, record.cboFont);
+  ShowText(*m_ui->cboSize, record.cboSize);
+  ShowText(*m_ui->cboStyle, record.cboStyle);
   m_ui->chkSmallCaps->setChecked(record.chkSmallCaps);
   m_ui->chkAllCaps->setChecked(record.chkAllCaps);
   m_ui->chkUnderline->setChecked(record.chkUnderline);

@@ -3,6 +3,7 @@
 #include <QFontDatabase>
 #include <QLineEdit>
 #include <QMouseEvent>
+#include <QTest>
 
 #include "Contrast.h"
 #include "FormTest.h"
@@ -93,6 +94,25 @@ TEST_F(Looks, TheSampleLinkLooksAsInAPage) {
   Click("frmEffects.chkRollover");
   EXPECT_EQ(colour(), 16711680);
   EXPECT_FALSE(link.font().bold());
+}
+
+// The arrow keys start at the first entry from a text that is none, and go on from one that is.
+TEST_F(Looks, ArrowKeysWalkTheEffectsLists) {
+  Store("cboSize", "12pt");
+  ASSERT_TRUE(Start());
+  auto& sizes = Get<QComboBox>("frmEffects.cboSize");
+  QTest::keyClick(&sizes, Qt::Key_Down);
+  EXPECT_EQ(FromQt(sizes.currentText()), "14pt");
+  m_ui.yesNo = {true};
+  Click("frmEffects.cmdRestoreDefaults");
+  for (const char* name : {"frmEffects.cboSize", "frmEffects.cboFont"}) {
+    auto& list = Get<QComboBox>(name);
+    EXPECT_EQ(list.currentIndex(), -1);
+    EXPECT_TRUE(list.currentText().startsWith(QStringLiteral("Default "))) << name;
+    QTest::keyClick(&list, Qt::Key_Down);
+    EXPECT_EQ(list.currentText(), list.itemText(0));
+  }
+  EXPECT_EQ(m_state->options.frmEffects.cboSize, "8pt");
 }
 
 TEST(Contrast, AdvisesOnColoursThatAreHardToRead) {

@@ -7,11 +7,26 @@
 #include "SiteCheck.h"
 
 namespace folionet {
+namespace {
+
+// Prints a line on standard output. Links and file names may hold control characters, which a terminal would obey.
+void PrintShown(std::string line) {
+  for (std::size_t i = 0; i < line.size(); ++i) {
+    const auto byte = static_cast<unsigned char>(line[i]);
+    const auto next = static_cast<unsigned char>(i + 1 < line.size() ? line[i + 1] : 0);
+    if (byte < 0x20 || byte == 0x7F) line[i] = '?';
+    if (byte == 0xC2 && next >= 0x80 && next <= 0x9F) line.replace(i, 2, "?");  // U+0080 to U+009F
+  }
+  std::printf("%s\n", line.c_str());
+}
+
+}  // namespace
 
 ExitStatus RunVerify(const std::string& folder, const std::string& indexName) {
   const std::string index = indexName.empty() ? FindIndexPage(folder) : indexName;
   if (!FolderExists(folder)) {
-    RefuseUsage("There is no folder \"" + folder + "\": give the one that compile wrote into.");
+    RefuseUsage((FileExists(folder) ? "This is no folder: \"" : "There is no folder \"") + folder +
+                "\": give the one that compile wrote into.");
   }
   if (index.empty()) {
     RefuseUsage("There is no index.html and no index.htm in \"" + folder +
@@ -20,13 +35,16 @@ ExitStatus RunVerify(const std::string& folder, const std::string& indexName) {
   try {
     const SiteReport report = CheckSite(folder, index);
     for (const BrokenLink& link : report.broken) {
-      std::printf("%s:%zu: \"%s\" %s.\n", link.page.c_str(), link.line, link.target.c_str(), FaultText(link).c_str());
+      PrintShown(link.page + ":" + std::to_string(link.line) + ": \"" + link.target + "\" " + FaultText(link) + ".");
     }
+    const std::string unreached =
+        ": no page that " + index + " leads to links here: left from an earlier compile, or outside the chosen books.";
     for (const std::string& page : report.unreachable) {
-      std::printf("%s: %s does not lead here; it may be stale.\n", page.c_str(), index.c_str());
+      PrintShown(page + unreached);
     }
-    std::printf("%zu pages, %zu links: %zu broken, %zu pages possibly stale.\n", report.pages, report.links,
+    std::printf("%zu pages, %zu links: %zu broken, %zu pages not reached.\n", report.pages, report.links,
                 report.broken.size(), report.unreachable.size());
+    if (report.leadOut > 0) std::printf("%zu links lead out of the folder and were not followed.\n", report.leadOut);
     if (report.IsSound()) return kExitDone;
     std::fflush(stdout);
     std::fputs(

@@ -2,19 +2,34 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
+
+#include "CharacterReferences.h"
 
 namespace folionet {
 namespace {
 
 constexpr std::array<std::string_view, 3> kAttributes{"href", "src", "background"};
 
+// Elements whose content is no markup.
+constexpr std::array<std::string_view, 4> kRawElements{"script", "style", "title", "textarea"};
+
 char Lower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
 
-bool IsBlank(char c) { return c == ' ' || c == '\t' || c == '\r' || c == '\n'; }
+bool IsBlank(char c) { return c == ' ' || c == '\t' || c == '\r' || c == '\n' || c == '\f'; }
 
 bool EqualsLower(std::string_view text, std::string_view lower) {
   return text.size() == lower.size() &&
          std::equal(text.begin(), text.end(), lower.begin(), [](char a, char b) { return Lower(a) == b; });
+}
+
+// The first place from `at` on where a page has this lower-case text in any letter case; the page's end when there is
+// none.
+std::size_t FindLower(std::string_view page, std::string_view lower, std::size_t at) {
+  const auto* const found =
+      std::search(page.begin() + static_cast<std::ptrdiff_t>(std::min(at, page.size())), page.end(), lower.begin(),
+                  lower.end(), [](char a, char b) { return Lower(a) == b; });
+  return static_cast<std::size_t>(found - page.begin());
 }
 
 std::size_t SkipBlanks(std::string_view text, std::size_t at) {
@@ -68,50 +83,100 @@ bool HasScheme(std::string_view link) {
   return end != std::string_view::npos && end > 0 && link[end] == ':';
 }
 
-}  // namespace
-
-std::vector<PageLink> FindPageLinks(std::string_view page) {
-  std::vector<PageLink> links;
-  std::size_t line = 1;
-  std::size_t counted = 0;
-  bool inTag = false;
-  for (std::size_t at = 0; at < page.size();) {
-    if (page[at] == '<' || page[at] == '>') {
-      inTag = page[at++] == '<';
-      continue;
-    }
-    const std::size_t end = NameEnd(page, at);
-    if (end == at || !inTag || at == 0 || !IsBlank(page[at - 1])) {
-      at = std::max(end, at + 1);
-      continue;
-    }
-    const std::string_view name = page.substr(at, end - at);
-    std::size_t behind = SkipBlanks(page, end);
-    const bool names = std::any_of(kAttributes.begin(), kAttributes.end(),
-                                   [&](std::string_view attribute) { return EqualsLower(name, attribute); });
-    at = end;
-    if (!names || behind >= page.size() || page[behind] != '=') continue;
-    const std::string_view value = TakeValue(page, behind);
-    line += static_cast<std::size_t>(std::count(page.begin() + static_cast<std::ptrdiff_t>(counted),
-                                                page.begin() + static_cast<std::ptrdiff_t>(at), '\n'));
-    counted = at;
-    links.push_back({value, line});
-    at = behind;
-  }
-  return links;
+std::string_view Trimmed(std::string_view text) {
+  while (!text.empty() && IsBlank(text.front())) text.remove_prefix(1);
+  while (!text.empty() && IsBlank(text.back())) text.remove_suffix(1);
+  return text;
 }
 
+// Goes through a page's tags once, from its start to its end.
+class LinkFinder {
+ public:
+  explicit LinkFinder(std::string_view page) : m_page(page) {}
+
+  std::vector<PageLink> Find() {
+    while (m_at < m_page.size()) {
+      if (m_page[m_at] == '<') {
+        OpenTag();
+      } else if (m_page[m_at] == '>') {
+        CloseTag();
+      } else {
+        ReadName();
+      }
+    }
+    return std::move(m_links);
+  }
+
+ private:
+  void OpenTag() {
+    if (m_page.substr(m_at).starts_with("<!--")) {
+      m_at = std::min(m_page.find("-->", m_at + 2), m_page.size());  // "<!-->" is a whole comment
+      m_inTag = false;
+      return;
+    }
+    m_inTag = true;
+    ++m_at;
+    const std::string_view name = m_page.substr(m_at, NameEnd(m_page, m_at) - m_at);
+    const auto* const raw = std::find_if(kRawElements.begin(), kRawElements.end(),
+                                         [&](std::string_view element) { return EqualsLower(name, element); });
+    m_rawElement = raw == kRawElements.end() ? std::string_view() : *raw;
+  }
+
+  void CloseTag() {
+    ++m_at;
+    if (m_inTag && !m_rawElement.empty()) m_at = FindLower(m_page, "</" + std::string(m_rawElement), m_at);
+    m_inTag = false;
+  }
+
+  void ReadName() {
+    const std::size_t start = m_at;
+    const std::size_t end = NameEnd(m_page, start);
+    m_at = std::max(end, start + 1);
+    if (end == start || !m_inTag || start == 0 || !IsBlank(m_page[start - 1])) return;
+    const std::string_view name = m_page.substr(start, end - start);
+    std::size_t behind = SkipBlanks(m_page, end);
+    const bool names = std::any_of(kAttributes.begin(), kAttributes.end(),
+                                   [&](std::string_view attribute) { return EqualsLower(name, attribute); });
+    if (!names || behind >= m_page.size() || m_page[behind] != '=') return;
+    const std::string_view value = TakeValue(m_page, behind);
+    m_line += static_cast<std::size_t>(std::count(m_page.begin() + static_cast<std::ptrdiff_t>(m_counted),
+                                                  m_page.begin() + static_cast<std::ptrdiff_t>(end), '\n'));
+    m_counted = end;
+    m_links.push_back({value, m_line});
+    m_at = behind;
+  }
+
+  std::string_view m_page;
+  std::size_t m_at = 0;
+  bool m_inTag = false;
+  std::string_view m_rawElement;  // of the tag at hand; empty for any other element
+  std::size_t m_line = 1;
+  std::size_t m_counted = 0;  // the lines up to here are in m_line
+  std::vector<PageLink> m_links;
+};
+
+}  // namespace
+
+std::vector<PageLink> FindPageLinks(std::string_view page) { return LinkFinder(page).Find(); }
+
 std::string FindPageCharset(std::string_view page) {
-  constexpr std::string_view kBefore = "charset=";
-  const std::size_t found = page.find(kBefore);
-  if (found == std::string_view::npos) return "windows-1252";
-  const std::size_t start = found + kBefore.size();
-  return std::string(page.substr(start, page.find_first_of("\"'> ;\r\n", start) - start));
+  constexpr std::string_view kName = "charset";
+  for (std::size_t at = FindLower(page, "<meta", 0); at < page.size(); at = FindLower(page, "<meta", at + 1)) {
+    const std::string_view tag = page.substr(at, std::min(page.find('>', at), page.size()) - at);
+    std::size_t found = SkipBlanks(tag, FindLower(tag, kName, 0) + kName.size());
+    if (found >= tag.size() || tag[found] != '=') continue;
+    found = SkipBlanks(tag, found + 1);
+    if (found < tag.size() && (tag[found] == '"' || tag[found] == '\'')) ++found;
+    return std::string(tag.substr(found, tag.find_first_of("\"'/ ;\r\n", found) - found));
+  }
+  return "windows-1252";
 }
 
 std::string LocalTarget(std::string_view link) {
-  if (HasScheme(link) || link.starts_with("//")) return {};
-  return PercentDecoded(link.substr(0, link.find_first_of("?#")));
+  const std::string resolved = WithoutCharacterReferences(link);
+  const std::string_view address = Trimmed(resolved);
+  if (HasScheme(address) || address.starts_with("//")) return {};
+  return PercentDecoded(address.substr(0, address.find_first_of("?#")));
 }
 
 }  // namespace folionet

@@ -14,14 +14,15 @@ struct PageLink {
 };
 
 // The values of every "href", "src" and "background" attribute of a page's tags, in any letter case, quoted or not. A
-// tag whose quotes do not match, as one of the index page's does, hides no attribute behind it.
+// tag whose quotes do not match, as one of the index page's does, hides no attribute behind it. What stands in a
+// comment, or in an element whose content is no markup (a script, a style, a title, a text area), is passed over.
 std::vector<PageLink> FindPageLinks(std::string_view page);
 
-// The charset that a page's META line declares; windows-1252 when it declares none.
+// The charset that a META line of a page declares in either form; windows-1252 when it declares none.
 std::string FindPageCharset(std::string_view page);
 
-// The path that a link leads to, relative to the page's folder, in UTF-8, percent-decoded and without query and
-// fragment; empty for a link into the page itself or to another site.
+// The path that a link (in UTF-8) leads to, relative to the page's folder: blanks around it, character references and
+// percent-encoding are resolved, query and fragment are gone. Empty for a link into the page itself or to another site.
 std::string LocalTarget(std::string_view link);
 
 }  // namespace folionet

@@ -1,9 +1,10 @@
 #include "SiteCheck.h"
 
-#include <filesystem>
+#include <algorithm>
 #include <map>
 #include <optional>
 #include <set>
+#include <string_view>
 #include <utility>
 
 #include "CodePage.h"
@@ -23,6 +24,30 @@ bool IsPage(const std::string& name) {
     }
   }
   return false;
+}
+
+// The path that a link's target leads to, without "." and ".."; it ends in "/" when it must be a folder, and is "./"
+// for the folder of the pages. Nothing when it leads out of that folder.
+std::optional<std::string> PathInFolder(std::string_view target) {
+  if (target.starts_with('/')) return std::nullopt;
+  std::vector<std::string_view> parts;
+  bool isFolder = false;
+  for (std::size_t start = 0; start <= target.size();) {
+    const std::size_t end = std::min(target.find('/', start), target.size());
+    const std::string_view part = target.substr(start, end - start);
+    isFolder = part.empty() || part == "." || part == "..";
+    if (part == "..") {
+      if (parts.empty()) return std::nullopt;
+      parts.pop_back();
+    } else if (!isFolder) {
+      parts.push_back(part);
+    }
+    start = end + 1;
+  }
+  std::string path;
+  for (const std::string_view part : parts) path.append(path.empty() ? "" : "/").append(part);
+  if (path.empty()) return "./";
+  return isFolder ? path + "/" : path;
 }
 
 class SiteChecker {
@@ -52,26 +77,30 @@ class SiteChecker {
       const std::string shown = codePage.Decode(link.value);
       const std::string target = LocalTarget(shown);
       if (target.empty()) continue;
+      const auto path = PathInFolder(target);
+      if (!path) {
+        ++m_report.leadOut;
+        continue;
+      }
       ++m_report.links;
       std::string otherCase;
-      if (const auto fault = FindFault(target, otherCase)) {
+      if (const auto fault = FindFault(*path, otherCase)) {
         m_report.broken.push_back({name, link.line, codePage.DecodeForDisplay(link.value), *fault, otherCase});
       } else {
-        linked.insert(target);
+        linked.insert(*path == "./" ? FindIndexPage(m_folder) : *path);
       }
     }
   }
 
   // Why there is no file behind a link; nothing when there is one.
-  std::optional<LinkFault> FindFault(const std::string& target, std::string& otherCase) const {
-    if (m_names.contains(target)) return std::nullopt;
-    if (target.front() == '/' || std::filesystem::path(target).lexically_normal().string().starts_with("..")) {
-      return LinkFault::kLeadsOut;
-    }
-    if (target.find('\\') != std::string::npos) return LinkFault::kBackslash;
-    if (target.find('/') != std::string::npos && FileExists(m_folder + target)) return std::nullopt;
-    const std::string other = LocateIgnoringCase(m_folder, target);
-    if (!FileExists(other)) return LinkFault::kMissing;
+  std::optional<LinkFault> FindFault(const std::string& path, std::string& otherCase) const {
+    if (m_names.contains(path)) return std::nullopt;
+    if (path.find('\0') != std::string::npos) return LinkFault::kMissing;
+    if (path.find('\\') != std::string::npos) return LinkFault::kBackslash;
+    const bool below = path.find('/') != std::string::npos;
+    if (below && (FolderExists(m_folder + path) || FileExists(m_folder + path))) return std::nullopt;
+    const std::string other = LocateIgnoringCase(m_folder, path);
+    if (!FileExists(other) && !FolderExists(other)) return LinkFault::kMissing;
     otherCase = other.substr(m_folder.size());
     return LinkFault::kOtherCase;
   }
@@ -103,8 +132,6 @@ std::string FaultText(const BrokenLink& link) {
   switch (link.fault) {
     case LinkFault::kOtherCase:
       return "is there in another letter case only, " + link.otherCase;
-    case LinkFault::kLeadsOut:
-      return "leads out of the folder";
     case LinkFault::kBackslash:
       return "holds \"\\\", which no address does";
     case LinkFault::kMissing:

@@ -7,7 +7,7 @@
 namespace folionet {
 
 // Why there is no file behind a link.
-enum class LinkFault { kMissing, kOtherCase, kLeadsOut, kBackslash };
+enum class LinkFault { kMissing, kOtherCase, kBackslash };
 
 // A page that names something that is not there.
 struct BrokenLink {
@@ -26,15 +26,17 @@ struct SiteReport {
   std::vector<BrokenLink> broken;
   std::vector<std::string> unreachable;  // pages that the index does not lead to, however many links are followed
   std::size_t pages = 0;
-  std::size_t links = 0;  // those that lead to files of the site
+  std::size_t links = 0;    // those that lead to files of the site
+  std::size_t leadOut = 0;  // those that lead out of the folder, and were not followed
 
   bool IsSound() const { return broken.empty(); }
 };
 
 // Reads every page (".html" and ".htm") of a folder, and looks for the file behind each link, image and style sheet
-// that it names: in the folder or below it, in exactly this letter case. Addresses with a scheme or a host are not
-// followed. `indexName` is the file name of the index page. Throws RunTimeError when the folder or a page cannot be
-// read, or when there is no such index page.
+// that it names: in the folder or below it, in exactly this letter case; a folder will do for an address that names
+// one. Addresses with a scheme or a host, and those that lead out of the folder, are not followed. `indexName` is the
+// file name of the index page. Throws RunTimeError when the folder or a page cannot be read, or when there is no such
+// index page.
 SiteReport CheckSite(const std::string& folder, const std::string& indexName);
 
 // The index page of a folder: "index.html" or "index.htm"; empty when there is neither.

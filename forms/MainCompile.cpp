@@ -22,8 +22,6 @@ QString LinkSentence(const BrokenLink& link) {
     case LinkFault::kOtherCase:
       return QObject::tr("%1, line %2: \"%3\" is there in another letter case only, %4.")
           .arg(ToQt(link.page), Shown(link.line), ToQt(link.target), ToQt(link.otherCase));
-    case LinkFault::kLeadsOut:
-      return worded(QObject::tr("%1, line %2: \"%3\" leads out of the folder."));
     case LinkFault::kBackslash:
       return worded(QObject::tr("%1, line %2: \"%3\" holds \"\\\", which no address does."));
     case LinkFault::kMissing:
@@ -58,9 +56,13 @@ void ShowSiteReport(const std::string& indexPage, UserInterface& ui) {
   const std::size_t slash = indexPage.rfind('/') + 1;
   try {
     const SiteReport report = CheckSite(indexPage.substr(0, slash), indexPage.substr(slash));
-    std::string text = FromQt(QObject::tr("%1 pages, %2 links: %3 broken, %4 pages possibly stale.")
+    std::string text = FromQt(QObject::tr("%1 pages, %2 links: %3 broken, %4 pages not reached.")
                                   .arg(Shown(report.pages), Shown(report.links), Shown(report.broken.size()),
                                        Shown(report.unreachable.size())));
+    if (report.leadOut > 0) {
+      text += "\r\n" +
+              FromQt(QObject::tr("%1 links lead out of the folder and were not followed.").arg(Shown(report.leadOut)));
+    }
     for (std::size_t i = 0; i < report.broken.size() && i < kShown; ++i) {
       text += "\r\n" + FromQt(LinkSentence(report.broken[i]));
     }

@@ -12,8 +12,8 @@
         <translation>Es konnte kein Browser gestartet werden. Die Seite ist:</translation>
     </message>
     <message>
-        <source>%1 pages, %2 links: %3 broken, %4 pages possibly stale.</source>
-        <translation>%1 Seiten, %2 Links: %3 ohne Ziel, %4 Seiten vielleicht veraltet.</translation>
+        <source>%1 pages, %2 links: %3 broken, %4 pages not reached.</source>
+        <translation>%1 Seiten, %2 Links: %3 ohne Ziel, %4 Seiten nicht erreicht.</translation>
     </message>
     <message>
         <source>%1: the index does not lead here.</source>
@@ -44,8 +44,8 @@
         <translation>%1, Zeile %2: „%3“ gibt es nur in anderer Groß- und Kleinschreibung, %4.</translation>
     </message>
     <message>
-        <source>%1, line %2: &quot;%3&quot; leads out of the folder.</source>
-        <translation>%1, Zeile %2: „%3“ führt aus dem Ordner hinaus.</translation>
+        <source>%1 links lead out of the folder and were not followed.</source>
+        <translation>%1 Links führen aus dem Ordner hinaus und wurden nicht verfolgt.</translation>
     </message>
     <message>
         <source>%1, line %2: &quot;%3&quot; holds &quot;\&quot;, which no address does.</source>

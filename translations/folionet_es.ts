@@ -12,8 +12,8 @@
         <translation>No se pudo abrir ningún navegador. La página es:</translation>
     </message>
     <message>
-        <source>%1 pages, %2 links: %3 broken, %4 pages possibly stale.</source>
-        <translation>%1 páginas, %2 enlaces: %3 rotos, %4 páginas quizá obsoletas.</translation>
+        <source>%1 pages, %2 links: %3 broken, %4 pages not reached.</source>
+        <translation>%1 páginas, %2 enlaces: %3 rotos, %4 páginas no alcanzadas.</translation>
     </message>
     <message>
         <source>%1: the index does not lead here.</source>
@@ -44,8 +44,8 @@
         <translation>%1, línea %2: «%3» existe solo con otras mayúsculas y minúsculas, %4.</translation>
     </message>
     <message>
-        <source>%1, line %2: &quot;%3&quot; leads out of the folder.</source>
-        <translation>%1, línea %2: «%3» sale de la carpeta.</translation>
+        <source>%1 links lead out of the folder and were not followed.</source>
+        <translation>%1 enlaces salen de la carpeta y no se siguieron.</translation>
     </message>
     <message>
         <source>%1, line %2: &quot;%3&quot; holds &quot;\&quot;, which no address does.</source>

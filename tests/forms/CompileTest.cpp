@@ -81,11 +81,11 @@ TEST_F(CompileFromForm, ShowsProgressAndThenTheSite) {
 
   Click("cmdCheckSite");
   EXPECT_EQ(m_ui.log.back(), "Check site");
-  EXPECT_TRUE(m_ui.said.back().ends_with(" links: 0 broken, 0 pages possibly stale.")) << m_ui.said.back();
+  EXPECT_TRUE(m_ui.said.back().ends_with(" links: 0 broken, 0 pages not reached.")) << m_ui.said.back();
   m_home.Write("site/old.html", "<a href=\"none.html\">");
   Click("cmdCheckSite");
   EXPECT_TRUE(m_ui.said.back().ends_with(
-      " links: 1 broken, 1 pages possibly stale.\r\nold.html, line 1: \"none.html\" is not there.\r\n"
+      " links: 1 broken, 1 pages not reached.\r\nold.html, line 1: \"none.html\" is not there.\r\n"
       "old.html: the index does not lead here."));
   Remove("site/index.html");
   Click("cmdCheckSite");

@@ -1,0 +1,12 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace folionet {
+
+// A UTF-8 text with the references that HTML writes for characters ("&amp;", "&#233;", "&#xE9;") resolved: numbers, the
+// names of the characters of Latin-1, and amp, lt, gt, quot and apos. Any other stays as it is.
+std::string WithoutCharacterReferences(std::string_view text);
+
+}  // namespace folionet

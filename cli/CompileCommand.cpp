@@ -89,12 +89,19 @@ void PrintChanges(const CompileArguments& arguments, const SiteChanges& changes)
   }
 }
 
+void RefuseOtherThanFolders(const std::string& sitemap) {
+  if (!IsPublicAddress(sitemap)) {
+    RefuseUsage("--sitemap: an address such as https://example.org/bible/ was expected: \"" + sitemap + "\"");
+  }
+  if (NamesAPage(sitemap)) {
+    RefuseUsage("--sitemap: the address of the folder was expected, without the name of a page: \"" + sitemap + "\"");
+  }
+}
+
 }  // namespace
 
 ExitStatus RunCompile(const CommonOptions& common, const CompileArguments& arguments) {
-  if (!arguments.sitemap.empty() && !IsPublicAddress(arguments.sitemap)) {
-    RefuseUsage("--sitemap: an address such as https://example.org/bible/ was expected: \"" + arguments.sitemap + "\"");
-  }
+  if (!arguments.sitemap.empty()) RefuseOtherThanFolders(arguments.sitemap);
   CommonOptions quietWhenListing = common;
   quietWhenListing.quiet = common.quiet || arguments.listChanged || arguments.dryRun;
   Session session(quietWhenListing);

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <string_view>
 
+#include "CodePage.h"
+
 namespace folionet {
 namespace {
 
@@ -11,12 +13,17 @@ bool IsUnreserved(char c) {
          c == '_' || c == '~';
 }
 
-// Percent-encodes every byte but unreserved ones and those of `kept`.
+bool IsHexDigit(char c) { return (c >= '0' && c <= '9') || (c >= 'a' && c <= 'f') || (c >= 'A' && c <= 'F'); }
+
+// Percent-encodes every byte but unreserved ones and those of `kept`; a "%" of `kept` that encodes nothing all the
+// same.
 std::string PercentEncoded(std::string_view text, std::string_view kept) {
   constexpr char kDigits[] = "0123456789ABCDEF";
   std::string encoded;
-  for (const char c : text) {
-    if (IsUnreserved(c) || kept.find(c) != std::string_view::npos) {
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    const char c = text[i];
+    const bool encodes = i + 2 < text.size() && IsHexDigit(text[i + 1]) && IsHexDigit(text[i + 2]);
+    if (IsUnreserved(c) || (kept.find(c) != std::string_view::npos && (c != '%' || encodes))) {
       encoded += c;
     } else {
       const auto byte = static_cast<unsigned char>(c);
@@ -43,16 +50,31 @@ std::string XmlEscaped(std::string_view text) {
   return escaped;
 }
 
+// What follows "http://" or "https://", in any letter case; empty when the address begins otherwise.
+std::string_view BehindScheme(std::string_view address) {
+  for (const std::string_view scheme : {"http://", "https://"}) {
+    if (EqualIgnoringCase(address.substr(0, scheme.size()), scheme)) return address.substr(scheme.size());
+  }
+  return {};
+}
+
 }  // namespace
 
 bool IsPublicAddress(const std::string& address) {
-  for (const std::string_view scheme : {"http://", "https://"}) {
-    if (address.starts_with(scheme)) {
-      const std::string_view host = std::string_view(address).substr(scheme.size());
-      return !host.empty() && host.front() != '/' && host.find_first_of("?#") == std::string_view::npos;
-    }
-  }
-  return false;
+  const std::string_view rest = BehindScheme(address);
+  const std::string_view host = rest.substr(0, rest.find('/'));
+  return !host.empty() && host.find('@') == std::string_view::npos &&
+         std::none_of(rest.begin(), rest.end(), [](char c) {
+           const auto byte = static_cast<unsigned char>(c);
+           return byte <= ' ' || byte == 0x7F || c == '?' || c == '#';
+         });
+}
+
+bool NamesAPage(const std::string& address) {
+  const std::string_view rest = BehindScheme(address);
+  const std::size_t dot = rest.rfind('.');
+  if (dot == std::string_view::npos || rest.find('/') > dot) return false;
+  return EqualIgnoringCase(rest.substr(dot), ".html") || EqualIgnoringCase(rest.substr(dot), ".htm");
 }
 
 std::string BuildSitemap(const std::string& address, const std::vector<std::string>& names) {

@@ -45,13 +45,16 @@ int Run(int argc, char** argv) {
   std::string input;
   LibraryRequest request;
   bool registerIt = false;
-  app.add_option("VERSES", input, "File of lines BOOK CHAPTER:VERSE TEXT, such as \"Ge1:1 In the beginning\"")
-      ->required();
+  app.add_option("VERSES", input, "Lines BOOK CHAPTER:VERSE TEXT, such as\n\"Ge1:1 In the beginning\"")->required();
   app.add_option("--name", request.name, "Display name of the translation")->required();
   app.add_option("--stem", request.stem, "Stem of its files, such as KJV")->required();
-  app.add_option("--into", request.folder, "Folder of the library; one that is there is added to")->required();
+  app.add_option("--into", request.folder, "Folder of the library; one that is there is\nadded to")->required();
   app.add_flag("--register", registerIt, "Note the folder in Versalia's settings");
   app.set_version_flag("--version", "make_library " FOLIONET_VERSION);
+  app.footer(
+      "Example:\n"
+      "  make_library kjv.txt --name \"King James Version\" --stem KJV \\\n"
+      "               --into ~/library --register");
   try {
     app.parse(argc, argv);
   } catch (const CLI::ParseError& error) {

@@ -42,6 +42,8 @@ void SelectTranslation(const CompileArguments& arguments, Session& session, Comp
   const ModGlob& glob = session.glob;
   if (!arguments.translation.empty()) {
     request.cboBibleName = static_cast<int>(session.FindTranslation(arguments.translation));
+  } else if (!glob.unreadableTexts.empty() && !glob.cboBibleName.empty()) {
+    RefuseUsage("Which translation is meant cannot be told: name one with --translation NAME, or mend that text.");
   } else if (!glob.cboBibleName.empty()) {
     request.cboBibleName = 0;
   }
@@ -147,6 +149,8 @@ ExitStatus RunCompile(const CommonOptions& common, const CompileArguments& argum
     case CompileOutcome::kEndProgram:
       break;
   }
+  // What has changed by then is to be uploaded all the same: the next run finds it as it should be.
+  if (!arguments.dryRun) PrintChanges(arguments, changes);
   return kExitFailed;
 }
 

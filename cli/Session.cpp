@@ -96,6 +96,9 @@ void Session::LoadLists(bool withCatalogue) {
   if (PopulateCombos(withCatalogue ? 1 : 0, store.Text("cboLang"), glob, codePage, ui) != Outcome::kDone) {
     throw ExitWith(kExitFailed);
   }
+  for (const std::string& text : glob.unreadableTexts) {
+    std::fprintf(stderr, "A translation is left out, for its text cannot be read: %s\n", text.c_str());
+  }
 }
 
 void Session::CheckLanguageFile(const std::string& name) const {

@@ -43,6 +43,7 @@ void LoadAll(const std::string& folder) {
         if (key.form == SettingForm::kBoolean) store.Boolean(key.name);
         if (key.form == SettingForm::kNumber) store.Number(key.name);
         if (key.form == SettingForm::kPointSize) store.PointSize(key.name);
+        if (key.form == SettingForm::kEntry) EncodingCode(text, key.name);
       } catch (const RunTimeError&) {
         isRead = false;
       }

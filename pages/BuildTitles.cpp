@@ -15,6 +15,11 @@ constexpr std::size_t kLongestNumbers = 8;  // what a word of a chapter's number
 constexpr std::string_view kChapterWord = "%ch%";
 constexpr std::string_view kVersesWord = "%vs%";
 
+void CheckTextLength(std::size_t length) {
+  if (length <= kLongestText) return;
+  throw RunTimeError(kInvalidProcedureCall, "The text is longer than " + std::to_string(kLongestText) + " bytes.");
+}
+
 [[noreturn]] void FailEndless(std::string_view word, std::string_view value) {
   throw RunTimeError(kInvalidProcedureCall, std::string(word),
                      "The replacement does not end. Its value: " + Quoted(value));
@@ -36,7 +41,8 @@ void ReplaceAll(std::string& text, std::string_view word, std::string_view value
     if (text.back() != word.back() || !text.ends_with(word)) continue;
     text.resize(text.size() - word.size());
     rest.append(value.rbegin(), value.rend());
-    if (++replacements > kMostReplacements || text.size() + rest.size() > kLongestText) FailEndless(word, value);
+    if (++replacements > kMostReplacements) FailEndless(word, value);
+    CheckTextLength(text.size() + rest.size());
   }
 }
 
@@ -84,6 +90,7 @@ std::optional<std::string> PageTitles::Build(std::string_view book, std::string_
                                              UserInterface& ui) {
   try {
     if (!m_withBible) {
+      CheckTextLength(m_pattern.size());
       Stage stage{std::string(m_pattern)};
       ReplaceAll(stage.text, "%bible%", m_bible, stage.replacements);
       m_withBible = std::move(stage);

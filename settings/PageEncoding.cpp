@@ -1,5 +1,6 @@
 #include "PageEncoding.h"
 
+#include "BuildInfo.h"
 #include "RunTimeError.h"
 
 namespace folionet {
@@ -22,9 +23,10 @@ CodePage StoredCodePage(const StoredSettings& store) {
 }
 
 void LoadPageEncoding(const StoredSettings& store, PageEncoding& encoding, UserInterface& ui) {
-  encoding.PageCharset = EncodingCode(store.Text("Charset"), "Charset");
+  const std::string in = store.FilePath(kApplicationTitle) + ": ";
+  encoding.PageCharset = EncodingCode(store.Text("Charset"), in + "Charset");
   ui.SetPanel(3, "Charset: " + encoding.PageCharset);
-  encoding.PageLanguage = EncodingCode(store.Text("Lang"), "Lang");
+  encoding.PageLanguage = EncodingCode(store.Text("Lang"), in + "Lang");
   ui.SetPanel(2, "Language: " + encoding.PageLanguage);
 }
 

@@ -60,8 +60,8 @@ constexpr std::array kKeys{
     SettingKey{"LinkBackSize", kNumber, "3"},
     SettingKey{"WaterMark", kFlag, "0"},
     SettingKey{"BackImage", kText, "No Image Selected"},
-    SettingKey{"Charset", kText, "windows-1252 (ANSI Latin 1)"},
-    SettingKey{"Lang", kText, "en-us English USA"},
+    SettingKey{"Charset", kEntry, "windows-1252 (ANSI Latin 1)"},
+    SettingKey{"Lang", kEntry, "en-us English USA"},
 };
 
 int CheckPointSize(std::string_view text) {
@@ -96,6 +96,8 @@ std::string_view Describe(SettingForm form) {
       return "a whole number from -32768 to 32767";
     case kPointSize:
       return "a number of points";
+    case kEntry:
+      return "a code, a blank and a description";
     case kText:
       break;
   }
@@ -119,6 +121,8 @@ int CheckSetting(SettingForm form, std::string_view text) {
       return ReadInteger(text, kInt16Min, kInt16Max).error;
     case kPointSize:
       return CheckPointSize(text);
+    case kEntry:
+      return text.find(' ') == std::string_view::npos ? kInvalidProcedureCall : 0;
     case kText:
       break;
   }

@@ -12,6 +12,7 @@ enum class SettingForm {
   kBoolean,    // True or False
   kNumber,     // a 16-bit decimal integer
   kPointSize,  // a decimal number of points, such as 10.5
+  kEntry,      // an entry of the lists of encodings: a code, a blank and a description
   kText,       // as it stands
 };
 

@@ -30,6 +30,8 @@ struct ModGlob {
   std::array<std::int16_t, kBooks + 1> ChaptersInBook{};      // by order of appearance; element 0 is unused
   std::vector<ChapterEntry> ChapterIndex{1, ChapterEntry{}};  // the last element is all zero
 
+  std::vector<std::string> unreadableTexts;  // verse files of the catalogue that are there and cannot be read
+
   // The items of the lists. A translation's place in cboBibleName is its place in BibleNames.
   std::vector<std::string> cboBibleName;
   std::vector<std::string> cboLang;       // file names (UTF-8)

@@ -1,6 +1,8 @@
 #include "Catalogue.h"
 
 #include <array>
+#include <filesystem>
+#include <system_error>
 
 #include "BookTitles.h"
 #include "BuildInfo.h"
@@ -45,6 +47,12 @@ bool AskForPaths(ModGlob& glob, UserInterface& ui) {
   return true;
 }
 
+// Whether there is nothing of that name, as far as the system tells.
+bool IsMissing(const std::string& path) {
+  std::error_code error;
+  return !std::filesystem::exists(path, error) && !error;
+}
+
 }  // namespace
 
 bool ReadCatalogueRecord(RecordReader& records, const CodePage& codePage, CatalogueRecord& record) {
@@ -66,6 +74,7 @@ void ReadCatalogue(ModGlob& glob, const CodePage& codePage) {
   RecordReader records(SysdefsFile(glob, "Translations.txt"));
   glob.BibleNames.assign(1, {});
   glob.BibleFiles.assign(1, {});
+  glob.unreadableTexts.clear();
   std::size_t counter = 0;
   CatalogueRecord record;
   int listed = 0;
@@ -74,7 +83,11 @@ void ReadCatalogue(ModGlob& glob, const CodePage& codePage) {
     if (++listed > kMostListed) FailMoreThanMostListed(records);
     glob.BibleNames[counter] = record.name;
     glob.BibleFiles[counter] = record.stem;
-    if (!FileExists(VerseFile(glob, codePage, record.stem))) continue;
+    const std::string text = VerseFile(glob, codePage, record.stem);
+    if (!FileExists(text)) {
+      if (!IsMissing(text)) glob.unreadableTexts.push_back(text);
+      continue;
+    }
     ++counter;
     glob.BibleNames.resize(counter + 1);
     glob.BibleFiles.resize(counter + 1);

@@ -30,8 +30,9 @@ inline constexpr int kMostListed = 10000;
 [[noreturn]] void FailMoreThanMostListed(const RecordReader& records);
 
 // Reads the catalogue into BibleNames and BibleFiles and appends the names to cboBibleName. Only records that are
-// listed are considered, of which there may be 10,000; a translation whose text file is missing is left out. Both
-// arrays keep one spare element at their end. Throws RunTimeError; cboBibleName is then unchanged.
+// listed are considered, of which there may be 10,000; a translation whose text file is missing is left out, one
+// whose text is there and cannot be read is left out and noted in unreadableTexts. Both arrays keep one spare element
+// at their end. Throws RunTimeError; cboBibleName is then unchanged.
 void ReadCatalogue(ModGlob& glob, const CodePage& codePage);
 
 // Fills the lists of the form: when `which` is not 0 the catalogue, and always the book lists from the book-title file

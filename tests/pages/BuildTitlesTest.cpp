@@ -50,10 +50,11 @@ TEST(BuildTitlesTest, EndsAReplacementThatFeedsItself) {
       {"%bible%",
        {"%bible%%bible%", "", ""},
        "5 Build Titles: \"%bible%\"\r\n%bible%\r\nThe replacement does not end. Its value: \"%bible%%bible%\""},
-      {"%ch%%ch%",
-       {"", "", large},
-       "5 Build Titles: \"%ch%%ch%\"\r\n%ch%\r\nThe replacement does not end. Its value: "
-       "\"xxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxx...\""},
+      {"%ch%%ch%", {"", "", large}, "5 Build Titles: \"%ch%%ch%\"\r\nThe text is longer than 1048576 bytes."},
+      {large + large,
+       {"", "", ""},
+       "5 Build Titles: \"xxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxx...\"\r\n"
+       "The text is longer than 1048576 bytes."},
   };
   const VerseCounts counts(GenesisOnly());
   for (const auto& c : cases) {

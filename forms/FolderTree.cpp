@@ -1,7 +1,9 @@
 #include "FolderTree.h"
 
 #include <QDir>
+#include <QHash>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QSignalBlocker>
 #include <QStyle>
 
@@ -9,7 +11,6 @@ namespace folionet {
 namespace {
 
 constexpr int kPathRole = Qt::UserRole;
-constexpr int kIsFilledRole = Qt::UserRole + 1;
 
 QString PathOf(const QTreeWidgetItem* item) { return item->data(0, kPathRole).toString(); }
 
@@ -66,14 +67,47 @@ QString FolderTree::RootPath() const { return topLevelItemCount() == 0 ? QString
 QString FolderTree::Path() const { return currentItem() == nullptr ? QString() : PathOf(currentItem()); }
 
 void FolderTree::Fill(QTreeWidgetItem* item) {
-  if (item->data(0, kIsFilledRole).toBool()) return;
-  item->setData(0, kIsFilledRole, true);
   item->setChildIndicatorPolicy(QTreeWidgetItem::DontShowIndicatorWhenChildless);
   const QIcon icon = style()->standardIcon(QStyle::SP_DirIcon);
   const QDir folder(PathOf(item));
-  for (const QString& name : folder.entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name | QDir::IgnoreCase)) {
-    item->addChild(MakeItem(name, folder.filePath(name), icon));
+  QHash<QString, QTreeWidgetItem*> listed;
+  for (int i = item->childCount() - 1; i >= 0; --i) {
+    QTreeWidgetItem* child = item->child(i);
+    if (QFileInfo(PathOf(child)).isDir() || HoldsCurrent(child)) {
+      listed.insert(child->text(0), child);
+    } else {
+      delete child;
+    }
   }
+  int place = 0;
+  for (const QString& name : folder.entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name | QDir::IgnoreCase)) {
+    if (QTreeWidgetItem* child = listed.value(name)) {
+      place = item->indexOfChild(child) + 1;
+    } else {
+      item->insertChild(place++, MakeItem(name, folder.filePath(name), icon));
+    }
+  }
+}
+
+// A folder that is gone stays while it is chosen: nothing else is chosen by reading anew.
+bool FolderTree::HoldsCurrent(const QTreeWidgetItem* item) const {
+  const QTreeWidgetItem* held = currentItem();
+  while (held != nullptr && held != item) held = held->parent();
+  return held != nullptr;
+}
+
+void FolderTree::keyPressEvent(QKeyEvent* event) {
+  if (event->key() != Qt::Key_F5) {
+    QTreeWidget::keyPressEvent(event);
+    return;
+  }
+  FillOpened(topLevelItem(0));
+}
+
+void FolderTree::FillOpened(QTreeWidgetItem* item) {
+  if (item == nullptr || !item->isExpanded()) return;
+  Fill(item);
+  for (int i = 0; i < item->childCount(); ++i) FillOpened(item->child(i));
 }
 
 QTreeWidgetItem* FolderTree::ChildNamed(QTreeWidgetItem* item, const QString& name) {

@@ -5,7 +5,8 @@
 
 namespace folionet {
 
-// The folders of one volume, read as they are opened. The current one is the chosen one.
+// The folders of one volume, read as they are opened, and those that are open read anew by F5. The current one is the
+// chosen one.
 class FolderTree : public QTreeWidget {
   Q_OBJECT
 
@@ -25,8 +26,13 @@ class FolderTree : public QTreeWidget {
   // A person chose the folder, be it the current one already.
   void PathChosen(const QString& path);
 
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+
  private:
   void Fill(QTreeWidgetItem* item);
+  void FillOpened(QTreeWidgetItem* item);
+  bool HoldsCurrent(const QTreeWidgetItem* item) const;
   QTreeWidgetItem* ChildNamed(QTreeWidgetItem* item, const QString& name);
   void Choose(QTreeWidgetItem* item);
 };

@@ -119,6 +119,28 @@ TEST_F(MainForm, AFolderIsChosenInTheTreeOrByDrive) {
   EXPECT_EQ(m_ui.offered, (Log{"/", home}));
 }
 
+TEST_F(MainForm, FoldersAreReadAnewWhenAskedFor) {
+  ASSERT_TRUE(Start());
+  auto& tree = Get<FolderTree>("Dir1");
+  QTreeWidgetItem* root = tree.topLevelItem(0);
+  tree.setCurrentItem(root->child(3));
+  const auto names = [root] {
+    QStringList list;
+    for (int i = 0; i < root->childCount(); ++i) list << root->child(i)->text(0);
+    return FromQt(list.join(' '));
+  };
+  for (const char* name : {"new", "zoo"}) std::filesystem::create_directory(m_home.Path() + name);
+  Remove("site");
+  QTest::keyClick(&tree, Qt::Key_F5);
+  EXPECT_EQ(names(), "config library new program zoo site") << "the chosen one stays";
+  Remove("new");
+  tree.setCurrentItem(root->child(4));
+  root->setExpanded(false);
+  root->setExpanded(true);
+  EXPECT_EQ(names(), "config library program zoo");
+  EXPECT_EQ(Shown("txtOutputPath"), m_home.Path() + "zoo/");
+}
+
 TEST_F(MainForm, ADriveThatIsNotReadyIsReportedAndLeft) {
   ASSERT_TRUE(Start());
   ChooseOutput();

@@ -1,6 +1,7 @@
 #include "frmAddnew.h"
 
 #include <QKeyEvent>
+#include <utility>
 
 #include "EncodingLists.h"
 #include "QtText.h"
@@ -17,6 +18,7 @@ frmAddnew::frmAddnew(AppState& state, QWidget* parent)
   connect(m_ui->cmdUpdEnc, &QPushButton::clicked, this,
           [this] { AddRecord(kCharsetList, "cmdUpdEnc_Click", *m_ui->txtEncAbbr, *m_ui->txtEncLang); });
   connect(m_ui->cmdCancel, &QPushButton::clicked, this, [this] {
+    m_hasAdded = false;
     emit ListsChanged();
     hide();
   });
@@ -35,6 +37,11 @@ void frmAddnew::keyPressEvent(QKeyEvent* event) {
   if (!isEnter) QDialog::keyPressEvent(event);
 }
 
+void frmAddnew::reject() {
+  if (std::exchange(m_hasAdded, false)) emit RecordsAdded();
+  QDialog::reject();
+}
+
 void frmAddnew::AddRecord(const char* fileName, const char* label, const QLineEdit& abbreviation,
                           const QLineEdit& language) {
   if (abbreviation.text().isEmpty() || language.text().isEmpty()) {
@@ -44,6 +51,7 @@ void frmAddnew::AddRecord(const char* fileName, const char* label, const QLineEd
   try {
     AppendEncodingRecord(m_state.programFolder + fileName, m_state.codePage,
                          {FromQt(abbreviation.text()), FromQt(language.text())});
+    m_hasAdded = true;
     m_state.ui.ShowMessage({MessageIcon::kInformation, "Record Added", "Record Added"});
   } catch (const RunTimeError& error) {
     m_state.ui.ShowErrorReport(error.Number(), label, error.Extra());

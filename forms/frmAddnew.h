@@ -24,9 +24,15 @@ class frmAddnew : public QDialog {
   // There is nothing to load; for likeness with the other dialogs.
   void LoadForm() {}
 
+  // Leaves everything in the dialog as it is.
+  void reject() override;
+
  signals:
   // The person is done with adding: lists that show the records must be filled again.
   void ListsChanged();
+
+  // The dialog was left otherwise, by its title bar or Esc, after records had been added.
+  void RecordsAdded();
 
  protected:
   // Enter adds the record that is being typed; a dialog's own would press one and the same button for both.
@@ -37,6 +43,7 @@ class frmAddnew : public QDialog {
 
   AppState& m_state;
   std::unique_ptr<Ui::frmAddnew> m_ui;
+  bool m_hasAdded = false;  // since the lists were last filled
 };
 
 }  // namespace folionet

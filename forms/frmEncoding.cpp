@@ -59,7 +59,7 @@ void frmEncoding::Fill(const char* fileName, const char* key, TextCombo& list, Q
   box.setText(stored);
 }
 
-// The entries in the code page as it is now. What is chosen stays, letter for letter, and so does what was typed.
+// The entries as the files have them now. What is chosen stays, letter for letter, and so does what was typed.
 void frmEncoding::ShowListsAnew() {
   for (const auto& [fileName, list] :
        {std::pair{kCharsetList, m_ui->cboCharset}, std::pair{kLanguageList, m_ui->cboLang}}) {
@@ -80,6 +80,7 @@ void frmEncoding::AddNew() {
   if (m_addNew == nullptr) {
     m_addNew = new frmAddnew(m_state, this);
     connect(m_addNew, &frmAddnew::ListsChanged, this, &frmEncoding::Load);
+    connect(m_addNew, &frmAddnew::RecordsAdded, this, &frmEncoding::ShowListsAnew);
   }
   openModal(*m_addNew);
 }
@@ -94,15 +95,25 @@ void frmEncoding::SaveLists() {
   });
 }
 
+// What the program folder has in the pages' code page stays the same text.
+void frmEncoding::RecodeFiles(const CodePage& from, const CodePage& to) {
+  for (const CustomHtmlKind& kind : {kCustomHeader, kCustomFooter}) {
+    RecodeCustomHtml(m_state.programFolder, kind, from, to, m_state.ui);
+  }
+  for (const char* list : {kCharsetList, kLanguageList}) {
+    try {
+      RecodeEncodingList(m_state.programFolder + list, from, to);
+    } catch (const RunTimeError& error) {
+      m_state.ui.ShowErrorReport(error.Number(), "PopulateCharset", error.Extra());
+    }
+  }
+}
+
 bool frmEncoding::SaveAndUse() {
   const CodePage before = StoredCodePage(m_state.store);
   SaveLists();
   const CodePage after = StoredCodePage(m_state.store);
-  if (before.Name() != after.Name()) {
-    for (const CustomHtmlKind& kind : {kCustomHeader, kCustomFooter}) {
-      RecodeCustomHtml(m_state.programFolder, kind, before, after, m_state.ui);
-    }
-  }
+  if (before.Name() != after.Name()) RecodeFiles(before, after);
   const std::string typedLanguage = FromQt(m_ui->txtLang->text());
   const std::string typedCharset = FromQt(m_ui->txtCharset->text());
   PageEncoding encoding{m_state.texts.PageLanguage, m_state.texts.PageCharset};

@@ -41,6 +41,7 @@ class frmEncoding : public LoadedDialog {
   void ShowListsAnew();
   void AddNew();
   void SaveLists();
+  void RecodeFiles(const CodePage& from, const CodePage& to);
   bool SaveAndUse();
 
   AppState& m_state;

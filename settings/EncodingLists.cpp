@@ -1,7 +1,9 @@
 #include "EncodingLists.h"
 
 #include <array>
+#include <optional>
 
+#include "LineReader.h"
 #include "RecordReader.h"
 #include "WholeFile.h"
 
@@ -16,6 +18,14 @@ void ReadEncodingList(const std::string& path, const CodePage& codePage, std::ve
 void AppendEncodingRecord(const std::string& path, const CodePage& codePage, const EncodingRecord& record) {
   const std::array fields{codePage.Encode(record.code), codePage.Encode(record.description)};
   AppendToFile(path, QuotedRecord(fields));
+}
+
+void RecodeEncodingList(const std::string& path, const CodePage& from, const CodePage& to) {
+  std::optional<std::string> bytes = ReadIfThere(path);
+  if (!bytes) return;
+  if (bytes->starts_with(kByteOrderMark)) bytes->erase(0, kByteOrderMark.size());  // would be part of the first code
+  const std::string recoded = to.Encode(from.Decode(*bytes));
+  if (recoded != *bytes) ReplaceWholeFile(path, recoded);
 }
 
 }  // namespace folionet

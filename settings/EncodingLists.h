@@ -29,4 +29,8 @@ struct EncodingRecord {
 // RunTimeError, the old content stands.
 void AppendEncodingRecord(const std::string& path, const CodePage& codePage, const EncodingRecord& record);
 
+// Rewrites a list, when it is there, from one code page into another, so that its entries stay the same. Throws
+// RunTimeError, and the old content stands.
+void RecodeEncodingList(const std::string& path, const CodePage& from, const CodePage& to);
+
 }  // namespace folionet

@@ -4,6 +4,7 @@
 
 #include "HelpWindow.h"
 #include "RunTimeError.h"
+#include "ShownBoxes.h"
 
 namespace folionet {
 
@@ -18,7 +19,13 @@ void LoadedDialog::showEvent(QShowEvent* event) {
   } catch (const RunTimeError& error) {
     m_reports.ShowErrorReport(error.Number(), "Form Load - MAIN", error.Extra());
   }
+  DressBoxes(*this);
   QDialog::showEvent(event);
+}
+
+void LoadedDialog::changeEvent(QEvent* event) {
+  QDialog::changeEvent(event);
+  if (event->type() == QEvent::PaletteChange) DressBoxes(*this);
 }
 
 void LoadedDialog::keyPressEvent(QKeyEvent* event) {

@@ -25,6 +25,7 @@ class LoadedDialog : public QDialog {
 
   virtual void Load() = 0;
   void showEvent(QShowEvent* event) override;
+  void changeEvent(QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;  // F1 shows the help
 
  private:

@@ -16,6 +16,7 @@
 #include "QtText.h"
 #include "RunGuard.h"
 #include "RunTimeError.h"
+#include "ShownBoxes.h"
 #include "StatusPanels.h"
 #include "StyleOptions.h"
 #include "TrySave.h"
@@ -26,8 +27,9 @@ namespace {
 
 // `ground`, made darker until light text can be read on it.
 QColor ReadableGround(QColor ground, const QColor& text) {
-  constexpr double kEnough = 5.5;  // styles make a button's upper half lighter than its colour
-  constexpr int kStep = 105;       // percent
+  constexpr double kEnough =
+      11;                     // styles make a button's upper half much lighter than its colour, under the mouse more so
+  constexpr int kStep = 105;  // percent
   while (text.lightness() > ground.lightness() && ground.lightness() > 0 &&
          ContrastRatio(FromQt(ground), FromQt(text)) < kEnough) {
     ground = ground.darker(kStep);
@@ -213,24 +215,18 @@ void frmMain::changeEvent(QEvent* event) {
   if (event->type() == QEvent::PaletteChange && m_ui->cmdCompile != nullptr) DressControls();
 }
 
-// Gives the one button that everything leads to the desktop's accent, and boxes that only show the window's ground.
+// Gives the one button that everything leads to the desktop's accent.
 void frmMain::DressControls() {
   const QPalette desktop = palette();
   const QColor text = desktop.color(QPalette::Active, QPalette::HighlightedText);
   const QColor accent = ReadableGround(desktop.color(QPalette::Active, QPalette::Highlight), text);
-  QColor hint = desktop.color(QPalette::Active, QPalette::Text);
-  hint.setAlphaF(0.6F);  // not every desktop's palette has a colour for hints that can be read on its ground
   QPalette button = desktop;
-  QPalette box = desktop;
   for (const auto group : {QPalette::Active, QPalette::Inactive}) {
     button.setColor(group, QPalette::Button, accent);
     button.setColor(group, QPalette::ButtonText, text);
-    box.setColor(group, QPalette::PlaceholderText, hint);
   }
   m_ui->cmdCompile->setPalette(button);
-  m_ui->txthttpRoot->setPalette(box);
-  box.setColor(QPalette::Base, desktop.color(QPalette::Window));
-  for (QLineEdit* shown : {m_ui->txtBibleSel, m_ui->txtFilename, m_ui->txtOutputPath}) shown->setPalette(box);
+  DressBoxes(*this);
 }
 
 }  // namespace folionet

@@ -3,7 +3,9 @@
 #include <QFontDatabase>
 #include <QLineEdit>
 #include <QMouseEvent>
+#include <QPushButton>
 #include <QTest>
+#include <algorithm>
 
 #include "Contrast.h"
 #include "FormTest.h"
@@ -113,6 +115,41 @@ TEST_F(Looks, ArrowKeysWalkTheEffectsLists) {
     EXPECT_EQ(list.currentText(), list.itemText(0));
   }
   EXPECT_EQ(m_state->options.frmEffects.cboSize, "8pt");
+}
+
+constexpr Colour kLight = Rgb(239, 239, 239);
+constexpr Colour kDark = Rgb(45, 45, 45);
+
+// What is pressed to compile can be read on every pixel of its ground, and boxes that only show have the form's.
+TEST_F(Looks, ButtonAndBoxesSuitThePalette) {
+  const QPalette before = QApplication::palette();
+  ASSERT_TRUE(Start());
+  Get("frmKeywords.").show();
+  for (const Colour window : {kLight, kDark}) {
+    QApplication::setPalette(QPalette(ToQt(window)));
+    QApplication::processEvents();
+    auto& button = Get<QPushButton>("cmdCompile");
+    button.setText({});
+    double least = 100;
+    for (const bool isSpecial : {false, true}) {
+      button.setDefault(isSpecial);
+      button.setAttribute(Qt::WA_UnderMouse, isSpecial);
+      const QImage picture = button.grab().toImage();
+      constexpr int kFrame = 4;
+      for (int y = kFrame; y < picture.height() - kFrame; ++y) {
+        const Colour ground = FromQt(picture.pixelColor(picture.width() / 4, y));
+        least = std::min(least, ContrastRatio(ground, ColourOf("cmdCompile", QPalette::ButtonText)));
+      }
+    }
+    EXPECT_GE(least, 4.5) << window;
+    for (const char* box : {"txtFilename", "txtOutputPath", "frmKeywords.txtKeyWordsOK", "frmPAgeTitles.txtPrevOther",
+                            "frmLinkToMAin.txtLinkToMainOK", "frmLinkToMAin.txtBackToString"}) {
+      if (!IsShown(box)) Get(std::string(box).substr(0, std::string(box).find('.') + 1)).show();
+      EXPECT_EQ(ColourOf(box, QPalette::Base), window) << box;
+    }
+    EXPECT_NE(ColourOf("frmKeywords.txtKeyWords", QPalette::Base), window);
+  }
+  QApplication::setPalette(before);
 }
 
 TEST(Contrast, AdvisesOnColoursThatAreHardToRead) {

@@ -20,7 +20,8 @@ constexpr std::array<std::pair<std::string_view, std::string_view>, 10> kNextSte
      "No translation has a text that can be read where Versalia keeps it: see \"folionet-cli check\"."},
     {"Path and/or file not found",
      "Give them with --versalia-path FOLDER, which holds Sysdefs and Index, and --module-path FOLDER, which holds "
-     "Bible; \"folionet-cli check\" names what is wrong in them."},
+     "Bible; where only the file of book titles is wrong, give another with --language-file NAME. \"folionet-cli "
+     "check\" names what is wrong in them."},
     {"INDEX File Not Found", "Then run this command again, or choose another translation with --translation NAME."},
     {"File not found",
      "Then run this command again; \"folionet-cli check\" names what is wrong in an index that is there."},

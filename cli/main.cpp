@@ -173,7 +173,7 @@ int main(int argc, char** argv) {
     std::fprintf(stderr, "folionet-cli: %s\n", error.what());
   }
   if (std::fflush(stdout) != 0 || std::ferror(stdout) != 0) {
-    std::fputs("folionet-cli: standard output cannot be written\n", stderr);
+    std::fputs("folionet-cli: standard output cannot be written. Send it to a file on a disk with room.\n", stderr);
     return folionet::kExitFailed;
   }
   return status;

@@ -25,7 +25,7 @@ TEST(ProgramTest, HelpFitsAScreenAndGivesAnExample) {
 TEST(ProgramTest, TellsThatItsResultCannotBeWritten) {
   const TemporaryFolder home;
   const ProgramResult run = RunCli({"list", "settings"}, home.Path(), "/dev/full");
-  EXPECT_EQ(run.errors, "folionet-cli: standard output cannot be written\n");
+  EXPECT_EQ(run.errors, "folionet-cli: standard output cannot be written. Send it to a file on a disk with room.\n");
   EXPECT_EQ(run.status, 3);
 }
 

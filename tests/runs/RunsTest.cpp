@@ -60,7 +60,8 @@ std::string WithShortReports(std::string text) {
           "Folionet will attempt to gather the correct information manually\n"
           "You will need to enter the values for the following:\n1. The Versalia Path\n2. The Versalia Module Path\n"
           "Give them with --versalia-path FOLDER, which holds Sysdefs and Index, and --module-path FOLDER, which holds "
-          "Bible; \"folionet-cli check\" names what is wrong in them.\n",
+          "Bible; where only the file of book titles is wrong, give another with --language-file NAME. \"folionet-cli "
+          "check\" names what is wrong in them.\n",
           "ASKS FOR THE FOLDERS\n");
   return text;
 }

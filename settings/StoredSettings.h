@@ -14,7 +14,6 @@ namespace folionet {
 
 // The per-user option texts, to be read: one INI file "<application>.ini" per application name in one folder, in the
 // form that IniText.h tells. All texts are UTF-8.
-//
 class StoredSettings {
  public:
   // `folder` is where the files are.

@@ -2,13 +2,9 @@
 
 #include <functional>
 
-#include "Compile.h"
-#include "OutputFolder.h"
-#include "RecordingUi.h"
-#include "RunTimeError.h"
 #include "SiteChanges.h"
 #include "Sitemap.h"
-#include "TemporaryFolder.h"
+#include "Validation.h"
 
 // What runs of the command line do not reach; those are in tests/runs.
 
@@ -17,47 +13,28 @@ namespace {
 
 using Texts = std::vector<std::string>;
 
-// Each row also breaks everything that the rows above break, so that the order shows.
+// The order is that of the form, and each refusal puts the focus where it can be mended; runs show the words.
 TEST(ValidationTest, RefusesInTheFormsOrder) {
   const struct {
     std::function<void(CompileRequest&)> mend;
-    const char* said;
+    const char* title;
     const char* control;
-  } steps[] = {
-      {[](auto&) {}, "No Path: No Output path Selected.", "Dir1"},
-      {[](auto& r) { r.txtOutputPath = "/out/"; }, "No Bible: No Bible Selected.", "cboBibleName"},
-      {[](auto& r) { r.options.txtBibleSel = "KJV"; }, "No HTTP Root: No HTTP root has been entered.", "txthttpRoot"},
-      {[](auto& r) { r.options.txthttpRoot = "index.htm"; },
-       "Language not selected: Please select a language for the Book Titles first", "cboLang"},
-      {[](auto& r) { r.cboLang = "BOOKS.TXT"; },
-       "Not a valid long file extension: \"htm\" is not a valid long filename extension. It must be \"html\"\r\n"
-       "Please correct and try again.",
-       "txthttpRoot"},
-      {[](auto& r) { r.options.txthttpRoot = "index.html"; },
-       "No Bible Selected: Please Select a Bible to compile first", "txthttpRoot"}};
+  } steps[] = {{[](auto&) {}, "No Path", "Dir1"},
+               {[](auto& r) { r.txtOutputPath = "/out/"; }, "No Bible", "cboBibleName"},
+               {[](auto& r) { r.options.txtBibleSel = "KJV"; }, "No HTTP Root", "txthttpRoot"},
+               {[](auto& r) { r.options.txthttpRoot = "index.htm"; }, "Language not selected", "cboLang"},
+               {[](auto& r) { r.cboLang = "BOOKS.TXT"; }, "Not a valid long file extension", "txthttpRoot"},
+               {[](auto& r) { r.options.chkUse83 = true, r.options.txthttpRoot = "x.html"; }, "8.3 filename error",
+                "txthttpRoot"}};
   CompileRequest request;
   request.cboLang = "Default";
-  ModGlob glob;
-  test::RecordingUi ui;
   for (const auto& step : steps) {
     step.mend(request);
-    ui.said.clear();
-    EXPECT_EQ(cmdCompile_Click(request, glob, ui), CompileOutcome::kRefused);
-    EXPECT_EQ(ui.said, Texts{step.said});
-    EXPECT_EQ(ui.focused, step.control);
+    const auto refusal = Validate(request);
+    ASSERT_TRUE(refusal) << step.title;
+    EXPECT_EQ(refusal->message.title, step.title);
+    EXPECT_EQ(refusal->control, step.control);
   }
-}
-
-TEST(CopyCssTest, CopiesOnlyWhereAFolderIsChosen) {
-  const test::TemporaryFolder folder;
-  folder.Write("program/default.css", "h1 {}");
-  CompileRequest request;
-  request.programFolder = folder.Path() + "program/";
-  request.txtOutputPath = "txtOutputPath";
-  CopyCSS(request);
-  EXPECT_FALSE(std::filesystem::exists("txtOutputPathdefault.css"));
-  request.txtOutputPath = folder.Path() + "deep/out/";
-  EXPECT_THROW(CopyCSS(request), RunTimeError) << "only the command line makes folders";
 }
 
 TEST(SiteChangesTest, TellsEachFileOnceAsItWasBeforeTheRun) {

@@ -62,7 +62,7 @@ TEST_F(CompileFromForm, ShowsProgressAndThenTheSite) {
   m_ui.onMessage = [&] { EXPECT_FALSE(bar.isVisible()) << "a refused run has not begun"; };
   Click("cmdCompile");
   EXPECT_EQ(m_ui.log.size(), 1U);
-  m_ui.onMessage = {};
+  m_ui.onMessage = [] {};
   Give("txthttpRoot", "http://example.org/b/index.html");
   EXPECT_FALSE(bar.isVisible());
   std::string last;

@@ -71,7 +71,7 @@ class FormTest : public testing::Test {
 
   test::TemporaryFolder m_home;
   GivenFolders m_given;
-  ScriptedUi m_ui;  // answers are kept from one start to the next
+  test::ScriptedUi m_ui;  // answers are kept from one start to the next
   std::unique_ptr<SettingsStore> m_store;
   std::unique_ptr<AppState> m_state;
   std::unique_ptr<frmMain> m_form;

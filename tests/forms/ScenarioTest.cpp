@@ -96,14 +96,13 @@ class Scenarios : public FormTest, public testing::WithParamInterface<Scenario> 
 
   // No box comes that a scenario does not tell of.
   void ExpectNoMoreBoxes() {
-    for (; m_seen < m_ui.log.size(); ++m_seen) ADD_FAILURE() << m_ui.log[m_seen] << ": " << m_ui.said[m_seen];
+    for (; m_seen < m_ui.log.size(); ++m_seen) ADD_FAILURE() << m_ui.Boxes()[m_seen];
     m_seen = 0;
   }
 
   void ExpectBox(const std::string& expected) {
     ASSERT_LT(m_seen, m_ui.log.size()) << "no box";
-    const std::string box = m_ui.log[m_seen] + ": " + m_ui.said[m_seen];
-    ++m_seen;
+    const std::string box = m_ui.Boxes()[m_seen++];
     EXPECT_EQ(expected.ends_with("...") ? box.substr(0, expected.size() - 3) + "..." : box, expected) << box;
   }
 

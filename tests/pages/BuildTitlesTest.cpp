@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "BuildTitles.h"
-#include "RecordingUi.h"
+#include "ScriptedUi.h"
 
 namespace folionet {
 namespace {
@@ -32,7 +32,7 @@ TEST(BuildTitlesTest, ReplacesEveryWordInTheirOrder) {
       {"%%ch%ch%%vs%vs%%v%ch%s%", {"", "Genesis", "1"}, "%1ch%1-31vs%%v1s%"},  // a number joins nothing
   };
   const VerseCounts counts(GenesisOnly());
-  test::RecordingUi ui;
+  test::ScriptedUi ui;
   for (const auto& c : cases) EXPECT_EQ(BuildTitles(c.pattern, c.words, counts, ui), c.text) << c.pattern;
   EXPECT_TRUE(ui.said.empty());
 }
@@ -58,9 +58,9 @@ TEST(BuildTitlesTest, EndsAReplacementThatFeedsItself) {
   };
   const VerseCounts counts(GenesisOnly());
   for (const auto& c : cases) {
-    test::RecordingUi ui;
+    test::ScriptedUi ui;
     EXPECT_EQ(BuildTitles(c.pattern, c.words, counts, ui), std::nullopt);
-    EXPECT_EQ(ui.said, std::vector<std::string>{c.said});
+    EXPECT_EQ(ui.Boxes(), std::vector<std::string>{c.said});
   }
 }
 
@@ -69,7 +69,7 @@ TEST(BuildTitlesTest, ReplacesTenThousandWordsAndNoMore) {
   for (const std::string word : {"%bk%", "%ch%"}) {
     std::string pattern;
     for (int i = 0; i < 10000; ++i) pattern += word;
-    test::RecordingUi ui;
+    test::ScriptedUi ui;
     EXPECT_EQ(BuildTitles(pattern, {"", "1", "1"}, counts, ui), std::string(10000, '1'));
     EXPECT_EQ(BuildTitles(pattern + word, {"", "1", "1"}, counts, ui), std::nullopt);
     EXPECT_EQ(ui.said.size(), 1U);

@@ -3,7 +3,6 @@
 //   save_program settings FOLDER TEXT     stores the exit settings, TEXT among them, in FOLDER/Folionet.ini
 //   save_program header FOLDER TEXT       writes TEXT into FOLDER/CustomHeader.txt
 //   save_program record FOLDER TEXT       adds a language with the description TEXT to FOLDER/lang.txt
-//   save_program read FOLDER              prints the setting that "settings" stores
 //
 // Ends with 3 and a line on standard error when that fails.
 
@@ -13,32 +12,24 @@
 #include "CustomHtml.h"
 #include "EncodingLists.h"
 #include "OptionSaving.h"
-#include "RecordingUi.h"
 #include "RunTimeError.h"
+#include "ScriptedUi.h"
 #include "SettingsStore.h"
 
 namespace folionet {
 namespace {
 
-void SaveSettings(const std::string& folder, const std::string& text) {
-  SettingsStore store(folder);
-  MainOptions main;
-  main.Dir1 = text;
-  SaveDefaults(store, PageOptions(), main);
-}
-
 bool Save(const std::string& what, const std::string& folder, const std::string& text) {
-  test::RecordingUi ui;
+  test::ScriptedUi ui;
   if (what == "settings") {
-    SaveSettings(folder, text);
+    SettingsStore store(folder);
+    SaveDefaults(store, {}, {.Dir1 = text});
   } else if (what == "header") {
     const bool isSaved = SaveCustomHtml(folder + "/", kCustomHeader, CodePage(), text, ui);
-    for (const std::string& report : ui.said) std::cerr << report << '\n';
+    for (const std::string& report : ui.Boxes()) std::cerr << report << '\n';
     return isSaved;
   } else if (what == "record") {
     AppendEncodingRecord(folder + "/" + kLanguageList, CodePage(), {"xx", text});
-  } else if (what == "read") {
-    std::cout << SettingsStore(folder).Text("Dir1") << '\n';
   } else {
     return false;
   }
@@ -50,9 +41,9 @@ bool Save(const std::string& what, const std::string& folder, const std::string&
 
 int main(int argc, char** argv) {
   constexpr int kFails = 3;
-  if (argc < 3) return kFails;
+  if (argc != 4) return kFails;
   try {
-    return folionet::Save(argv[1], argv[2], argc > 3 ? argv[3] : "") ? 0 : kFails;
+    return folionet::Save(argv[1], argv[2], argv[3]) ? 0 : kFails;
   } catch (const folionet::RunTimeError& error) {
     std::cerr << error.what() << '\n';
   }

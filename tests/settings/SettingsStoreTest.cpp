@@ -56,27 +56,6 @@ TEST(SettingsStoreTest, KeepsKeysThatItDoesNotKnow) {
   EXPECT_EQ(SettingsStore(folder.Path()).GetSetting("Folionet", "Other", "key", ""), "a, b");
 }
 
-TEST(SettingsStoreTest, DeletesTheWholeArea) {
-  const TemporaryFolder folder;
-  SettingsStore store(folder.Path() + "made/");
-  store.SaveFlag("chkCSS", true);
-  EXPECT_TRUE(store.Has("chkCSS"));
-  store.DeleteSetting("Folionet");
-  EXPECT_FALSE(folder.Has("made/Folionet.ini"));
-  EXPECT_FALSE(store.Flag("chkCSS"));
-  store.DeleteSetting("Folionet");
-}
-
-TEST(SettingsStoreTest, OverridesAreReadAndNeverWritten) {
-  const TemporaryFolder folder;
-  SettingsStore store(folder.Path());
-  store.Override("Font", "Times");
-  EXPECT_EQ(store.Text("Font"), "Times");
-  EXPECT_TRUE(store.Has("Font"));
-  store.SaveText("Lang", "el Greek");
-  EXPECT_EQ(folder.Read("Folionet.ini"), "[Keys]\nLang=el Greek\n");
-}
-
 TEST(SettingsStoreTest, AFailedSaveIsToldAndNotTriedAgain) {
   const TemporaryFolder folder;
   SettingsStore store(folder.Write("file", "") + "/");

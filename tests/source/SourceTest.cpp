@@ -2,11 +2,8 @@
 
 #include <array>
 
-#include "BookTitles.h"
-#include "Catalogue.h"
 #include "ChapterIndex.h"
-#include "RecordingUi.h"
-#include "RunTimeError.h"
+#include "ScriptedUi.h"
 #include "SettingsStore.h"
 #include "TemporaryFolder.h"
 
@@ -15,60 +12,7 @@
 namespace folionet {
 namespace {
 
-using test::RecordingUi;
-using Texts = std::vector<std::string>;
-
-// A library folder with book titles, whose files a test writes, and the folders set in `glob`.
-struct TinyLibrary {
-  TinyLibrary() {
-    SetInstallation(glob, folder.Path(), folder.Path() + "Modules/", "SysDefs");
-    std::string titles;
-    for (int i = 1; i <= kBooks; ++i) titles += std::to_string(i) + "\tB" + std::to_string(i) + "\tBook\r\n";
-    folder.Write("SysDefs/BOOKS.TXT", titles);
-    folder.Write("Modules/Bible/STEM.TXT", "");
-    folder.Write("SysDefs/Translations.txt", "1,0,Name,STEM\n2,0,Missing,GONE\n");
-    index = folder.Path() + "Index/STEM.TXT.INDEX";
-  }
-
-  test::TemporaryFolder folder;
-  ModGlob glob;
-  std::string index;
-};
-
-TEST(CatalogueTest, KeepsOneSpareElement) {
-  TinyLibrary library;
-  ReadCatalogue(library.glob, CodePage());
-  EXPECT_EQ(library.glob.cboBibleName, Texts{"Name"});
-  EXPECT_EQ(library.glob.BibleNames, (Texts{"Name", "Missing"}));
-  EXPECT_EQ(library.glob.BibleFiles, (Texts{"STEM", "GONE"}));
-  library.glob.cboBibleName = {"Name", "Name"};  // as after a second try
-  EXPECT_EQ(TranslationAt(library.glob, 0), 0U);
-  EXPECT_EQ(TranslationAt(library.glob, 1), 0U);
-}
-
-TEST(CatalogueTest, AsksForTheFoldersAndStartsAgain) {
-  const TinyLibrary right;
-  ModGlob glob;
-  RecordingUi ui;
-  ui.answers = {"", "", right.folder.Path(), right.folder.Path() + "Modules/"};
-  EXPECT_EQ(PopulateCombos(1, "BOOKS.TXT", glob, CodePage(), ui), Outcome::kDone);
-  EXPECT_EQ(glob.cboBibleName, Texts{"Name"});
-  EXPECT_EQ(glob.cboEndBook.size(), 66U);
-  EXPECT_EQ(glob.SysdefsPath, right.folder.Path() + "SysDefs/");
-  ASSERT_EQ(ui.said.size(), 8U);
-  EXPECT_EQ(ui.said[2], "Enter Versalia Path? Enter the Versalia Path [C:\\Program Files\\Versalia\\]");
-  EXPECT_EQ(ui.said[3], "Enter Module Path? Enter the Versalia Module Path [C:\\Program Files\\Versalia\\Modules\\]");
-}
-
-TEST(CatalogueTest, EndsAtTheFourthFailureAfterAskingOnceMore) {
-  ModGlob glob;
-  RecordingUi ui;
-  ui.answers.assign(20, "");
-  EXPECT_EQ(PopulateCombos(1, "BOOKS.TXT", glob, CodePage(), ui), Outcome::kEndProgram);
-  EXPECT_EQ(ui.answers.size(), 12U);
-  EXPECT_EQ(ui.said.size(), 16U);
-  EXPECT_EQ(ui.said[12], "76 Populate Combos: SysDefs/Translations.txt\r\nNo such file or directory");
-}
+using test::ScriptedUi;
 
 TEST(InstallationTest, TakesGivenFoldersBeforeStoredOnes) {
   const struct {
@@ -96,47 +40,28 @@ TEST(InstallationTest, TakesGivenFoldersBeforeStoredOnes) {
   }
 }
 
-// Index records for chapters given as {book, chapter, verses}.
-std::string Records(const std::vector<std::array<int, 3>>& chapters) {
-  std::string records;
-  for (const auto& [book, chapter, verses] : chapters) {
-    records +=
-        "1,0," + std::to_string(book) + "," + std::to_string(chapter) + "," + std::to_string(verses) + ",9,\"Gen\"\r\n";
-  }
-  return records;
-}
-
+// The counts go by the order in which books appear, and nothing is left of the counts before.
 TEST(BooksInChaptersTest, CountsByOrderOfAppearance) {
   const struct {
-    std::vector<std::array<int, 3>> chapters;
+    std::vector<int> books;              // of the chapters in the index
     std::array<std::int16_t, 4> counts;  // of books 1 to 4
-  } cases[] = {{{{1, 1, 9}, {1, 2, 9}, {2, 1, 9}, {2, 2, 9}, {2, 3, 9}, {3, 1, 9}}, {2, 3, 1, 0}},
-               {{{1, 1, 9}, {2, 1, 9}, {1, 2, 9}}, {1, 1, 1, 0}},
-               {{{40, 1, 9}, {40, 2, 9}}, {2, 0, 0, 0}},
-               {{{0, 1, 9}}, {1, 0, 0, 0}},
+  } cases[] = {{{1, 1, 2, 2, 2, 3}, {2, 3, 1, 0}},
+               {{1, 2, 1}, {1, 1, 1, 0}},
+               {{40, 40}, {2, 0, 0, 0}},
+               {{0}, {1, 0, 0, 0}},
                {{}, {0, 0, 0, 0}}};
   for (const auto& c : cases) {
-    TinyLibrary library;
-    library.folder.Write("Index/STEM.TXT.INDEX", Records(c.chapters));
-    library.glob.BibleFiles = {"STEM"};
-    library.glob.ChaptersInBook.fill(77);
-    RecordingUi ui;
-    EXPECT_EQ(BooksInChapters(library.glob, 0, CodePage(), ui), Outcome::kDone);
-    for (std::size_t i = 0; i < c.counts.size(); ++i) EXPECT_EQ(library.glob.ChaptersInBook[i + 1], c.counts[i]) << i;
-    EXPECT_TRUE(ui.said.empty());
-  }
-}
-
-TEST(LoadVerseCountTest, KeepsOneSpareElement) {
-  TinyLibrary library;
-  library.folder.Write("Index/STEM.TXT.INDEX", Records({{1, 1, 31}, {66, 255, 0}}));
-  RecordingUi ui;
-  for (int i = 0; i < 2; ++i) {
-    EXPECT_EQ(LoadVerseCount(library.glob, library.index, ui), Outcome::kDone);
-    ASSERT_EQ(library.glob.ChapterIndex.size(), 3U);
-    EXPECT_EQ(library.glob.ChapterIndex[0].Verses, 31);
-    EXPECT_EQ(library.glob.ChapterIndex[1].Chapter, 255);
-    EXPECT_EQ(library.glob.ChapterIndex[2].Book, 0);
+    const test::TemporaryFolder folder;
+    std::string records;
+    for (const int book : c.books) records += "1,0," + std::to_string(book) + ",1,9,9,\"Gen\"\r\n";
+    folder.Write("Index/STEM.TXT.INDEX", records);
+    ModGlob glob;
+    glob.InstallPath = folder.Path();
+    glob.BibleFiles = {"STEM"};
+    glob.ChaptersInBook.fill(77);
+    ScriptedUi ui;
+    EXPECT_EQ(BooksInChapters(glob, 0, CodePage(), ui), Outcome::kDone);
+    EXPECT_TRUE(std::equal(c.counts.begin(), c.counts.end(), glob.ChaptersInBook.begin() + 1)) << records;
   }
 }
 
@@ -153,12 +78,12 @@ TEST(GetVSCntTest, FindsByTitleAndLeadingNumber) {
   } cases[] = {{"Book 1", "1", "6"}, {"Book 2", "12abc", "7"}, {"Book 2", "13", ""},
                {"book 2", "12", ""}, {"None", "1", ""},        {"None", "0", "0"},
                {"None", "", "0"},    {"", "", "99"},           {"Book 2", "-1", ""}};
-  RecordingUi ui;
+  ScriptedUi ui;
   for (const auto& c : cases) EXPECT_EQ(counts.GetVSCnt(c.title, c.chapter, ui), c.verses) << c.title << c.chapter;
-  EXPECT_TRUE(ui.said.empty());
+  EXPECT_TRUE(ui.log.empty());
   EXPECT_EQ(counts.GetVSCnt("Book 1", "70000", ui), "");
-  EXPECT_EQ(ui.said, Texts{"6 GetVSCnt: Last Book 0\r\nLast Chap \"70000\"\r\nLast Index 0\r\n"
-                           "A chapter from -32768 to 32767 was expected."});
+  EXPECT_EQ(ui.Boxes(), std::vector<std::string>{"6 GetVSCnt: Last Book 0\r\nLast Chap \"70000\"\r\nLast Index 0\r\n"
+                                                 "A chapter from -32768 to 32767 was expected."});
 }
 
 }  // namespace

@@ -8,7 +8,7 @@
 
 #include "UserInterface.h"
 
-namespace folionet {
+namespace folionet::test {
 
 // A person made of a script: answers are taken from the front of their queue, and everything that is shown is kept.
 // A queue that has run out answers No, an empty text, or what the chooser was given.
@@ -17,7 +17,7 @@ class ScriptedUi : public UserInterface {
   void ShowMessage(const Message& message) override {
     icon = message.icon;
     Keep(message.title, message.text);
-    if (onMessage) onMessage();
+    onMessage();
   }
   bool AskYesNo(const std::string& title, const std::string& text) override {
     Keep(title + "?", text);
@@ -42,6 +42,13 @@ class ScriptedUi : public UserInterface {
   std::string ChooseFolder(const std::string& initial) override { return Take(texts, Offer(initial, initial)); }
   void ShowPage(const std::string& path) override { pageShown = path; }
 
+  // What the boxes said behind their titles, as "53 Label of the report: text".
+  std::vector<std::string> Boxes() const {
+    std::vector<std::string> boxes;
+    for (std::size_t i = 0; i < log.size(); ++i) boxes.push_back(log[i] + ": " + said[i]);
+    return boxes;
+  }
+
   // The answers to come; files and folders are chosen from the texts.
   std::deque<bool> yesNo;
   std::deque<std::string> texts;
@@ -56,9 +63,9 @@ class ScriptedUi : public UserInterface {
   MessageIcon icon{};                // of the last message
   std::string pageShown;
 
-  std::function<void()> onMessage;
-  std::function<void(int, std::string_view)> onPanel;
-  std::function<void(std::string_view)> onFocus;
+  std::function<void()> onMessage = [] {};
+  std::function<void(int, std::string_view)> onPanel = [](int, std::string_view) {};
+  std::function<void(std::string_view)> onFocus = [](std::string_view) {};
 
  private:
   void Keep(std::string title, std::string text) {
@@ -81,4 +88,4 @@ class ScriptedUi : public UserInterface {
   }
 };
 
-}  // namespace folionet
+}  // namespace folionet::test

@@ -118,11 +118,6 @@ ssize_t Transfer(std::string_view call, long number, int descriptor, Pointer byt
   return done;
 }
 
-mode_t ModeArgument(int flags, va_list arguments) {
-  const bool isGiven = (flags & O_CREAT) != 0 || (flags & O_TMPFILE) == O_TMPFILE;
-  return isGiven ? va_arg(arguments, mode_t) : 0;
-}
-
 template <typename Function>
 Function* Next(const char* name) {
   return reinterpret_cast<Function*>(dlsym(RTLD_NEXT, name));
@@ -130,63 +125,43 @@ Function* Next(const char* name) {
 
 }  // namespace
 
-// The library's own names stand in the place of the C library's; each does what that one does.
+// The library's own names stand in the place of the C library's; each does what that one does. They are those that the
+// programs call.
 extern "C" {
 
-#define FAULTY_OPEN(name)                               \
-  int name(const char* path, int flags, ...) {          \
-    va_list arguments;                                  \
-    va_start(arguments, flags);                         \
-    const mode_t mode = ModeArgument(flags, arguments); \
-    va_end(arguments);                                  \
-    return Open(AT_FDCWD, path, flags, mode);           \
-  }
-FAULTY_OPEN(open)
-FAULTY_OPEN(open64)
-#undef FAULTY_OPEN
+int open(const char* path, int flags, ...) {
+  va_list arguments;
+  va_start(arguments, flags);
+  const mode_t mode = (flags & O_CREAT) != 0 ? va_arg(arguments, mode_t) : 0;
+  va_end(arguments);
+  return Open(AT_FDCWD, path, flags, mode);
+}
 
-#define FAULTY_OPENAT(name)                                \
-  int name(int folder, const char* path, int flags, ...) { \
-    va_list arguments;                                     \
-    va_start(arguments, flags);                            \
-    const mode_t mode = ModeArgument(flags, arguments);    \
-    va_end(arguments);                                     \
-    return Open(folder, path, flags, mode);                \
-  }
-FAULTY_OPENAT(openat)
-FAULTY_OPENAT(openat64)
-#undef FAULTY_OPENAT
+int openat(int folder, const char* path, int flags, ...) {
+  va_list arguments;
+  va_start(arguments, flags);
+  const mode_t mode = (flags & O_CREAT) != 0 ? va_arg(arguments, mode_t) : 0;
+  va_end(arguments);
+  return Open(folder, path, flags, mode);
+}
 
-int __open_2(const char* path, int flags) { return Open(AT_FDCWD, path, flags, 0); }
-int __open64_2(const char* path, int flags) { return Open(AT_FDCWD, path, flags, 0); }
-
-#define FAULTY_TRANSFER(name, call, number, Bytes)                \
-  ssize_t name(int descriptor, Bytes* bytes, std::size_t count) { \
-    return Transfer(call, number, descriptor, bytes, count, -1);  \
-  }
-FAULTY_TRANSFER(read, "read", SYS_read, void)
-FAULTY_TRANSFER(write, "write", SYS_write, const void)
-#undef FAULTY_TRANSFER
-
-#define FAULTY_TRANSFER_AT(name, call, number, Bytes)                           \
-  ssize_t name(int descriptor, Bytes* bytes, std::size_t count, off_t offset) { \
-    return Transfer(call, number, descriptor, bytes, count, offset);            \
-  }
-FAULTY_TRANSFER_AT(pread, "read", SYS_pread64, void)
-FAULTY_TRANSFER_AT(pread64, "read", SYS_pread64, void)
-FAULTY_TRANSFER_AT(pwrite, "write", SYS_pwrite64, const void)
-FAULTY_TRANSFER_AT(pwrite64, "write", SYS_pwrite64, const void)
-#undef FAULTY_TRANSFER_AT
-
-ssize_t __read_chk(int descriptor, void* bytes, std::size_t count, std::size_t /*room*/) {
-  return read(descriptor, bytes, count);
+ssize_t read(int descriptor, void* bytes, std::size_t count) {
+  return Transfer("read", SYS_read, descriptor, bytes, count, -1);
+}
+ssize_t write(int descriptor, const void* bytes, std::size_t count) {
+  return Transfer("write", SYS_write, descriptor, bytes, count, -1);
+}
+ssize_t pread(int descriptor, void* bytes, std::size_t count, off_t offset) {
+  return Transfer("read", SYS_pread64, descriptor, bytes, count, offset);
+}
+ssize_t pwrite(int descriptor, const void* bytes, std::size_t count, off_t offset) {
+  return Transfer("write", SYS_pwrite64, descriptor, bytes, count, offset);
 }
 
 int ftruncate(int descriptor, off_t length) noexcept {
   if (Fails("ftruncate", PathOf(descriptor))) return -1;
   return static_cast<int>(syscall(SYS_ftruncate, descriptor, length));
 }
-int ftruncate64(int descriptor, off_t length) noexcept { return ftruncate(descriptor, length); }
 
 // The descriptor is gone also when the call fails, as it is here.
 int close(int descriptor) {
@@ -202,35 +177,15 @@ int fsync(int descriptor) {
   if (Fails("fsync", PathOf(descriptor))) return -1;
   return static_cast<int>(syscall(SYS_fsync, descriptor));
 }
-int fdatasync(int descriptor) {
-  if (Fails("fsync", PathOf(descriptor))) return -1;
-  return static_cast<int>(syscall(SYS_fdatasync, descriptor));
-}
 
 int unlink(const char* path) noexcept {
   if (Fails("unlink", PathAt(AT_FDCWD, path))) return -1;
   return static_cast<int>(syscall(SYS_unlinkat, AT_FDCWD, path, 0));
 }
-int unlinkat(int folder, const char* path, int flags) noexcept {
-  if (Fails("unlink", PathAt(folder, path))) return -1;
-  return static_cast<int>(syscall(SYS_unlinkat, folder, path, flags));
-}
 
 int rename(const char* from, const char* to) noexcept {
   if (Fails("rename", PathAt(AT_FDCWD, to))) return -1;
   return static_cast<int>(syscall(SYS_renameat2, AT_FDCWD, from, AT_FDCWD, to, 0));
-}
-int renameat2(int fromFolder, const char* from, int toFolder, const char* to, unsigned flags) noexcept {
-  if (Fails("rename", PathAt(toFolder, to))) return -1;
-  return static_cast<int>(syscall(SYS_renameat2, fromFolder, from, toFolder, to, flags));
-}
-int link(const char* from, const char* to) noexcept {
-  if (Fails("link", PathAt(AT_FDCWD, to))) return -1;
-  return static_cast<int>(syscall(SYS_linkat, AT_FDCWD, from, AT_FDCWD, to, 0));
-}
-int linkat(int fromFolder, const char* from, int toFolder, const char* to, int flags) noexcept {
-  if (Fails("link", PathAt(toFolder, to))) return -1;
-  return static_cast<int>(syscall(SYS_linkat, fromFolder, from, toFolder, to, flags));
 }
 
 int mkdir(const char* path, mode_t mode) noexcept {
@@ -243,14 +198,10 @@ DIR* opendir(const char* path) {
   static auto* const real = Next<DIR*(const char*)>("opendir");
   return real(path);
 }
+
 struct dirent* readdir(DIR* folder) {
   if (Fails("readdir", PathOf(dirfd(folder)) + "/")) return nullptr;
   static auto* const real = Next<dirent*(DIR*)>("readdir");
-  return real(folder);
-}
-struct dirent64* readdir64(DIR* folder) {
-  if (Fails("readdir", PathOf(dirfd(folder)) + "/")) return nullptr;
-  static auto* const real = Next<dirent64*(DIR*)>("readdir64");
   return real(folder);
 }
 

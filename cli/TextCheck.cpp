@@ -85,11 +85,10 @@ class TextReader {
   TextReader(const std::string& path, FaultList& faults) : m_reader(path), m_order(path, faults), m_faults(faults) {}
 
   ChapterTable ReadAll() {
-    Verse verse;
     for (bool more = true; more;) {
       try {
-        more = m_reader.Next(verse);
-        if (more) Take(verse);
+        more = m_reader.Next();
+        if (more) Take(m_reader.Current());
       } catch (const RunTimeError& error) {
         m_faults.Add(error);
         more = error.Line() != 0;

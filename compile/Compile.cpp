@@ -74,20 +74,20 @@ class CompileRun {
     bool isFirst = true;
     int lastBook = 0;
     std::int16_t lastChapter = 0;
-    while (m_verses->Next(m_verse)) {
-      if (isFirst || m_verse.chapter != lastChapter || m_verse.book != lastBook) {
+    const Verse& verse = m_verses->Current();
+    while (m_verses->Next()) {
+      if (isFirst || verse.chapter != lastChapter || verse.book != lastBook) {
         if (isFirst) {
-          m_holdsStartPage = !IsStartPage(m_verse.book, m_verse.chapter);
+          m_holdsStartPage = !IsStartPage(verse.book, verse.chapter);
         } else {
-          TurnPage();
+          TurnPage(verse);
         }
         isFirst = false;
-        lastBook = m_verse.book;
-        lastChapter = m_verse.chapter;
+        lastBook = verse.book;
+        lastChapter = verse.chapter;
       }
-      BuildVerseLine(
-          {m_labels[static_cast<std::size_t>(m_verse.book)], m_verse.chapterField, m_verse.verse, m_verse.text},
-          m_options, m_context);
+      BuildVerseLine({m_labels[static_cast<std::size_t>(verse.book)], verse.chapterField, verse.verse, verse.text},
+                     m_options, m_context);
     }
     ClosePage();
     if (m_startPage) {
@@ -120,9 +120,10 @@ class CompileRun {
 
   // The last values seen, for the report of a failure.
   std::string LastValues() const {
-    std::string place = Shown(m_verse.chapterField);
-    if (!m_verse.verse.empty() || !place.empty()) place += ":" + Shown(m_verse.verse);
-    return "INDEX: " + Shown(m_verse.bookField) + "\r\nSL: " + place + "\r\nSR: " + Shown(m_verse.text);
+    const Verse verse = m_verses ? m_verses->Current() : Verse();
+    std::string place = Shown(verse.chapterField);
+    if (!verse.verse.empty() || !place.empty()) place += ":" + Shown(verse.verse);
+    return "INDEX: " + Shown(verse.bookField) + "\r\nSL: " + place + "\r\nSR: " + Shown(verse.text);
   }
 
  private:
@@ -135,14 +136,14 @@ class CompileRun {
     return m_codePage.DecodeForDisplay(shown);
   }
 
-  void TurnPage() {
+  void TurnPage(const Verse& verse) {
     if (m_context.PagesCreated == kInt16Max) throw RunTimeError(kOverflow, "More than 32767 pages.");
     ++m_context.PagesCreated;
-    if (m_shownBook.empty() || m_verse.book != m_context.BookNumber)
-      m_shownBook = m_codePage.DecodeForDisplay(BookName(m_inputs, m_verse.book));
+    if (m_shownBook.empty() || verse.book != m_context.BookNumber)
+      m_shownBook = m_codePage.DecodeForDisplay(BookName(m_inputs, verse.book));
     m_ui.SetPanel(1, "Compiling file " + std::to_string(m_context.PagesCreated) + " " + m_shownBook);
     ClosePage();
-    OpenChapter(m_verse.book, m_verse.chapter, m_verse.chapterField);
+    OpenChapter(verse.book, verse.chapter, verse.chapterField);
   }
 
   bool IsStartPage(int book, std::int16_t chapter) const { return book == m_request.cboStartBook + 1 && chapter == 1; }
@@ -199,8 +200,7 @@ class CompileRun {
   CompileContext m_context;
   std::array<std::string, kBooks + 1> m_labels;
   std::string m_shownBook;                  // the title of the page's book, as the status bar shows it
-  std::optional<VerseFileReader> m_verses;  // outlives a failure, whose report shows what m_verse points to
-  Verse m_verse;
+  std::optional<VerseFileReader> m_verses;  // outlives a failure, whose report shows the verse at hand
   bool m_holdsStartPage = false;
   std::optional<std::string> m_startPage;
 };

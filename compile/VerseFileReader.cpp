@@ -1,6 +1,5 @@
 #include "VerseFileReader.h"
 
-#include <algorithm>
 #include <cstring>
 
 #include "Numbers.h"
@@ -16,15 +15,9 @@ std::size_t FindLastTab(std::string_view line) {
                           : static_cast<std::size_t>(static_cast<const char*>(found) - line.data());
 }
 
-// What follows the first tab. The field before it is a few bytes: a loop finds its end sooner than a call.
-std::string_view AfterTab(std::string_view line) {
-  std::size_t at = 0;
-  while (at < line.size() && line[at] != '\t') ++at;
-  return line.substr(std::min(at + 1, line.size()));
-}
-
-// Where the verse begins, behind the tab of the chapter's field; npos when there is none.
-std::size_t PlaceEnd(std::string_view rest, std::size_t bookEnd) {
+// Where the verse begins, behind the tabs of the book's and of the chapter's field; npos when they are not there.
+std::size_t PlaceEnd(std::string_view rest) {
+  const std::size_t bookEnd = rest.find('\t');
   if (bookEnd == std::string_view::npos) return bookEnd;
   const std::size_t chapterEnd = rest.find('\t', bookEnd + 1);
   return chapterEnd == std::string_view::npos ? chapterEnd : chapterEnd + 1;
@@ -43,40 +36,48 @@ std::int64_t VerseFileReader::Number(std::string_view field, const char* what) c
   return reading.value;
 }
 
-void VerseFileReader::ReadPlace(const Verse& verse) {
-  const auto book = static_cast<int>(Number(verse.bookField, "book"));
-  m_chapter = static_cast<std::int16_t>(Number(verse.chapterField, "chapter"));
+void VerseFileReader::TakePlace(std::string_view place) {
+  m_isPlaceRead = false;
+  m_place = place;
+  const std::string_view kept = m_place;
+  const std::size_t bookEnd = kept.find('\t');
+  m_verse.bookField = kept.substr(0, bookEnd);
+  m_verse.chapterField = kept.substr(bookEnd + 1, kept.size() - bookEnd - 2);
+  const auto book = static_cast<int>(Number(m_verse.bookField, "book"));
+  const auto chapter = static_cast<std::int16_t>(Number(m_verse.chapterField, "chapter"));
   if (book < 1 || book > kBooks) {
-    m_lines.Fail(kSubscriptOutOfRange, "A book from 1 to 66 was expected: " + Quoted(verse.bookField));
+    m_lines.Fail(kSubscriptOutOfRange, "A book from 1 to 66 was expected: " + Quoted(m_verse.bookField));
   }
-  m_book = book;
+  m_verse.book = book;
+  m_verse.chapter = chapter;
+  m_isPlaceRead = true;
 }
 
-bool VerseFileReader::Next(Verse& verse) {
+bool VerseFileReader::NextLine(std::string_view& line) {
+  if (m_lines.NextInMemory(line)) return true;
+  m_kept = std::string(m_verse.verse).append(m_verse.text);
+  const std::string_view kept = m_kept;
+  m_verse.verse = kept.substr(0, m_verse.verse.size());
+  m_verse.text = kept.substr(m_verse.verse.size());
+  return m_lines.Next(line);
+}
+
+bool VerseFileReader::Next() {
   std::string_view line;
-  if (!m_lines.Next(line)) return false;
-  const std::string_view rest = AfterTab(line);
+  if (!NextLine(line)) return false;
+  const std::size_t first = line.find('\t');
+  const std::string_view rest = first == std::string_view::npos ? std::string_view() : line.substr(first + 1);
   // Nearly every line has the book and the chapter of the one before.
-  const bool isSamePlace = m_bookLength > 0 && rest.starts_with(m_place);
-  const std::size_t bookEnd = isSamePlace ? m_bookLength : rest.find('\t');
-  const std::size_t placeEnd = isSamePlace ? m_place.size() : PlaceEnd(rest, bookEnd);
+  const bool isSamePlace = m_isPlaceRead && rest.starts_with(m_place);
+  const std::size_t placeEnd = isSamePlace ? m_place.size() : PlaceEnd(rest);
   const std::size_t last = FindLastTab(rest);
   if (last == std::string_view::npos || placeEnd > last) {
-    verse.text = line;
+    m_verse.text = line;
     m_lines.Fail(kInvalidProcedureCall, "Five fields separated by tabs were expected: " + Quoted(line));
   }
-  verse.bookField = {rest.data(), bookEnd};
-  verse.chapterField = {rest.data() + bookEnd + 1, placeEnd - bookEnd - 2};
-  verse.verse = {rest.data() + placeEnd, last - placeEnd};
-  verse.text = {rest.data() + last + 1, rest.size() - last - 1};
-  if (!isSamePlace) {
-    m_bookLength = 0;
-    ReadPlace(verse);
-    m_place = rest.substr(0, placeEnd);
-    m_bookLength = bookEnd;
-  }
-  verse.book = m_book;
-  verse.chapter = m_chapter;
+  m_verse.verse = rest.substr(placeEnd, last - placeEnd);
+  m_verse.text = rest.substr(last + 1);
+  if (!isSamePlace) TakePlace(rest.substr(0, placeEnd));
   return true;
 }
 

@@ -15,7 +15,7 @@ namespace folionet {
 struct Verse {
   int book = 0;                // 1 to 66
   std::int16_t chapter = 0;    // the number
-  std::string_view bookField;  // as they stand in the file; valid until the next verse is read
+  std::string_view bookField;  // as they stand in the file
   std::string_view chapterField;
   std::string_view verse;
   std::string_view text;
@@ -24,23 +24,30 @@ struct Verse {
 class VerseFileReader {
  public:
   explicit VerseFileReader(const std::string& path) : m_lines(path) {}
+  VerseFileReader(const VerseFileReader&) = delete;
+  VerseFileReader& operator=(const VerseFileReader&) = delete;
 
-  // Gives the next verse; false at the end of the file. Throws RunTimeError: kInvalidProcedureCall for a line with
+  // Goes on to the next verse; false at the end of the file. Throws RunTimeError: kInvalidProcedureCall for a line with
   // fewer than four tabs, kSubscriptOutOfRange for a book outside 1 to 66, kTypeMismatch and kOverflow for a book or a
-  // chapter that is no 16-bit number. `verse` then holds what was read of the line.
-  bool Next(Verse& verse);
+  // chapter that is no 16-bit number, and what LineReader throws.
+  bool Next();
+
+  // The verse at hand. After a failure, what was read of the line, or the verse before when nothing was; at the end of
+  // the file the last one. Its texts are valid until the next call of Next.
+  const Verse& Current() const { return m_verse; }
 
   const LineReader& Lines() const { return m_lines; }
 
  private:
   std::int64_t Number(std::string_view field, const char* what) const;
-  void ReadPlace(const Verse& verse);
+  void TakePlace(std::string_view place);
+  bool NextLine(std::string_view& line);
 
   LineReader m_lines;
-  std::string m_place;           // the book's and the chapter's field of the line before, each with the tab behind it
-  std::size_t m_bookLength = 0;  // of the book's field in it; 0 when m_place does not hold
-  int m_book = 0;
-  std::int16_t m_chapter = 0;
+  Verse m_verse;
+  std::string m_place;  // the book's and the chapter's field of m_verse, each with the tab behind it
+  bool m_isPlaceRead = false;
+  std::string m_kept;  // the texts of m_verse while the lines' memory is filled anew
 };
 
 }  // namespace folionet

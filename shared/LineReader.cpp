@@ -13,7 +13,7 @@
 namespace folionet {
 namespace {
 
-constexpr std::size_t kChunk = std::size_t{128} << 10;
+constexpr std::size_t kChunk = std::size_t{64} << 10;
 
 }  // namespace
 
@@ -30,7 +30,7 @@ LineReader::LineReader(const std::string& path, std::size_t longest)
   if (std::string_view(m_buffer.data(), m_end).starts_with(kByteOrderMark)) m_begin = kByteOrderMark.size();
 }
 
-bool LineReader::Fill() {
+void LineReader::Fill() {
   if (m_begin > 0) {
     std::memmove(m_buffer.data(), m_buffer.data() + m_begin, m_end - m_begin);
     m_end -= m_begin;
@@ -47,18 +47,10 @@ bool LineReader::Fill() {
     }
     m_end += static_cast<std::size_t>(count);
   }
-  return m_end > 0;
 }
 
-bool LineReader::Next(std::string_view& line) {
-  std::size_t searched = m_begin;
+bool LineReader::NextFromFile(std::string_view& line) {
   for (;;) {
-    if (const void* found = std::memchr(m_buffer.data() + searched, '\n', m_end - searched)) {
-      const auto end = static_cast<std::size_t>(static_cast<const char*>(found) - m_buffer.data());
-      line = {m_buffer.data() + m_begin, end - m_begin};
-      m_begin = end + 1;
-      break;
-    }
     const std::size_t pending = m_end - m_begin;
     if (pending > m_longest) {
       SkipLine();
@@ -67,17 +59,15 @@ bool LineReader::Next(std::string_view& line) {
     }
     if (m_atEnd) {
       if (pending == 0) return false;
-      line = {m_buffer.data() + m_begin, pending};
-      m_begin = m_end;
-      break;
+      Take(line, m_end, 0);
+      return true;
     }
     Fill();
-    searched = m_begin + pending;
+    if (const void* found = std::memchr(m_buffer.data() + pending, '\n', m_end - pending)) {
+      Take(line, static_cast<std::size_t>(static_cast<const char*>(found) - m_buffer.data()), 1);
+      return true;
+    }
   }
-  ++m_lineNumber;
-  if (line.size() > m_longest) FailTooLong();
-  if (!line.empty() && line.back() == '\r') line.remove_suffix(1);
-  return true;
 }
 
 // So that one who goes on reading finds the line behind it.

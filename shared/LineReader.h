@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstring>
 #include <string>
 #include <string_view>
 
@@ -24,7 +25,15 @@ class LineReader {
 
   // Gives the next line without its end; false at the end of the file. The line is valid until the next call. Throws
   // RunTimeError when reading fails.
-  bool Next(std::string_view& line);
+  bool Next(std::string_view& line) { return NextInMemory(line) || NextFromFile(line); }
+
+  // As Next, but false when the file has to be read on: the line before is then still valid.
+  bool NextInMemory(std::string_view& line) {
+    const void* found = std::memchr(m_buffer.data() + m_begin, '\n', m_end - m_begin);
+    if (found == nullptr) return false;
+    Take(line, static_cast<std::size_t>(static_cast<const char*>(found) - m_buffer.data()), 1);
+    return true;
+  }
 
   // As Next, passing over lines that hold nothing but blanks.
   bool NextNotBlank(std::string_view& line);
@@ -36,7 +45,18 @@ class LineReader {
   [[noreturn]] void Fail(int number, const std::string& detail) const;
 
  private:
-  bool Fill();
+  bool NextFromFile(std::string_view& line);
+
+  // Gives what stands up to `end`, without a CR, and goes on behind its end of so many bytes.
+  void Take(std::string_view& line, std::size_t end, std::size_t endLength) {
+    line = {m_buffer.data() + m_begin, end - m_begin};
+    m_begin = end + endLength;
+    ++m_lineNumber;
+    if (line.size() > m_longest) FailTooLong();
+    if (!line.empty() && line.back() == '\r') line.remove_suffix(1);
+  }
+
+  void Fill();
   void SkipLine();
   [[noreturn]] void FailTooLong() const;
 

@@ -18,7 +18,7 @@ namespace {
 
 constexpr std::int64_t kByteMax = 255;
 
-void CheckIndexRecord(RecordReader& records, const std::array<std::string, 7>& fields, ChapterOrder& order,
+void CheckIndexRecord(RecordReader& records, const std::array<std::string_view, 7>& fields, ChapterOrder& order,
                       FaultList& faults) {
   const std::string& path = records.Lines().Path();
   const std::size_t line = records.Lines().LineNumber();
@@ -36,7 +36,7 @@ ChapterTable CheckIndex(const std::string& path, FaultList& faults) {
   ChapterOrder order(path, faults);
   try {
     RecordReader records(path);
-    std::array<std::string, 7> fields;
+    std::array<std::string_view, 7> fields;
     for (bool more = true; more;) {
       try {
         more = records.Next(fields);

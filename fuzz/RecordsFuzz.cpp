@@ -1,5 +1,6 @@
 // Reads any bytes as a file of comma-separated records, of two, four and seven fields, and reads back what it writes.
 
+#include <algorithm>
 #include <array>
 
 #include "FuzzFiles.h"
@@ -13,9 +14,9 @@ template <std::size_t kFields>
 void ReadAll(const std::string& path) {
   try {
     RecordReader records(path);
-    std::array<std::string, kFields> fields;
+    std::array<std::string_view, kFields> fields;
     while (records.Next(fields)) {
-      for (const std::string& field : fields) records.Integer(field, -100000, 100000);
+      for (const std::string_view field : fields) records.Integer(field, -100000, 100000);
     }
   } catch (const RunTimeError& error) {
     if (error.Item() != path) std::abort();
@@ -29,8 +30,8 @@ void WriteAndRead(const Folder& folder, std::string_view input) {
     if (input[i] != '\n' && input[i] != '\r') written[i % 2] += input[i];
   }
   RecordReader records(folder.Write("written", "x,y\r\n" + QuotedRecord(written)));
-  std::array<std::string, 2> read;
-  if (!records.Next(read) || !records.Next(read) || read != written) std::abort();
+  std::array<std::string_view, 2> read;
+  if (!records.Next(read) || !records.Next(read) || !std::ranges::equal(read, written)) std::abort();
 }
 
 }  // namespace

@@ -36,9 +36,12 @@ void ReplaceAll(std::string& text, std::string_view word, std::string_view value
   std::string rest(text.rbegin(), text.rend() - static_cast<std::ptrdiff_t>(first));
   text.resize(first);
   while (!rest.empty()) {
-    text += rest.back();
-    rest.pop_back();
-    if (text.back() != word.back() || !text.ends_with(word)) continue;
+    // Up to where the word may end.
+    const std::size_t end = rest.rfind(word.back());
+    const std::size_t left = end == std::string::npos ? 0 : end;
+    text.append(rest.rbegin(), rest.rend() - static_cast<std::ptrdiff_t>(left));
+    rest.resize(left);
+    if (!text.ends_with(word)) continue;
     text.resize(text.size() - word.size());
     rest.append(value.rbegin(), value.rend());
     if (++replacements > kMostReplacements) FailEndless(word, value);
@@ -100,15 +103,16 @@ std::optional<std::string> PageTitles::Build(std::string_view book, std::string_
       ReplaceAll(stage.text, "%bk%", book, stage.replacements);
       m_withBook = std::move(stage);
       m_book = book;
+      m_bookNumber = counts.BookOf(book);
       CutAtWords(*m_withBook);
     }
     if (IsPlainNumber(chapter) && m_isFarFromLimits) {
-      return Joined(chapter, m_namesVerses ? counts.GetVSCnt(book, chapter, ui) : std::string());
+      return Joined(chapter, m_namesVerses ? counts.GetVSCnt(m_bookNumber, chapter, ui) : std::string());
     }
     Stage page = *m_withBook;
     ReplaceAll(page.text, kChapterWord, chapter, page.replacements);
     if (page.text.find(kVersesWord) != std::string::npos) {
-      ReplaceAll(page.text, kVersesWord, "1-" + counts.GetVSCnt(book, chapter, ui), page.replacements);
+      ReplaceAll(page.text, kVersesWord, "1-" + counts.GetVSCnt(m_bookNumber, chapter, ui), page.replacements);
     }
     return std::move(page.text);
   } catch (const RunTimeError& error) {

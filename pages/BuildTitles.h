@@ -57,6 +57,7 @@ class PageTitles {
   std::optional<Stage> m_withBible;
   std::optional<Stage> m_withBook;
   std::string m_book;              // of m_withBook
+  int m_bookNumber = 0;            // as `counts` knows it
   std::vector<Piece> m_pieces;     // of m_withBook, for pages whose chapter is a plain number
   std::size_t m_joinedLength = 0;  // at most
   bool m_namesVerses = false;

@@ -11,8 +11,8 @@ namespace folionet {
 
 void ReadEncodingList(const std::string& path, const CodePage& codePage, std::vector<std::string>& entries) {
   RecordReader records(path);
-  std::array<std::string, 2> fields;
-  while (records.Next(fields)) entries.push_back(codePage.Decode(fields[0] + " " + fields[1]));
+  std::array<std::string_view, 2> fields;
+  while (records.Next(fields)) entries.push_back(codePage.Decode(std::string(fields[0]).append(" ").append(fields[1])));
 }
 
 void AppendEncodingRecord(const std::string& path, const CodePage& codePage, const EncodingRecord& record) {

@@ -1,48 +1,65 @@
 #include "RecordReader.h"
 
+#include <algorithm>
+
 #include "Numbers.h"
 #include "RunTimeError.h"
 
 namespace folionet {
 namespace {
 
+bool IsBlank(char c) { return c == ' ' || c == '\t'; }
+
 std::size_t SkipBlanks(std::string_view line, std::size_t at) {
-  while (at < line.size() && (line[at] == ' ' || line[at] == '\t')) ++at;
+  while (at < line.size() && IsBlank(line[at])) ++at;
   return at;
 }
 
 }  // namespace
 
+// Begins behind the opening quote and leaves `at` behind the closing one.
+std::string_view RecordReader::TakeQuoted(std::string_view line, std::size_t& at) {
+  const std::size_t start = m_unquoted.size();
+  for (;; ++at) {
+    const std::size_t quote = line.find('"', at);
+    if (quote == std::string_view::npos) {
+      m_lines.Fail(kInputPastEnd, "A quoted field is not closed: " + Quoted(line));
+    }
+    const std::string_view part = line.substr(at, quote - at);
+    at = quote + 1;
+    const bool isDoubled = at < line.size() && line[at] == '"';
+    if (!isDoubled && m_unquoted.size() == start) return part;
+    m_unquoted += part;
+    if (!isDoubled) return std::string_view(m_unquoted).substr(start);
+    m_unquoted += '"';
+  }
+}
+
 // Leaves `at` on the comma that ends the field, or at the line's end.
-void RecordReader::TakeField(std::string_view line, std::size_t& at, std::string& field) const {
+std::string_view RecordReader::TakeField(std::string_view line, std::size_t& at) {
   at = SkipBlanks(line, at);
   if (at == line.size() || line[at] != '"') {
     // Most fields are numbers of a few digits: a loop finds their ends sooner than a call.
     const std::size_t start = at;
     while (at < line.size() && line[at] != ',') ++at;
-    field = TrimBlanks(line.substr(start, at - start));
-    return;
+    std::size_t end = at;
+    while (end > start && IsBlank(line[end - 1])) --end;
+    return line.substr(start, end - start);
   }
-  for (++at;; ++at) {
-    const std::size_t quote = line.find('"', at);
-    if (quote == std::string_view::npos) {
-      m_lines.Fail(kInputPastEnd, "A quoted field is not closed: " + Quoted(line));
-    }
-    field += line.substr(at, quote - at);
-    at = quote + 1;
-    if (at == line.size() || line[at] != '"') break;
-    field += '"';
-  }
+  const std::string_view field = TakeQuoted(line, ++at);
   at = SkipBlanks(line, at);
   if (at < line.size() && line[at] != ',') {
     m_lines.Fail(kInvalidProcedureCall, "Text follows the closing quote of a field: " + Quoted(line));
   }
+  return field;
 }
 
-bool RecordReader::Next(std::span<std::string> fields) {
+bool RecordReader::Next(std::span<std::string_view> fields) {
+  std::ranges::fill(fields, std::string_view());
   std::string_view line;
   if (!m_lines.NextNotBlank(line)) return false;
-  for (std::string& field : fields) field.clear();
+  m_unquoted.clear();
+  m_unquoted.reserve(line.size());  // so that it does not move while fields point into it
   std::size_t at = 0;
   for (std::size_t i = 0; i < fields.size(); ++i) {
     if (i > 0) {
@@ -52,7 +69,7 @@ bool RecordReader::Next(std::span<std::string> fields) {
       }
       ++at;
     }
-    TakeField(line, at, fields[i]);
+    fields[i] = TakeField(line, at);
   }
   if (at < line.size()) {
     m_lines.Fail(kInvalidProcedureCall,
@@ -61,7 +78,7 @@ bool RecordReader::Next(std::span<std::string> fields) {
   return true;
 }
 
-std::int64_t RecordReader::Integer(const std::string& field, std::int64_t lowest, std::int64_t highest) const {
+std::int64_t RecordReader::Integer(std::string_view field, std::int64_t lowest, std::int64_t highest) const {
   const IntegerReading reading = ReadInteger(field, lowest, highest);
   if (reading.error == kOverflow) {
     m_lines.Fail(kOverflow, "A number from " + std::to_string(lowest) + " to " + std::to_string(highest) +

@@ -19,20 +19,23 @@ class RecordReader {
  public:
   explicit RecordReader(const std::string& path) : m_lines(path, LineReader::kLongestEntry) {}
 
-  // Reads the next record into `fields`, which must be as many as the record has; false at the end of the file. Throws
-  // RunTimeError: kInputPastEnd when the record has fewer fields or a quote is not closed, kInvalidProcedureCall when
-  // it has more or text follows a closing quote. Fields read before the failure are kept, the others are empty.
-  bool Next(std::span<std::string> fields);
+  // Reads the next record into `fields`, which must be as many as the record has; they are valid until the next call.
+  // False at the end of the file. Throws RunTimeError: kInputPastEnd when the record has fewer fields or a quote is not
+  // closed, kInvalidProcedureCall when it has more or text follows a closing quote. Fields read before the failure are
+  // kept, the others are empty.
+  bool Next(std::span<std::string_view> fields);
 
   // A field of the record last read as a whole number within limits; throws kTypeMismatch or kOverflow.
-  std::int64_t Integer(const std::string& field, std::int64_t lowest, std::int64_t highest) const;
+  std::int64_t Integer(std::string_view field, std::int64_t lowest, std::int64_t highest) const;
 
   const LineReader& Lines() const { return m_lines; }
 
  private:
-  void TakeField(std::string_view line, std::size_t& at, std::string& field) const;
+  std::string_view TakeField(std::string_view line, std::size_t& at);
+  std::string_view TakeQuoted(std::string_view line, std::size_t& at);
 
   LineReader m_lines;
+  std::string m_unquoted;  // the fields of the record that hold a quote, one behind the other
 };
 
 // The line, ended by CR LF, of a record whose fields are all quoted: "big5","(Traditional Chinese - Big 5)"

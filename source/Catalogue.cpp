@@ -16,7 +16,7 @@ namespace {
 constexpr std::int64_t kFirstHiddenNumber = 1000;
 
 // A stem names a file in one folder; it must not lead out of it.
-void CheckStem(const RecordReader& records, const std::string& stem, const CodePage& codePage) {
+void CheckStem(const RecordReader& records, std::string_view stem, const CodePage& codePage) {
   for (const char c : codePage.Decode(stem)) {
     if (c == '/' || c == '\\' || static_cast<unsigned char>(c) < 0x20) {
       records.Lines().Fail(kBadFileName, "A file name without a folder was expected: " + Quoted(stem));
@@ -56,7 +56,7 @@ bool IsMissing(const std::string& path) {
 }  // namespace
 
 bool ReadCatalogueRecord(RecordReader& records, const CodePage& codePage, CatalogueRecord& record) {
-  std::array<std::string, 4> fields;
+  std::array<std::string_view, 4> fields;
   if (!records.Next(fields)) return false;
   record.isListed = records.Integer(fields[0], kInt32Min, kInt32Max) < kFirstHiddenNumber;
   records.Integer(fields[1], kInt32Min, kInt32Max);

@@ -20,7 +20,7 @@ constexpr std::size_t kByteValues = 256;
 
 void CountChapters(ModGlob& glob, const std::string& path) {
   RecordReader records(path);
-  std::array<std::string, kFields> fields;
+  std::array<std::string_view, kFields> fields;
   std::int64_t lastBook = kInt32Min;  // stands for none
   std::size_t bookCount = 0;
   std::int16_t chapterCount = 0;
@@ -39,28 +39,36 @@ void CountChapters(ModGlob& glob, const std::string& path) {
   }
 }
 
-std::uint8_t ByteOf(const RecordReader& records, const std::string& field) {
+std::uint8_t ByteOf(const RecordReader& records, std::string_view field) {
   return static_cast<std::uint8_t>(records.Integer(field, 0, kByteMax));
 }
 
-void ReadEntries(ModGlob& glob, const std::string& path, std::array<std::string, kFields>& fields) {
-  RecordReader records(path);
-  while (records.Next(fields)) {
-    glob.ChapterIndex.back() = {ByteOf(records, fields[kBookField]), ByteOf(records, fields[kChapterField]),
-                                ByteOf(records, fields[kVersesField])};
-    glob.ChapterIndex.push_back({});
-  }
-}
-
-std::string LastInput(const std::array<std::string, kFields>& fields) {
+std::string LastInput(const std::array<std::string_view, kFields>& fields) {
   std::string text = "Last Input ";
   char name = 'A';
-  for (const std::string& field : fields) {
+  for (const std::string_view field : fields) {
     text += "\r\n";
     text += name++;
     text += " = " + CodePage("utf-8").DecodeForDisplay(field);
   }
   return text;
+}
+
+// `lastInput` tells, after a failure, the fields that were read last.
+void ReadEntries(ModGlob& glob, const std::string& path, std::string& lastInput) {
+  std::array<std::string_view, kFields> fields;
+  lastInput = LastInput(fields);
+  RecordReader records(path);
+  try {
+    while (records.Next(fields)) {
+      glob.ChapterIndex.back() = {ByteOf(records, fields[kBookField]), ByteOf(records, fields[kChapterField]),
+                                  ByteOf(records, fields[kVersesField])};
+      glob.ChapterIndex.push_back({});
+    }
+  } catch (const RunTimeError&) {
+    lastInput = LastInput(fields);
+    throw;
+  }
 }
 
 }  // namespace
@@ -91,13 +99,13 @@ Outcome BooksInChapters(ModGlob& glob, std::size_t translation, const CodePage& 
 }
 
 Outcome LoadVerseCount(ModGlob& glob, const std::string& path, UserInterface& ui) {
-  std::array<std::string, kFields> fields;
+  std::string lastInput;
   glob.ChapterIndex.assign(1, {});
   try {
-    ReadEntries(glob, path, fields);
+    ReadEntries(glob, path, lastInput);
     return Outcome::kDone;
   } catch (const RunTimeError& error) {
-    ui.ShowErrorReport(error.Number(), "Load Verse Count", LastInput(fields) + "\r\n" + error.Extra());
+    ui.ShowErrorReport(error.Number(), "Load Verse Count", lastInput + "\r\n" + error.Extra());
   }
   ui.ShowMessage({MessageIcon::kCritical, "File not found",
                   std::string(kApplicationTitle) + " could not find the file\r\n" + path +
@@ -106,17 +114,24 @@ Outcome LoadVerseCount(ModGlob& glob, const std::string& path, UserInterface& ui
   return Outcome::kEndProgram;
 }
 
-VerseCounts::VerseCounts(const ModGlob& glob) : m_verses(kByteValues * kByteValues, -1) {
+VerseCounts::VerseCounts(const ModGlob& glob) {
   int book = 0;
   for (const std::string& title : glob.cboStartBook) m_bookOfTitle[title] = ++book;
   // The item one past the list's end reads as the empty text.
   m_bookOfTitle[{}] = ++book;
   for (const ChapterEntry& entry : glob.ChapterIndex) {
-    m_verses[kByteValues * entry.Book + entry.Chapter] = entry.Verses;
+    const std::size_t bookStart = kByteValues * entry.Book;
+    if (m_verses.size() <= bookStart) m_verses.resize(bookStart + kByteValues, -1);
+    m_verses[bookStart + entry.Chapter] = entry.Verses;
   }
 }
 
-std::string VerseCounts::GetVSCnt(std::string_view bookTitle, std::string_view chapter, UserInterface& ui) const {
+int VerseCounts::BookOf(std::string_view title) const {
+  const auto found = m_bookOfTitle.find(std::string(title));
+  return found == m_bookOfTitle.end() ? 0 : found->second;
+}
+
+std::string VerseCounts::GetVSCnt(int book, std::string_view chapter, UserInterface& ui) const {
   const auto number = LeadingInteger(chapter);
   if (!number) {
     ui.ShowErrorReport(kOverflow, "GetVSCnt",
@@ -124,12 +139,9 @@ std::string VerseCounts::GetVSCnt(std::string_view bookTitle, std::string_view c
                            "A chapter from -32768 to 32767 was expected.");
     return {};
   }
-  const auto found = m_bookOfTitle.find(std::string(bookTitle));
-  const int book = found == m_bookOfTitle.end() ? 0 : found->second;
-  if (*number < 0 || *number > kByteMax || book > kByteMax) return {};
-  const std::int16_t verses =
-      m_verses[kByteValues * static_cast<std::size_t>(book) + static_cast<std::size_t>(*number)];
-  return verses < 0 ? std::string() : std::to_string(verses);
+  const std::size_t place = kByteValues * static_cast<std::size_t>(book) + static_cast<std::size_t>(*number);
+  if (*number < 0 || *number > kByteMax || place >= m_verses.size() || m_verses[place] < 0) return {};
+  return std::to_string(m_verses[place]);
 }
 
 }  // namespace folionet

@@ -36,7 +36,13 @@ class VerseCounts {
   // The number of verses of a chapter as decimal text, the empty text when unknown. The book is known by its title's
   // last place in the start-book list, the chapter by the number that its text begins with. A failure (a chapter that
   // does not fit 16 bits) is reported under "GetVSCnt" and gives the empty text.
-  std::string GetVSCnt(std::string_view bookTitle, std::string_view chapter, UserInterface& ui) const;
+  std::string GetVSCnt(std::string_view bookTitle, std::string_view chapter, UserInterface& ui) const {
+    return GetVSCnt(BookOf(bookTitle), chapter, ui);
+  }
+
+  // The same in two steps, for the many chapters of one book.
+  int BookOf(std::string_view title) const;
+  std::string GetVSCnt(int book, std::string_view chapter, UserInterface& ui) const;
 
  private:
   std::unordered_map<std::string, int> m_bookOfTitle;

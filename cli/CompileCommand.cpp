@@ -61,6 +61,7 @@ void WarnOfSharedName(const CompileRequest& request, const ModGlob& glob, const 
   const PageNames names(glob.cboStartBook, request.options.chkUse83, codePage);
   const std::string index = IndexFileName(request.options.txthttpRoot);
   for (int book = 1; book <= static_cast<int>(glob.cboStartBook.size()); ++book) {
+    if (!index.starts_with(names.BookOnDisk(book))) continue;
     for (int chapter = 1; chapter <= glob.ChaptersInBook[static_cast<std::size_t>(book)]; ++chapter) {
       if (names.OnDisk(book, chapter) != index) continue;
       std::fprintf(stderr,

@@ -93,7 +93,7 @@ class CompileRun {
     if (m_startPage) {
       m_context.PageFile.Open(m_context.OutputFolder, m_names.OnDisk(m_request.cboStartBook + 1, 1));
       m_context.PageFile.Add(*m_startPage);
-      Note(m_names.OnDisk(m_request.cboStartBook + 1, 1), m_context.PageFile.Close());
+      Note(m_context.PageFile.Name(), m_context.PageFile.Close());
     }
   }
 
@@ -156,7 +156,7 @@ class CompileRun {
       m_startPage = m_context.PageFile.Take();
       return;
     }
-    Note(m_names.OnDisk(m_context.BookNumber, m_context.ChapterNumber), m_context.PageFile.Close());
+    Note(m_context.PageFile.Name(), m_context.PageFile.Close());
   }
 
   void Note(const std::string& name, PageChange change) const {

@@ -13,8 +13,9 @@ int ChaptersOf(const PageInputs& inputs, int book) {
 }
 
 void AddChapterLink(std::string& text, const PageInputs& inputs, int book, int chapter) {
-  text.append("[<a href=\"").append(inputs.names.InLink(book, chapter)).append("\">");
-  text.append(std::to_string(chapter)).append("</a>] ");
+  text += "[<a href=\"";
+  inputs.names.AddInLink(text, book, chapter);
+  text.append("\">").append(std::to_string(chapter)).append("</a>] ");
 }
 
 void CheckLength(const std::string& text, const char* what) {

@@ -37,10 +37,9 @@ void WriteChapterHead(const ChapterHead& head, const PageInputs& inputs, Compile
 
   const std::string title =
       PageText(inputs, inputs.titles.title, BookName(inputs, head.bookNumber), std::to_string(head.chapterNumber));
-  const std::string version = std::to_string(kVersionMajor) + "." + std::to_string(kVersionMinor);
-  PrintDocumentHead(
-      {version, head.language, head.charset, head.keywords, head.description, title, head.backColour, head.textColour},
-      options, context);
+  PrintDocumentHead({kShortVersion, head.language, head.charset, head.keywords, head.description, title,
+                     head.backColour, head.textColour},
+                    options, context);
   if (!context.CustomHeader.empty()) page.Print(context.CustomHeader);
   page.Print(inputs.linkToMain);
   page.Print("<p>&nbsp;</p>");

@@ -2,6 +2,7 @@
 
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <cerrno>
 #include <cstdlib>
@@ -14,6 +15,8 @@
 
 namespace folionet {
 namespace {
+
+constexpr std::size_t kHead = 2048;  // up to the heading, as a rule
 
 std::string RealPath(const std::string& path) {
   const std::unique_ptr<char, decltype(&std::free)> real(realpath(path.c_str(), nullptr), &std::free);
@@ -84,7 +87,7 @@ FileHandle PageFile::OpenExisting() const {
 FileHandle PageFile::OpenForWriting(bool& isNew) const {
   constexpr int kNewFlags = O_WRONLY | O_CREAT | O_EXCL;
   constexpr mode_t kMode = 0666;
-  isNew = m_expectNew;
+  isNew = m_expected == PageChange::kNew;
   FileHandle file = isNew ? FileHandle::OpenAt(m_folderHandle.Get(), m_name.c_str(), kNewFlags, kMode) : OpenExisting();
   if (!file.IsOpen() && errno == (isNew ? EEXIST : ENOENT)) {
     isNew = !isNew;
@@ -94,7 +97,7 @@ FileHandle PageFile::OpenForWriting(bool& isNew) const {
   return file;
 }
 
-std::size_t PageFile::SizeOfExisting(const FileHandle& file) const {
+std::size_t PageFile::SizeOfRegular(const FileHandle& file) const {
   struct stat status {};
   if (fstat(file.Get(), &status) != 0) Fail(errno);
   if (!S_ISREG(status.st_mode)) {
@@ -103,10 +106,16 @@ std::size_t PageFile::SizeOfExisting(const FileHandle& file) const {
   return static_cast<std::size_t>(status.st_size);
 }
 
-bool PageFile::HasText(const FileHandle& file, std::size_t size) {
-  if (size != m_size) return false;
-  if (!ReadAll(file.Get(), m_old, size, 0)) Fail(errno);
-  return m_old == Text();
+// Asking for the end takes less time than fstat; only what is written into must be known to be a regular file. Where
+// the page before was changed, a look at the beginning of this one mostly shows that it is too.
+bool PageFile::HasText(const FileHandle& file) {
+  if (lseek(file.Get(), 0, SEEK_END) != static_cast<off_t>(m_size)) return false;
+  std::size_t end = m_expected == PageChange::kChanged ? std::min(kHead, m_size) : m_size;
+  for (std::size_t start = 0;; start = std::exchange(end, m_size)) {
+    if (!ReadAll(file.Get(), m_old, end - start, start)) Fail(errno);
+    if (m_old != Text().substr(start, end - start)) return false;
+    if (end == m_size) return true;
+  }
 }
 
 PageChange PageFile::Compare() {
@@ -116,7 +125,9 @@ PageChange PageFile::Compare() {
     if (errno != ENOENT) Fail(errno);
     return PageChange::kNew;
   }
-  return HasText(file, SizeOfExisting(file)) ? PageChange::kSame : PageChange::kChanged;
+  if (HasText(file)) return PageChange::kSame;
+  SizeOfRegular(file);
+  return PageChange::kChanged;
 }
 
 PageChange PageFile::Close() {
@@ -124,16 +135,12 @@ PageChange PageFile::Close() {
   if (m_dryRun) return Compare();
   bool isNew = false;
   FileHandle file = OpenForWriting(isNew);
-  m_expectNew = isNew;  // the pages of a site are mostly all new or all there
-  std::size_t oldSize = 0;
-  if (!isNew) {
-    oldSize = SizeOfExisting(file);
-    if (HasText(file, oldSize)) return PageChange::kSame;
-  }
+  if (!isNew && HasText(file)) return m_expected = PageChange::kSame;
+  const std::size_t oldSize = isNew ? 0 : SizeOfRegular(file);
   if (!WriteAll(file.Get(), Text(), 0)) Fail(errno);
   if (oldSize > m_size && !CutToLength(file.Get(), m_size)) Fail(errno);
   if (!file.Close()) Fail(errno);
-  return isNew ? PageChange::kNew : PageChange::kChanged;
+  return m_expected = isNew ? PageChange::kNew : PageChange::kChanged;
 }
 
 std::string PageFile::Take() {

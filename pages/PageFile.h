@@ -47,6 +47,9 @@ class PageFile {
 
   bool IsOpen() const { return m_isOpen; }
 
+  // The name of the page that was opened last.
+  const std::string& Name() const { return m_name; }
+
  private:
   // One look at the room that there is for all of the texts.
   template <typename... Views>
@@ -63,8 +66,8 @@ class PageFile {
 
   FileHandle OpenForWriting(bool& isNew) const;
   FileHandle OpenExisting() const;
-  std::size_t SizeOfExisting(const FileHandle& file) const;
-  bool HasText(const FileHandle& file, std::size_t size);
+  std::size_t SizeOfRegular(const FileHandle& file) const;
+  bool HasText(const FileHandle& file);
   PageChange Compare();
   [[noreturn]] void Fail(int systemError) const;
 
@@ -75,7 +78,8 @@ class PageFile {
   std::string m_old;
   FileHandle m_folderHandle;
   bool m_isOpen = false;
-  bool m_expectNew = true;
+  // What the page before was: the pages of a site are mostly all new, all changed or all the same.
+  PageChange m_expected = PageChange::kNew;
   bool m_dryRun = false;
 };
 

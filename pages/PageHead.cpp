@@ -5,8 +5,9 @@
 namespace folionet {
 namespace {
 
-void PrintMeta(PageFile& page, std::string_view kind, std::string_view name, std::string_view content) {
-  page.Print("<meta ", kind, "=\"", name, "\" content=\"", content, "\">");
+template <typename... Texts>
+void PrintMeta(PageFile& page, std::string_view kind, std::string_view name, const Texts&... content) {
+  page.Print("<meta ", kind, "=\"", name, "\" content=\"", content..., "\">");
 }
 
 // With link colours the word "body" stands a second time, as an attribute; without them a blank begins the line. With
@@ -30,7 +31,7 @@ void PrintBodyLine(const DocumentHead& head, const PageOptions& options, Compile
 void PrintDocumentHead(const DocumentHead& head, const PageOptions& options, CompileContext& context) {
   PageFile& page = context.PageFile;
   page.Print("<html>\r\n<head>");
-  PrintMeta(page, "name", "GENERATOR", "Versalia Folionet Ver " + std::string(head.version));
+  PrintMeta(page, "name", "GENERATOR", "Versalia Folionet Ver ", head.version);
   page.Print("<meta http-equiv=\"Content-Type\" content=\"text/html; charset=", head.charset, "\">");
   PrintMeta(page, "http-equiv", "Content-Language", head.language);
   PrintMeta(page, "name", "DESCRIPTION", head.description);

@@ -17,8 +17,13 @@ std::string BookPart(std::string_view bookName, int bookNumber, bool use83, cons
   return (use83 ? Padded(bookNumber, 2) : UnderscoreSpaces(codePage.ToLower(bookName))) + "_";
 }
 
-std::string WithChapter(const std::string& bookPart, int chapter, bool use83) {
-  return bookPart + (use83 ? Padded(chapter, 3) + ".htm" : std::to_string(chapter) + ".html");
+void AddWithChapter(std::string& text, const std::string& bookPart, int chapter, bool use83) {
+  text += bookPart;
+  if (use83) {
+    text.append(Padded(chapter, 3)).append(".htm");
+  } else {
+    text.append(std::to_string(chapter)).append(".html");
+  }
 }
 
 }  // namespace
@@ -31,7 +36,9 @@ std::string UnderscoreSpaces(std::string_view text) {
 
 std::string ChapterPageName(std::string_view bookName, int bookNumber, int chapter, bool use83,
                             const CodePage& codePage) {
-  return WithChapter(BookPart(bookName, bookNumber, use83, codePage), chapter, use83);
+  std::string name;
+  AddWithChapter(name, BookPart(bookName, bookNumber, use83, codePage), chapter, use83);
+  return name;
 }
 
 std::string IndexFileName(std::string_view httpRoot) {
@@ -46,8 +53,14 @@ PageNames::PageNames(const std::vector<std::string>& titles, bool use83, const C
   }
 }
 
-std::string PageNames::Joined(const std::string& bookPart, int chapter) const {
-  return WithChapter(bookPart, chapter, m_use83);
+std::string PageNames::OnDisk(int book, int chapter) const {
+  std::string name;
+  AddJoined(name, m_onDisk[Index(book)], chapter);
+  return name;
+}
+
+void PageNames::AddJoined(std::string& text, const std::string& bookPart, int chapter) const {
+  AddWithChapter(text, bookPart, chapter, m_use83);
 }
 
 }  // namespace folionet

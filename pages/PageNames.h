@@ -25,17 +25,20 @@ class PageNames {
   // `titles` are those of the start-book list: the first is book 1.
   PageNames(const std::vector<std::string>& titles, bool use83, const CodePage& codePage);
 
-  // The name as it stands in a link. `book` is 1 to 66.
-  std::string InLink(int book, int chapter) const { return Joined(m_inLink[Index(book)], chapter); }
+  // Adds the name as it stands in a link to the text. `book` is 1 to 66.
+  void AddInLink(std::string& text, int book, int chapter) const { AddJoined(text, m_inLink[Index(book)], chapter); }
 
   // The name of the file, as Unicode in UTF-8, so that a link and its file agree in a browser whatever the charset.
-  std::string OnDisk(int book, int chapter) const { return Joined(m_onDisk[Index(book)], chapter); }
+  std::string OnDisk(int book, int chapter) const;
+
+  // What the names of all files of a book begin with.
+  const std::string& BookOnDisk(int book) const { return m_onDisk[Index(book)]; }
 
   bool Use83() const { return m_use83; }
 
  private:
   static std::size_t Index(int book) { return static_cast<std::size_t>(book - 1); }
-  std::string Joined(const std::string& bookPart, int chapter) const;
+  void AddJoined(std::string& text, const std::string& bookPart, int chapter) const;
 
   bool m_use83;
   std::vector<std::string> m_inLink;

@@ -53,8 +53,7 @@ void VerseFileReader::TakePlace(std::string_view place) {
   m_isPlaceRead = true;
 }
 
-bool VerseFileReader::NextLine(std::string_view& line) {
-  if (m_lines.NextInMemory(line)) return true;
+bool VerseFileReader::ReadOn(std::string_view& line) {
   m_kept = std::string(m_verse.verse).append(m_verse.text);
   const std::string_view kept = m_kept;
   m_verse.verse = kept.substr(0, m_verse.verse.size());
@@ -64,7 +63,7 @@ bool VerseFileReader::NextLine(std::string_view& line) {
 
 bool VerseFileReader::Next() {
   std::string_view line;
-  if (!NextLine(line)) return false;
+  if (!m_lines.NextInMemory(line) && !ReadOn(line)) return false;
   const std::size_t first = line.find('\t');
   const std::string_view rest = first == std::string_view::npos ? std::string_view() : line.substr(first + 1);
   // Nearly every line has the book and the chapter of the one before.

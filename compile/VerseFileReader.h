@@ -41,7 +41,7 @@ class VerseFileReader {
  private:
   std::int64_t Number(std::string_view field, const char* what) const;
   void TakePlace(std::string_view place);
-  bool NextLine(std::string_view& line);
+  bool ReadOn(std::string_view& line);
 
   LineReader m_lines;
   Verse m_verse;

@@ -4,7 +4,6 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
-#include <map>
 
 #include "FolderPickers.h"
 #include "TextBox.h"
@@ -39,22 +38,6 @@ void WriteLibrary(const test::TemporaryFolder& home) {
 }
 
 }  // namespace
-
-std::string Unescaped(const std::string& text) {
-  const std::map<char, char> controls{{'n', '\n'}, {'r', '\r'}, {'t', '\t'}, {'\\', '\\'}};
-  std::string plain;
-  for (std::size_t i = 0; i < text.size(); ++i) {
-    if (text[i] != '\\') {
-      plain += text[i];
-    } else if (text.at(++i) == 'x') {
-      plain += static_cast<char>(std::stoi(text.substr(i + 1, 2), nullptr, 16));
-      i += 2;
-    } else {
-      plain += controls.at(text[i]);
-    }
-  }
-  return plain;
-}
 
 FormTest::FormTest() {
   WriteLibrary(m_home);

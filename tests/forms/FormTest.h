@@ -21,9 +21,6 @@ namespace folionet {
 class frmMain;
 using Log = std::vector<std::string>;
 
-// A text of a data file with "\n", "\r", "\t", "\\" and bytes such as "\xE9" as what they stand for.
-std::string Unescaped(const std::string& text);
-
 // A home of its own with a small library that Versalia's settings name, and starts of the main form in it:
 //
 //   Small Bible  SMALL  Book1 1 (3 verses), 2 (2 verses); Book2 1 (1 verse)

@@ -2,6 +2,7 @@
 #include <map>
 #include <sstream>
 
+#include "Escapes.h"
 #include "FormTest.h"
 #include "frmMain.h"
 
@@ -47,7 +48,7 @@ Line Parsed(const std::string& text, const std::string& place) {
   std::istringstream words(line.rest);
   for (std::string word; words >> word;) line.words.push_back(word);
   line.first = cut(line.rest);
-  line.rest = Unescaped(line.rest);
+  line.rest = test::Unescaped(line.rest);
   return line;
 }
 

@@ -7,6 +7,7 @@
 #include <map>
 #include <set>
 
+#include "Escapes.h"
 #include "FormTest.h"
 #include "frmMain.h"
 
@@ -27,7 +28,7 @@ TEST_F(Texts, AreThoseOfTheFile) {
     std::getline(file, text);
     const bool isList = property == "items";
     const QString shown = Get(control).property(property.c_str()).toString().remove('&');
-    EXPECT_EQ(isList ? Items(control) : FromQt(shown), Unescaped(text)) << control;
+    EXPECT_EQ(isList ? Items(control) : FromQt(shown), test::Unescaped(text)) << control;
     ++counts[control.substr(0, control.find('.') + 1)];
   }
   EXPECT_EQ(counts.size(), 11U) << "two main forms' kinds of names and nine dialogs";

@@ -12,21 +12,13 @@
 #include <string_view>
 
 #include "CodePage.h"
+#include "Escapes.h"
 #include "FolderContent.h"
 
 namespace folionet::test {
 namespace {
 
 namespace fs = std::filesystem;
-
-// The character that an escape stands for; moves `at` to its last character.
-char Escaped(const std::string& line, std::size_t& at) {
-  constexpr int kHexadecimal = 16;
-  const char c = line.at(++at);
-  if (c != 'x') return c == 'n' ? '\n' : c == 'r' ? '\r' : c == 't' ? '\t' : c;
-  at += 2;
-  return static_cast<char>(std::stoi(line.substr(at - 1, 2), nullptr, kHexadecimal));
-}
 
 std::string Visible(const std::string& line) {
   const bool isText = IsUtf8(line);

@@ -1,46 +1,22 @@
 #include "FolderContent.h"
 
+#include <gtest/gtest.h>
+
 #include <algorithm>
-#include <array>
-#include <cstdio>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
-#include <vector>
 
 namespace folionet::test {
 namespace {
 
 namespace fs = std::filesystem;
 
-// A line with its end and its odd bytes made visible.
-std::string Visible(std::string_view line) {
-  std::string text;
-  for (const char c : line) {
-    const auto byte = static_cast<unsigned char>(c);
-    if (c == '\r') {
-      text += "\\r";
-    } else if (c == '\n') {
-      text += "\\n";
-    } else if (byte < ' ' || byte >= 0x7F) {
-      std::array<char, 8> hex{};
-      std::snprintf(hex.data(), hex.size(), "\\x%02X", static_cast<unsigned>(byte));
-      text += hex.data();
-    } else {
-      text += c;
-    }
-  }
-  return "\"" + text + "\"";
-}
-
-std::vector<std::string_view> Lines(std::string_view text) {
-  std::vector<std::string_view> lines;
-  while (!text.empty()) {
-    const std::size_t length = std::min(text.find('\n'), text.size() - 1) + 1;
-    lines.push_back(text.substr(0, length));
-    text.remove_prefix(length);
-  }
-  return lines;
+// The line of a text that a place in it belongs to, with its end and its odd bytes made visible.
+std::string LineAt(std::string_view text, std::size_t place) {
+  const std::size_t begin = place == 0 ? 0 : text.rfind('\n', place - 1) + 1;
+  if (begin == text.size()) return "no such line";
+  return testing::PrintToString(std::string(text.substr(begin, text.find('\n', begin) - begin + 1)));
 }
 
 }  // namespace
@@ -71,12 +47,10 @@ void WriteFolder(const std::string& folder, const FolderContent& content) {
 
 std::string DescribeDifference(const std::string& name, std::string_view expected, std::string_view actual) {
   if (expected == actual) return {};
-  const std::vector<std::string_view> wanted = Lines(expected);
-  const std::vector<std::string_view> found = Lines(actual);
-  const auto [want, find] = std::mismatch(wanted.begin(), wanted.end(), found.begin(), found.end());
-  return name + ", line " + std::to_string(want - wanted.begin() + 1) +
-         "\n  expected: " + (want == wanted.end() ? "no such line" : Visible(*want)) +
-         "\n  found:    " + (find == found.end() ? "no such line" : Visible(*find)) + "\n";
+  const auto different = std::mismatch(expected.begin(), expected.end(), actual.begin(), actual.end()).first;
+  const auto place = static_cast<std::size_t>(different - expected.begin());
+  return name + ", line " + std::to_string(std::count(expected.begin(), different, '\n') + 1) +
+         "\n  expected: " + LineAt(expected, place) + "\n  found:    " + LineAt(actual, place) + "\n";
 }
 
 std::string DescribeDifference(const FolderContent& expected, const FolderContent& actual) {

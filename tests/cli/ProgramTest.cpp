@@ -24,7 +24,7 @@ TEST(ProgramTest, HelpFitsAScreenAndGivesAnExample) {
 
 TEST(ProgramTest, TellsThatItsResultCannotBeWritten) {
   const TemporaryFolder home;
-  const ProgramResult run = RunCli({"list", "settings"}, home.Path(), "/dev/full");
+  const ProgramResult run = RunProgram({"/bin/sh", "-c", "\"$0\" list settings >/dev/full", FOLIONET_CLI}, home.Path());
   EXPECT_EQ(run.errors, "folionet-cli: standard output cannot be written. Send it to a file on a disk with room.\n");
   EXPECT_EQ(run.status, 3);
 }

@@ -70,7 +70,8 @@ bool FormTest::Start() {
   };
   m_form->OptionDialogs().Get<frmEncoding>().openModal = [](QDialog& dialog) { dialog.show(); };
   m_form->Folders().volumes = [this] {
-    return std::vector<Volume>{{"Home", ToQt(m_home.Path()).chopped(1)}, {"Computer", "/"}};
+    const QString home = ToQt(m_home.Path());
+    return std::vector<Volume>{{"Home", home.chopped(1)}, {"Computer", "/"}, {"Stick", home + "stick"}};
   };
   QObject::connect(m_form.get(), &frmMain::Ended, m_form.get(), [this] { m_hasEnded = true; });
   const bool goesOn = m_form->LoadForm();

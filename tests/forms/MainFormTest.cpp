@@ -141,16 +141,5 @@ TEST_F(MainForm, FoldersAreReadAnewWhenAskedFor) {
   EXPECT_EQ(Shown("txtOutputPath"), m_home.Path() + "zoo/");
 }
 
-TEST_F(MainForm, ADriveThatIsNotReadyIsReportedAndLeft) {
-  ASSERT_TRUE(Start());
-  ChooseOutput();
-  Get<QComboBox>("Drive1").addItem("Stick", ToQt(m_home.Path() + "gone"));
-  Give("Drive1", "Stick");
-  ASSERT_EQ(m_ui.log, Log{"53 Drive_Change"});
-  EXPECT_TRUE(m_ui.said[0].starts_with("Drive not Ready or Drive not Available.\r\n" + m_home.Path() + "gone"));
-  EXPECT_EQ(Get<QComboBox>("Drive1").currentIndex(), 0);
-  EXPECT_EQ(Shown("txtOutputPath"), m_home.Path() + "site/");
-}
-
 }  // namespace
 }  // namespace folionet

@@ -10,31 +10,13 @@
 namespace folionet::test {
 namespace {
 
-const std::vector<std::string>& OddNames() {
-  static const std::vector<std::string> names{"..",
-                                              ".",
-                                              "../victim",
-                                              "../../victim",
-                                              "/tmp/folionet-victim",
-                                              "a/b",
-                                              "a\\b",
-                                              "..\\victim",
-                                              "C:\\victim",
-                                              "con",
-                                              "bell\x07",
-                                              "line\x01",
-                                              "del\x7F",
-                                              "\xC2\x85",
-                                              " ",
-                                              "    ",
-                                              "%bk%",
-                                              "~",
-                                              "$HOME",
-                                              "-rf",
-                                              "default.css",
-                                              "*",
-                                              std::string(300, 'n'),
-                                              std::string(4000, 'n')};
+std::vector<std::string> OddNames() {
+  std::vector<std::string> names{"..",          ".",        "../victim",  "../../victim", "/tmp/folionet-victim",
+                                 "a/b",         "a\\b",     "..\\victim", "C:\\victim",   "con",
+                                 "bell\x07",    "line\x01", "del\x7F",    "\xC2\x85",     " ",
+                                 "    ",        "%bk%",     "~",          "$HOME",        "-rf",
+                                 "default.css", "*"};
+  for (const std::size_t length : {300, 4000}) names.emplace_back(length, 'n');
   return names;
 }
 

@@ -20,8 +20,8 @@
 #include <vector>
 
 #include "FolderContent.h"
+#include "Library.h"
 #include "ProgramRun.h"
-#include "TemporaryFolder.h"
 
 namespace folionet::test {
 namespace {
@@ -39,15 +39,6 @@ std::vector<std::string> CaseNames() {
   return names;
 }
 
-std::vector<std::string> CompileArguments(const std::string& options) {
-  std::vector<std::string> arguments{
-      "compile", "--versalia-path", "installation", "--module-path", "installation/Modules", "--program-folder",
-      "program", "--output",        "out"};
-  std::istringstream lines(options);
-  for (std::string line; std::getline(lines, line);) arguments.push_back(line);
-  return arguments;
-}
-
 class Site : public testing::TestWithParam<std::string> {
  protected:
   void SetUp() override {
@@ -58,7 +49,12 @@ class Site : public testing::TestWithParam<std::string> {
     }
   }
 
-  ProgramResult Compile() const { return RunCli(CompileArguments(ReadFile(m_case + "options")), m_home.Path()); }
+  ProgramResult Compile() const {
+    Command command = CompileCommand({"--output=out"});
+    std::istringstream options(ReadFile(m_case + "options"));
+    for (std::string line; std::getline(options, line);) command.push_back(line);
+    return RunProgram(command, m_home.Path());
+  }
 
   const std::string m_case = kCases + "/" + GetParam() + "/";
   const TemporaryFolder m_home;
@@ -71,7 +67,8 @@ TEST_P(Site, IsTheExpectedOne) {
   ASSERT_EQ(run.status, 0);
   const FolderContent site = ReadFolder(m_home.Path() + "out");
   if (const char* rewrite = std::getenv("FOLIONET_REWRITE_EXPECTED"); rewrite != nullptr && *rewrite == '1') {
-    WriteFolder(m_case + "expected", site);
+    fs::remove_all(m_case + "expected");
+    fs::copy(m_home.Path() + "out", m_case + "expected", fs::copy_options::recursive);
     std::ofstream(m_case + "expected.stdout", std::ios::binary) << run.output;
     GTEST_SKIP() << "rewritten: " << m_case << "expected";
   }

@@ -4,7 +4,6 @@
 
 #include "ChapterIndex.h"
 #include "ScriptedUi.h"
-#include "SettingsStore.h"
 #include "TemporaryFolder.h"
 
 // What runs of the command line do not reach; those are in tests/runs.
@@ -13,32 +12,6 @@ namespace folionet {
 namespace {
 
 using test::ScriptedUi;
-
-TEST(InstallationTest, TakesGivenFoldersBeforeStoredOnes) {
-  const struct {
-    const char* stored;
-    GivenFolders given;
-    const char* install;
-    const char* modules;
-  } cases[] = {{"", {}, "", ""},
-               {"[Module_Path]\nVersaliaPath=/v/\nModulePath=/m/\n", {}, "/v/", "/m/"},
-               {"[Module_Path]\nVersaliaPath=C:\\Program Files\\new\\\n",
-                {},
-                "C:\\Program Files\\new\\",
-                "C:\\Program Files\\new\\Modules/"},
-               {"[Module_Path]\nVersaliaPath=/v/\nModulePath=/m/\n", {"/g", ""}, "/g/", "/m/"},
-               {"", {"/g/", "/h"}, "/g/", "/h/"}};
-  for (const auto& c : cases) {
-    const test::TemporaryFolder folder;
-    folder.Write("Versalia.ini", c.stored);
-    const SettingsStore store(folder.Path());
-    ModGlob glob;
-    LocateInstallation(store, c.given, glob);
-    EXPECT_EQ(glob.InstallPath, c.install);
-    EXPECT_EQ(glob.ModulesPath, c.modules);
-    EXPECT_EQ(glob.SysdefsPath, glob.InstallPath + "Sysdefs/");
-  }
-}
 
 // The counts go by the order in which books appear, and nothing is left of the counts before.
 TEST(BooksInChaptersTest, CountsByOrderOfAppearance) {

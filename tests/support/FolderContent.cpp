@@ -35,16 +35,6 @@ std::string ReadFile(const std::string& path) {
   return {std::istreambuf_iterator<char>(file), {}};
 }
 
-void WriteFolder(const std::string& folder, const FolderContent& content) {
-  fs::remove_all(folder);
-  fs::create_directories(folder);
-  for (const auto& [name, bytes] : content) {
-    const fs::path path = fs::path(folder) / name;
-    fs::create_directories(path.parent_path());
-    std::ofstream(path, std::ios::binary) << bytes;
-  }
-}
-
 std::string DescribeDifference(const std::string& name, std::string_view expected, std::string_view actual) {
   if (expected == actual) return {};
   const auto different = std::mismatch(expected.begin(), expected.end(), actual.begin(), actual.end()).first;

@@ -14,9 +14,6 @@ FolderContent ReadFolder(const std::string& folder);
 // The bytes of a file; empty for one that is not there.
 std::string ReadFile(const std::string& path);
 
-// Replaces what a folder holds.
-void WriteFolder(const std::string& folder, const FolderContent& content);
-
 // Says where two texts differ: the first line that does, with both of its forms. Empty when they are equal.
 std::string DescribeDifference(const std::string& name, std::string_view expected, std::string_view actual);
 

@@ -13,12 +13,10 @@ struct ProgramResult {
 };
 
 // Runs a program to its end in a folder, which is its home as well: settings and data that it keeps go to config/ and
-// data/ there. `output` names a file to take standard output in the place of the result, such as /dev/full.
-ProgramResult RunProgram(const std::vector<std::string>& command, const std::string& folder,
-                         const std::string& output = {});
+// data/ there.
+ProgramResult RunProgram(const std::vector<std::string>& command, const std::string& folder);
 
 // folionet-cli with these arguments.
-ProgramResult RunCli(const std::vector<std::string>& arguments, const std::string& folder,
-                     const std::string& output = {});
+ProgramResult RunCli(const std::vector<std::string>& arguments, const std::string& folder);
 
 }  // namespace folionet::test

@@ -29,15 +29,6 @@ TEST(PageNamesTest, FormsBothKindsOfNames) {
   }
 }
 
-TEST(PageNamesTest, LinkAndFileAreOneNameInTwoEncodings) {
-  const PageNames names({"\xC9xodo", "\xC9xodo 2"}, false, CodePage("windows-1252"));
-  std::string link = "in ";
-  names.AddInLink(link, 2, 7);
-  EXPECT_EQ(link, "in \xE9xodo_2_7.html");
-  EXPECT_EQ(names.OnDisk(2, 7), "éxodo_2_7.html");
-  EXPECT_EQ(PageNames({"x"}, true, CodePage()).OnDisk(1, 7), "01_007.htm");
-}
-
 TEST(PageNamesTest, NamesThatLeadElsewhereAreRefused) {
   for (const char* name : {"genesis_1.html", "...", ".a", "a b", "é.html", "\xE9", "a:b"}) {
     EXPECT_TRUE(IsPageName(name)) << name;

@@ -9,25 +9,25 @@ namespace folionet {
 namespace {
 
 // The closing quotes after the face and the size are missing in the first tag: that is meant.
-std::string Listing(const IndexPage& index, const PageInputs& inputs, const CodePage& codePage,
-                    const CompileContext& context) {
-  std::string text;
+void PrintListing(const IndexPage& index, const PageInputs& inputs, const CodePage& codePage, CompileContext& context) {
+  PageFile& page = context.PageFile;
   if (!inputs.options.chkCSS) {
-    text = "<font face=" + context.QuoteChar + std::string(index.fontFace) + " size=" + context.QuoteChar +
-           std::to_string(index.fontSize) + ">";
+    page.Add("<font face=", context.QuoteChar, index.fontFace, " size=", context.QuoteChar,
+             std::to_string(index.fontSize), ">");
   }
+  std::string link;
   for (int book = index.firstBook; book <= index.lastBook; ++book) {
-    text += codePage.ToUpper(BookName(inputs, book)) + " \r\n";
+    page.Print(codePage.ToUpper(BookName(inputs, book)), " ");
     const int chapters = ChaptersOf(inputs, book);
     for (int chapter = 1; chapter <= chapters; ++chapter) {
-      AddChapterLink(text, inputs, book, chapter);
-      if (inputs.names.Use83()) text += "\r\n";
-      CheckLength(text, "The links of the index page");
+      link.clear();
+      AddChapterLink(link, inputs, book, chapter);
+      page.Add(link, inputs.names.Use83() ? "\r\n" : "");
       inputs.ui.SetPanel(1, "Building index file" + std::to_string(chapter) + " Please stand by...");
     }
-    text += "<br><br>\r\n";
+    page.Print("<br><br>");
   }
-  return text;
+  page.Print("");
 }
 
 }  // namespace
@@ -51,7 +51,7 @@ void WriteIndexPage(const IndexPage& index, const PageInputs& inputs, const Code
   }
   page.Print("<blockquote>");
   if (!options.chkCSS) page.Print("<p align=" + InQuotes(context.LinkAlignment) + ">");
-  page.Print(Listing(index, inputs, codePage, context));
+  PrintListing(index, inputs, codePage, context);
   if (!options.chkCSS) PrintJustifiedParagraph(page, index.fontFace, index.fontSize);
 }
 

@@ -61,7 +61,10 @@ void PageFile::Grow(std::size_t size) {
     throw RunTimeError(kOutOfMemory, NativePath(m_folder) + m_name,
                        "The page is longer than " + std::to_string(kLongest) + " bytes.");
   }
-  m_text.resize(std::min(2 * size, kLongest));
+  m_room = std::min(2 * size, kLongest);
+  auto text = std::make_unique_for_overwrite<char[]>(m_room);
+  std::copy_n(m_text.get(), m_size, text.get());
+  m_text = std::move(text);
 }
 
 void PageFile::Fail(int systemError) const {

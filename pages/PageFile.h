@@ -1,6 +1,7 @@
 #pragma once
 
 #include <algorithm>
+#include <memory>
 #include <string>
 #include <string_view>
 
@@ -55,8 +56,8 @@ class PageFile {
   template <typename... Views>
   void AddAll(const Views... texts) {
     const std::size_t size = (m_size + ... + texts.size());
-    if (size > m_text.size()) Grow(size);
-    char* at = m_text.data() + m_size;
+    if (size > m_room) Grow(size);
+    char* at = m_text.get() + m_size;
     ((at = Copy(texts, at)), ...);
     m_size = size;
   }
@@ -69,7 +70,7 @@ class PageFile {
   }
 
   void Grow(std::size_t size);
-  std::string_view Text() const { return {m_text.data(), m_size}; }
+  std::string_view Text() const { return {m_text.get(), m_size}; }
 
   FileHandle OpenForWriting(bool& isNew) const;
   FileHandle OpenExisting() const;
@@ -80,7 +81,8 @@ class PageFile {
 
   std::string m_folder;
   std::string m_name;
-  std::string m_text;  // the page is its first m_size bytes
+  std::unique_ptr<char[]> m_text;  // m_room bytes, the first m_size of them the page; the others have no value
+  std::size_t m_room = 0;
   std::size_t m_size = 0;
   std::string m_old;
   FileHandle m_folderHandle;

@@ -37,6 +37,11 @@ ExitStatus RunVerify(const std::string& folder, const std::string& indexName) {
     for (const BrokenLink& link : report.broken) {
       PrintShown(link.page + ":" + std::to_string(link.line) + ": \"" + link.target + "\" " + FaultText(link) + ".");
     }
+    for (const UnreadFile& file : report.unread) PrintShown(file.name + ": cannot be read: " + file.why + ".");
+    for (const std::string& link : report.linkedFolders) {
+      PrintShown(link +
+                 ": a symbolic link to another folder, whose pages were not read: see that the server has it.");
+    }
     const std::string unreached =
         ": no page that " + index + " leads to links here: left from an earlier compile, or outside the chosen books.";
     for (const std::string& page : report.unreachable) {
@@ -48,8 +53,8 @@ ExitStatus RunVerify(const std::string& folder, const std::string& indexName) {
     if (report.IsSound()) return kExitDone;
     std::fflush(stdout);
     std::fputs(
-        "Compile into this folder again; then correct what is still broken in the custom header and footer, or "
-        "put the missing file there.\n",
+        "Compile into this folder again; then correct what is still broken in the custom header and footer and in "
+        "your own pages and style sheets, or put the missing file there.\n",
         stderr);
     return kExitRefused;
   } catch (const RunTimeError& error) {

@@ -4,12 +4,23 @@
 #include <array>
 #include <utility>
 
-#include "CharacterReferences.h"
-
 namespace folionet {
 namespace {
 
-constexpr std::array<std::string_view, 3> kAttributes{"href", "src", "background"};
+struct Attribute {
+  std::string_view name;
+  LinkForm form;
+  std::string_view element{};  // the only one that has it; empty when any may
+};
+
+constexpr std::array<Attribute, 8> kAttributes{{{"href", LinkForm::kAddress},
+                                                {"src", LinkForm::kAddress},
+                                                {"background", LinkForm::kAddress},
+                                                {"poster", LinkForm::kAddress},
+                                                {"data", LinkForm::kAddress, "object"},
+                                                {"srcset", LinkForm::kPictureSet},
+                                                {"imagesrcset", LinkForm::kPictureSet},
+                                                {"style", LinkForm::kStyle}}};
 
 // Elements whose content is no markup.
 constexpr std::array<std::string_view, 4> kRawElements{"script", "style", "title", "textarea"};
@@ -116,16 +127,17 @@ class LinkFinder {
     }
     m_inTag = true;
     ++m_at;
-    const std::string_view name = m_page.substr(m_at, NameEnd(m_page, m_at) - m_at);
-    const auto* const raw = std::find_if(kRawElements.begin(), kRawElements.end(),
-                                         [&](std::string_view element) { return EqualsLower(name, element); });
-    m_rawElement = raw == kRawElements.end() ? std::string_view() : *raw;
+    m_element = m_page.substr(m_at, NameEnd(m_page, m_at) - m_at);
   }
 
   void CloseTag() {
-    ++m_at;
-    if (m_inTag && !m_rawElement.empty()) m_at = FindLower(m_page, "</" + std::string(m_rawElement), m_at);
-    m_inTag = false;
+    const std::size_t start = ++m_at;
+    if (!std::exchange(m_inTag, false)) return;
+    const auto* const raw = std::find_if(kRawElements.begin(), kRawElements.end(),
+                                         [&](std::string_view element) { return EqualsLower(m_element, element); });
+    if (raw == kRawElements.end()) return;
+    m_at = FindLower(m_page, "</" + std::string(*raw), m_at);
+    if (*raw == "style") AddLink(start, m_page.substr(start, m_at - start), LinkForm::kSheet);
   }
 
   void ReadName() {
@@ -135,21 +147,26 @@ class LinkFinder {
     if (end == start || !m_inTag || start == 0 || !IsBlank(m_page[start - 1])) return;
     const std::string_view name = m_page.substr(start, end - start);
     std::size_t behind = SkipBlanks(m_page, end);
-    const bool names = std::any_of(kAttributes.begin(), kAttributes.end(),
-                                   [&](std::string_view attribute) { return EqualsLower(name, attribute); });
-    if (!names || behind >= m_page.size() || m_page[behind] != '=') return;
-    const std::string_view value = TakeValue(m_page, behind);
-    m_line += static_cast<std::size_t>(std::count(m_page.begin() + static_cast<std::ptrdiff_t>(m_counted),
-                                                  m_page.begin() + static_cast<std::ptrdiff_t>(end), '\n'));
-    m_counted = end;
-    m_links.push_back({value, m_line});
+    const auto* const attribute = std::find_if(kAttributes.begin(), kAttributes.end(), [&](const Attribute& known) {
+      return EqualsLower(name, known.name) && (known.element.empty() || EqualsLower(m_element, known.element));
+    });
+    if (attribute == kAttributes.end() || behind >= m_page.size() || m_page[behind] != '=') return;
+    AddLink(end, TakeValue(m_page, behind), attribute->form);
     m_at = behind;
+  }
+
+  // `at` is where the line of the link is counted.
+  void AddLink(std::size_t at, std::string_view value, LinkForm form) {
+    m_line += static_cast<std::size_t>(std::count(m_page.begin() + static_cast<std::ptrdiff_t>(m_counted),
+                                                  m_page.begin() + static_cast<std::ptrdiff_t>(at), '\n'));
+    m_counted = at;
+    m_links.push_back({value, m_line, form});
   }
 
   std::string_view m_page;
   std::size_t m_at = 0;
   bool m_inTag = false;
-  std::string_view m_rawElement;  // of the tag at hand; empty for any other element
+  std::string_view m_element;  // of the tag at hand
   std::size_t m_line = 1;
   std::size_t m_counted = 0;  // the lines up to here are in m_line
   std::vector<PageLink> m_links;
@@ -172,11 +189,10 @@ std::string FindPageCharset(std::string_view page) {
   return "windows-1252";
 }
 
-std::string LocalTarget(std::string_view link) {
-  const std::string resolved = WithoutCharacterReferences(link);
-  const std::string_view address = Trimmed(resolved);
-  if (HasScheme(address) || address.starts_with("//")) return {};
-  return PercentDecoded(address.substr(0, address.find_first_of("?#")));
+std::string LocalTarget(std::string_view address) {
+  const std::string_view trimmed = Trimmed(address);
+  if (HasScheme(trimmed) || trimmed.starts_with("//")) return {};
+  return PercentDecoded(trimmed.substr(0, trimmed.find_first_of("?#")));
 }
 
 }  // namespace folionet

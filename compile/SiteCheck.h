@@ -7,11 +7,11 @@
 namespace folionet {
 
 // Why there is no file behind a link.
-enum class LinkFault { kMissing, kOtherCase, kBackslash };
+enum class LinkFault { kMissing, kOtherCase, kBackslash, kUnreadable };
 
-// A page that names something that is not there.
+// A page or style sheet that names something that is not there.
 struct BrokenLink {
-  std::string page;    // file name
+  std::string page;    // path from the folder of the site
   std::size_t line;    // of the page, from 1
   std::string target;  // as the page has it, decoded to UTF-8
   LinkFault fault;
@@ -21,22 +21,31 @@ struct BrokenLink {
 // The fault in English words that go on a sentence: "is not there".
 std::string FaultText(const BrokenLink& link);
 
+// A page or style sheet that is there, and cannot be read.
+struct UnreadFile {
+  std::string name;  // path from the folder of the site
+  std::string why;   // a few words
+};
+
 // What is found in a written site.
 struct SiteReport {
   std::vector<BrokenLink> broken;
-  std::vector<std::string> unreachable;  // pages that the index does not lead to, however many links are followed
+  std::vector<UnreadFile> unread;
+  std::vector<std::string> linkedFolders;  // symbolic links to folders, whose pages are not read
+  std::vector<std::string> unreachable;    // pages that the index does not lead to, however many links are followed
   std::size_t pages = 0;
   std::size_t links = 0;    // those that lead to files of the site
   std::size_t leadOut = 0;  // those that lead out of the folder, and were not followed
 
-  bool IsSound() const { return broken.empty(); }
+  bool IsSound() const { return broken.empty() && unread.empty(); }
 };
 
-// Reads every page (".html" and ".htm") of a folder, and looks for the file behind each link, image and style sheet
-// that it names: in the folder or below it, in exactly this letter case; a folder will do for an address that names
-// one. Addresses with a scheme or a host, and those that lead out of the folder, are not followed. `indexName` is the
-// file name of the index page. Throws RunTimeError when the folder or a page cannot be read, or when there is no such
-// index page.
+// Reads every page (".html" and ".htm") of a folder, the pages and style sheets below it that those lead to, and so on,
+// and looks for the file behind each link, picture and style sheet that they name: in the folder or below it, in
+// exactly this letter case; a folder will do for an address that names one. Addresses with a scheme or a host, and
+// those that lead out of the folder, are not followed, and nothing is read through a symbolic link to a folder, which
+// may lead anywhere. `indexName` is the file name of the index page. Throws RunTimeError when the folder or the index
+// page cannot be read, or when there is no such index page.
 SiteReport CheckSite(const std::string& folder, const std::string& indexName);
 
 // The index page of a folder: "index.html" or "index.htm"; empty when there is neither.

@@ -24,10 +24,20 @@ QString LinkSentence(const BrokenLink& link) {
           .arg(ToQt(link.page), Shown(link.line), ToQt(link.target), ToQt(link.otherCase));
     case LinkFault::kBackslash:
       return worded(QObject::tr("%1, line %2: \"%3\" holds \"\\\", which no address does."));
+    case LinkFault::kUnreadable:
+      return worded(QObject::tr("%1, line %2: \"%3\" cannot be read."));
     case LinkFault::kMissing:
       break;
   }
   return worded(QObject::tr("%1, line %2: \"%3\" is not there."));
+}
+
+// A line for each of the first items; a box that lists thousands of them would leave the screen.
+template <typename Item, typename Sentence>
+void AppendSome(std::string& text, const std::vector<Item>& items, const Sentence& sentence) {
+  constexpr std::size_t kShown = 10;
+  for (std::size_t i = 0; i < items.size() && i < kShown; ++i) text += "\r\n" + FromQt(sentence(items[i]));
+  if (items.size() > kShown) text += "\r\n...";
 }
 
 }  // namespace
@@ -52,7 +62,6 @@ std::string IndexPagePath(const CompileRequest& request) {
 }
 
 void ShowSiteReport(const std::string& indexPage, UserInterface& ui) {
-  constexpr std::size_t kShown = 10;
   const std::size_t slash = indexPage.rfind('/') + 1;
   try {
     const SiteReport report = CheckSite(indexPage.substr(0, slash), indexPage.substr(slash));
@@ -63,14 +72,15 @@ void ShowSiteReport(const std::string& indexPage, UserInterface& ui) {
       text += "\r\n" +
               FromQt(QObject::tr("%1 links lead out of the folder and were not followed.").arg(Shown(report.leadOut)));
     }
-    for (std::size_t i = 0; i < report.broken.size() && i < kShown; ++i) {
-      text += "\r\n" + FromQt(LinkSentence(report.broken[i]));
-    }
-    if (report.broken.size() > kShown) text += "\r\n...";
-    for (std::size_t i = 0; i < report.unreachable.size() && i < kShown; ++i) {
-      text += "\r\n" + FromQt(QObject::tr("%1: the index does not lead here.").arg(ToQt(report.unreachable[i])));
-    }
-    if (report.unreachable.size() > kShown) text += "\r\n...";
+    AppendSome(text, report.broken, LinkSentence);
+    AppendSome(text, report.unread,
+               [](const UnreadFile& file) { return QObject::tr("%1 cannot be read.").arg(ToQt(file.name)); });
+    AppendSome(text, report.linkedFolders, [](const std::string& folder) {
+      return QObject::tr("%1: a symbolic link to another folder, whose pages were not read.").arg(ToQt(folder));
+    });
+    AppendSome(text, report.unreachable, [](const std::string& page) {
+      return QObject::tr("%1: the index does not lead here.").arg(ToQt(page));
+    });
     ui.ShowMessage({report.IsSound() ? MessageIcon::kInformation : MessageIcon::kWarning,
                     FromQt(QObject::tr("Check site")), text});
   } catch (const RunTimeError& error) {

@@ -55,6 +55,18 @@
         <source>%1, line %2: &quot;%3&quot; is not there.</source>
         <translation>%1, Zeile %2: „%3“ ist nicht vorhanden.</translation>
     </message>
+    <message>
+        <source>%1, line %2: &quot;%3&quot; cannot be read.</source>
+        <translation>%1, Zeile %2: „%3“ kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read.</source>
+        <translation>%1 kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>%1: a symbolic link to another folder, whose pages were not read.</source>
+        <translation>%1: eine symbolische Verknüpfung zu einem anderen Ordner, dessen Seiten nicht gelesen wurden.</translation>
+    </message>
 </context>
 <context>
     <name>folionet::CustomHtmlDialog</name>

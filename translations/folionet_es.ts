@@ -55,6 +55,18 @@
         <source>%1, line %2: &quot;%3&quot; is not there.</source>
         <translation>%1, línea %2: «%3» no existe.</translation>
     </message>
+    <message>
+        <source>%1, line %2: &quot;%3&quot; cannot be read.</source>
+        <translation>%1, línea %2: «%3» no se puede leer.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read.</source>
+        <translation>%1 no se puede leer.</translation>
+    </message>
+    <message>
+        <source>%1: a symbolic link to another folder, whose pages were not read.</source>
+        <translation>%1: un enlace simbólico a otra carpeta, cuyas páginas no se han leído.</translation>
+    </message>
 </context>
 <context>
     <name>folionet::CustomHtmlDialog</name>

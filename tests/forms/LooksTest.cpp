@@ -73,7 +73,13 @@ TEST_F(Looks, TheLinkBackStandsAsChosen) {
 TEST_F(Looks, TheSampleLinkLooksAsInAPage) {
   ASSERT_TRUE(Start());
   Give("frmEffects.cmdRollover", "4478310");
+  Click("cmdEffects");
+  QCoreApplication::processEvents();
+  const QSize least = Get("frmEffects.").minimumSizeHint();
+  Give("frmEffects.cboSize", "36pt");
   Give("frmEffects.cboStyle", "Bold");
+  QCoreApplication::processEvents();
+  EXPECT_EQ(Get("frmEffects.").minimumSizeHint(), least) << "the sample has its room";
   auto& link = Get<SampleLink>("frmEffects.lblSampleLink");
   const auto colour = [&] { return ColourOf("frmEffects.lblSampleLink", QPalette::WindowText); };
   const auto press = [&](QEvent::Type type) {

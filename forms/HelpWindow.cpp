@@ -19,6 +19,7 @@ HelpWindow::HelpWindow(QWidget* parent) : QDialog(parent), m_page(new QTextBrows
   m_page->setAccessibleName(tr("Help"));
   m_page->setOpenExternalLinks(true);
   auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
+  buttons->button(QDialogButtonBox::Close)->setText(tr("&Close"));
   QPushButton* contents = buttons->addButton(tr("C&ontents"), QDialogButtonBox::ActionRole);
   contents->setAutoDefault(false);
   connect(contents, &QPushButton::clicked, this, &HelpWindow::ShowContents);

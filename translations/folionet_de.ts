@@ -89,6 +89,10 @@
         <source>C&amp;ontents</source>
         <translation>&amp;Inhalt</translation>
     </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Schließen</translation>
+    </message>
 </context>
 <context>
     <name>folionet::StatusPanels</name>
@@ -300,6 +304,14 @@
     <message>
         <source>Look for links that lead nowhere in the site that was compiled last (F8).</source>
         <translation>In der zuletzt erzeugten Website nach Links ohne Ziel suchen (F8).</translation>
+    </message>
+    <message>
+        <source>Open the help (F1).</source>
+        <translation>Die Hilfe öffnen (F1).</translation>
+    </message>
+    <message>
+        <source>Save all settings, after asking, and end the program (Ctrl+Q).</source>
+        <translation>Nach einer Rückfrage alle Einstellungen speichern und das Programm beenden (Strg+Q).</translation>
     </message>
 </context>
 <context>

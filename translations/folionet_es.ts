@@ -89,6 +89,10 @@
         <source>C&amp;ontents</source>
         <translation>C&amp;ontenido</translation>
     </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Cerrar</translation>
+    </message>
 </context>
 <context>
     <name>folionet::StatusPanels</name>
@@ -300,6 +304,14 @@
     <message>
         <source>Look for links that lead nowhere in the site that was compiled last (F8).</source>
         <translation>Buscar enlaces que no llevan a ninguna parte en el último sitio compilado (F8).</translation>
+    </message>
+    <message>
+        <source>Open the help (F1).</source>
+        <translation>Abrir la ayuda (F1).</translation>
+    </message>
+    <message>
+        <source>Save all settings, after asking, and end the program (Ctrl+Q).</source>
+        <translation>Guardar todos los ajustes, tras preguntar, y cerrar el programa (Ctrl+Q).</translation>
     </message>
 </context>
 <context>

@@ -67,7 +67,7 @@ void WarnOfSharedName(const CompileRequest& request, const ModGlob& glob, const 
       std::fprintf(stderr,
                    "Warning: the index page %s takes the place of a chapter's page. Give it a name of its own with "
                    "--index-address.\n",
-                   index.c_str());
+                   WithoutControls(index).c_str());
       return;
     }
   }
@@ -110,7 +110,7 @@ ExitStatus RunCompile(const CommonOptions& common, const CompileArguments& argum
   Session session(quietWhenListing);
   session.Override(arguments.settings);
   if (!arguments.languageFile.empty()) {
-    session.CheckLanguageFile(arguments.languageFile);
+    session.CheckLanguageFile("--language-file", arguments.languageFile);
     session.store.Override("cboLang", arguments.languageFile);
   }
   session.LoadOptions();

@@ -12,8 +12,8 @@ namespace folionet {
 namespace {
 
 void Write(std::FILE* stream, std::string_view text) {
-  std::fwrite(text.data(), 1, text.size(), stream);
-  std::fputc('\n', stream);
+  const std::string shown = WithoutControls(text, "\t\n") + "\n";
+  std::fwrite(shown.data(), 1, shown.size(), stream);
 }
 
 }  // namespace
@@ -24,6 +24,19 @@ std::string WithNewLines(std::string_view text) {
     if (text[i] != '\r' || i + 1 == text.size() || text[i + 1] != '\n') lines += text[i];
   }
   return lines;
+}
+
+std::string WithoutControls(std::string_view text, std::string_view kept) {
+  std::string shown;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    const auto byte = static_cast<unsigned char>(text[i]);
+    const auto next = static_cast<unsigned char>(i + 1 < text.size() ? text[i + 1] : 0);
+    const bool isUpper = byte == 0xC2 && next >= 0x80 && next <= 0x9F;  // U+0080 to U+009F
+    const bool isControl = byte < 0x20 || byte == 0x7F || isUpper;
+    shown += isControl && kept.find(text[i]) == std::string_view::npos ? '?' : text[i];
+    if (isUpper) ++i;
+  }
+  return shown;
 }
 
 ConsoleUi::ConsoleUi(bool quiet) : m_quiet(quiet), m_showsProgress(!quiet && isatty(STDERR_FILENO) != 0) {}
@@ -52,7 +65,7 @@ std::optional<std::string> ConsoleUi::AskText(const InputBox& /*box*/) { return 
 void ConsoleUi::ShowErrorReport(int errorNumber, std::string_view moduleLabel, const std::string& extraInfo) {
   EndProgress();
   Write(stderr, WithNewLines(BuildErrorReport(errorNumber, moduleLabel, extraInfo, ExecutableFolder())));
-  if (const std::string_view step = NextStepAfterReport(errorNumber, moduleLabel); !step.empty()) {
+  if (const std::string_view step = NextStepAfterReport(errorNumber, moduleLabel, extraInfo); !step.empty()) {
     Write(stderr, "\n" + std::string(step));
   }
 }
@@ -64,8 +77,7 @@ void ConsoleUi::SetPanel(int panel, std::string_view text) {
   if (now - m_lastProgress < kInterval) return;
   m_lastProgress = now;
   m_progressShown = true;
-  std::fputs("\r\033[K", stderr);
-  std::fwrite(text.data(), 1, text.size(), stderr);
+  std::fputs(("\r\033[K" + WithoutControls(text)).c_str(), stderr);
 }
 
 }  // namespace folionet

@@ -34,4 +34,8 @@ class ConsoleUi : public UserInterface {
 // The text with its line ends as a terminal and a text file have them here.
 std::string WithNewLines(std::string_view text);
 
+// The text with "?" for each control character but those to keep: a terminal would obey what an argument or a file
+// brings.
+std::string WithoutControls(std::string_view text, std::string_view kept = {});
+
 }  // namespace folionet

@@ -3,6 +3,7 @@
 #include <cstdio>
 
 #include "BookTitles.h"
+#include "Paths.h"
 #include "SettingsKeys.h"
 
 namespace folionet {
@@ -10,8 +11,18 @@ namespace {
 
 void PrintLine(const std::string& line) { std::puts(line.c_str()); }
 
-void ListTranslations(Session& session) {
+void ListTranslations(const CommonOptions& common, const Session& session) {
   const ModGlob& glob = session.glob;
+  if (glob.cboBibleName.empty() && !FolderExists(glob.ModulesPath)) {
+    const std::string refusal = "There is no folder \"" + glob.ModulesPath +
+                                "\" of Versalia's modules: give the one that holds Bible with --module-path FOLDER.";
+    if (!common.folders.modulePath.empty()) RefuseUsage(refusal);
+    std::fputs((WithoutControls(refusal) + "\n").c_str(), stderr);
+    throw ExitWith(kExitFailed);
+  }
+  if (glob.cboBibleName.empty()) {
+    std::fputs("No translation is listed whose text is there: see \"folionet-cli check\".\n", stderr);
+  }
   for (std::size_t i = 0; i < glob.cboBibleName.size(); ++i) {
     PrintLine(session.codePage.DecodeForDisplay(glob.BibleFiles[i]) + "\t" +
               session.codePage.DecodeForDisplay(glob.BibleNames[i]));
@@ -40,7 +51,7 @@ ExitStatus RunList(const CommonOptions& common, const std::string& subject) {
   }
   session.LoadCodePage();
   session.LoadLists(subject == "translations");
-  if (subject == "translations") ListTranslations(session);
+  if (subject == "translations") ListTranslations(common, session);
   if (subject == "books") ListBooks(session);
   return kExitDone;
 }

@@ -8,8 +8,8 @@ namespace folionet {
 // option to give. Empty for a box that says so itself.
 std::string_view NextStep(std::string_view title);
 
-// The same about an error report, by its number and the procedure that failed. Empty for a report that a box with a
-// step of its own follows.
-std::string_view NextStepAfterReport(int errorNumber, std::string_view moduleLabel);
+// The same about an error report, by its number, the procedure that failed and what the report names. Empty for a
+// report that a box with a step of its own follows.
+std::string_view NextStepAfterReport(int errorNumber, std::string_view moduleLabel, std::string_view extraInfo);
 
 }  // namespace folionet

@@ -34,7 +34,7 @@ std::vector<std::string> Decoded(const std::vector<std::string>& texts, std::siz
 }  // namespace
 
 void RefuseUsage(const std::string& text) {
-  std::fputs((text + "\n").c_str(), stderr);
+  std::fputs((WithoutControls(text) + "\n").c_str(), stderr);
   throw ExitWith(kExitUsage);
 }
 
@@ -64,6 +64,7 @@ void Session::Override(const std::vector<std::string>& assignments) {
       RefuseUsage(std::string("--set: ").append(name).append(" must be ").append(Describe(key->form)) + ": \"" + value +
                   "\"." + kShowSettings);
     }
+    if (name == "cboLang") CheckLanguageFile("--set cboLang", value);
     store.Override(name, std::move(value));
   }
 }
@@ -97,14 +98,14 @@ void Session::LoadLists(bool withCatalogue) {
     throw ExitWith(kExitFailed);
   }
   for (const std::string& text : glob.unreadableTexts) {
-    std::fprintf(stderr, "A translation is left out, for its text cannot be read: %s\n", text.c_str());
+    std::fprintf(stderr, "A translation is left out, for its text cannot be read: %s\n", WithoutControls(text).c_str());
   }
 }
 
-void Session::CheckLanguageFile(const std::string& name) const {
+void Session::CheckLanguageFile(const std::string& option, const std::string& name) const {
   if (!FolderExists(glob.SysdefsPath)) return;
   if (name.find_first_of("/\\") == std::string::npos && FileExists(SysdefsFile(glob, name))) return;
-  RefuseUsage("--language-file: there is no file of book titles \"" + name +
+  RefuseUsage(option + ": there is no file of book titles \"" + name +
               "\". \"folionet-cli list languages\" shows those that are there.");
 }
 

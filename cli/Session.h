@@ -42,8 +42,8 @@ class Session {
  public:
   explicit Session(const CommonOptions& common);
 
-  // Gives settings values for this run, each "KEY=VALUE". Ends the command for an unknown key or a value of the wrong
-  // form.
+  // Gives settings values for this run, each "KEY=VALUE". Ends the command for an unknown key, a value of the wrong
+  // form or a file of book titles that is not there.
   void Override(const std::vector<std::string>& assignments);
 
   // Reads every page option, the page's language and charset, and with them the code page. Ends the command after
@@ -57,8 +57,9 @@ class Session {
   // Ends the command when that fails.
   void LoadLists(bool withCatalogue);
 
-  // Ends the command when Versalia's folder of definitions is there, but no file of book titles of that name.
-  void CheckLanguageFile(const std::string& name) const;
+  // Ends the command when Versalia's folder of definitions is there, but no file of book titles of the name that this
+  // option gives.
+  void CheckLanguageFile(const std::string& option, const std::string& name) const;
 
   // The place in BibleNames of a translation, by display name or file stem, exactly or else ignoring case. Ends the
   // command when there is none.

@@ -2,6 +2,8 @@
 
 #include <vector>
 
+#include "ConsoleUi.h"
+
 namespace folionet {
 namespace {
 
@@ -23,7 +25,7 @@ std::string UsageText(const CLI::App* app, const CLI::Error& error) {
     text =
         CommandError(unknown, "The following argument was not expected: " + (unknown.empty() ? "" : unknown.front()));
   }
-  return text + "\nSee \"" + command + " --help\".\n";
+  return WithoutControls(text) + "\nSee \"" + command + " --help\".\n";
 }
 
 void RefuseEmptyValues(CLI::App& app) {

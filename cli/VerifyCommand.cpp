@@ -9,16 +9,7 @@
 namespace folionet {
 namespace {
 
-// Prints a line on standard output. Links and file names may hold control characters, which a terminal would obey.
-void PrintShown(std::string line) {
-  for (std::size_t i = 0; i < line.size(); ++i) {
-    const auto byte = static_cast<unsigned char>(line[i]);
-    const auto next = static_cast<unsigned char>(i + 1 < line.size() ? line[i + 1] : 0);
-    if (byte < 0x20 || byte == 0x7F) line[i] = '?';
-    if (byte == 0xC2 && next >= 0x80 && next <= 0x9F) line.replace(i, 2, "?");  // U+0080 to U+009F
-  }
-  std::printf("%s\n", line.c_str());
-}
+void PrintShown(const std::string& line) { std::printf("%s\n", WithoutControls(line).c_str()); }
 
 }  // namespace
 
@@ -39,8 +30,7 @@ ExitStatus RunVerify(const std::string& folder, const std::string& indexName) {
     }
     for (const UnreadFile& file : report.unread) PrintShown(file.name + ": cannot be read: " + file.why + ".");
     for (const std::string& link : report.linkedFolders) {
-      PrintShown(link +
-                 ": a symbolic link to another folder, whose pages were not read: see that the server has it.");
+      PrintShown(link + ": a symbolic link to another folder, whose pages were not read: see that the server has it.");
     }
     const std::string unreached =
         ": no page that " + index + " leads to links here: left from an earlier compile, or outside the chosen books.";

@@ -27,11 +27,12 @@ std::string OutputPath(const CompileArguments& arguments, const Session& session
 }
 
 // A folder that cannot be made, as in a home that is read only, does not matter where nothing of it is needed.
-std::string ProgramFolderOf(Session& session) {
+std::string ProgramFolderOf(Session& session, bool dryRun) {
+  if (dryRun) return ProgramFolderToRead(session.chosenProgramFolder);
   try {
     return FindProgramFolder(session.chosenProgramFolder);
   } catch (const RunTimeError& error) {
-    if (!session.options.chkCSS) return ProgramFolderPath(session.chosenProgramFolder);
+    if (!session.options.chkCSS) return ProgramFolderToRead(session.chosenProgramFolder);
     session.ui.ShowErrorReport(error.Number(), "Form Load - MAIN", error.Extra());
     throw ExitWith(kExitFailed);
   }
@@ -125,7 +126,7 @@ ExitStatus RunCompile(const CommonOptions& common, const CompileArguments& argum
   request.txtOutputPath = OutputPath(arguments, session);
   request.makeOutputFolder = true;
   request.cboLang = session.store.Text("cboLang");
-  request.programFolder = ProgramFolderOf(session);
+  request.programFolder = ProgramFolderOf(session, arguments.dryRun);
   request.texts = session.texts;
   for (const auto& [kind, text] : {std::pair{&kCustomHeader, &request.texts.CustomHeader},
                                    std::pair{&kCustomFooter, &request.texts.CustomFooter}}) {

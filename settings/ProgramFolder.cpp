@@ -39,11 +39,15 @@ std::string ExecutableFolder() {
   return error ? "./" : path.parent_path().string() + "/";
 }
 
+namespace {
+
 std::string ProgramFolderPath(const std::string& chosen) {
   if (!chosen.empty()) return WithSeparator(NativePath(chosen));
   const std::string own = ExecutableFolder();
   return FileExists(own + "default.css") && access(own.c_str(), W_OK) == 0 ? own : UserDataFolder();
 }
+
+}  // namespace
 
 std::string FindProgramFolder(const std::string& chosen) {
   std::string folder = ProgramFolderPath(chosen);
@@ -55,6 +59,11 @@ std::string FindProgramFolder(const std::string& chosen) {
     if (!FileExists(folder + name)) ReplaceWholeFile(folder + name, ReadWholeFile(InstalledDataFolder() + name));
   }
   return folder;
+}
+
+std::string ProgramFolderToRead(const std::string& chosen) {
+  std::string folder = ProgramFolderPath(chosen);
+  return chosen.empty() && !FolderExists(folder) ? InstalledDataFolder() : folder;
 }
 
 }  // namespace folionet

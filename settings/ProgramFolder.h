@@ -13,7 +13,8 @@ std::string ExecutableFolder();
 // it lacks. Throws RunTimeError when the last cannot be made or filled.
 std::string FindProgramFolder(const std::string& chosen);
 
-// The same folder, with nothing made or filled.
-std::string ProgramFolderPath(const std::string& chosen);
+// The same folder, with nothing made or filled: where the person's own is not there yet, the one that the delivered
+// files are in.
+std::string ProgramFolderToRead(const std::string& chosen);
 
 }  // namespace folionet

@@ -7,13 +7,6 @@
 
 namespace folionet {
 
-std::string_view TrimBlanks(std::string_view text) {
-  const auto isBlank = [](char c) { return c == ' ' || c == '\t'; };
-  while (!text.empty() && isBlank(text.front())) text.remove_prefix(1);
-  while (!text.empty() && isBlank(text.back())) text.remove_suffix(1);
-  return text;
-}
-
 IntegerReading ReadInteger(std::string_view text, std::int64_t lowest, std::int64_t highest) {
   std::string_view digits = TrimBlanks(text);
   if (!digits.empty() && digits.front() == '+') {

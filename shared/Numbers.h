@@ -28,7 +28,13 @@ double RoundHalfEven(double value);
 // RoundHalfEven does). Nothing when it does not fit 16 bits.
 std::optional<std::int16_t> LeadingInteger(std::string_view text);
 
+inline bool IsBlank(char c) { return c == ' ' || c == '\t'; }
+
 // `text` without the blanks and tabs around it.
-std::string_view TrimBlanks(std::string_view text);
+inline std::string_view TrimBlanks(std::string_view text) {
+  while (!text.empty() && IsBlank(text.front())) text.remove_prefix(1);
+  while (!text.empty() && IsBlank(text.back())) text.remove_suffix(1);
+  return text;
+}
 
 }  // namespace folionet

@@ -8,11 +8,17 @@
 namespace folionet {
 namespace {
 
-bool IsBlank(char c) { return c == ' ' || c == '\t'; }
-
 std::size_t SkipBlanks(std::string_view line, std::size_t at) {
   while (at < line.size() && IsBlank(line[at])) ++at;
   return at;
+}
+
+// Leaves `at` on the comma that ends the field, or at the line's end. Most fields are numbers of a few digits: a loop
+// finds their ends sooner than a call.
+std::string_view TakePlain(std::string_view line, std::size_t& at) {
+  const std::size_t start = at;
+  while (at < line.size() && line[at] != ',') ++at;
+  return TrimBlanks(line.substr(start, at - start));
 }
 
 }  // namespace
@@ -35,25 +41,6 @@ std::string_view RecordReader::TakeQuoted(std::string_view line, std::size_t& at
   }
 }
 
-// Leaves `at` on the comma that ends the field, or at the line's end.
-std::string_view RecordReader::TakeField(std::string_view line, std::size_t& at) {
-  at = SkipBlanks(line, at);
-  if (at == line.size() || line[at] != '"') {
-    // Most fields are numbers of a few digits: a loop finds their ends sooner than a call.
-    const std::size_t start = at;
-    while (at < line.size() && line[at] != ',') ++at;
-    std::size_t end = at;
-    while (end > start && IsBlank(line[end - 1])) --end;
-    return line.substr(start, end - start);
-  }
-  const std::string_view field = TakeQuoted(line, ++at);
-  at = SkipBlanks(line, at);
-  if (at < line.size() && line[at] != ',') {
-    m_lines.Fail(kInvalidProcedureCall, "Text follows the closing quote of a field: " + Quoted(line));
-  }
-  return field;
-}
-
 bool RecordReader::Next(std::span<std::string_view> fields) {
   std::ranges::fill(fields, std::string_view());
   std::string_view line;
@@ -69,7 +56,16 @@ bool RecordReader::Next(std::span<std::string_view> fields) {
       }
       ++at;
     }
-    fields[i] = TakeField(line, at);
+    at = SkipBlanks(line, at);
+    if (at == line.size() || line[at] != '"') {
+      fields[i] = TakePlain(line, at);
+      continue;
+    }
+    fields[i] = TakeQuoted(line, ++at);
+    at = SkipBlanks(line, at);
+    if (at < line.size() && line[at] != ',') {
+      m_lines.Fail(kInvalidProcedureCall, "Text follows the closing quote of a field: " + Quoted(line));
+    }
   }
   if (at < line.size()) {
     m_lines.Fail(kInvalidProcedureCall,

@@ -31,7 +31,6 @@ class RecordReader {
   const LineReader& Lines() const { return m_lines; }
 
  private:
-  std::string_view TakeField(std::string_view line, std::size_t& at);
   std::string_view TakeQuoted(std::string_view line, std::size_t& at);
 
   LineReader m_lines;

@@ -27,6 +27,7 @@ TEST(BuildTitlesTest, ReplacesEveryWordInTheirOrder) {
       {"%vs%", {"KJV", "Exodus", "1"}, "1-"},
       {"%bible%", {"%bk% %ch%", "Genesis", "1"}, "Genesis 1"},  // a later word sees earlier values
       {"%ch%", {"KJV", "Genesis", "%bible%"}, "%bible%"},       // an earlier word does not see later ones
+      {"%b%bk%", {"KJV", "k%", "1"}, "k%"},                     // and what it brings half of
       {"%b%bk%k%", {"KJV", "", "1"}, ""},                       // what a value joins is a word too
       {"%%bible%bible%", {"bible", "", ""}, "%biblebible%"},
       {"%%ch%ch%%vs%vs%%v%ch%s%", {"", "Genesis", "1"}, "%1ch%1-31vs%%v1s%"},  // a number joins nothing

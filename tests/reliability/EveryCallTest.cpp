@@ -55,6 +55,8 @@ std::vector<std::string> KindsOf(const std::string& call) {
 // What every program must take in its stride.
 bool IsHarmless(const std::string& kind) { return kind == "short" || kind == std::to_string(EINTR); }
 
+bool IsOneOf(const std::string& name, const std::set<std::string>& names) { return names.contains(name); }
+
 std::string LastPart(std::string path) {
   if (path.ends_with('/')) path.pop_back();
   return path.substr(path.rfind('/') + 1);
@@ -83,6 +85,9 @@ class EveryCall : public testing::Test {
         m_isKilled = kind == "kill" || kind == "torn";
         EXPECT_TRUE(m_isKilled ? run.result.status == kKilled : run.result.status < kHung) << run.result.status;
         EXPECT_TRUE(run.result.status == 0 || !IsHarmless(kind)) << run.result.errors;
+        const bool writes = IsOneOf(struck.name, {"create", "write", "ftruncate", "fsync", "rename"}) ||
+                            (struck.name == "close" && IsOneOf(run.calls[at - 2].name, {"write", "ftruncate"}));
+        EXPECT_TRUE(run.result.status != 0 || !writes || IsHarmless(kind)) << "nothing is told";
         check(home, run, struck);
       }
     }

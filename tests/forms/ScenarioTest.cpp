@@ -1,5 +1,6 @@
 #include <fstream>
 #include <map>
+#include <regex>
 #include <sstream>
 
 #include "Escapes.h"
@@ -62,9 +63,8 @@ std::vector<Scenario> ReadScenarios() {
     for (std::string text; std::getline(file, text);) {
       const std::string place = entry.path().filename().string() + ":" + std::to_string(++number);
       if (text.starts_with("# ")) {
-        std::string name = entry.path().stem().string() + "_";
-        for (const char c : text.substr(2)) name += std::isalnum(static_cast<unsigned char>(c)) != 0 ? c : '_';
-        scenarios.push_back({name, {}});
+        const std::string title = entry.path().stem().string() + text.substr(1);
+        scenarios.push_back({std::regex_replace(title, std::regex("[^A-Za-z0-9]"), "_"), {}});
       } else if (!text.empty()) {
         scenarios.back().lines.push_back(Parsed(text, place));
       }
@@ -89,9 +89,7 @@ class Scenarios : public FormTest, public testing::WithParamInterface<Scenario> 
     const auto action = Actions().find(line.verb);
     const Verb& verb = action == Actions().end() ? Checks().at(line.verb) : action->second;
     Line filled = line;  // "HOME/" is the test's own folder
-    for (std::size_t at = 0; (at = filled.rest.find("HOME/", at)) != std::string::npos;) {
-      filled.rest.replace(at, 5, m_home.Path());
-    }
+    filled.rest = std::regex_replace(line.rest, std::regex("HOME/"), m_home.Path());
     verb(*this, filled);
   }
 

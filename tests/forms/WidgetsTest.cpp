@@ -2,18 +2,14 @@
 
 #include <QApplication>
 #include <QCheckBox>
-#include <QDialog>
 #include <QFontDatabase>
 #include <QFontDialog>
 #include <QInputDialog>
-#include <QKeyEvent>
-#include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTimer>
 
 #include "FormUi.h"
-#include "KeyReleases.h"
 #include "QtText.h"
 #include "TextBox.h"
 #include "frmErr.h"
@@ -38,22 +34,6 @@ TEST(TextBoxTest, GivesBackWhatWasPutIn) {
     box.moveCursor(QTextCursor::End);
     box.insertPlainText(QStringLiteral("!"));
     EXPECT_EQ(box.Text(), edited);
-  }
-}
-
-// Keys released one after the other in a box that keeps them and in one that leaves them to the form around it.
-TEST(KeyReleasesTest, EveryReleaseRefreshesOnce) {
-  QDialog form;
-  QWidget* controls[] = {new QLineEdit(&form), new QWidget(new QWidget(&form)), &form};
-  int refreshes = 0;
-  new KeyReleases(form, [&] { return ++refreshes > 0; });
-  for (QWidget* control : controls) {
-    refreshes = 0;
-    for (int i = 0; i < 3; ++i) {
-      QKeyEvent event(QEvent::KeyRelease, Qt::Key_A, Qt::NoModifier, QStringLiteral("a"));
-      QApplication::sendEvent(control, &event);
-    }
-    EXPECT_EQ(refreshes, 3) << control->metaObject()->className();
   }
 }
 

@@ -15,6 +15,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <regex>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -78,13 +79,9 @@ TEST_P(Site, IsTheExpectedOne) {
   EXPECT_EQ(ReadFolder(m_home.Path() + "config").size(), 0u) << "a compile stores no settings";
 }
 
-std::string NameOf(const testing::TestParamInfo<std::string>& parameter) {
-  std::string name = parameter.param;
-  std::replace(name.begin(), name.end(), '-', '_');
-  return name;
-}
-
-INSTANTIATE_TEST_SUITE_P(Case, Site, testing::ValuesIn(CaseNames()), NameOf);
+INSTANTIATE_TEST_SUITE_P(Case, Site, testing::ValuesIn(CaseNames()), [](const auto& parameter) {
+  return std::regex_replace(parameter.param, std::regex("-"), "_");
+});
 
 TEST(FolderComparison, NamesWhatIsMissingWhatIsTooMuchAndTheFirstLineThatDiffers) {
   EXPECT_EQ(DescribeDifference({{"a", "1\r\n2\r\n"}, {"b", "x"}, {"c", "same"}},

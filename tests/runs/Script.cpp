@@ -93,7 +93,7 @@ std::vector<std::string> SplitWords(const std::string& line) {
 }
 
 std::string MarkLines(const std::string& mark, const std::string& text) {
-  constexpr std::size_t kMost = 100;
+  constexpr std::size_t kMost = 50;
   constexpr std::size_t kShown = 3;
   std::vector<std::string> marked;
   std::istringstream lines(text);

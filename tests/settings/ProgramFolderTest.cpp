@@ -5,11 +5,6 @@
 namespace folionet {
 namespace {
 
-TEST(ProgramFolderTest, AChosenFolderIsUsedAsItIs) {
-  EXPECT_EQ(FindProgramFolder("/some\\where"), "/some/where/");
-  EXPECT_EQ(FindProgramFolder("/x/"), "/x/");
-}
-
 // The test's own folder holds the delivered files, as an unpacked program's does.
 TEST(ProgramFolderTest, TheExecutablesFolderServesWhenItHoldsTheStyleSheet) {
   EXPECT_EQ(FindProgramFolder(""), ExecutableFolder());

@@ -88,11 +88,5 @@ TEST(CodePageTest, MapsCaseCharacterByCharacter) {
   }
 }
 
-TEST(CodePageTest, ComparesIgnoringCase) {
-  EXPECT_TRUE(EqualIgnoringCase("BOOKS_ÉA.txt", "books_éa.TXT"));
-  EXPECT_FALSE(EqualIgnoringCase("a", "b"));
-  EXPECT_FALSE(EqualIgnoringCase("a", "aa"));
-}
-
 }  // namespace
 }  // namespace folionet

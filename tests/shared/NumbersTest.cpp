@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include "Colours.h"
 #include "Numbers.h"
 #include "RunTimeError.h"
 
@@ -51,15 +50,6 @@ TEST(NumbersTest, TakesTheNumberThatATextBeginsWith) {
   } cases[] = {{"12abc", 12}, {"", 0},          {"x", 0},      {"  5", 5},          {"12.5", 12},
                {"-4", -4},    {"32767", 32767}, {"32768", {}}, {"99999999999", {}}, {"nan", 0}};
   for (const auto& c : cases) EXPECT_EQ(LeadingInteger(c.text), c.value) << c.text;
-}
-
-TEST(ColoursTest, EveryPartHasTwoDigits) {
-  const struct {
-    Colour colour;
-    const char* html;
-  } cases[] = {{0, "000000"},       {255, "FF0000"},      {16711680, "0000FF"}, {65280, "00FF00"},
-               {8389122, "020280"}, {0x0F0A01, "010A0F"}, {-1, "FFFFFF"},       {16777215, "FFFFFF"}};
-  for (const auto& c : cases) EXPECT_EQ(HtmlColour(c.colour), c.html) << c.colour;
 }
 
 }  // namespace

@@ -1,4 +1,3 @@
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <array>
@@ -59,16 +58,6 @@ TEST(RecordReaderTest, ReadsFieldsQuotedOrNot) {
     EXPECT_EQ(fields, record);
   }
   EXPECT_FALSE(reader.Next(fields));
-}
-
-TEST(RecordReaderTest, ReadsBackWhatIsWrittenQuoted) {
-  const test::TemporaryFolder folder;
-  const std::array<std::string, 2> written{"a,\"b\"", " (x) "};
-  EXPECT_EQ(QuotedRecord(written), "\"a,\"\"b\"\"\",\" (x) \"\r\n");
-  RecordReader reader(folder.Write("file", QuotedRecord(written)));
-  std::array<std::string_view, 2> fields;
-  ASSERT_TRUE(reader.Next(fields));
-  EXPECT_THAT(fields, testing::ElementsAreArray(written));
 }
 
 }  // namespace

@@ -1,27 +1,49 @@
 # Completion of folionet-cli for bash.
+
+# Offers the lines of standard input that begin with the word at hand.
+_folionet_cli_lines() {
+  local line
+  while IFS= read -r line; do
+    [[ $line != "$1"* ]] || COMPREPLY+=("$(printf %q "$line")")
+  done
+}
+
 _folionet_cli() {
-  local word=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD - 1]} command="" i
+  local word=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD - 1]} command="" folders=() i at
+  # bash takes "--set=x" for three words.
+  [[ $word != = ]] || word=""
+  [[ $before != = ]] || before=${COMP_WORDS[COMP_CWORD - 2]}
   for ((i = 1; i < COMP_CWORD; ++i)); do
     case ${COMP_WORDS[i]} in
-      compile | list | check | verify) command=${COMP_WORDS[i]} && break ;;
+      compile | list | check | verify) [[ $command ]] || command=${COMP_WORDS[i]} ;;
+      --versalia-path | --module-path)
+        at=$((i + 1))
+        [[ ${COMP_WORDS[at]} != = ]] || ((++at))
+        ((at >= COMP_CWORD)) || folders+=("${COMP_WORDS[i]}" "${COMP_WORDS[at]/#\~/$HOME}")
+        ;;
     esac
   done
   COMPREPLY=()
   case $before in
     --output | --versalia-path | --module-path | --program-folder)
+      compopt -o filenames 2> /dev/null
       mapfile -t COMPREPLY < <(compgen -d -- "$word")
       return
       ;;
     --set)
-      mapfile -t COMPREPLY < <(compgen -W "$(folionet-cli list settings 2> /dev/null | sed 's/=.*/=/')" -- "$word")
+      compopt -o nospace 2> /dev/null
+      _folionet_cli_lines "$word" < <(folionet-cli list settings 2> /dev/null | sed 's/=.*/=/')
       return
       ;;
     --translation)
-      mapfile -t COMPREPLY < <(compgen -W "$(folionet-cli list translations 2> /dev/null | cut -f 1)" -- "$word")
+      _folionet_cli_lines "$word" < <(folionet-cli "${folders[@]}" list translations 2> /dev/null | cut -f 1)
       return
       ;;
     --language-file)
-      mapfile -t COMPREPLY < <(compgen -W "$(folionet-cli list languages 2> /dev/null)" -- "$word")
+      _folionet_cli_lines "$word" < <(folionet-cli "${folders[@]}" list languages 2> /dev/null)
+      return
+      ;;
+    --start-book | --end-book | --index-address | --sitemap | --index)
       return
       ;;
   esac
@@ -35,7 +57,11 @@ _folionet_cli() {
     check) common+=" --translation --set" ;;
     verify)
       common+=" --index"
-      [[ $word == -* ]] || { mapfile -t COMPREPLY < <(compgen -d -- "$word"); return; }
+      if [[ $word != -* ]]; then
+        compopt -o filenames 2> /dev/null
+        mapfile -t COMPREPLY < <(compgen -d -- "$word")
+        return
+      fi
       ;;
     *) common="compile list check verify --version $common" ;;
   esac

@@ -27,7 +27,7 @@ constexpr std::array<std::string_view, 4> kRawElements{"script", "style", "title
 
 char Lower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
 
-bool IsBlank(char c) { return c == ' ' || c == '\t' || c == '\r' || c == '\n' || c == '\f'; }
+bool IsHtmlBlank(char c) { return c == ' ' || c == '\t' || c == '\r' || c == '\n' || c == '\f'; }
 
 bool EqualsLower(std::string_view text, std::string_view lower) {
   return text.size() == lower.size() &&
@@ -44,7 +44,7 @@ std::size_t FindLower(std::string_view page, std::string_view lower, std::size_t
 }
 
 std::size_t SkipBlanks(std::string_view text, std::size_t at) {
-  while (at < text.size() && IsBlank(text[at])) ++at;
+  while (at < text.size() && IsHtmlBlank(text[at])) ++at;
   return at;
 }
 
@@ -64,7 +64,7 @@ std::string_view TakeValue(std::string_view text, std::size_t& at) {
     return text.substr(start, end - start);
   }
   const std::size_t start = at;
-  while (at < text.size() && !IsBlank(text[at]) && text[at] != '>') ++at;
+  while (at < text.size() && !IsHtmlBlank(text[at]) && text[at] != '>') ++at;
   return text.substr(start, at - start);
 }
 
@@ -95,8 +95,8 @@ bool HasScheme(std::string_view link) {
 }
 
 std::string_view Trimmed(std::string_view text) {
-  while (!text.empty() && IsBlank(text.front())) text.remove_prefix(1);
-  while (!text.empty() && IsBlank(text.back())) text.remove_suffix(1);
+  while (!text.empty() && IsHtmlBlank(text.front())) text.remove_prefix(1);
+  while (!text.empty() && IsHtmlBlank(text.back())) text.remove_suffix(1);
   return text;
 }
 
@@ -144,7 +144,7 @@ class LinkFinder {
     const std::size_t start = m_at;
     const std::size_t end = NameEnd(m_page, start);
     m_at = std::max(end, start + 1);
-    if (end == start || !m_inTag || start == 0 || !IsBlank(m_page[start - 1])) return;
+    if (end == start || !m_inTag || start == 0 || !IsHtmlBlank(m_page[start - 1])) return;
     const std::string_view name = m_page.substr(start, end - start);
     std::size_t behind = SkipBlanks(m_page, end);
     const auto* const attribute = std::find_if(kAttributes.begin(), kAttributes.end(), [&](const Attribute& known) {

@@ -11,7 +11,7 @@ namespace {
 constexpr std::string_view kBlanks = " \t\r\n\f";
 constexpr std::string_view kHexDigits = "0123456789abcdefABCDEF";
 
-bool IsBlank(char c) { return kBlanks.find(c) != std::string_view::npos; }
+bool IsStyleBlank(char c) { return kBlanks.find(c) != std::string_view::npos; }
 
 bool IsNamePart(char c) {
   return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '-' || c == '_' ||
@@ -66,7 +66,7 @@ class StyleReader {
 
   std::string TakeUnquoted() {
     std::string text;
-    while (m_at < m_sheet.size() && m_sheet[m_at] != ')' && !IsBlank(m_sheet[m_at])) text += TakeCharacter();
+    while (m_at < m_sheet.size() && m_sheet[m_at] != ')' && !IsStyleBlank(m_sheet[m_at])) text += TakeCharacter();
     return text;
   }
 
@@ -80,7 +80,7 @@ class StyleReader {
     if (m_at == start) return std::string(m_sheet[m_at++] == '\n' ? 0 : 1, m_sheet[start]);
     const auto character =
         static_cast<UChar32>(std::stoul(std::string(m_sheet.substr(start, m_at - start)), nullptr, 16));
-    if (m_at < m_sheet.size() && IsBlank(m_sheet[m_at])) ++m_at;
+    if (m_at < m_sheet.size() && IsStyleBlank(m_sheet[m_at])) ++m_at;
     std::string bytes(U8_MAX_LENGTH, '\0');
     std::size_t length = 0;
     if (U_IS_UNICODE_CHAR(character)) U8_APPEND_UNSAFE(bytes.data(), length, character);

@@ -87,25 +87,29 @@ FileHandle PageFile::OpenExisting() const {
   return file;
 }
 
-FileHandle PageFile::OpenForWriting(bool& isNew) const {
-  constexpr int kNewFlags = O_WRONLY | O_CREAT | O_EXCL;
+FileHandle PageFile::OpenNew() const {
   constexpr mode_t kMode = 0666;
+  return FileHandle::OpenAt(m_folderHandle.Get(), m_name.c_str(), O_WRONLY | O_CREAT | O_EXCL, kMode);
+}
+
+FileHandle PageFile::OpenForWriting(bool& isNew) const {
   isNew = m_expected == PageChange::kNew;
-  FileHandle file = isNew ? FileHandle::OpenAt(m_folderHandle.Get(), m_name.c_str(), kNewFlags, kMode) : OpenExisting();
+  FileHandle file = isNew ? OpenNew() : OpenExisting();
   if (!file.IsOpen() && errno == (isNew ? EEXIST : ENOENT)) {
     isNew = !isNew;
-    file = isNew ? FileHandle::OpenAt(m_folderHandle.Get(), m_name.c_str(), kNewFlags, kMode) : OpenExisting();
+    file = isNew ? OpenNew() : OpenExisting();
   }
   if (!file.IsOpen()) Fail(errno);
   return file;
 }
 
-std::size_t PageFile::SizeOfRegular(const FileHandle& file) const {
+std::size_t PageFile::SizeOfRegular(const FileHandle& file, bool& isShared) const {
   struct stat status {};
   if (fstat(file.Get(), &status) != 0) Fail(errno);
   if (!S_ISREG(status.st_mode)) {
     throw RunTimeError(kPathFileAccessError, NativePath(m_folder) + m_name, "It is not a regular file.");
   }
+  isShared = status.st_nlink > 1;
   return static_cast<std::size_t>(status.st_size);
 }
 
@@ -129,7 +133,8 @@ PageChange PageFile::Compare() {
     return PageChange::kNew;
   }
   if (HasText(file)) return PageChange::kSame;
-  SizeOfRegular(file);
+  bool isShared = false;
+  SizeOfRegular(file, isShared);
   return PageChange::kChanged;
 }
 
@@ -139,7 +144,14 @@ PageChange PageFile::Close() {
   bool isNew = false;
   FileHandle file = OpenForWriting(isNew);
   if (!isNew && HasText(file)) return m_expected = PageChange::kSame;
-  const std::size_t oldSize = isNew ? 0 : SizeOfRegular(file);
+  bool isShared = false;
+  std::size_t oldSize = isNew ? 0 : SizeOfRegular(file, isShared);
+  if (isShared) {  // a copy of the site, made of hard links, keeps its page
+    if (unlinkat(m_folderHandle.Get(), m_name.c_str(), 0) != 0) Fail(errno);
+    file = OpenNew();
+    if (!file.IsOpen()) Fail(errno);
+    oldSize = 0;
+  }
   if (!WriteAll(file.Get(), Text(), 0)) Fail(errno);
   if (oldSize > m_size && !CutToLength(file.Get(), m_size)) Fail(errno);
   if (!file.Close()) Fail(errno);

@@ -14,7 +14,8 @@ enum class PageChange { kNew, kChanged, kSame };
 
 // The page that is being written. Its lines are gathered in memory and written by Close in one go: a file that holds
 // the same bytes already is left alone with its time stamp, one that differs is overwritten in place and cut to length,
-// a missing one is made. A page that is not closed leaves nothing behind.
+// or made anew where it has other names too (hard links, as a copy of the site may be made of), a missing one is made.
+// A page that is not closed leaves nothing behind.
 class PageFile {
  public:
   // Starts the page `name` (UTF-8, without a folder) in `folder` (ending in the separator). Throws RunTimeError
@@ -73,8 +74,9 @@ class PageFile {
   std::string_view Text() const { return {m_text.get(), m_size}; }
 
   FileHandle OpenForWriting(bool& isNew) const;
+  FileHandle OpenNew() const;
   FileHandle OpenExisting() const;
-  std::size_t SizeOfRegular(const FileHandle& file) const;
+  std::size_t SizeOfRegular(const FileHandle& file, bool& isShared) const;
   bool HasText(const FileHandle& file);
   PageChange Compare();
   [[noreturn]] void Fail(int systemError) const;

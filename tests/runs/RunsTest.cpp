@@ -4,7 +4,9 @@
 //   = the case's name
 //   library sixty-six                     another library than the small one: 66 books, or "none"
 //   write FILE TEXT [N TEXT]...           the text, then others N times each; "append" leaves what the file holds
-//   replace FILE OLD NEW                  also: remove PATH, rename PATH PATH, folder PATH, pipe PATH, link PATH TARGET
+//   replace FILE OLD NEW                  also: remove PATH, rename PATH PATH, folder PATH, pipe PATH, link PATH
+//   TARGET,
+//                                         hardlink PATH TARGET
 //   $ site --start-book=2                 compiles the library into out/, "compile" to what is given; "cli" and
 //                                         "make_library" are the programs themselves; before one, "bounded" bounds its
 //                                         memory and time, "limited" the size of its files

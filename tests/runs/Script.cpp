@@ -134,6 +134,8 @@ bool Arrange(const std::string& home, const std::vector<std::string>& words) {
   } else if (verb == "folder") {
     fs::remove_all(path);
     fs::create_directory(path);
+  } else if (verb == "hardlink") {
+    fs::create_hard_link(home + words.at(2), path);
   } else if (verb == "pipe" || verb == "link") {
     fs::remove(path);
     if (verb == "link") fs::create_symlink(words.at(2), path);

@@ -11,17 +11,25 @@
 namespace folionet::fuzz {
 namespace {
 
+// Of the verse at hand, also after a failure, all that is given can be read, and stands in the file.
+void CheckCurrent(const Verse& verse, std::string_view input) {
+  for (const std::string_view part : {verse.bookField, verse.chapterField, verse.verse, verse.text}) {
+    if (input.find(part) == std::string_view::npos) std::abort();
+  }
+}
+
 void ReadVerses(const std::string& path, std::string_view input) {
-  try {
-    VerseFileReader reader(path);
-    const Verse& verse = reader.Current();
-    while (reader.Next()) {
-      if (verse.book < 1 || verse.book > kBooks) std::abort();
-      if (verse.text.find('\t') != std::string_view::npos) std::abort();
-      if (input.find(verse.text) == std::string_view::npos) std::abort();
+  VerseFileReader reader(path);
+  const Verse& verse = reader.Current();
+  for (bool more = true; more;) {
+    try {
+      more = reader.Next();
+      if (more && (verse.book < 1 || verse.book > kBooks)) std::abort();
+      if (more && verse.text.find('\t') != std::string_view::npos) std::abort();
+    } catch (const RunTimeError& error) {
+      if (error.Line() == 0) std::abort();
     }
-  } catch (const RunTimeError& error) {
-    if (error.Line() == 0) std::abort();
+    CheckCurrent(verse, input);
   }
 }
 

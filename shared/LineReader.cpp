@@ -13,7 +13,11 @@
 namespace folionet {
 namespace {
 
+#ifdef FUZZING_BUILD_MODE_UNSAFE_FOR_PRODUCTION
+constexpr std::size_t kChunk = 64;  // so that small inputs are read in parts
+#else
 constexpr std::size_t kChunk = std::size_t{64} << 10;
+#endif
 
 }  // namespace
 

@@ -2,6 +2,7 @@
 
 #include <functional>
 
+#include "OptionRecords.h"
 #include "RunTimeError.h"
 #include "SettingsKeys.h"
 #include "SettingsStore.h"
@@ -98,6 +99,14 @@ TEST(SettingsStoreTest, ValuesThatDoNotConvertAreFailures) {
       EXPECT_NE(error.Extra().find(std::string("The setting ") + c.key + " must be "), std::string::npos);
     }
   }
+}
+
+TEST(HyperlinkOptionsTest, StayAsTheyAreWhenNothingIsAsked) {
+  const TemporaryFolder folder;
+  EffectsOptions effects;
+  effects.cboStyle = "Bold";
+  SetDefaultHyperlinkColors(SettingsStore(folder.Path()), effects, 2);
+  EXPECT_EQ(effects.cboStyle, "Bold");
 }
 
 }  // namespace

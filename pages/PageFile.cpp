@@ -1,7 +1,6 @@
 #include "PageFile.h"
 
 #include <fcntl.h>
-#include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -103,14 +102,13 @@ FileHandle PageFile::OpenForWriting(bool& isNew) const {
   return file;
 }
 
-std::size_t PageFile::SizeOfRegular(const FileHandle& file, bool& isShared) const {
+struct stat PageFile::StatusOfRegular(const FileHandle& file) const {
   struct stat status {};
   if (fstat(file.Get(), &status) != 0) Fail(errno);
   if (!S_ISREG(status.st_mode)) {
     throw RunTimeError(kPathFileAccessError, NativePath(m_folder) + m_name, "It is not a regular file.");
   }
-  isShared = status.st_nlink > 1;
-  return static_cast<std::size_t>(status.st_size);
+  return status;
 }
 
 // Asking for the end takes less time than fstat; only what is written into must be known to be a regular file. Where
@@ -133,8 +131,7 @@ PageChange PageFile::Compare() {
     return PageChange::kNew;
   }
   if (HasText(file)) return PageChange::kSame;
-  bool isShared = false;
-  SizeOfRegular(file, isShared);
+  StatusOfRegular(file);
   return PageChange::kChanged;
 }
 
@@ -144,16 +141,19 @@ PageChange PageFile::Close() {
   bool isNew = false;
   FileHandle file = OpenForWriting(isNew);
   if (!isNew && HasText(file)) return m_expected = PageChange::kSame;
-  bool isShared = false;
-  std::size_t oldSize = isNew ? 0 : SizeOfRegular(file, isShared);
-  if (isShared) {  // a copy of the site, made of hard links, keeps its page
-    if (unlinkat(m_folderHandle.Get(), m_name.c_str(), 0) != 0) Fail(errno);
-    file = OpenNew();
-    if (!file.IsOpen()) Fail(errno);
-    oldSize = 0;
+  off_t oldSize = 0;
+  if (!isNew) {
+    const struct stat old = StatusOfRegular(file);
+    if (old.st_nlink > 1) {  // a copy of the site, made of hard links, keeps its page
+      if (unlinkat(m_folderHandle.Get(), m_name.c_str(), 0) != 0) Fail(errno);
+      file = OpenNew();
+      if (!file.IsOpen()) Fail(errno);
+    } else {
+      oldSize = old.st_size;
+    }
   }
   if (!WriteAll(file.Get(), Text(), 0)) Fail(errno);
-  if (oldSize > m_size && !CutToLength(file.Get(), m_size)) Fail(errno);
+  if (oldSize > static_cast<off_t>(m_size) && !CutToLength(file.Get(), m_size)) Fail(errno);
   if (!file.Close()) Fail(errno);
   return m_expected = isNew ? PageChange::kNew : PageChange::kChanged;
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <sys/stat.h>
+
 #include <algorithm>
 #include <memory>
 #include <string>
@@ -76,7 +78,7 @@ class PageFile {
   FileHandle OpenForWriting(bool& isNew) const;
   FileHandle OpenNew() const;
   FileHandle OpenExisting() const;
-  std::size_t SizeOfRegular(const FileHandle& file, bool& isShared) const;
+  struct stat StatusOfRegular(const FileHandle& file) const;
   bool HasText(const FileHandle& file);
   PageChange Compare();
   [[noreturn]] void Fail(int systemError) const;

@@ -73,14 +73,14 @@ bool Parse(int argc, char** argv, Arguments& arguments, int& status) {
   }
 }
 
-// Qt ends a program that finds no display by abort(); a person is told what to do instead. What Qt has to say helps
-// only where there should be a display.
+// Qt ends a program that finds no display by abort(); a person is told what to do instead, last. What Qt has to say
+// helps only where there should be a display.
 void TellNoDisplay(QtMsgType type, const QMessageLogContext& /*context*/, const QString& message) {
   if (type != QtFatalMsg) return;
   const bool hasDisplay = std::getenv("DISPLAY") != nullptr || std::getenv("WAYLAND_DISPLAY") != nullptr;
   const QByteArray detail = hasDisplay ? message.trimmed().toLocal8Bit() + '\n' : QByteArray();
   std::fprintf(stderr,
-               "folionet: the form cannot be opened, for there is no display. \"folionet-cli compile\" needs none.\n%s",
+               "%sfolionet: the form cannot be opened, for there is no display. \"folionet-cli compile\" needs none.\n",
                detail.constData());
   std::fflush(stderr);
   _exit(kExitFailed);

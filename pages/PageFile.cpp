@@ -128,6 +128,8 @@ PageChange PageFile::Compare() {
   const FileHandle file = OpenExisting();
   if (!file.IsOpen()) {
     if (errno != ENOENT) Fail(errno);
+    // Where a page could not be made, the plan fails as the run would.
+    if (faccessat(m_folderHandle.Get(), ".", W_OK, AT_EACCESS) != 0) Fail(errno);
     return PageChange::kNew;
   }
   if (HasText(file)) return PageChange::kSame;

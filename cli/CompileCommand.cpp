@@ -95,7 +95,10 @@ void PrintChanges(const CompileArguments& arguments, const SiteChanges& changes)
 
 void RefuseOtherThanFolders(const std::string& sitemap) {
   if (!IsPublicAddress(sitemap)) {
-    RefuseUsage("--sitemap: an address such as https://example.org/bible/ was expected: \"" + sitemap + "\"");
+    RefuseUsage(
+        "--sitemap: an address such as https://example.org/bible/ was expected (no user's name, no \"?\", no \"#\"; "
+        "a host in other letters as \"xn--...\"): \"" +
+        sitemap + "\"");
   }
   if (NamesAPage(sitemap)) {
     RefuseUsage("--sitemap: the address of the folder was expected, without the name of a page: \"" + sitemap + "\"");

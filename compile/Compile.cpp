@@ -167,7 +167,8 @@ class CompileRun {
     std::vector<std::string> names{m_indexFileName};
     for (int book = m_request.cboStartBook + 1; book <= m_request.cboEndBook + 1; ++book) {
       for (int chapter = 1; chapter <= ChaptersOf(m_inputs, book); ++chapter) {
-        names.push_back(m_names.OnDisk(book, chapter));
+        std::string name = m_names.OnDisk(book, chapter);
+        if (name != m_indexFileName) names.push_back(std::move(name));
       }
     }
     WriteOtherFile(m_request, "sitemap.xml", BuildSitemap(m_request.sitemapAddress, names));

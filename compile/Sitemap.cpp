@@ -63,7 +63,7 @@ std::string_view BehindScheme(std::string_view address) {
 bool IsPublicAddress(const std::string& address) {
   const std::string_view rest = BehindScheme(address);
   const std::string_view host = rest.substr(0, rest.find('/'));
-  return !host.empty() && host.find('@') == std::string_view::npos &&
+  return !host.empty() && std::none_of(host.begin(), host.end(), [](char c) { return c == '@' || (c & 0x80) != 0; }) &&
          std::none_of(rest.begin(), rest.end(), [](char c) {
            const auto byte = static_cast<unsigned char>(c);
            return byte <= ' ' || byte == 0x7F || c == '?' || c == '#';

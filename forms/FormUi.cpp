@@ -52,6 +52,8 @@ void PrepareBox(QMessageBox& box, const std::string& title, const std::string& t
     widest = std::max(widest, label->fontMetrics().horizontalAdvance(line));
   }
   label->setWordWrap(widest > kWidest);
+  constexpr int kButtons = 120;  // of the title bar, which does not widen a window
+  label->setMinimumWidth(std::min(kWidest, label->fontMetrics().horizontalAdvance(box.windowTitle()) + kButtons));
 }
 
 // A page's text is neither struck out nor underlined. Only Qt's own chooser lets them be left out.

@@ -13,14 +13,34 @@ struct Attribute {
   std::string_view element{};  // the only one that has it; empty when any may
 };
 
-constexpr std::array<Attribute, 8> kAttributes{{{"href", LinkForm::kAddress},
-                                                {"src", LinkForm::kAddress},
-                                                {"background", LinkForm::kAddress},
-                                                {"poster", LinkForm::kAddress},
-                                                {"data", LinkForm::kAddress, "object"},
-                                                {"srcset", LinkForm::kPictureSet},
-                                                {"imagesrcset", LinkForm::kPictureSet},
-                                                {"style", LinkForm::kStyle}}};
+constexpr std::array<Attribute, 12> kAttributes{{{"href", LinkForm::kBase, "base"},
+                                                 {"href", LinkForm::kPage},
+                                                 {"src", LinkForm::kPage, "iframe"},
+                                                 {"src", LinkForm::kPage, "frame"},
+                                                 {"src", LinkForm::kFile},
+                                                 {"background", LinkForm::kFile},
+                                                 {"poster", LinkForm::kFile},
+                                                 {"data", LinkForm::kPage, "object"},
+                                                 {"content", LinkForm::kRefresh, "meta"},
+                                                 {"srcset", LinkForm::kPictureSet},
+                                                 {"imagesrcset", LinkForm::kPictureSet},
+                                                 {"style", LinkForm::kStyle}}};
+
+// Charsets that browsers read as another one, as the WHATWG's Encoding Standard has it.
+constexpr std::array<std::pair<std::string_view, std::string_view>, 14> kReadAs{{{"us-ascii", "windows-1252"},
+                                                                                 {"ascii", "windows-1252"},
+                                                                                 {"iso-8859-1", "windows-1252"},
+                                                                                 {"iso8859-1", "windows-1252"},
+                                                                                 {"latin1", "windows-1252"},
+                                                                                 {"iso-8859-8-i", "iso-8859-8"},
+                                                                                 {"iso-8859-9", "windows-1254"},
+                                                                                 {"iso-8859-11", "windows-874"},
+                                                                                 {"tis-620", "windows-874"},
+                                                                                 {"gb2312", "gbk"},
+                                                                                 {"euc-kr", "windows-949"},
+                                                                                 {"utf-16", "utf-8"},
+                                                                                 {"utf-16le", "utf-8"},
+                                                                                 {"utf-16be", "utf-8"}}};
 
 // Elements whose content is no markup.
 constexpr std::array<std::string_view, 4> kRawElements{"script", "style", "title", "textarea"};
@@ -126,7 +146,7 @@ class LinkFinder {
       return;
     }
     m_inTag = true;
-    ++m_at;
+    m_tagStart = m_at++;
     m_element = m_page.substr(m_at, NameEnd(m_page, m_at) - m_at);
   }
 
@@ -151,8 +171,27 @@ class LinkFinder {
       return EqualsLower(name, known.name) && (known.element.empty() || EqualsLower(m_element, known.element));
     });
     if (attribute == kAttributes.end() || behind >= m_page.size() || m_page[behind] != '=') return;
-    AddLink(end, TakeValue(m_page, behind), attribute->form);
+    const std::string_view value = TakeValue(m_page, behind);
+    if (attribute->form != LinkForm::kRefresh || IsRefresh()) AddLink(end, value, FormInTag(attribute->form));
     m_at = behind;
+  }
+
+  std::string_view Tag() const { return m_page.substr(m_tagStart, m_page.find('>', m_tagStart) - m_tagStart); }
+
+  bool TagHas(std::string_view lower) const { return FindLower(Tag(), lower, 0) < Tag().size(); }
+
+  bool IsRefresh() const {
+    constexpr std::string_view kName = "http-equiv";
+    const std::string_view tag = Tag();
+    std::size_t at = SkipBlanks(tag, FindLower(tag, kName, 0) + kName.size());
+    return at < tag.size() && tag[at] == '=' && EqualsLower(Trimmed(TakeValue(tag, at)), "refresh");
+  }
+
+  // A link element may name pages too, such as the next one.
+  LinkForm FormInTag(LinkForm form) const {
+    const bool isFile = form == LinkForm::kPage && EqualsLower(m_element, "link") &&
+                        (TagHas("stylesheet") || TagHas("icon") || TagHas("preload"));
+    return isFile ? LinkForm::kFile : form;
   }
 
   // `at` is where the line of the link is counted.
@@ -166,6 +205,7 @@ class LinkFinder {
   std::string_view m_page;
   std::size_t m_at = 0;
   bool m_inTag = false;
+  std::size_t m_tagStart = 0;
   std::string_view m_element;  // of the tag at hand
   std::size_t m_line = 1;
   std::size_t m_counted = 0;  // the lines up to here are in m_line
@@ -176,8 +216,11 @@ class LinkFinder {
 
 std::vector<PageLink> FindPageLinks(std::string_view page) { return LinkFinder(page).Find(); }
 
+bool IsUtf16(std::string_view page) { return page.starts_with("\xFF\xFE") || page.starts_with("\xFE\xFF"); }
+
 std::string FindPageCharset(std::string_view page) {
   constexpr std::string_view kName = "charset";
+  if (page.starts_with("\xEF\xBB\xBF")) return "utf-8";
   for (std::size_t at = FindLower(page, "<meta", 0); at < page.size(); at = FindLower(page, "<meta", at + 1)) {
     const std::string_view tag = page.substr(at, std::min(page.find('>', at), page.size()) - at);
     std::size_t found = SkipBlanks(tag, FindLower(tag, kName, 0) + kName.size());
@@ -189,9 +232,34 @@ std::string FindPageCharset(std::string_view page) {
   return "windows-1252";
 }
 
+std::string BrowserCharset(std::string_view declared) {
+  const auto* const other =
+      std::find_if(kReadAs.begin(), kReadAs.end(), [&](const auto& row) { return EqualsLower(declared, row.first); });
+  return std::string(other == kReadAs.end() ? declared : other->second);
+}
+
+std::string_view RefreshAddress(std::string_view content) {
+  constexpr std::string_view kName = "url";
+  const std::size_t start = content.find_first_of(";,");
+  if (start == std::string_view::npos) return {};
+  content = Trimmed(content.substr(start + 1));
+  std::size_t at = SkipBlanks(content, kName.size());
+  if (FindLower(content, kName, 0) != 0 || at >= content.size() || content[at] != '=') return content;
+  content = Trimmed(content.substr(at + 1));
+  if (content.starts_with('"') || content.starts_with('\'')) {
+    content = content.substr(1, content.find(content.front(), 1) - 1);
+  }
+  return content;
+}
+
+bool IsElsewhere(std::string_view address) {
+  const std::string_view trimmed = Trimmed(address);
+  return HasScheme(trimmed) || trimmed.starts_with("//");
+}
+
 std::string LocalTarget(std::string_view address) {
   const std::string_view trimmed = Trimmed(address);
-  if (HasScheme(trimmed) || trimmed.starts_with("//")) return {};
+  if (IsElsewhere(trimmed)) return {};
   return PercentDecoded(trimmed.substr(0, trimmed.find_first_of("?#")));
 }
 

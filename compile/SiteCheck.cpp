@@ -80,13 +80,25 @@ class SiteChecker {
   struct Goal {
     std::optional<LinkFault> fault{};
     std::string otherCase{};  // of kOtherCase
-    std::string file{};       // the page of a folder, or the path itself
+    std::string file{};       // the index page of a folder, if it has one, or the path itself
+    bool isFolder = false;
   };
 
   // A page or a style sheet that is at hand.
   struct Source {
     const std::string& path;
     std::set<std::string>& linked;
+    std::optional<std::string> base{};    // the folder that its links start from; none when that is another site's
+    std::optional<CodePage> writtenIn{};  // the code page that a compile took for this page's charset
+  };
+
+  // An address of a page or a style sheet.
+  struct Address {
+    std::string_view text;  // in UTF-8, without character references
+    std::size_t line;
+    std::string_view shown;    // as the file has it, in UTF-8
+    std::string_view bytes{};  // as the file has it
+    bool isPage = false;       // whether it may be a page's
   };
 
   void ReadWaiting() {
@@ -101,56 +113,112 @@ class SiteChecker {
       if (path == m_indexName) throw;
       m_report.unread.push_back({path, std::string(StandardMessage(error.Number()))});
     }
+    if (IsUtf16(bytes)) {
+      m_report.unread.push_back({path, "It is UTF-16; save it as UTF-8"});
+      bytes.clear();
+    }
     if (IsPage(path)) {
       ++m_report.pages;
       FollowPage({path, m_linked[path]}, bytes);
     } else {
       const CodePage codePage(IsUtf8(bytes) ? "utf-8" : "windows-1252");
-      FollowAll({path, m_linked[path]}, FindStyleLinks(codePage.Decode(bytes)), 1);
+      const Source sheet{path, m_linked[path], std::string(FolderOf(path))};
+      FollowAll(sheet, FindStyleLinks(codePage.DecodeForDisplay(bytes)), 1);
     }
   }
 
-  void FollowPage(const Source& page, const std::string& bytes) {
-    const CodePage codePage(FindPageCharset(bytes));
-    for (const PageLink& link : FindPageLinks(bytes)) {
-      const std::string text = codePage.Decode(link.value);
+  void FollowPage(Source page, const std::string& bytes) {
+    const std::string charset = FindPageCharset(bytes);
+    const CodePage codePage(BrowserCharset(charset));
+    const std::vector<PageLink> links = FindPageLinks(bytes);
+    page.base = FindBase(page.path, links, codePage);
+    page.writtenIn.emplace(charset);
+    for (const PageLink& link : links) {
+      const std::string shown = codePage.DecodeForDisplay(link.value);
+      const std::string text = WithoutCharacterReferences(shown);
       switch (link.form) {
-        case LinkForm::kAddress:
-          Follow(page, {WithoutCharacterReferences(text), link.line}, codePage.DecodeForDisplay(link.value));
+        case LinkForm::kPage:
+        case LinkForm::kFile:
+          Follow(page, {text, link.line, shown, link.value, link.form == LinkForm::kPage});
+          break;
+        case LinkForm::kRefresh:
+          Follow(page, {RefreshAddress(text), link.line, RefreshAddress(text), {}, true});
+          break;
+        case LinkForm::kBase:
           break;
         case LinkForm::kPictureSet:
-          FollowAll(page, FindPictures(WithoutCharacterReferences(text)), link.line);
+          FollowAll(page, FindPictures(text), link.line);
           break;
         case LinkForm::kStyle:
-          FollowAll(page, FindStyleLinks(WithoutCharacterReferences(text)), link.line);
+          FollowAll(page, FindStyleLinks(text), link.line);
           break;
         case LinkForm::kSheet:
-          FollowAll(page, FindStyleLinks(text), link.line);
+          FollowAll(page, FindStyleLinks(shown), link.line);
           break;
       }
     }
   }
 
-  void FollowAll(const Source& source, const std::vector<StyleLink>& links, std::size_t firstLine) {
-    for (const StyleLink& link : links) Follow(source, {link.address, firstLine + link.line}, link.address);
+  // The folder that the links of a page start from: its own, or that of its first "base".
+  static std::optional<std::string> FindBase(const std::string& path, const std::vector<PageLink>& links,
+                                             const CodePage& codePage) {
+    const std::string own(FolderOf(path));
+    const auto base =
+        std::find_if(links.begin(), links.end(), [](const PageLink& link) { return link.form == LinkForm::kBase; });
+    if (base == links.end()) return own;
+    const std::string address = WithoutCharacterReferences(codePage.DecodeForDisplay(base->value));
+    const std::string target = LocalTarget(address);
+    if (IsElsewhere(address) || target.starts_with('/')) return std::nullopt;
+    return own + std::string(FolderOf(target));
   }
 
-  void Follow(const Source& source, const StyleLink& link, const std::string& shown) {
-    const std::string target = LocalTarget(link.address);
-    if (target.empty()) return;
-    const auto path =
-        target.starts_with('/') ? std::nullopt : PathInFolder(std::string(FolderOf(source.path)) + target);
+  void FollowAll(const Source& source, const std::vector<StyleLink>& links, std::size_t firstLine) {
+    for (const StyleLink& link : links) Follow(source, {link.address, firstLine + link.line, link.address});
+  }
+
+  void Follow(const Source& source, const Address& address) {
+    const std::string target = LocalTarget(address.text);
+    if (target.empty()) {
+      // A title that begins with "#" or holds ":" makes such an address.
+      const Goal goal = WhyMissing(source, address);
+      if (goal.fault != LinkFault::kSign) return;
+      ++m_report.links;
+      AddBroken(source, address, goal);
+      return;
+    }
+    const auto path = source.base && !target.starts_with('/') ? PathInFolder(*source.base + target) : std::nullopt;
     if (!path) {
       ++m_report.leadOut;
       return;
     }
     ++m_report.links;
     const Goal& goal = FindGoal(*path);
-    if (goal.fault) {
-      m_report.broken.push_back({source.path, link.line, shown, *goal.fault, goal.otherCase});
-    } else {
+    if (!goal.fault && goal.isFolder && (!address.isPage || goal.file.empty())) {
+      AddBroken(source, address, {address.isPage ? LinkFault::kFolder : LinkFault::kNoFile});
+    } else if (!goal.fault) {
       source.linked.insert(goal.file);
+    } else if (goal.fault == LinkFault::kMissing) {
+      AddBroken(source, address, WhyMissing(source, address));
+    } else {
+      AddBroken(source, address, goal);
     }
+  }
+
+  // What keeps a browser from the file that a compile wrote for an address.
+  Goal WhyMissing(const Source& source, const Address& address) const {
+    if (source.base != std::string()) return {LinkFault::kMissing};
+    const std::string name(address.text);
+    const std::string target = LocalTarget(name);
+    if (name != target && m_names.contains(name)) return {LinkFault::kSign, {}, name};
+    if (!source.writtenIn || target.empty()) return {LinkFault::kMissing};
+    const std::string written = LocalTarget(WithoutCharacterReferences(source.writtenIn->Decode(address.bytes)));
+    if (written != target && m_names.contains(written)) return {LinkFault::kCharset, {}, written};
+    return {address.shown.find("\uFFFD") == std::string_view::npos ? LinkFault::kMissing : LinkFault::kCharset};
+  }
+
+  void AddBroken(const Source& source, const Address& address, const Goal& goal) {
+    m_report.broken.push_back({source.path, address.line, std::string(address.shown), *goal.fault, goal.otherCase});
+    if (!goal.file.empty()) source.linked.insert(goal.file);
   }
 
   // Remembers each goal, since most pages lead to the same ones.
@@ -170,16 +238,16 @@ class SiteChecker {
       if (!FileExists(other) && !FolderExists(other)) return {LinkFault::kMissing};
       return {LinkFault::kOtherCase, other.substr(m_folder.size())};
     }
-    Goal goal{std::nullopt, {}, path};
-    const bool isFolder = FolderExists(m_folder + path);
-    if (isFolder) {
+    Goal goal{std::nullopt, {}, path, FolderExists(m_folder + path)};
+    if (goal.isFolder) {
       const std::string folder = path == "./" ? std::string() : WithSeparator(path);
-      goal.file = folder + FindIndexPage(m_folder + folder);
+      const std::string index = FindIndexPage(m_folder + folder);
+      goal.file = index.empty() ? index : folder + index;
     }
     const bool isToRead = IsPage(goal.file) || IsSheet(goal.file);
     if (isToRead && !IsInLinkedFolder(goal.file)) {
       if (m_taken.insert(goal.file).second) m_waiting.push_back(goal.file);
-    } else if (!isFolder && !FileExists(m_folder + path)) {
+    } else if (!goal.isFolder && !FileExists(m_folder + path)) {
       goal.fault = LinkFault::kUnreadable;
     }
     return goal;
@@ -233,6 +301,14 @@ std::string FaultText(const BrokenLink& link) {
       return "holds \"\\\", which no address does";
     case LinkFault::kUnreadable:
       return "cannot be read";
+    case LinkFault::kFolder:
+      return "is a folder without an index.html";
+    case LinkFault::kNoFile:
+      return "is a folder, and a file was expected";
+    case LinkFault::kCharset:
+      return "is not in the page's charset, so that browsers look for another name";
+    case LinkFault::kSign:
+      return "is a file, but \"#\", \"?\", \"%\" and \":\" have another meaning in an address";
     case LinkFault::kMissing:
       break;
   }

@@ -7,7 +7,16 @@
 namespace folionet {
 
 // Why there is no file behind a link.
-enum class LinkFault { kMissing, kOtherCase, kBackslash, kUnreadable };
+enum class LinkFault {
+  kMissing,
+  kOtherCase,
+  kBackslash,
+  kUnreadable,
+  kFolder,   // a folder that has no index page
+  kNoFile,   // a folder, where a picture or a style sheet should be
+  kCharset,  // the bytes of the link are no text of the page's charset, or another one than its writer meant
+  kSign      // a sign of the file's name, such as "#", has a meaning in addresses
+};
 
 // A page or style sheet that names something that is not there.
 struct BrokenLink {
@@ -42,10 +51,11 @@ struct SiteReport {
 
 // Reads every page (".html" and ".htm") of a folder, the pages and style sheets below it that those lead to, and so on,
 // and looks for the file behind each link, picture and style sheet that they name: in the folder or below it, in
-// exactly this letter case; a folder will do for an address that names one. Addresses with a scheme or a host, and
-// those that lead out of the folder, are not followed, and nothing is read through a symbolic link to a folder, which
-// may lead anywhere. `indexName` is the file name of the index page. Throws RunTimeError when the folder or the index
-// page cannot be read, or when there is no such index page.
+// exactly this letter case. Links are read as browsers read them, with the page's charset and "base". A folder will do
+// when it has an index page, and the link may lead to a page. Places within a page ("#top") are not looked for.
+// Addresses with a scheme or a host, and those that lead out of the folder, are not followed, and nothing is read
+// through a symbolic link to a folder, which may lead anywhere. `indexName` is the file name of the index page. Throws
+// RunTimeError when the folder or the index page cannot be read, or when there is no such index page.
 SiteReport CheckSite(const std::string& folder, const std::string& indexName);
 
 // The index page of a folder: "index.html" or "index.htm"; empty when there is neither.

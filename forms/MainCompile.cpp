@@ -26,7 +26,7 @@ QString LinkSentence(const BrokenLink& link) {
       return worded(QObject::tr("%1, line %2: \"%3\" holds \"\\\", which no address does."));
     case LinkFault::kUnreadable:
       return worded(QObject::tr("%1, line %2: \"%3\" cannot be read."));
-    case LinkFault::kMissing:
+    default:
       break;
   }
   return worded(QObject::tr("%1, line %2: \"%3\" is not there."));

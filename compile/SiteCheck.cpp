@@ -72,6 +72,8 @@ class SiteChecker {
     }
     ReadWaiting();
     FindUnreachable();
+    std::stable_sort(m_report.broken.begin(), m_report.broken.end(),
+                     [](const BrokenTarget& a, const BrokenTarget& b) { return a.pages > b.pages; });
     return std::move(m_report);
   }
 
@@ -114,7 +116,7 @@ class SiteChecker {
       m_report.unread.push_back({path, std::string(StandardMessage(error.Number()))});
     }
     if (IsUtf16(bytes)) {
-      m_report.unread.push_back({path, "It is UTF-16; save it as UTF-8"});
+      m_report.unread.push_back({path, "It is UTF-16", true});
       bytes.clear();
     }
     if (IsPage(path)) {
@@ -217,7 +219,18 @@ class SiteChecker {
   }
 
   void AddBroken(const Source& source, const Address& address, const Goal& goal) {
-    m_report.broken.push_back({source.path, address.line, std::string(address.shown), *goal.fault, goal.otherCase});
+    ++m_report.brokenLinks;
+    const std::string target = LocalTarget(address.text);
+    const std::string path = source.base.value_or("") + (target.empty() ? std::string(address.text) : target);
+    const auto [known, isNew] =
+        m_broken.try_emplace({PathInFolder(path).value_or(path), *goal.fault}, m_report.broken.size(), std::string());
+    auto& [at, lastPage] = known->second;
+    if (isNew) {
+      m_report.broken.push_back({std::string(address.shown), *goal.fault, goal.otherCase,
+                                 !address.isPage && !IsSheet(path), source.path, address.line});
+    }
+    if (isNew || lastPage != source.path) ++m_report.broken[at].pages;
+    lastPage = source.path;
     if (!goal.file.empty()) source.linked.insert(goal.file);
   }
 
@@ -288,32 +301,12 @@ class SiteChecker {
   std::vector<std::string> m_waiting;                     // the pages and style sheets to read, in their order
   std::set<std::string> m_taken;                          // those that are in m_waiting
   std::map<std::string, std::set<std::string>> m_linked;  // the files of the site that each of them names
+  // Of each path and fault: its place in the report, and the last page that has it.
+  std::map<std::pair<std::string, LinkFault>, std::pair<std::size_t, std::string>> m_broken;
   SiteReport m_report;
 };
 
 }  // namespace
-
-std::string FaultText(const BrokenLink& link) {
-  switch (link.fault) {
-    case LinkFault::kOtherCase:
-      return "is there in another letter case only, " + link.otherCase;
-    case LinkFault::kBackslash:
-      return "holds \"\\\", which no address does";
-    case LinkFault::kUnreadable:
-      return "cannot be read";
-    case LinkFault::kFolder:
-      return "is a folder without an index.html";
-    case LinkFault::kNoFile:
-      return "is a folder, and a file was expected";
-    case LinkFault::kCharset:
-      return "is not in the page's charset, so that browsers look for another name";
-    case LinkFault::kSign:
-      return "is a file, but \"#\", \"?\", \"%\" and \":\" have another meaning in an address";
-    case LinkFault::kMissing:
-      break;
-  }
-  return "is not there";
-}
 
 SiteReport CheckSite(const std::string& folder, const std::string& indexName) {
   return SiteChecker(folder).Check(indexName);

@@ -1,53 +1,10 @@
 #pragma once
 
-#include <cstddef>
 #include <string>
-#include <vector>
+
+#include "SiteReport.h"
 
 namespace folionet {
-
-// Why there is no file behind a link.
-enum class LinkFault {
-  kMissing,
-  kOtherCase,
-  kBackslash,
-  kUnreadable,
-  kFolder,   // a folder that has no index page
-  kNoFile,   // a folder, where a picture or a style sheet should be
-  kCharset,  // the bytes of the link are no text of the page's charset, or another one than its writer meant
-  kSign      // a sign of the file's name, such as "#", has a meaning in addresses
-};
-
-// A page or style sheet that names something that is not there.
-struct BrokenLink {
-  std::string page;    // path from the folder of the site
-  std::size_t line;    // of the page, from 1
-  std::string target;  // as the page has it, decoded to UTF-8
-  LinkFault fault;
-  std::string otherCase;  // of kOtherCase: the name that is there
-};
-
-// The fault in English words that go on a sentence: "is not there".
-std::string FaultText(const BrokenLink& link);
-
-// A page or style sheet that is there, and cannot be read.
-struct UnreadFile {
-  std::string name;  // path from the folder of the site
-  std::string why;   // a few words
-};
-
-// What is found in a written site.
-struct SiteReport {
-  std::vector<BrokenLink> broken;
-  std::vector<UnreadFile> unread;
-  std::vector<std::string> linkedFolders;  // symbolic links to folders, whose pages are not read
-  std::vector<std::string> unreachable;    // pages that the index does not lead to, however many links are followed
-  std::size_t pages = 0;
-  std::size_t links = 0;    // those that lead to files of the site
-  std::size_t leadOut = 0;  // those that lead out of the folder, and were not followed
-
-  bool IsSound() const { return broken.empty() && unread.empty(); }
-};
 
 // Reads every page (".html" and ".htm") of a folder, the pages and style sheets below it that those lead to, and so on,
 // and looks for the file behind each link, picture and style sheet that they name: in the folder or below it, in

@@ -10,8 +10,8 @@ namespace folionet {
 // asks for it (in `address` a "%" too that encodes nothing), and escaped for XML.
 std::string BuildSitemap(const std::string& address, const std::vector<std::string>& names);
 
-// Whether a folder of pages can have such an address: http or https and a host (one in other letters in its "xn--" form),
-// without a user's name, blanks and control characters.
+// Whether a folder of pages can have such an address: http or https and a host (one in other letters in its "xn--"
+// form), without a user's name, blanks and control characters.
 bool IsPublicAddress(const std::string& address);
 
 // Whether a public address ends in the name of a page instead of a folder's.

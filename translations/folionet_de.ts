@@ -12,14 +12,6 @@
         <translation>Es konnte kein Browser gestartet werden. Die Seite ist:</translation>
     </message>
     <message>
-        <source>%1 pages, %2 links: %3 broken, %4 pages not reached.</source>
-        <translation>%1 Seiten, %2 Links: %3 ohne Ziel, %4 Seiten nicht erreicht.</translation>
-    </message>
-    <message>
-        <source>%1: the index does not lead here.</source>
-        <translation>%1: Die Indexseite führt nicht hierher.</translation>
-    </message>
-    <message>
         <source>Check site</source>
         <translation>Website prüfen</translation>
     </message>
@@ -40,32 +32,92 @@
         <translation>Computer</translation>
     </message>
     <message>
-        <source>%1, line %2: &quot;%3&quot; is there in another letter case only, %4.</source>
-        <translation>%1, Zeile %2: „%3“ gibt es nur in anderer Groß- und Kleinschreibung, %4.</translation>
+        <source>&quot;%1&quot; is there in another letter case only, %2</source>
+        <translation>„%1“ gibt es nur in anderer Groß- und Kleinschreibung, %2</translation>
     </message>
     <message>
-        <source>%1 links lead out of the folder and were not followed.</source>
-        <translation>%1 Links führen aus dem Ordner hinaus und wurden nicht verfolgt.</translation>
+        <source>&quot;%1&quot; holds &quot;\&quot;, which no address does</source>
+        <translation>„%1“ enthält „\“, was in keiner Adresse vorkommt</translation>
     </message>
     <message>
-        <source>%1, line %2: &quot;%3&quot; holds &quot;\&quot;, which no address does.</source>
-        <translation>%1, Zeile %2: „%3“ enthält „\“, was in keiner Adresse vorkommt.</translation>
+        <source>&quot;%1&quot; cannot be read</source>
+        <translation>„%1“ kann nicht gelesen werden</translation>
     </message>
     <message>
-        <source>%1, line %2: &quot;%3&quot; is not there.</source>
-        <translation>%1, Zeile %2: „%3“ ist nicht vorhanden.</translation>
+        <source>&quot;%1&quot; is a folder without an index.html</source>
+        <translation>„%1“ ist ein Ordner ohne index.html</translation>
     </message>
     <message>
-        <source>%1, line %2: &quot;%3&quot; cannot be read.</source>
-        <translation>%1, Zeile %2: „%3“ kann nicht gelesen werden.</translation>
+        <source>&quot;%1&quot; is a folder, and a file was expected</source>
+        <translation>„%1“ ist ein Ordner, erwartet wurde eine Datei</translation>
     </message>
     <message>
-        <source>%1 cannot be read.</source>
-        <translation>%1 kann nicht gelesen werden.</translation>
+        <source>&quot;%1&quot; is not in the page&apos;s charset, so that browsers look for another name</source>
+        <translation>„%1“ steht nicht im Zeichensatz der Seite, sodass Browser einen anderen Namen suchen</translation>
     </message>
     <message>
-        <source>%1: a symbolic link to another folder, whose pages were not read.</source>
-        <translation>%1: eine symbolische Verknüpfung zu einem anderen Ordner, dessen Seiten nicht gelesen wurden.</translation>
+        <source>&quot;%1&quot; is a file, but &quot;#&quot;, &quot;?&quot;, &quot;%&quot; and &quot;:&quot; have another meaning in an address</source>
+        <translation>„%1“ ist eine Datei, aber „#“, „?“, „%“ und „:“ bedeuten in einer Adresse etwas anderes</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not there</source>
+        <translation>„%1“ ist nicht vorhanden</translation>
+    </message>
+    <message>
+        <source>%1 pages, first %2, line %3</source>
+        <translation>%1 Seiten, zuerst %2, Zeile %3</translation>
+    </message>
+    <message>
+        <source>%1, line %2</source>
+        <translation>%1, Zeile %2</translation>
+    </message>
+    <message>
+        <source>See that what cannot be read is a file, and to its permissions.</source>
+        <translation>Prüfen Sie, ob das, was nicht gelesen werden kann, eine Datei ist, und ihre Zugriffsrechte.</translation>
+    </message>
+    <message>
+        <source>Save the pages in UTF-16 as UTF-8.</source>
+        <translation>Speichern Sie die Seiten in UTF-16 als UTF-8.</translation>
+    </message>
+    <message>
+        <source>Compile again with the character set that the book titles are in, or with 8.3 file names.</source>
+        <translation>Kompilieren Sie erneut mit dem Zeichensatz der Buchtitel oder mit 8.3-Dateinamen.</translation>
+    </message>
+    <message>
+        <source>Compile again with 8.3 file names, or with book titles that lack these signs.</source>
+        <translation>Kompilieren Sie erneut mit 8.3-Dateinamen oder mit Buchtiteln ohne diese Zeichen.</translation>
+    </message>
+    <message>
+        <source>Copy the missing pictures into the folder, or choose others.</source>
+        <translation>Kopieren Sie die fehlenden Bilder in den Ordner, oder wählen Sie andere.</translation>
+    </message>
+    <message>
+        <source>Compile again; then correct what is still broken in the custom header and footer and in your own pages and style sheets, or put the missing file there.</source>
+        <translation>Kompilieren Sie erneut; berichtigen Sie dann, was noch fehlerhaft ist, in der eigenen Kopf- und Fußzeile und in Ihren eigenen Seiten und Stylesheets, oder legen Sie die fehlende Datei dort ab.</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>und %1 weitere</translation>
+    </message>
+    <message>
+        <source>Pages: %1, links: %2, broken: %3, not reached: %4.</source>
+        <translation>Seiten: %1, Links: %2, ohne Ziel: %3, nicht erreicht: %4.</translation>
+    </message>
+    <message>
+        <source>Links that lead out of the folder and were not followed: %1.</source>
+        <translation>Links, die aus dem Ordner hinausführen und nicht verfolgt wurden: %1.</translation>
+    </message>
+    <message>
+        <source>Cannot be read: %1</source>
+        <translation>Kann nicht gelesen werden: %1</translation>
+    </message>
+    <message>
+        <source>Symbolic links to other folders, whose pages were not read: %1</source>
+        <translation>Symbolische Verknüpfungen zu anderen Ordnern, deren Seiten nicht gelesen wurden: %1</translation>
+    </message>
+    <message>
+        <source>The index does not lead to: %1</source>
+        <translation>Die Indexseite führt nicht zu: %1</translation>
     </message>
 </context>
 <context>

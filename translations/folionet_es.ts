@@ -12,14 +12,6 @@
         <translation>No se pudo abrir ningún navegador. La página es:</translation>
     </message>
     <message>
-        <source>%1 pages, %2 links: %3 broken, %4 pages not reached.</source>
-        <translation>%1 páginas, %2 enlaces: %3 rotos, %4 páginas no alcanzadas.</translation>
-    </message>
-    <message>
-        <source>%1: the index does not lead here.</source>
-        <translation>%1: el índice no lleva aquí.</translation>
-    </message>
-    <message>
         <source>Check site</source>
         <translation>Comprobar el sitio</translation>
     </message>
@@ -40,32 +32,92 @@
         <translation>Equipo</translation>
     </message>
     <message>
-        <source>%1, line %2: &quot;%3&quot; is there in another letter case only, %4.</source>
-        <translation>%1, línea %2: «%3» existe solo con otras mayúsculas y minúsculas, %4.</translation>
+        <source>&quot;%1&quot; is there in another letter case only, %2</source>
+        <translation>«%1» existe solo con otras mayúsculas y minúsculas, %2</translation>
     </message>
     <message>
-        <source>%1 links lead out of the folder and were not followed.</source>
-        <translation>%1 enlaces salen de la carpeta y no se siguieron.</translation>
+        <source>&quot;%1&quot; holds &quot;\&quot;, which no address does</source>
+        <translation>«%1» contiene «\», que no aparece en ninguna dirección</translation>
     </message>
     <message>
-        <source>%1, line %2: &quot;%3&quot; holds &quot;\&quot;, which no address does.</source>
-        <translation>%1, línea %2: «%3» contiene «\», que no aparece en ninguna dirección.</translation>
+        <source>&quot;%1&quot; cannot be read</source>
+        <translation>«%1» no se puede leer</translation>
     </message>
     <message>
-        <source>%1, line %2: &quot;%3&quot; is not there.</source>
-        <translation>%1, línea %2: «%3» no existe.</translation>
+        <source>&quot;%1&quot; is a folder without an index.html</source>
+        <translation>«%1» es una carpeta sin index.html</translation>
     </message>
     <message>
-        <source>%1, line %2: &quot;%3&quot; cannot be read.</source>
-        <translation>%1, línea %2: «%3» no se puede leer.</translation>
+        <source>&quot;%1&quot; is a folder, and a file was expected</source>
+        <translation>«%1» es una carpeta y se esperaba un archivo</translation>
     </message>
     <message>
-        <source>%1 cannot be read.</source>
-        <translation>%1 no se puede leer.</translation>
+        <source>&quot;%1&quot; is not in the page&apos;s charset, so that browsers look for another name</source>
+        <translation>«%1» no está en el juego de caracteres de la página, por lo que los navegadores buscan otro nombre</translation>
     </message>
     <message>
-        <source>%1: a symbolic link to another folder, whose pages were not read.</source>
-        <translation>%1: un enlace simbólico a otra carpeta, cuyas páginas no se han leído.</translation>
+        <source>&quot;%1&quot; is a file, but &quot;#&quot;, &quot;?&quot;, &quot;%&quot; and &quot;:&quot; have another meaning in an address</source>
+        <translation>«%1» es un archivo, pero «#», «?», «%» y «:» significan otra cosa en una dirección</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not there</source>
+        <translation>«%1» no existe</translation>
+    </message>
+    <message>
+        <source>%1 pages, first %2, line %3</source>
+        <translation>%1 páginas, la primera %2, línea %3</translation>
+    </message>
+    <message>
+        <source>%1, line %2</source>
+        <translation>%1, línea %2</translation>
+    </message>
+    <message>
+        <source>See that what cannot be read is a file, and to its permissions.</source>
+        <translation>Compruebe que lo que no se puede leer sea un archivo, y sus permisos.</translation>
+    </message>
+    <message>
+        <source>Save the pages in UTF-16 as UTF-8.</source>
+        <translation>Guarde como UTF-8 las páginas que están en UTF-16.</translation>
+    </message>
+    <message>
+        <source>Compile again with the character set that the book titles are in, or with 8.3 file names.</source>
+        <translation>Compile de nuevo con el juego de caracteres de los títulos de los libros, o con nombres de archivo 8.3.</translation>
+    </message>
+    <message>
+        <source>Compile again with 8.3 file names, or with book titles that lack these signs.</source>
+        <translation>Compile de nuevo con nombres de archivo 8.3, o con títulos de libros sin estos signos.</translation>
+    </message>
+    <message>
+        <source>Copy the missing pictures into the folder, or choose others.</source>
+        <translation>Copie las imágenes que faltan en la carpeta o elija otras.</translation>
+    </message>
+    <message>
+        <source>Compile again; then correct what is still broken in the custom header and footer and in your own pages and style sheets, or put the missing file there.</source>
+        <translation>Compile de nuevo; después corrija lo que siga roto en el encabezado y el pie propios y en sus propias páginas y hojas de estilo, o ponga allí el archivo que falta.</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>y %1 más</translation>
+    </message>
+    <message>
+        <source>Pages: %1, links: %2, broken: %3, not reached: %4.</source>
+        <translation>Páginas: %1, enlaces: %2, rotos: %3, no alcanzadas: %4.</translation>
+    </message>
+    <message>
+        <source>Links that lead out of the folder and were not followed: %1.</source>
+        <translation>Enlaces que salen de la carpeta y no se siguieron: %1.</translation>
+    </message>
+    <message>
+        <source>Cannot be read: %1</source>
+        <translation>No se puede leer: %1</translation>
+    </message>
+    <message>
+        <source>Symbolic links to other folders, whose pages were not read: %1</source>
+        <translation>Enlaces simbólicos a otras carpetas, cuyas páginas no se han leído: %1</translation>
+    </message>
+    <message>
+        <source>The index does not lead to: %1</source>
+        <translation>El índice no lleva a: %1</translation>
     </message>
 </context>
 <context>

@@ -81,12 +81,28 @@ TEST_F(CompileFromForm, ShowsProgressAndThenTheSite) {
 
   Click("cmdCheckSite");
   EXPECT_EQ(m_ui.log.back(), "Check site");
-  EXPECT_TRUE(m_ui.said.back().ends_with(" links: 0 broken, 0 pages not reached.")) << m_ui.said.back();
-  m_home.Write("site/old.html", "<a href=\"none.html\">");
+  EXPECT_TRUE(m_ui.said.back().ends_with(", broken: 0, not reached: 0.")) << m_ui.said.back();
+  Remove("site/default.css");
+  for (int i = 10; i < 22; ++i) {
+    m_home.Write("site/old" + std::to_string(i) + ".html", "<img src=default.css><img src=default.css>");
+  }
+  m_home.Write("site/a.html", "\n<a href=\"none.html\"><img src=b.gif><a href=\"../x\">");
+  m_home.Write("site/b.html", "\xFF\xFE");
   Click("cmdCheckSite");
-  EXPECT_TRUE(m_ui.said.back().ends_with(
-      " links: 1 broken, 1 pages not reached.\r\nold.html, line 1: \"none.html\" is not there.\r\n"
-      "old.html: the index does not lead here."));
+  EXPECT_EQ(
+      m_ui.said.back().substr(m_ui.said.back().find(", broken")),
+      ", broken: 26, not reached: 14.\r\n"
+      "Links that lead out of the folder and were not followed: 1.\r\n"
+      "\"default.css\" is not there (12 pages, first old10.html, line 1)\r\n"
+      "\"none.html\" is not there (a.html, line 2)\r\n"
+      "\"b.gif\" is not there (a.html, line 2)\r\n"
+      "Cannot be read: b.html (UTF-16)\r\n"
+      "The index does not lead to: a.html, b.html, old10.html, old11.html, old12.html, old13.html, old14.html, "
+      "old15.html, old16.html, old17.html, and 4 more\r\n\r\n"
+      "Save the pages in UTF-16 as UTF-8.\r\n"
+      "Copy the missing pictures into the folder, or choose others.\r\n"
+      "Compile again; then correct what is still broken in the custom header and footer and in your own pages and "
+      "style sheets, or put the missing file there.");
   Remove("site/index.html");
   Click("cmdCheckSite");
   EXPECT_EQ(m_ui.log.back(), "53 cmdCheckSite_Click");

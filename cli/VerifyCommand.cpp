@@ -1,6 +1,9 @@
 #include "VerifyCommand.h"
 
+#include <algorithm>
 #include <cstdio>
+#include <string>
+#include <vector>
 
 #include "Paths.h"
 #include "RunTimeError.h"
@@ -51,19 +54,44 @@ void PrintFindings(const SiteReport& report, const std::string& index) {
   for (const std::string& page : report.unreachable) PrintShown(page + unreached);
 }
 
+// Ends the command when there is no such index page in a folder.
+void RefuseMissingIndex(const std::string& folder, const std::string& index) {
+  if (index.find_first_of("/\\") != std::string::npos) {
+    RefuseUsage("--index: a file name without a folder was expected: \"" + index + "\"");
+  }
+  const std::string base = WithSeparator(NativePath(folder));
+  const std::string other = LocateIgnoringCase(base, index).substr(base.size());
+  if (other != index) {
+    RefuseUsage("--index: \"" + index + "\" is there in another letter case only: give \"" + other + "\".");
+  }
+  if (FolderExists(base + index))
+    RefuseUsage("--index: this is a folder: \"" + index + "\": give a page in \"" + folder + "\".");
+  const std::vector<std::string> names = ListFolder(base);
+  if (std::find(names.begin(), names.end(), index) == names.end()) {
+    RefuseUsage("--index: there is no page \"" + index + "\" in \"" + folder + "\": give one that is there.");
+  }
+}
+
+std::string FoundIndex(const std::string& folder) {
+  const std::string index = FindIndexPage(folder);
+  if (!index.empty()) return index;
+  const std::vector<std::string> names = ListFolder(folder);
+  if (std::none_of(names.begin(), names.end(), IsHtmlName)) {
+    RefuseUsage("There is no page in \"" + folder + "\": compile into it first.");
+  }
+  RefuseUsage("There is no index.html and no index.htm in \"" + folder + "\": give the index page with --index NAME.");
+}
+
 }  // namespace
 
 ExitStatus RunVerify(const std::string& folder, const std::string& indexName) {
-  const std::string index = indexName.empty() ? FindIndexPage(folder) : indexName;
   if (!FolderExists(folder)) {
     RefuseUsage((FileExists(folder) ? "This is no folder: \"" : "There is no folder \"") + folder +
                 "\": give the one that compile wrote into.");
   }
-  if (index.empty()) {
-    RefuseUsage("There is no index.html and no index.htm in \"" + folder +
-                "\": give the index page with --index NAME.");
-  }
   try {
+    if (!indexName.empty()) RefuseMissingIndex(folder, indexName);
+    const std::string index = indexName.empty() ? FoundIndex(folder) : indexName;
     const SiteReport report = CheckSite(folder, index);
     PrintFindings(report, index);
     PrintShown(Counted(report.pages, "page") + ", " + Counted(report.links, "link") + ": " +

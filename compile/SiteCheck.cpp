@@ -25,8 +25,6 @@ bool HasExtension(std::string_view name, std::string_view extension) {
   return name.size() > extension.size() && EqualIgnoringCase(name.substr(name.size() - extension.size()), extension);
 }
 
-bool IsPage(std::string_view name) { return HasExtension(name, ".html") || HasExtension(name, ".htm"); }
-
 bool IsSheet(std::string_view name) { return HasExtension(name, ".css"); }
 
 // Of a path from the folder of the site: the folder that it is in, with "/" at its end; empty for that folder itself.
@@ -68,7 +66,7 @@ class SiteChecker {
     }
     m_indexName = indexName;
     for (const std::string& name : m_names) {
-      if (IsPage(name) && !FolderExists(m_folder + name) && m_taken.insert(name).second) m_waiting.push_back(name);
+      if (IsHtmlName(name) && !FolderExists(m_folder + name) && m_taken.insert(name).second) m_waiting.push_back(name);
     }
     ReadWaiting();
     FindUnreachable();
@@ -119,7 +117,7 @@ class SiteChecker {
       m_report.unread.push_back({path, "It is UTF-16", true});
       bytes.clear();
     }
-    if (IsPage(path)) {
+    if (IsHtmlName(path)) {
       ++m_report.pages;
       FollowPage({path, m_linked[path]}, bytes);
     } else {
@@ -257,7 +255,7 @@ class SiteChecker {
       const std::string index = FindIndexPage(m_folder + folder);
       goal.file = index.empty() ? index : folder + index;
     }
-    const bool isToRead = IsPage(goal.file) || IsSheet(goal.file);
+    const bool isToRead = IsHtmlName(goal.file) || IsSheet(goal.file);
     if (isToRead && !IsInLinkedFolder(goal.file)) {
       if (m_taken.insert(goal.file).second) m_waiting.push_back(goal.file);
     } else if (!goal.isFolder && !FileExists(m_folder + path)) {
@@ -290,7 +288,7 @@ class SiteChecker {
       }
     }
     for (const auto& [page, links] : m_linked) {
-      if (IsPage(page) && !reached.contains(page)) m_report.unreachable.push_back(page);
+      if (IsHtmlName(page) && !reached.contains(page)) m_report.unreachable.push_back(page);
     }
   }
 
@@ -307,6 +305,8 @@ class SiteChecker {
 };
 
 }  // namespace
+
+bool IsHtmlName(std::string_view name) { return HasExtension(name, ".html") || HasExtension(name, ".htm"); }
 
 SiteReport CheckSite(const std::string& folder, const std::string& indexName) {
   return SiteChecker(folder).Check(indexName);

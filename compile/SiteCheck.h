@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "SiteReport.h"
 
@@ -14,6 +15,9 @@ namespace folionet {
 // through a symbolic link to a folder, which may lead anywhere. `indexName` is the file name of the index page. Throws
 // RunTimeError when the folder or the index page cannot be read, or when there is no such index page.
 SiteReport CheckSite(const std::string& folder, const std::string& indexName);
+
+// Whether a file name is one of a page: ".html" or ".htm" at its end, in any letter case.
+bool IsHtmlName(std::string_view name);
 
 // The index page of a folder: "index.html" or "index.htm"; empty when there is neither.
 std::string FindIndexPage(const std::string& folder);

@@ -243,7 +243,7 @@ std::string_view RefreshAddress(std::string_view content) {
   const std::size_t start = content.find_first_of(";,");
   if (start == std::string_view::npos) return {};
   content = Trimmed(content.substr(start + 1));
-  std::size_t at = SkipBlanks(content, kName.size());
+  const std::size_t at = SkipBlanks(content, kName.size());
   if (FindLower(content, kName, 0) != 0 || at >= content.size() || content[at] != '=') return content;
   content = Trimmed(content.substr(at + 1));
   if (content.starts_with('"') || content.starts_with('\'')) {

@@ -102,7 +102,7 @@ class SiteChecker {
   };
 
   void ReadWaiting() {
-    for (std::size_t i = 0; i < m_waiting.size(); ++i) ReadFile(std::string(m_waiting[i]));
+    while (m_read < m_waiting.size()) ReadFile(std::string(m_waiting[m_read++]));
   }
 
   void ReadFile(const std::string& path) {
@@ -218,14 +218,15 @@ class SiteChecker {
 
   void AddBroken(const Source& source, const Address& address, const Goal& goal) {
     ++m_report.brokenLinks;
+    const LinkFault fault = goal.fault.value_or(LinkFault::kMissing);
     const std::string target = LocalTarget(address.text);
     const std::string path = source.base.value_or("") + (target.empty() ? std::string(address.text) : target);
     const auto [known, isNew] =
-        m_broken.try_emplace({PathInFolder(path).value_or(path), *goal.fault}, m_report.broken.size(), std::string());
+        m_broken.try_emplace({PathInFolder(path).value_or(path), fault}, m_report.broken.size(), std::string());
     auto& [at, lastPage] = known->second;
     if (isNew) {
-      m_report.broken.push_back({std::string(address.shown), *goal.fault, goal.otherCase,
-                                 !address.isPage && !IsSheet(path), source.path, address.line});
+      m_report.broken.push_back({std::string(address.shown), fault, goal.otherCase, !address.isPage && !IsSheet(path),
+                                 source.path, address.line});
     }
     if (isNew || lastPage != source.path) ++m_report.broken[at].pages;
     lastPage = source.path;
@@ -297,6 +298,7 @@ class SiteChecker {
   std::set<std::string> m_names;
   std::unordered_map<std::string, Goal> m_goals;          // of each path that a link has
   std::vector<std::string> m_waiting;                     // the pages and style sheets to read, in their order
+  std::size_t m_read = 0;                                 // how many of them have been read
   std::set<std::string> m_taken;                          // those that are in m_waiting
   std::map<std::string, std::set<std::string>> m_linked;  // the files of the site that each of them names
   // Of each path and fault: its place in the report, and the last page that has it.

@@ -62,7 +62,7 @@ std::string FindProgramFolder(const std::string& chosen) {
 }
 
 std::string ProgramFolderToRead(const std::string& chosen) {
-  std::string folder = ProgramFolderPath(chosen);
+  const std::string folder = ProgramFolderPath(chosen);
   return chosen.empty() && !FolderExists(folder) ? InstalledDataFolder() : folder;
 }
 

@@ -5,6 +5,7 @@
 #include <cerrno>
 
 #include "CompileRequest.h"
+#include "FolderTree.h"
 #include "Paths.h"
 #include "QtText.h"
 #include "RunTimeError.h"

@@ -8,6 +8,7 @@
 #include "PageEncoding.h"
 #include "QtText.h"
 #include "RunTimeError.h"
+#include "TextCombo.h"
 #include "TrySave.h"
 #include "frmAddnew.h"
 #include "ui_frmEncoding.h"

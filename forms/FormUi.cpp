@@ -9,6 +9,7 @@
 #include <QFileInfo>
 #include <QFontDialog>
 #include <QFontInfo>
+#include <QGridLayout>
 #include <QGroupBox>
 #include <QInputDialog>
 #include <QLabel>
@@ -52,8 +53,11 @@ void PrepareBox(QMessageBox& box, const std::string& title, const std::string& t
     widest = std::max(widest, label->fontMetrics().horizontalAdvance(line));
   }
   label->setWordWrap(widest > kWidest);
-  constexpr int kButtons = 120;  // of the title bar, which does not widen a window
-  label->setMinimumWidth(std::min(kWidest, label->fontMetrics().horizontalAdvance(box.windowTitle()) + kButtons));
+  constexpr int kButtons = 180;  // of the title bar, which does not widen a window
+  if (auto* grid = qobject_cast<QGridLayout*>(box.layout())) {
+    const int width = std::min(kWidest, label->fontMetrics().horizontalAdvance(box.windowTitle()) + kButtons);
+    grid->addItem(new QSpacerItem(width, 0), grid->rowCount(), 0, 1, grid->columnCount());
+  }
 }
 
 // A page's text is neither struck out nor underlined. Only Qt's own chooser lets them be left out.

@@ -5,6 +5,7 @@
 #include <QFontDatabase>
 #include <QFontDialog>
 #include <QInputDialog>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTimer>
@@ -61,6 +62,21 @@ TEST(FormUiTest, MessagesShowTitleTextAndIcon) {
       box.button(QMessageBox::Ok)->click();
     });
     ui.ShowMessage({icon, "Title", "<b>one</b>\r\ntwo"});
+  }
+}
+
+TEST(FormUiTest, BoxesHaveRoomForTheirTextAndTheirTitle) {
+  const std::string longText(60, 'm');
+  FormUi ui;
+  for (const auto& [title, text] : {std::pair<std::string, std::string>{"T", longText}, {longText, "T"}}) {
+    WhenShown<QMessageBox>([](QMessageBox& box) {
+      const auto* label = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+      ASSERT_NE(label, nullptr);
+      EXPECT_GE(label->width(), label->fontMetrics().horizontalAdvance(box.text()));
+      EXPECT_GE(box.width(), box.fontMetrics().horizontalAdvance(box.windowTitle()));
+      box.button(QMessageBox::Ok)->click();
+    });
+    ui.ShowMessage({MessageIcon::kInformation, title, text});
   }
 }
 

@@ -5,6 +5,8 @@
 #include <cstdio>
 #include <cstdlib>
 
+#include "FormRunsTest.h"
+
 // Forms need an application, but no display. FOLIONET_TEST_TRANSLATION names a .qm file to run the tests in.
 int main(int argc, char** argv) {
   setenv("QT_QPA_PLATFORM", "offscreen", 1);
@@ -18,5 +20,6 @@ int main(int argc, char** argv) {
     }
     QApplication::installTranslator(&translator);
   }
+  folionet::RegisterFormRuns();
   return RUN_ALL_TESTS();
 }

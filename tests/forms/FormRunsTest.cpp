@@ -1,0 +1,168 @@
+#include "FormRunsTest.h"
+
+#include <functional>
+#include <map>
+
+#include "Case.h"
+#include "Escapes.h"
+#include "FormTest.h"
+#include "Script.h"
+#include "frmMain.h"
+
+namespace folionet {
+namespace {
+
+using Lines = std::vector<std::string>;
+
+// A line "VERB NAME TEXT" or "VERB NAME NAME..." of a case.
+struct Line {
+  std::string verb;
+  std::string name;
+  std::string text;  // all behind the name and one blank, without its escapes
+  Lines names;
+};
+
+Line Parsed(const std::string& whole) {
+  std::string rest = whole;
+  const auto cut = [&rest] {
+    const std::size_t blank = rest.find(' ');
+    std::string word = rest.substr(0, blank);
+    rest.erase(0, blank == std::string::npos ? blank : blank + 1);
+    return word;
+  };
+  Line line;
+  line.verb = cut();
+  line.names = test::SplitWords(rest);
+  line.name = cut();
+  line.text = test::Unescaped(rest);
+  return line;
+}
+
+// The words of tests/runs/RunsTest.cpp that drive the forms or look at them.
+class FormRuns : public FormTest {
+ public:
+  explicit FormRuns(test::ScriptCase script) : m_script(std::move(script)) {}
+  void TestBody() override {
+    test::RunScript(m_script, [this](const std::string& line) { return Do(line); });
+  }
+
+ private:
+  using Act = std::function<void(FormRuns&, const Line&)>;
+  using Look = std::function<std::string(FormRuns&, const std::string& name)>;
+  static const std::map<std::string, Act>& Actions();
+  static const std::map<std::string, Look>& Looks();
+  static const std::map<std::string, Look>& States();
+  template <typename ActOn>
+  static Act Each(ActOn act) {
+    return [act](FormRuns& test, const Line& line) {
+      for (const std::string& name : line.names) act(test, name);
+    };
+  }
+
+  // The line as it should stand, and the boxes that came.
+  Lines Do(const std::string& whole) {
+    Line line = Parsed(whole);
+    test::Replace(line.text, "@/", m_home.Path());
+    Lines lines{whole};
+    const auto action = Actions().find(line.verb);
+    const auto look = Looks().find(line.verb);
+    const auto state = States().find(line.verb);
+    if (action != Actions().end()) {
+      action->second(*this, line);
+    } else if (look != Looks().end()) {
+      const std::string found = look->second(*this, line.name);
+      if (!test::Holds(line.text, found)) lines = {line.verb + " " + line.name + " " + Told(found)};
+    } else if (state != States().end()) {
+      lines = {line.verb};
+      for (const std::string& name : line.names) lines[0] += " " + state->second(*this, name);
+    } else {
+      lines = m_case.Do(whole);
+    }
+    for (; m_seen < m_ui.log.size(); ++m_seen) lines.push_back("> " + Told(m_ui.Boxes()[m_seen]));
+    return lines;
+  }
+
+  std::string Told(const std::string& text) const { return test::Visible(m_case.Named(text)); }
+
+  // A control, or a text that the pages are made with, as "=LinkAlignment".
+  std::string Seen(const std::string& name) const {
+    const PageTexts& texts = m_state->texts;
+    const std::map<std::string, std::string> fields{
+        {"=LinkAlignment", texts.LinkAlignment},
+        {"=RolloverStyle", texts.RolloverStyle},
+        {"=BodyLinkTag", texts.BodyLinkTag},
+        {"=CustomHeader", texts.CustomHeader},
+        {"=CustomFooter", texts.CustomFooter},
+        {"=PageLanguage", texts.PageLanguage},
+        {"=PageCharset", texts.PageCharset},
+        {"=CodePage", std::string(m_state->codePage.Name())},
+        {"=startBook", m_state->startBookText},
+        {"=txtBibleSel", m_state->options.txtBibleSel},
+        {"=chapters", std::to_string(m_state->glob.ChapterIndex.size() - 1)}};
+    return name.starts_with("=") ? fields.at(name) : Shown(name);
+  }
+
+  test::ScriptCase m_script;
+  test::Case m_case{m_home};
+  std::size_t m_seen = 0;  // boxes
+};
+
+const std::map<std::string, FormRuns::Act>& FormRuns::Actions() {
+  using Test = FormRuns;
+  static const std::map<std::string, Act> actions{
+      {"start",
+       [](Test& t, const Line& l) {
+         t.m_seen = 0;
+         EXPECT_EQ(t.Start(), l.name.empty()) << "\"start fails\" is a start that must not go on";
+       }},
+      {"click", Each([](Test& t, const std::string& n) { t.Click(n); })},
+      {"give", [](Test& t, const Line& l) { t.Give(l.name, l.text); }},
+      {"press", [](Test& t, const Line& l) { Key(t.Get(l.name), QEvent::KeyPress, Qt::Key_Return); }},
+      {"release", Each([](Test& t, const std::string& n) { Key(t.Get(n), QEvent::KeyRelease, Qt::Key_A); })},
+      {"bring", [](Test& t, const Line& l) { t.Get(l.name).show(); }},
+      {"close", [](Test& t, const Line& l) { t.Get(l.name).close(); }},
+      {"answer", Each([](Test& t, const std::string& n) { t.m_ui.yesNo.push_back(n == "yes"); })},
+      {"enter", [](Test& t, const Line& l) { t.m_ui.texts.push_back(l.name == "-" ? "" : t.m_home.Path() + l.name); }},
+      {"breakchooser", [](Test& t, const Line&) { t.m_ui.isChooserBroken = true; }},
+      {"store", [](Test& t, const Line& l) { t.Store(l.name, l.text); }},
+      {"output", [](Test& t, const Line&) { t.ChooseOutput(); }},
+      {"startbook", [](Test& t, const Line& l) { t.m_state->startBookText = l.name; }},
+  };
+  return actions;
+}
+
+// "shows NAME TEXT": what is seen is the text.
+const std::map<std::string, FormRuns::Look>& FormRuns::Looks() {
+  using Test = FormRuns;
+  static const std::map<std::string, Look> looks{
+      {"shows", [](Test& t, const std::string& n) { return t.Seen(n); }},
+      {"lists", [](Test& t, const std::string& n) { return t.Items(n); }},
+      {"stored", [](Test& t, const std::string& n) { return t.Stored(n); }},
+  };
+  return looks;
+}
+
+// "on NAME...": a name that is not so is given with a "!" before it.
+const std::map<std::string, FormRuns::Look>& FormRuns::States() {
+  using Test = FormRuns;
+  const auto is = [](auto holds) {
+    return [holds](Test& t, const std::string& n) { return (holds(t, n) ? "" : "!") + n; };
+  };
+  static const std::map<std::string, Look> states{
+      {"on", is([](Test& t, const std::string& n) { return t.IsEnabled(n); })},
+      {"off", is([](Test& t, const std::string& n) { return !t.IsEnabled(n); })},
+      {"open", is([](Test& t, const std::string& n) { return t.IsShown(n); })},
+      {"hidden", is([](Test& t, const std::string& n) { return !t.IsShown(n); })},
+      {"focus", is([](Test& t, const std::string& n) { return t.m_form->focusWidget() == &t.Get(n); })},
+      {"warned",
+       is([](Test& t, const std::string& n) { return (t.m_ui.icon == MessageIcon::kWarning) == (n == "yes"); })},
+      {"ended", is([](Test& t, const std::string& n) { return t.m_hasEnded == (n == "yes"); })},
+  };
+  return states;
+}
+
+}  // namespace
+
+void RegisterFormRuns() { test::RegisterScripts<FormRuns>(test::Drives::kForms); }
+
+}  // namespace folionet

@@ -1,0 +1,151 @@
+#include "Case.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+
+#include "FolderContent.h"
+#include "Library.h"
+#include "ProgramRun.h"
+#include "Script.h"
+
+namespace folionet::test {
+namespace {
+
+namespace fs = std::filesystem;
+
+// An error report on one line: its layout is the same each time, so that its label, its number with the text and what
+// it is about say all. So is the warning that asks for Versalia's folders.
+std::string WithShortReports(std::string text) {
+  const std::string begin =
+      "An Error has occured.\nTitle        : Folionet\nApp Path     : @bin\nSoftware Ver : " FOLIONET_VERSION
+      ".\nModule       : ";
+  const std::string end =
+      "\n\nIf the error persists, please report it at: support@versalia.example\nPLEASE SUPPLY A FULL DESCRIPTION OF "
+      "THE "
+      "ERROR,\nEXACTLY as you see it in this error message.\n";
+  const std::size_t from = text.find(begin);
+  const std::size_t to = text.find(end);
+  if (from != std::string::npos && to != std::string::npos) {
+    std::string report = text.substr(from + begin.size(), to - from - begin.size());
+    Replace(report, ".\nError Number : ", " REPORTS ");
+    Replace(report, "\nDescription  : ", " ");
+    Replace(report, "\nExtra Info   : \n", "\n");
+    Replace(report, "\n", " / ");
+    text.replace(from, to + end.size() - from, report + "\n");
+  }
+  Replace(text,
+          "Path and/or file not found: This error has probably occured because you have an older version of Versalia\n"
+          "or because Versalia is not correctly installed.\n"
+          "Folionet will attempt to gather the correct information manually\n"
+          "You will need to enter the values for the following:\n1. The Versalia Path\n2. The Versalia Module Path\n"
+          "Give them with --versalia-path FOLDER, which holds Sysdefs and Index, and --module-path FOLDER, which holds "
+          "Bible; where only the file of book titles is wrong, give another with --language-file NAME. \"folionet-cli "
+          "check\" names what is wrong in them.\n",
+          "ASKS FOR THE FOLDERS\n");
+  return text;
+}
+
+Command CommandOf(const Command& words) {
+  Command command;
+  std::size_t at = 0;
+  if (words.at(at) == "limited") {
+    ++at;
+    command = {"/usr/bin/prlimit", "--fsize=4096"};
+  } else if (words.at(at) == "bounded") {
+    ++at;
+    command = {"/usr/bin/timeout", "60", "/usr/bin/prlimit", "--cpu=" BOUND_SECONDS};
+    if (BOUND_MEMORY[0] != '\0') command.push_back("--as=" BOUND_MEMORY);
+  }
+  const Command rest(words.begin() + static_cast<std::ptrdiff_t>(at) + 1, words.end());
+  if (words.at(at) == "site") return With(command, CompileSmall(rest));
+  if (words[at] == "compile") return With(command, CompileCommand(rest));
+  command.push_back(words[at] == "make_library" ? MAKE_LIBRARY_PROGRAM : FOLIONET_CLI);
+  return With(command, rest);
+}
+
+// The lines that a text stands in, which may go over several.
+std::string LinesWith(const std::string& text, const std::string& wanted) {
+  std::string found;
+  for (std::size_t at = text.find(wanted); at != std::string::npos; at = text.find(wanted, at)) {
+    const std::size_t begin = text.rfind('\n', at) + 1;
+    at = std::min(text.find('\n', at + wanted.size() - 1), text.size() - 1) + 1;
+    found += text.substr(begin, at - begin);
+  }
+  return found;
+}
+
+std::string FileNames(const std::string& folder) {
+  std::string names;
+  for (const auto& [name, bytes] : ReadFolder(folder)) names += name + "\n";
+  return names;
+}
+
+void Append(std::vector<std::string>& lines, const std::vector<std::string>& more) {
+  lines.insert(lines.end(), more.begin(), more.end());
+}
+
+}  // namespace
+
+std::vector<std::string> Case::Do(const std::string& line) const {
+  Lines lines{line};
+  Append(lines, Outcome(SplitWords(line)));
+  return lines;
+}
+
+std::vector<std::string> Case::Outcome(const Lines& words) const {
+  const std::string& verb = words.at(0);
+  if (verb == "$") return Run({words.begin() + 1, words.end()});
+  if (verb == "show") return MarkLines("| ", Named(m_home.Read(words.at(1))));
+  if (verb == "find") return MarkLines("| ", LinesWith(m_home.Read(words.at(1)), words.at(2)));
+  if (verb == "list") return MarkLines("| ", FileNames(m_home.Path() + words.at(1)));
+  if (verb == "absent") return m_home.Has(words.at(1)) ? Lines{"+ " + words[1]} : Lines{};
+  if (verb == "library") {
+    TakeLibrary(words.at(1));
+  } else if (!Arrange(m_home.Path(), words)) {
+    ADD_FAILURE() << "what is \"" << verb << "\"?";
+  }
+  return {};
+}
+
+std::vector<std::string> Case::Run(const Lines& words) const {
+  const Stamps before = Outside();
+  const ProgramResult result = RunProgram(CommandOf(words), m_home.Path());
+  Lines lines = MarkLines("| ", Named(result.output));
+  Append(lines, MarkLines("! ", WithShortReports(Named(result.errors))));
+  if (result.status != 0) lines.push_back("? " + std::to_string(result.status));
+  const Stamps after = Outside();
+  for (const auto& [name, stamp] : after) {
+    const auto old = before.find(name);
+    if (old == before.end() || old->second != stamp) lines.push_back((old == before.end() ? "+ " : "~ ") + name);
+  }
+  for (const auto& [name, stamp] : before) {
+    if (!after.contains(name)) lines.push_back("- " + name);
+  }
+  return lines;
+}
+
+Case::Stamps Case::Outside() const {
+  Stamps stamps;
+  for (const auto& entry : fs::recursive_directory_iterator(m_home.Path())) {
+    const std::string name = entry.path().lexically_relative(m_home.Path()).string();
+    if (name.starts_with("out/") || !fs::is_regular_file(entry.symlink_status())) continue;
+    stamps[name] = {entry.file_size(), entry.last_write_time()};
+  }
+  return stamps;
+}
+
+void Case::TakeLibrary(const std::string& name) const {
+  fs::remove_all(m_home.Path() + "installation");
+  if (name == "sixty-six") return MakeLibraryOf66Books(m_home);
+  EXPECT_EQ(name, "none") << "sixty-six or none was expected";
+}
+
+std::string Case::Named(std::string text) const {
+  Replace(text, fs::path(FOLIONET_CLI).parent_path().string(), "@bin");
+  Replace(text, m_home.Path(), "@/");
+  return text;
+}
+
+}  // namespace folionet::test

@@ -1,17 +1,14 @@
 #include "WholeFile.h"
 
 #include <fcntl.h>
-#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
-#include <cstdio>
-#include <cstdlib>
-#include <memory>
 #include <optional>
 
 #include "FileHandle.h"
+#include "Replacement.h"
 #include "RunTimeError.h"
 
 namespace folionet {
@@ -26,64 +23,6 @@ bool Succeeds(Call call) {
   } while (result != 0 && errno == EINTR);
   return result == 0;
 }
-
-// The file behind a link, so that replacing it leaves the link.
-std::string BehindLinks(const std::string& path) {
-  const std::unique_ptr<char, decltype(&std::free)> real(realpath(path.c_str(), nullptr), &std::free);
-  return real != nullptr ? std::string(real.get()) : path;
-}
-
-mode_t ModeOf(const std::string& path) {
-  struct stat status {};
-  return stat(path.c_str(), &status) == 0 ? status.st_mode & 0777 : 0;
-}
-
-bool IsSameFile(int descriptor, const std::string& path) {
-  struct stat open {};
-  struct stat named {};
-  return fstat(descriptor, &open) == 0 && lstat(path.c_str(), &named) == 0 && open.st_dev == named.st_dev &&
-         open.st_ino == named.st_ino;
-}
-
-// The new content of a file, on its way. "<path>.new" is locked from the start to the end, so that of two programs that
-// replace the same file one waits for the other; what a killed program left of it is used again.
-class Replacement {
- public:
-  explicit Replacement(const std::string& path)
-      : m_target(BehindLinks(path)), m_fresh(m_target + ".new"), m_mode(ModeOf(m_target)) {
-    // The file that was waited for may have taken its place by then.
-    do {
-      m_file = FileHandle::Open(m_fresh.c_str(), O_WRONLY | O_CREAT | O_NOFOLLOW | O_NONBLOCK, 0666);
-      if (!m_file.IsOpen()) throw RunTimeError::FromErrno(errno, m_target);
-    } while (Lock() && !IsSameFile(m_file.Get(), m_fresh));
-  }
-  Replacement(const Replacement&) = delete;
-  Replacement& operator=(const Replacement&) = delete;
-  ~Replacement() {
-    if (m_file.IsOpen()) unlink(m_fresh.c_str());
-  }
-
-  // Writes the content and gives it the target's name. Throws RunTimeError; the old content then stands.
-  void Commit(std::string_view bytes) {
-    const int file = m_file.Get();
-    const bool done = (m_mode == 0 || fchmod(file, m_mode) == 0) && CutToLength(file, 0) && WriteAll(file, bytes, 0) &&
-                      Succeeds([&] { return fsync(file); }) && std::rename(m_fresh.c_str(), m_target.c_str()) == 0;
-    if (!done) throw RunTimeError::FromErrno(errno, m_target);
-    // All bytes are on the disk already; a failure to close would tell nothing.
-    static_cast<void>(m_file.Close());
-  }
-
- private:
-  // Where the file system knows no locks, as some of a network do, there is nothing to wait for.
-  bool Lock() const {
-    return Succeeds([&] { return flock(m_file.Get(), LOCK_EX); });
-  }
-
-  std::string m_target;
-  std::string m_fresh;
-  mode_t m_mode;
-  FileHandle m_file;
-};
 
 }  // namespace
 
@@ -120,8 +59,11 @@ bool ReadAll(int descriptor, std::string& bytes, std::size_t wanted, std::size_t
   return true;
 }
 
-std::string ReadWholeFile(const std::string& path, std::size_t longest) {
-  const FileHandle file = FileHandle::Open(path.c_str(), O_RDONLY | O_NONBLOCK);
+bool SyncToDisk(int descriptor) {
+  return Succeeds([&] { return fsync(descriptor); });
+}
+
+std::string ReadOpenFile(const FileHandle& file, const std::string& path, std::size_t longest) {
   struct stat status {};
   if (!file.IsOpen() || fstat(file.Get(), &status) != 0) throw RunTimeError::FromErrno(errno, path);
   if (!S_ISREG(status.st_mode)) throw RunTimeError(kPathFileAccessError, path, "It is not a regular file.");
@@ -134,6 +76,10 @@ std::string ReadWholeFile(const std::string& path, std::size_t longest) {
   return bytes;
 }
 
+std::string ReadWholeFile(const std::string& path, std::size_t longest) {
+  return ReadOpenFile(FileHandle::Open(path.c_str(), O_RDONLY | O_NONBLOCK), path, longest);
+}
+
 std::optional<std::string> ReadIfThere(const std::string& path, std::size_t longest) {
   try {
     return ReadWholeFile(path, longest);
@@ -143,12 +89,17 @@ std::optional<std::string> ReadIfThere(const std::string& path, std::size_t long
   }
 }
 
-void ReplaceWholeFile(const std::string& path, std::string_view bytes) { Replacement(path).Commit(bytes); }
+void ReplaceWholeFile(const std::string& path, std::string_view bytes) {
+  Replacement replacement(path);
+  replacement.Prepare(bytes);
+  replacement.Commit();
+}
 
 void EditWholeFile(const std::string& path, std::size_t longest,
                    const std::function<std::string(std::string content)>& edit) {
   Replacement replacement(path);
-  replacement.Commit(edit(ReadIfThere(path, longest).value_or("")));
+  replacement.Prepare(edit(replacement.OldContent(longest).value_or("")));
+  replacement.Commit();
 }
 
 void AppendToFile(const std::string& path, std::string_view bytes) {

@@ -5,6 +5,8 @@
 #include <string>
 #include <string_view>
 
+#include "FileHandle.h"
+
 namespace folionet {
 
 // Reads a whole regular file as it is. Throws RunTimeError; a file over `longest` bytes is kOutOfMemory.
@@ -13,9 +15,12 @@ std::string ReadWholeFile(const std::string& path, std::size_t longest = std::si
 // As ReadWholeFile; nothing when there is no such file. One that is there and cannot be read still throws.
 std::optional<std::string> ReadIfThere(const std::string& path, std::size_t longest = std::size_t{64} << 20);
 
-// Gives the file `path` the content `bytes`, old or new and never a part: the bytes go to "<path>.new" beside it,
-// which then takes its place. A link is followed. Of two programs that do so at once, the second waits for the first.
-// Throws RunTimeError, and the old content stands.
+// As ReadWholeFile, of a file that was opened, or could not be with errno set; `path` is for the error.
+std::string ReadOpenFile(const FileHandle& file, const std::string& path, std::size_t longest);
+
+// Gives the file `path` the content `bytes`, old or new and never a part, as Replacement does it: a link is followed,
+// anything but a regular file refused, another program that saves it waited for. Throws RunTimeError, and the old
+// content stands. Files that change together are a JointChange.
 void ReplaceWholeFile(const std::string& path, std::string_view bytes);
 
 // Replaces a file's content, which is empty when there is no such file, by what `edit` makes of it, with the same
@@ -28,6 +33,9 @@ void AppendToFile(const std::string& path, std::string_view bytes);
 
 // Writes all bytes to an open file at an offset, however often the system takes a part only. False with errno set.
 bool WriteAll(int descriptor, std::string_view bytes, std::size_t offset);
+
+// Brings what was written to an open file to the disk. False with errno set.
+bool SyncToDisk(int descriptor);
 
 // Makes an open file this long. False with errno set.
 bool CutToLength(int descriptor, std::size_t length);

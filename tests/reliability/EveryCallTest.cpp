@@ -42,6 +42,9 @@ std::vector<std::string> KindsOf(const std::string& call) {
                                                               {"fsync", {EIO, ENOSPC, EINTR}},
                                                               {"unlink", {EACCES, EIO}},
                                                               {"rename", {EACCES, ENOSPC, EIO}},
+                                                              {"stat", {EIO, ESTALE}},
+                                                              {"chmod", {EPERM}},
+                                                              {"lock", {ENOLCK, EWOULDBLOCK, EINTR}},
                                                               {"mkdir", {EACCES, ENOSPC, EIO}},
                                                               {"opendir", {EACCES, EMFILE}},
                                                               {"readdir", {EIO}}};
@@ -154,7 +157,7 @@ TEST_F(Compiles, IntoANewFolder) {
   TryCompile({"anew",
               ArrangeLibrary,
               [](const TemporaryFolder&) { return Compile({"--output=made/site"}); },
-              {"close", "create", "mkdir", "open", "opendir", "read", "readdir", "write"}});
+              {"close", "create", "lock", "mkdir", "open", "opendir", "read", "readdir", "stat", "write"}});
 }
 
 // With the books before the second one taken away.
@@ -166,18 +169,20 @@ TEST_F(Compiles, OverAnOlderSite) {
     home.Write("site/exodus_2.html", "shorter");
     home.Write("site/not-ours.html", "not ours");
   };
-  TryCompile({"over",
-              arrange,
-              [](const TemporaryFolder&) {
-                return Compile({"--output=site", "--start-book=2"});
-              },
-              {"close", "create", "ftruncate", "open", "opendir", "read", "readdir", "unlink", "write"}});
+  TryCompile(
+      {"over",
+       arrange,
+       [](const TemporaryFolder&) {
+         return Compile({"--output=site", "--start-book=2"});
+       },
+       {"close", "create", "ftruncate", "lock", "open", "opendir", "read", "readdir", "stat", "unlink", "write"}});
 }
 
 Job Save(const std::string& what, const std::string& file, const std::string& before) {
-  const std::set<std::string> replaces{"close", "create", "fsync", "ftruncate", "rename", "write"};
+  const std::set<std::string> replaces{"chmod", "close",     "create", "fsync", "lock",
+                                       "open",  "ftruncate", "rename", "stat",  "write"};
   std::set<std::string> edits = replaces;
-  edits.insert({"open", "read"});
+  edits.insert("read");
   return {what, [=](const TemporaryFolder& home) { home.Write(file, before); },
           [=](const TemporaryFolder& home) {
             return Command{SAVE_PROGRAM, what, home.Path(), "the new text, \"quoted\""};
@@ -198,7 +203,7 @@ TEST_P(SavesOf, LeaveTheOldOrTheNewAndNothingElse) {
       now.erase(name);
     }
     // A file that could not be taken away, or was not because the program was killed, may stay until the next save.
-    EXPECT_TRUE(now.empty() || struck.name == "unlink" || m_isKilled) << DescribeDifference({}, now);
+    EXPECT_TRUE(now.empty() || IsOneOf(struck.name, {"unlink", "stat"}) || m_isKilled) << DescribeDifference({}, now);
     GetParam().arrange(home);
     EXPECT_EQ(GetParam().Run(home).result.status, 0);
     EXPECT_EQ(DescribeDifference(m_after, ReadFolder(home.Path())), "") << "after the next save";
@@ -211,6 +216,38 @@ INSTANTIATE_TEST_SUITE_P(Every, SavesOf,
                                          Save("header", "CustomHeader.txt", "<p>the old header</p>\r\n"),
                                          Save("record", "lang.txt", "\"en-us\",\"English USA\"\r\n")),
                          [](const auto& parameter) { return parameter.param.name; });
+
+class SavesTogether : public EveryCall {};
+
+TEST_F(SavesTogether, GiveAllFilesTheirNewContentOrNone) {
+  const auto arrange = [](const TemporaryFolder& home) {
+    for (const char* file : {"lang.txt", "Folionet.ini"}) home.Write(file, "old");
+  };
+  const auto command = [](const TemporaryFolder& home) {
+    return Command{SAVE_PROGRAM, "together", home.Path(), "new"};
+  };
+  const Job job{
+      "together",
+      arrange,
+      command,
+      {"chmod", "close", "create", "fsync", "ftruncate", "lock", "open", "read", "rename", "stat", "unlink", "write"}};
+  TryAll(job, [&](const TemporaryFolder& home, const FaultyRun& run, const Call& struck) {
+    const auto now = [&] {
+      FolderContent content = ReadFolder(home.Path());
+      // What a killed program leaves of files on their way is used again.
+      std::erase_if(content, [](const auto& file) { return file.first.ends_with(".folionet-new"); });
+      return content;
+    };
+    // A killed program's change is finished by the next start; so is one whose note could not be opened by this one.
+    const bool isNote = struck.path.ends_with("/.unfinished");
+    if (m_isKilled || isNote) RunProgram({SAVE_PROGRAM, "finish", home.Path(), ""}, home.Path());
+    const FolderContent content = now();
+    EXPECT_TRUE(content == m_after || (content == m_before && run.result.status != 0))
+        << DescribeDifference(m_before, content) << DescribeDifference(m_after, content);
+    EXPECT_EQ(job.Run(home).result.status, 0);
+    EXPECT_EQ(DescribeDifference(m_after, now()), "") << "after the next save";
+  });
+}
 
 }  // namespace
 }  // namespace folionet::test

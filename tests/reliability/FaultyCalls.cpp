@@ -183,9 +183,36 @@ int unlink(const char* path) noexcept {
   return static_cast<int>(syscall(SYS_unlinkat, AT_FDCWD, path, 0));
 }
 
-int rename(const char* from, const char* to) noexcept {
-  if (Fails("rename", PathAt(AT_FDCWD, to))) return -1;
-  return static_cast<int>(syscall(SYS_renameat2, AT_FDCWD, from, AT_FDCWD, to, 0));
+int unlinkat(int folder, const char* path, int flags) noexcept {
+  if (Fails("unlink", PathAt(folder, path))) return -1;
+  return static_cast<int>(syscall(SYS_unlinkat, folder, path, flags));
+}
+
+int renameat(int fromFolder, const char* from, int toFolder, const char* to) noexcept {
+  if (Fails("rename", PathAt(toFolder, to))) return -1;
+  return static_cast<int>(syscall(SYS_renameat2, fromFolder, from, toFolder, to, 0));
+}
+
+int fstat(int descriptor, struct stat* status) noexcept {
+  if (Fails("stat", PathOf(descriptor))) return -1;
+  return static_cast<int>(syscall(SYS_newfstatat, descriptor, "", status, AT_EMPTY_PATH));
+}
+
+int fstatat(int folder, const char* path, struct stat* status, int flags) noexcept {
+  if (Fails("stat", PathAt(folder, path))) return -1;
+  return static_cast<int>(syscall(SYS_newfstatat, folder, path, status, flags));
+}
+
+int fchmod(int descriptor, mode_t mode) noexcept {
+  if (Fails("chmod", PathOf(descriptor))) return -1;
+  return static_cast<int>(syscall(SYS_fchmod, descriptor, mode));
+}
+
+// By another name here, which the linker does not see: a struct is called "flock" too.
+int Lock(int descriptor, int operation) noexcept __asm__("flock");
+int Lock(int descriptor, int operation) noexcept {
+  if (Fails("lock", PathOf(descriptor))) return -1;
+  return static_cast<int>(syscall(SYS_flock, descriptor, operation));
 }
 
 int mkdir(const char* path, mode_t mode) noexcept {

@@ -3,6 +3,8 @@
 //   save_program settings FOLDER TEXT     stores the exit settings, TEXT among them, in FOLDER/Folionet.ini
 //   save_program header FOLDER TEXT       writes TEXT into FOLDER/CustomHeader.txt
 //   save_program record FOLDER TEXT       adds a language with the description TEXT to FOLDER/lang.txt
+//   save_program together FOLDER TEXT     gives two files the content TEXT as one change, finishing one begun before
+//   save_program finish FOLDER ""         only finishes what was begun before
 //
 // Ends with 3 and a line on standard error when that fails.
 
@@ -11,6 +13,7 @@
 
 #include "CustomHtml.h"
 #include "EncodingLists.h"
+#include "JointChange.h"
 #include "OptionSaving.h"
 #include "RunTimeError.h"
 #include "ScriptedUi.h"
@@ -30,6 +33,13 @@ bool Save(const std::string& what, const std::string& folder, const std::string&
     return isSaved;
   } else if (what == "record") {
     AppendEncodingRecord(folder + "/" + kLanguageList, CodePage(), {"xx", text});
+  } else if (what == "together" || what == "finish") {
+    const std::string note = folder + "/.unfinished";
+    FinishJointChange(note);
+    if (what == "finish") return true;
+    JointChange change(note);
+    for (const char* file : {"/lang.txt", "/Folionet.ini"}) change.Replace(folder + file, text);
+    change.Commit();
   } else {
     return false;
   }

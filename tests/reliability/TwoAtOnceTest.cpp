@@ -1,8 +1,10 @@
 #include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/file.h>
+#include <unistd.h>
 
 #include <algorithm>
+#include <chrono>
 #include <future>
 #include <set>
 
@@ -32,6 +34,22 @@ TEST(TwoAtOnce, NoAddedRecordIsLost) {
   const auto add = [&](const char* text) { return Command{SAVE_PROGRAM, "record", home.Path(), text}; };
   for (const ProgramResult& run : RunBoth(home.Path(), add("one"), add("two"))) EXPECT_EQ(run.status, 0) << run.errors;
   EXPECT_EQ(home.Read("lang.txt").size(), 2 * kTimes * std::string("\"xx\",\"one\"\r\n").size());
+}
+
+TEST(TwoAtOnce, ALockThatNeverEndsIsWaitedForTwoSecondsAndItsHolderNamed) {
+  const TemporaryFolder home;
+  home.Write("lang.txt", "old");
+  const int held =
+      open(home.Write(".lang.txt.folionet-new", "").c_str(), O_RDWR | O_CLOEXEC);  // as another program's save
+  ASSERT_EQ(flock(held, LOCK_EX), 0);
+  const auto start = std::chrono::steady_clock::now();
+  const ProgramResult run = RunProgram({SAVE_PROGRAM, "record", home.Path(), "one"}, home.Path());
+  EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(20));
+  EXPECT_EQ(run.status, 3);
+  EXPECT_EQ(run.errors, "Permission denied: " + home.Path() + "lang.txt: Another program, reliability_tes (process " +
+                            std::to_string(getpid()) + "), is saving it. Wait for that to end, and try again.\n");
+  EXPECT_EQ(home.Read("lang.txt"), "old");
+  close(held);
 }
 
 TEST(TwoAtOnce, ASecondCompileIsRefused) {

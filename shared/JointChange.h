@@ -1,0 +1,59 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "Replacement.h"
+
+namespace folionet {
+
+// A change of several files that is one to a person: all of them get their new content, or none does, whatever fails
+// and whenever the program is killed.
+//
+//   JointChange change(settingsFolder + ".Folionet.unfinished");
+//   change.Edit(header, longest, recode);
+//   change.Edit(settingsFile, longest, setCharset);
+//   change.Commit();
+//
+// All new contents are first written beside the files. Then a note with the old and the new contents gets its name, and
+// with that the change is made: the files are replaced one after the other, and the note is removed. A start that finds
+// a note completes the change with FinishJointChange.
+class JointChange {
+ public:
+  // `note` is the path of the note, in a folder that is there.
+  explicit JointChange(std::string note);
+
+  // Prepares the new content of a file, which is made when missing. Files are replaced in this order. Throws
+  // RunTimeError, and the change then cannot be made.
+  void Replace(const std::string& path, std::string_view bytes);
+
+  // As Replace, with what `edit` makes of the old content, which is empty when there is no such file. A file over
+  // `longest` bytes is refused.
+  void Edit(const std::string& path, std::size_t longest, const std::function<std::string(std::string content)>& edit);
+
+  // Makes the change. Throws RunTimeError, and the old contents stand; where the system lets not even them be put back,
+  // the note stays, and the next start completes the change.
+  void Commit();
+
+ private:
+  struct Part {
+    std::unique_ptr<Replacement> file;
+    std::string oldBytes;
+    std::string newBytes;
+    bool isNew = false;
+  };
+
+  void PutBack(std::size_t count);
+
+  std::string m_note;
+  std::vector<Part> m_parts;
+};
+
+// Completes the change that `note` tells of, if there is one; a file that has neither its old nor its new content has
+// been saved since, and stays. Throws RunTimeError when a file cannot be replaced; the note then stays.
+void FinishJointChange(const std::string& note);
+
+}  // namespace folionet

@@ -1,0 +1,116 @@
+#include "Replacement.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <chrono>
+#include <cstdlib>
+#include <memory>
+
+#include "FileLock.h"
+#include "RunTimeError.h"
+#include "WholeFile.h"
+
+namespace folionet {
+namespace {
+
+bool IsLink(const std::string& path) {
+  struct stat status {};
+  return lstat(path.c_str(), &status) == 0 && S_ISLNK(status.st_mode);
+}
+
+// The file behind a link, so that replacing it leaves the link.
+std::string BehindLinks(const std::string& path) {
+  const std::unique_ptr<char, decltype(&std::free)> real(realpath(path.c_str(), nullptr), &std::free);
+  if (real != nullptr) return real.get();
+  const int systemError = errno;
+  if (IsLink(path)) {
+    if (systemError != ENOENT) throw RunTimeError::FromErrno(systemError, path);
+    throw RunTimeError(kPathFileAccessError, path, "It is a link to a file that is not there. Remove it.");
+  }
+  return path;
+}
+
+}  // namespace
+
+Replacement::Replacement(const std::string& path, mode_t modeIfNew) : m_path(BehindLinks(path)), m_mode(modeIfNew) {
+  const std::size_t slash = m_path.rfind('/') + 1;
+  m_name = m_path.substr(slash);
+  m_fresh = "." + m_name + ".folionet-new";
+  const std::string folder = slash == 0 ? "." : m_path.substr(0, slash);
+  m_folder = FileHandle::Open(folder.c_str(), O_PATH | O_DIRECTORY);
+  if (!m_folder.IsOpen()) throw RunTimeError::FromErrno(errno, m_path);
+  LookAtTarget();
+  GetHold();
+}
+
+Replacement::~Replacement() {
+  if (m_file.IsOpen() && !m_isCommitted) unlinkat(m_folder.Get(), m_fresh.c_str(), 0);
+}
+
+void Replacement::LookAtTarget() {
+  struct stat status {};
+  if (fstatat(m_folder.Get(), m_name.c_str(), &status, AT_SYMLINK_NOFOLLOW) != 0) {
+    if (errno != ENOENT) throw RunTimeError::FromErrno(errno, m_path);
+  } else if (!S_ISREG(status.st_mode)) {
+    throw RunTimeError(kPathFileAccessError, m_path, "It is not a regular file.");
+  } else {
+    m_mode = status.st_mode & 0777;
+  }
+}
+
+void Replacement::GetHold() {
+  const auto end = std::chrono::steady_clock::now() + kLongestWait;
+  do {
+    m_file = FileHandle::OpenAt(m_folder.Get(), m_fresh.c_str(), O_WRONLY | O_CREAT | O_NOFOLLOW | O_NONBLOCK, 0666);
+    struct stat status {};
+    if (!m_file.IsOpen() || fstat(m_file.Get(), &status) != 0) throw RunTimeError::FromErrno(errno, m_path);
+    if (!S_ISREG(status.st_mode) || status.st_nlink > 1) {
+      static_cast<void>(m_file.Close());
+      throw RunTimeError(kPathFileAccessError, m_path, "\"" + m_fresh + "\" beside it is in the way. Remove it.");
+    }
+    const auto left = std::chrono::duration_cast<std::chrono::milliseconds>(end - std::chrono::steady_clock::now());
+    if (!LockFile(m_file.Get(), left)) break;
+    if (IsStillNamed()) return;
+    // What was waited for has taken the file's place by then.
+  } while (std::chrono::steady_clock::now() < end);
+  const std::string holder = LockHolder(m_file.Get());
+  static_cast<void>(m_file.Close());
+  throw RunTimeError(kPermissionDenied, m_path, holder + " is saving it. Wait for that to end, and try again.");
+}
+
+bool Replacement::IsStillNamed() const {
+  struct stat open {};
+  struct stat named {};
+  if (fstat(m_file.Get(), &open) != 0) throw RunTimeError::FromErrno(errno, m_path);
+  if (fstatat(m_folder.Get(), m_fresh.c_str(), &named, AT_SYMLINK_NOFOLLOW) != 0) {
+    if (errno != ENOENT) throw RunTimeError::FromErrno(errno, m_path);
+    return false;
+  }
+  return open.st_dev == named.st_dev && open.st_ino == named.st_ino;
+}
+
+std::optional<std::string> Replacement::OldContent(std::size_t longest) const {
+  const FileHandle file = FileHandle::OpenAt(m_folder.Get(), m_name.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK);
+  if (!file.IsOpen() && errno == ENOENT) return std::nullopt;
+  return ReadOpenFile(file, m_path, longest);
+}
+
+void Replacement::Prepare(std::string_view bytes) {
+  const int file = m_file.Get();
+  const bool done = (m_mode == 0 || fchmod(file, m_mode) == 0) && CutToLength(file, 0) && WriteAll(file, bytes, 0) &&
+                    SyncToDisk(file);
+  if (!done) throw RunTimeError::FromErrno(errno, m_path);
+}
+
+void Replacement::Commit() {
+  LookAtTarget();
+  if (renameat(m_folder.Get(), m_fresh.c_str(), m_folder.Get(), m_name.c_str()) != 0) {
+    throw RunTimeError::FromErrno(errno, m_path);
+  }
+  m_isCommitted = true;
+}
+
+}  // namespace folionet

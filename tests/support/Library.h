@@ -10,7 +10,7 @@ namespace folionet::test {
 
 // A small library that compiles, in installation/, and a program's folder with a style sheet, in program/.
 inline void MakeSmallLibrary(const TemporaryFolder& home) {
-  std::filesystem::copy(std::string(SITE_CASES) + "/defaults/installation", home.Path() + "installation",
+  std::filesystem::copy(std::string(SITE_CASES) + "/installation", home.Path() + "installation",
                         std::filesystem::copy_options::recursive);
   home.Write("program/default.css", "body { color: black }\r\n");
 }

@@ -2,7 +2,8 @@
 
 #include <algorithm>
 #include <array>
-#include <charconv>
+#include <cmath>
+#include <limits>
 
 #include "CodePage.h"
 #include "Numbers.h"
@@ -64,17 +65,6 @@ constexpr std::array kKeys{
     SettingKey{"Lang", kEntry, "en-us English USA"},
 };
 
-int CheckPointSize(std::string_view text) {
-  const std::string_view digits = TrimBlanks(text);
-  float points = 0;
-  const auto [end, error] =
-      std::from_chars(digits.data(), digits.data() + digits.size(), points, std::chars_format::fixed);
-  if (error == std::errc::result_out_of_range) return kOverflow;
-  const bool isNumber = error == std::errc() && end == digits.data() + digits.size() &&
-                        digits.find_first_not_of("+-.0123456789") == std::string_view::npos;
-  return isNumber ? 0 : kTypeMismatch;
-}
-
 }  // namespace
 
 std::span<const SettingKey> SettingKeys() { return kKeys; }
@@ -119,8 +109,11 @@ int CheckSetting(SettingForm form, std::string_view text) {
                  : kTypeMismatch;
     case kNumber:
       return ReadInteger(text, kInt16Min, kInt16Max).error;
-    case kPointSize:
-      return CheckPointSize(text);
+    case kPointSize: {
+      const NumberReading reading = ReadNumber(text);
+      const bool isSingle = std::abs(reading.value) <= static_cast<double>(std::numeric_limits<float>::max());
+      return reading.error == 0 && !isSingle ? kOverflow : reading.error;
+    }
     case kEntry:
       return text.find(' ') == std::string_view::npos ? kInvalidProcedureCall : 0;
     case kText:

@@ -1,6 +1,5 @@
 #include "StoredSettings.h"
 
-#include <charconv>
 #include <cstdlib>
 
 #include "BuildInfo.h"
@@ -91,10 +90,7 @@ std::int16_t StoredSettings::Number(std::string_view key) const {
 }
 
 double StoredSettings::PointSize(std::string_view key) const {
-  const std::string text = Checked(key);
-  float points = 0;
-  std::from_chars(text.data(), text.data() + text.size(), points);
-  return static_cast<double>(points);
+  return static_cast<double>(static_cast<float>(ReadNumber(Checked(key)).value));
 }
 
 }  // namespace folionet

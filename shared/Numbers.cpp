@@ -7,18 +7,39 @@
 
 namespace folionet {
 
-IntegerReading ReadInteger(std::string_view text, std::int64_t lowest, std::int64_t highest) {
+namespace {
+
+// from_chars knows no "+".
+std::optional<std::string_view> WithoutPlus(std::string_view text) {
   std::string_view digits = TrimBlanks(text);
-  if (!digits.empty() && digits.front() == '+') {
-    digits.remove_prefix(1);
-    if (!digits.empty() && digits.front() == '-') return {0, kTypeMismatch};
-  }
+  if (digits.empty() || digits.front() != '+') return digits;
+  digits.remove_prefix(1);
+  if (!digits.empty() && digits.front() == '-') return std::nullopt;
+  return digits;
+}
+
+}  // namespace
+
+IntegerReading ReadInteger(std::string_view text, std::int64_t lowest, std::int64_t highest) {
+  const auto digits = WithoutPlus(text);
+  if (!digits) return {0, kTypeMismatch};
   IntegerReading reading;
-  const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), reading.value);
-  if (error == std::errc::invalid_argument || end != digits.data() + digits.size()) return {0, kTypeMismatch};
+  const auto [end, error] = std::from_chars(digits->data(), digits->data() + digits->size(), reading.value);
+  if (error == std::errc::invalid_argument || end != digits->data() + digits->size()) return {0, kTypeMismatch};
   if (error == std::errc::result_out_of_range || reading.value < lowest || reading.value > highest) {
     return {0, kOverflow};
   }
+  return reading;
+}
+
+NumberReading ReadNumber(std::string_view text) {
+  const auto digits = WithoutPlus(text);
+  // Nor are "inf" and "nan", which from_chars takes, numbers to a person.
+  if (!digits || digits->find_first_not_of("+-.0123456789eE") != std::string_view::npos) return {0, kTypeMismatch};
+  NumberReading reading;
+  const auto [end, error] = std::from_chars(digits->data(), digits->data() + digits->size(), reading.value);
+  if (error == std::errc::invalid_argument || end != digits->data() + digits->size()) return {0, kTypeMismatch};
+  if (error == std::errc::result_out_of_range) return {0, kOverflow};
   return reading;
 }
 

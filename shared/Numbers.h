@@ -16,6 +16,15 @@ struct IntegerReading {
 // Reads a decimal integer with an optional sign and optional blanks around it.
 IntegerReading ReadInteger(std::string_view text, std::int64_t lowest, std::int64_t highest);
 
+// A text read as a number that need not be whole, with the same errors.
+struct NumberReading {
+  double value = 0;
+  int error = 0;
+};
+
+// Reads a decimal number with an optional sign, optional blanks around it and an optional power of ten: "+1.5", "1e3".
+NumberReading ReadNumber(std::string_view text);
+
 inline constexpr std::int64_t kInt16Min = -32768;
 inline constexpr std::int64_t kInt16Max = 32767;
 inline constexpr std::int64_t kInt32Min = -2147483647 - 1;

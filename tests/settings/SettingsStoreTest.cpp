@@ -87,6 +87,7 @@ TEST(SettingsStoreTest, ValuesThatDoNotConvertAreFailures) {
       {points, "FontSize", "12pt", kTypeMismatch},
       {points, "FontSize", "inf", kTypeMismatch},
       {points, "FontSize", "1,5", kTypeMismatch},
+      {points, "FontSize", "1e39", kOverflow},
   };
   for (const auto& c : cases) {
     const TemporaryFolder folder;

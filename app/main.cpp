@@ -54,6 +54,7 @@ bool Parse(int argc, char** argv, Arguments& arguments, int& status) {
   for (const char* option : {"--versalia-path", "--module-path", "--program-folder"}) {
     app.get_option(option)->check(refuseEmpty, "");
   }
+  app.get_option("--program-folder")->check(MissingFolder, "");
   app.failure_message([](const CLI::App* /*app*/, const CLI::Error& error) {
     return std::string(error.what()) + "\nSee \"folionet --help\".\n";
   });

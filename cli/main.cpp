@@ -7,6 +7,7 @@
 #include "CodePage.h"
 #include "CompileCommand.h"
 #include "ListCommand.h"
+#include "ProgramFolder.h"
 #include "RunTimeError.h"
 #include "Session.h"
 #include "Usage.h"
@@ -25,7 +26,8 @@ void AddCommonOptions(CLI::App& app, CommonOptions& common) {
       ->type_name("FOLDER");
   app.add_option("--program-folder", common.programFolder,
                  "Holds default.css (default: the program's if\nwritable, else ~/.local/share/Folionet)")
-      ->type_name("FOLDER");
+      ->type_name("FOLDER")
+      ->check(MissingFolder, "");
   app.footer(
       "\"folionet-cli COMMAND --help\" shows a command's options. Exit status: 0 done;\n"
       "1 refused, or faults were found; 2 a wrong argument; 3 a failure.\n\n"

@@ -49,6 +49,10 @@ std::string ProgramFolderPath(const std::string& chosen) {
 
 }  // namespace
 
+std::string MissingFolder(const std::string& chosen) {
+  return chosen.empty() || FolderExists(chosen) ? std::string() : "there is no folder \"" + chosen + "\"";
+}
+
 std::string FindProgramFolder(const std::string& chosen) {
   std::string folder = ProgramFolderPath(chosen);
   if (!chosen.empty() || folder == ExecutableFolder()) return folder;

@@ -7,6 +7,9 @@ namespace folionet {
 // The folder of the running executable, ending in the folder separator.
 std::string ExecutableFolder();
 
+// Why a folder that a person gave cannot be the program folder: it is not there. Empty when it is, or none was given.
+std::string MissingFolder(const std::string& chosen);
+
 // The folder of the program's own files (default.css, lang.txt, enc.txt, the custom header and footer), ending in the
 // folder separator: `chosen` when it is not empty; else the executable's folder when it holds default.css and can be
 // written to; else $XDG_DATA_HOME/Folionet, which is made when missing and given any of the three delivered files that

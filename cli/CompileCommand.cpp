@@ -7,9 +7,9 @@
 #include "CustomHtml.h"
 #include "Effects.h"
 #include "Installation.h"
-#include "PageNames.h"
 #include "Paths.h"
 #include "ProgramFolder.h"
+#include "RunFacts.h"
 #include "RunTimeError.h"
 #include "Sitemap.h"
 
@@ -57,19 +57,30 @@ void SelectTranslation(const CompileArguments& arguments, Session& session, Comp
             Outcome::kDone);
 }
 
-// The index page would be written over a chapter's page of the same name.
-void WarnOfSharedName(const CompileRequest& request, const ModGlob& glob, const CodePage& codePage) {
-  const PageNames names(glob.cboStartBook, request.options.chkUse83, codePage);
-  const std::string index = IndexFileName(request.options.txthttpRoot);
-  for (int book = 1; book <= static_cast<int>(glob.cboStartBook.size()); ++book) {
-    if (!index.starts_with(names.BookOnDisk(book))) continue;
-    for (int chapter = 1; chapter <= glob.ChaptersInBook[static_cast<std::size_t>(book)]; ++chapter) {
-      if (names.OnDisk(book, chapter) != index) continue;
-      std::fprintf(stderr,
-                   "Warning: the index page %s takes the place of a chapter's page. Give it a name of its own with "
-                   "--index-address.\n",
-                   WithoutControls(index).c_str());
-      return;
+// What a person does about a fact at the command line; a setting that mends it is named behind it.
+const char* StepText(RunFactKind kind) {
+  switch (kind) {
+    case RunFactKind::kEndsBeforeStart:
+      return " Give the books in their order with --start-book and --end-book.";
+    case RunFactKind::kIndexTakesPage:
+      return " Give it a name of its own with --index-address.";
+    case RunFactKind::kPagesMeet:
+      return " Give other titles with --language-file, or short names:";
+    case RunFactKind::kRemovesPages:
+      break;
+  }
+  return "";
+}
+
+// Warnings are told before the run; a plan tells beforehand what is removed in any case.
+void TellFacts(const std::vector<RunFact>& facts, bool dryRun) {
+  for (const RunFact& fact : facts) {
+    if (dryRun && fact.kind == RunFactKind::kRemovesPages) {
+      std::printf("%s\n", NoticeText(fact.notice).c_str());
+    } else if (fact.isWarning) {
+      std::string text = "Warning: " + NoticeText(fact.notice) + StepText(fact.kind);
+      if (!fact.remedy.key.empty()) text += " --set \"" + fact.remedy.key + "=" + fact.remedy.value + "\".";
+      std::fprintf(stderr, "%s\n", WithoutControls(text).c_str());
     }
   }
 }
@@ -143,7 +154,7 @@ ExitStatus RunCompile(const CommonOptions& common, const CompileArguments& argum
   if (arguments.dryRun || arguments.listChanged) request.changes = &changes;
   request.sitemapAddress = arguments.sitemap;
   request.dryRun = arguments.dryRun;
-  WarnOfSharedName(request, session.glob, session.codePage);
+  if (request.cboBibleName >= 0) TellFacts(FindRunFacts(request, session.glob), arguments.dryRun);
   switch (cmdCompile_Click(request, session.glob, session.ui)) {
     case CompileOutcome::kDone:
       PrintChanges(arguments, changes);

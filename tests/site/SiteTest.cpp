@@ -72,17 +72,20 @@ class Site : public testing::TestWithParam<std::string> {
 TEST_P(Site, IsTheExpectedOne) {
   const FolderContent installation = ReadFolder(m_home.Path() + "installation");
   const ProgramResult run = Compile();
-  EXPECT_EQ(run.errors, "");
   ASSERT_EQ(run.status, 0);
   const FolderContent site = ReadFolder(m_home.Path() + "out");
   if (const char* rewrite = std::getenv("FOLIONET_REWRITE_EXPECTED"); rewrite != nullptr && *rewrite == '1') {
     fs::remove_all(m_case + "expected");
     fs::copy(m_home.Path() + "out", m_case + "expected", fs::copy_options::recursive);
     std::ofstream(m_case + "expected.stdout", std::ios::binary) << run.output;
+    fs::remove(m_case + "expected.stderr");
+    if (!run.errors.empty()) std::ofstream(m_case + "expected.stderr", std::ios::binary) << run.errors;
     GTEST_SKIP() << "rewritten: " << m_case << "expected";
   }
   EXPECT_EQ(DescribeDifference(ReadFolder(m_case + "expected"), site), "");
   EXPECT_EQ(DescribeDifference("standard output", ReadFile(m_case + "expected.stdout"), run.output), "");
+  const std::string errors = m_case + "expected.stderr";  // where there is something to say
+  EXPECT_EQ(DescribeDifference("standard error", fs::exists(errors) ? ReadFile(errors) : "", run.errors), "");
   EXPECT_EQ(DescribeDifference(installation, ReadFolder(m_home.Path() + "installation")), "");
   EXPECT_EQ(ReadFolder(m_home.Path() + "config").size(), 0u) << "a compile stores no settings";
 }

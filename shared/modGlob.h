@@ -32,8 +32,10 @@ struct ModGlob {
 
   std::vector<std::string> unreadableTexts;  // verse files of the catalogue that are there and cannot be read
 
-  // The items of the lists. A translation's place in cboBibleName is its place in BibleNames.
+  // The items of the lists. A translation's place in cboBibleName is its place in BibleNames, unless the catalogue was
+  // read again: see TranslationAt.
   std::vector<std::string> cboBibleName;
+  std::vector<std::string> cboBibleFile;  // the file stem of each item of cboBibleName
   std::vector<std::string> cboLang;       // file names (UTF-8)
   std::vector<std::string> cboStartBook;  // item i is the title of book i + 1
   std::vector<std::string> cboEndBook;

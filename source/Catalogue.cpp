@@ -92,7 +92,10 @@ void ReadCatalogue(ModGlob& glob, const CodePage& codePage) {
     glob.BibleNames.resize(counter + 1);
     glob.BibleFiles.resize(counter + 1);
   }
-  for (std::size_t i = 0; i < counter; ++i) glob.cboBibleName.push_back(glob.BibleNames[i]);
+  for (std::size_t i = 0; i < counter; ++i) {
+    glob.cboBibleName.push_back(glob.BibleNames[i]);
+    glob.cboBibleFile.push_back(glob.BibleFiles[i]);
+  }
 }
 
 Outcome PopulateCombos(int which, const std::string& cboLang, ModGlob& glob, const CodePage& codePage,
@@ -112,9 +115,17 @@ Outcome PopulateCombos(int which, const std::string& cboLang, ModGlob& glob, con
   }
 }
 
-std::size_t TranslationAt(const ModGlob& glob, std::size_t item) {
+std::optional<std::size_t> TranslationAt(const ModGlob& glob, std::size_t item) {
+  if (item >= glob.cboBibleFile.size()) return std::nullopt;
+  const auto isThat = [&](std::size_t place) {
+    return glob.BibleFiles[place] == glob.cboBibleFile[item] && glob.BibleNames[place] == glob.cboBibleName[item];
+  };
   const std::size_t count = glob.BibleNames.empty() ? 0 : glob.BibleNames.size() - 1;
-  return item < count ? item : item - (glob.cboBibleName.size() - count);
+  if (item < count && isThat(item)) return item;
+  for (std::size_t place = 0; place < count; ++place) {
+    if (isThat(place)) return place;
+  }
+  return std::nullopt;
 }
 
 }  // namespace folionet

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstddef>
+#include <optional>
 #include <string>
 
 #include "CodePage.h"
@@ -29,10 +31,10 @@ inline constexpr int kMostListed = 10000;
 // Fails, at the line that was read last, with kOutOfMemory.
 [[noreturn]] void FailMoreThanMostListed(const RecordReader& records);
 
-// Reads the catalogue into BibleNames and BibleFiles and appends the names to cboBibleName. Only records that are
-// listed are considered, of which there may be 10,000; a translation whose text file is missing is left out, one
-// whose text is there and cannot be read is left out and noted in unreadableTexts. Both arrays keep one spare element
-// at their end. Throws RunTimeError; cboBibleName is then unchanged.
+// Reads the catalogue into BibleNames and BibleFiles and appends them to cboBibleName and cboBibleFile. Only records
+// that are listed are considered, of which there may be 10,000; a translation whose text file is missing is left out,
+// one whose text is there and cannot be read is left out and noted in unreadableTexts. Both arrays keep one spare
+// element at their end. Throws RunTimeError; cboBibleName is then unchanged.
 void ReadCatalogue(ModGlob& glob, const CodePage& codePage);
 
 // Fills the lists of the form: when `which` is not 0 the catalogue, and always the book lists from the book-title file
@@ -41,7 +43,8 @@ void ReadCatalogue(ModGlob& glob, const CodePage& codePage);
 Outcome PopulateCombos(int which, const std::string& cboLang, ModGlob& glob, const CodePage& codePage,
                        UserInterface& ui);
 
-// The place in BibleNames of an item of cboBibleName, which may list the translations twice after a retry.
-std::size_t TranslationAt(const ModGlob& glob, std::size_t item);
+// The place in BibleNames of an item of cboBibleName. Items stay when the catalogue is read again, so that translations
+// may be listed twice; nothing for one that the last reading did not find.
+std::optional<std::size_t> TranslationAt(const ModGlob& glob, std::size_t item);
 
 }  // namespace folionet

@@ -147,6 +147,17 @@
     </message>
 </context>
 <context>
+    <name>folionet::LibraryLists</name>
+    <message>
+        <source>Translation not found</source>
+        <translation>Übersetzung nicht gefunden</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; can no longer be read. Its text would be:</source>
+        <translation>„%1“ kann nicht mehr gelesen werden. Ihr Text wäre:</translation>
+    </message>
+</context>
+<context>
     <name>folionet::StatusPanels</name>
     <message>
         <source>Progress</source>
@@ -356,14 +367,6 @@
     <message>
         <source>Look for links that lead nowhere in the site that was compiled last (F8).</source>
         <translation>In der zuletzt erzeugten Website nach Links ohne Ziel suchen (F8).</translation>
-    </message>
-    <message>
-        <source>Open the help (F1).</source>
-        <translation>Die Hilfe öffnen (F1).</translation>
-    </message>
-    <message>
-        <source>Save all settings, after asking, and end the program (Ctrl+Q).</source>
-        <translation>Nach einer Rückfrage alle Einstellungen speichern und das Programm beenden (Strg+Q).</translation>
     </message>
 </context>
 <context>

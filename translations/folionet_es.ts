@@ -147,6 +147,17 @@
     </message>
 </context>
 <context>
+    <name>folionet::LibraryLists</name>
+    <message>
+        <source>Translation not found</source>
+        <translation>No se encuentra la traducción</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; can no longer be read. Its text would be:</source>
+        <translation>«%1» ya no se puede leer. Su texto sería:</translation>
+    </message>
+</context>
+<context>
     <name>folionet::StatusPanels</name>
     <message>
         <source>Progress</source>
@@ -356,14 +367,6 @@
     <message>
         <source>Look for links that lead nowhere in the site that was compiled last (F8).</source>
         <translation>Buscar enlaces que no llevan a ninguna parte en el último sitio compilado (F8).</translation>
-    </message>
-    <message>
-        <source>Open the help (F1).</source>
-        <translation>Abrir la ayuda (F1).</translation>
-    </message>
-    <message>
-        <source>Save all settings, after asking, and end the program (Ctrl+Q).</source>
-        <translation>Guardar todos los ajustes, tras preguntar, y cerrar el programa (Ctrl+Q).</translation>
     </message>
 </context>
 <context>

@@ -3,7 +3,6 @@
 #include <functional>
 #include <memory>
 #include <tuple>
-#include <type_traits>
 
 #include "AppState.h"
 #include "frmBackground.h"
@@ -33,15 +32,6 @@ class Dialogs {
   template <typename Dialog>
   void Load() {
     Get<Dialog>().LoadForm();
-  }
-
-  // Loads the dialogs that a failed start left unloaded; throws as Load does.
-  void LoadMissing() {
-    const auto load = [](auto& dialog) {
-      if (!dialog.IsLoaded()) dialog.LoadForm();
-    };
-    std::apply([&](auto&... dialog) { (load(Get<typename std::decay_t<decltype(dialog)>::element_type>()), ...); },
-               m_dialogs);
   }
 
   // Unloads the dialog, makes it anew and loads it.

@@ -3,12 +3,14 @@
 #include <QKeyEvent>
 
 #include "HelpWindow.h"
+#include "OneLine.h"
 #include "RunTimeError.h"
 #include "ShownBoxes.h"
 
 namespace folionet {
 
 void LoadedDialog::LoadForm() {
+  if (!m_isLoaded) KeepBoxesToOneLine(*this);
   m_isLoaded = true;
   Load();
 }

@@ -1,5 +1,8 @@
 #include "frmKeywords.h"
 
+#include <algorithm>
+#include <array>
+
 #include "Follow.h"
 #include "KeyReleases.h"
 #include "OptionSaving.h"
@@ -31,6 +34,15 @@ void frmKeywords::Load() {
   m_ui->txtDescriptionI->SetText(record.txtDescriptionI);
   m_ui->txtKeyWords->SetText(record.txtKeyWords);
   m_ui->txtDescription->SetText(record.txtDescription);
+}
+
+// What was shown when the dialog was last open may be of another translation.
+void frmKeywords::showEvent(QShowEvent* event) {
+  LoadedDialog::showEvent(event);
+  const bool wasShown = std::ranges::any_of(
+      std::array{m_ui->txtDescriptionOKI, m_ui->txtKeywordsOKI, m_ui->txtDescriptionOK, m_ui->txtKeyWordsOK},
+      [](const TextBox* box) { return !box->Text().empty(); });
+  if (wasShown) RefreshTitles();
 }
 
 bool frmKeywords::RefreshTitles() {

@@ -24,6 +24,7 @@ class frmKeywords : public LoadedDialog {
   // Reads the four templates; the previews stay as they are.
   void Load() override;
 
+  void showEvent(QShowEvent* event) override;
   bool RefreshTitles();
   void Close();
 

@@ -93,6 +93,16 @@ void frmLinkToMAin::SetString() {
   if (html) m_ui->txtBackToString->SetText(m_state.codePage.DecodeForDisplay(*html));
 }
 
+// What was shown when the dialog was last open may be of another translation.
+void frmLinkToMAin::showEvent(QShowEvent* event) {
+  LoadedDialog::showEvent(event);
+  if (m_ui->txtLinkToMainOK->text().isEmpty()) {
+    SetString();
+  } else {
+    Refresh();
+  }
+}
+
 void frmLinkToMAin::Refresh() {
   ShowPreview(m_state, m_record.txtLinkToMain, *m_ui->txtLinkToMainOK);
   SetString();

@@ -23,6 +23,9 @@ class frmLinkToMAin : public LoadedDialog {
   // Whether the size can be chosen; with a style sheet it cannot.
   void SetSizeEnabled(bool isEnabled);
 
+  // Shows the HTML of the link with what the main form holds now.
+  void SetString();
+
  private:
   // Reads text, alignment and size, and builds the HTML of the link.
   void Load() override;
@@ -30,7 +33,7 @@ class frmLinkToMAin : public LoadedDialog {
   void Justify(int justification);
   void ShowJustification();
   void SetFontSize(int size);
-  void SetString();
+  void showEvent(QShowEvent* event) override;
   void Refresh();
   void Close();
 

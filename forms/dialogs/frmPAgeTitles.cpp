@@ -34,6 +34,12 @@ void frmPAgeTitles::Load() {
   m_ui->txtPageTitles->setText(ToQt(titles.txtPageTitles));
 }
 
+// What was shown when the dialog was last open may be of another translation.
+void frmPAgeTitles::showEvent(QShowEvent* event) {
+  LoadedDialog::showEvent(event);
+  if (!m_ui->txtPrevIndex->text().isEmpty() || !m_ui->txtPrevOther->text().isEmpty()) ShowPreviews();
+}
+
 void frmPAgeTitles::SaveTitles() {
   TrySave(m_state, "SaveTitles",
           [this](SettingsStore& store) { folionet::SaveTitles(store, m_state.options.frmPAgeTitles); });

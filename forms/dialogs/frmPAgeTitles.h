@@ -24,6 +24,7 @@ class frmPAgeTitles : public LoadedDialog {
   // Reads both templates.
   void Load() override;
 
+  void showEvent(QShowEvent* event) override;
   void SaveTitles();
   bool ShowPreviews();
 

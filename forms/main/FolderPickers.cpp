@@ -6,6 +6,7 @@
 
 #include "CompileRequest.h"
 #include "FolderTree.h"
+#include "OpeningCombo.h"
 #include "Paths.h"
 #include "QtText.h"
 #include "RunTimeError.h"
@@ -23,22 +24,27 @@ void ReportDrive(UserInterface& ui, const RunTimeError& error) {
   ui.ShowErrorReport(error.Number(), "Drive_Change", "Drive not Ready or Drive not Available.\r\n" + error.Extra());
 }
 
-// The path as the lists have it: no separator at its end.
-QString CleanPath(const std::string& path) { return QDir::cleanPath(ToQt(NativePath(path))); }
+// The path as the lists have it: no separator at its end. A name that holds a backslash is taken as it is; in a path
+// that is not there it separates folders.
+QString CleanPath(const std::string& path) {
+  const QString exact = QDir::cleanPath(ToQt(path));
+  return QFileInfo(exact).isDir() ? exact : QDir::cleanPath(ToQt(NativePath(path)));
+}
 
 }  // namespace
 
 FolderPickers::FolderPickers(AppState& state, Ui::frmMain& controls, QObject* parent)
     : QObject(parent), m_state(state), m_controls(controls) {
+  connect(m_controls.Drive1, &OpeningCombo::Opening, this, &FolderPickers::ListVolumes);
   connect(m_controls.Drive1, &QComboBox::activated, this, &FolderPickers::Drive1_Change);
   connect(m_controls.Dir1, &FolderTree::PathChosen, this, &FolderPickers::Dir1_Change);
   connect(m_controls.cmdBrowse, &QPushButton::clicked, this, &FolderPickers::Browse);
 }
 
 void FolderPickers::Restore() {
+  if (!m_state.glob.OutputFolder.empty()) return;
   m_state.main.Drive1 = m_state.store.Text("Drive1");
   m_state.main.Dir1 = m_state.store.Text("Dir1");
-  ListVolumes();
   RestoreDrive();
   RestoreFolder();
 }
@@ -48,6 +54,7 @@ std::string FolderPickers::OutputPath() const {
 }
 
 void FolderPickers::ListVolumes() {
+  const QString shown = m_controls.Dir1->RootPath();
   m_volumes = volumes();
   m_controls.Drive1->clear();
   for (const Volume& volume : m_volumes) {
@@ -57,10 +64,14 @@ void FolderPickers::ListVolumes() {
     m_controls.Drive1->addItem(isOnlyOne ? volume.name : volume.name + QStringLiteral(" \u2014 ") + path, volume.path);
     m_controls.Drive1->setItemData(m_controls.Drive1->count() - 1, path, Qt::ToolTipRole);
   }
+  if (shown.isEmpty()) {
+    ShowVolume(0);
+  } else {
+    m_controls.Drive1->setCurrentIndex(m_controls.Drive1->findData(shown));
+  }
 }
 
 void FolderPickers::RestoreDrive() {
-  ShowVolume(0);
   if (!IsStored(m_state.main.Drive1)) return;
   const int item = m_controls.Drive1->findData(CleanPath(m_state.main.Drive1));
   try {
@@ -119,7 +130,7 @@ void FolderPickers::Drive1_Change(int item) {
 void FolderPickers::Dir1_Change(const QString& path) {
   m_state.main.Drive1 = FromQt(m_controls.Dir1->RootPath());
   m_state.main.Dir1 = FromQt(path);
-  m_state.glob.OutputFolder = WithSeparator(m_state.main.Dir1);
+  m_state.glob.OutputFolder = m_state.main.Dir1.ends_with('/') ? m_state.main.Dir1 : m_state.main.Dir1 + '/';
   m_controls.txtOutputPath->setText(ToQt(m_state.glob.OutputFolder));
   m_controls.txtOutputPath->setToolTip(m_controls.txtOutputPath->text());
 }

@@ -22,8 +22,11 @@ class FolderPickers : public QObject {
  public:
   FolderPickers(AppState& state, Ui::frmMain& controls, QObject* parent);
 
-  // Lists the volumes and shows the stored drive and folder. A stored folder counts as chosen; a drive or folder that
-  // is gone is reported.
+  // Lists the volumes that are there now and shows the first, or the one that was shown.
+  void ListVolumes();
+
+  // Shows the stored drive and folder, unless a folder was chosen already. A stored folder counts as chosen; a drive or
+  // folder that is gone is reported.
   void Restore();
 
   // What a compile takes as its output path.
@@ -32,7 +35,6 @@ class FolderPickers : public QObject {
   std::function<std::vector<Volume>()> volumes = MountedVolumes;
 
  private:
-  void ListVolumes();
   void RestoreDrive();
   void RestoreFolder();
   void Drive1_Change(int item);

@@ -7,6 +7,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QFontDatabase>
 #include <QFontDialog>
 #include <QFontInfo>
 #include <QGridLayout>
@@ -17,6 +18,8 @@
 #include <QStandardPaths>
 #include <QUrl>
 #include <algorithm>
+#include <climits>
+#include <cstdlib>
 
 #include "BuildInfo.h"
 #include "ErrorReport.h"
@@ -68,6 +71,26 @@ void HideEffects(QFontDialog& dialog) {
     group->setHidden(group->findChild<QCheckBox*>() != nullptr);
     group->setMinimumHeight(kSampleLines * group->fontMetrics().height());
   }
+}
+
+// The font that a style's text is shown in here, which may be another than the one named, with its own name of that
+// style: the dialog shows a family's first style, be it an italic one, for a name that the family does not have.
+QFont StandIn(const SampleText& sample) {
+  QFont font(ToQt(sample.FontName));
+  if (sample.FontSize > 0) font.setPointSizeF(sample.FontSize);
+  font.setBold(sample.FontBold);
+  font.setItalic(sample.FontItalic);
+  const QString family = QFontInfo(font).family();
+  font.setFamilies({family});
+  const int weight = sample.FontBold ? QFont::Bold : QFont::Normal;
+  int nearest = INT_MAX;
+  for (const QString& style : QFontDatabase::styles(family)) {
+    const int distance = std::abs(QFontDatabase::weight(family, style) - weight);
+    if (QFontDatabase::italic(family, style) != sample.FontItalic || distance >= nearest) continue;
+    nearest = distance;
+    font.setStyleName(style);
+  }
+  return font;
 }
 
 // Where a chooser of pictures opens: at the one that was chosen last, else where a person keeps them.
@@ -142,26 +165,32 @@ Colour FormUi::ChooseColour(Colour initial) {
 }
 
 SampleText FormUi::ChooseFont(const SampleText& initial) {
-  QFont font(ToQt(initial.FontName));
-  if (initial.FontSize > 0) font.setPointSizeF(initial.FontSize);
-  font.setBold(initial.FontBold);
-  font.setItalic(initial.FontItalic);
-  // A font that is not installed here shows as the one that stands in for it, with that one's styles, which must not
-  // take its place unless it is chosen, be it by coming back to it from another.
-  font.setFamilies({QFontInfo(font).family()});
-  QFontDialog dialog(font, Owner());
+  QFontDialog dialog(StandIn(initial), Owner());
   HideEffects(dialog);
-  const QString shown = dialog.currentFont().family();
+  // What the dialog shows at first may be another family, style or size than the text has: of those that are not
+  // installed or that a font lacks, it shows the next best. Only what a person changes is taken, be it by coming back
+  // to what was shown.
+  QFont last = dialog.currentFont();
   bool isFamilyChosen = false;
-  QObject::connect(&dialog, &QFontDialog::currentFontChanged, &dialog,
-                   [&](const QFont& current) { isFamilyChosen = isFamilyChosen || current.family() != shown; });
+  bool isStyleChosen = false;
+  bool isSizeChosen = false;
+  const auto note = [&](const QFont& current) {
+    if (current.family() != last.family()) {
+      isFamilyChosen = true;
+    } else if (current.bold() != last.bold() || current.italic() != last.italic()) {
+      isStyleChosen = true;
+    }
+    isSizeChosen = isSizeChosen || current.pointSizeF() != last.pointSizeF();
+    last = current;
+  };
+  QObject::connect(&dialog, &QFontDialog::currentFontChanged, &dialog, note);
   if (dialog.exec() != QDialog::Accepted) return initial;
-  font = dialog.selectedFont();
+  note(dialog.selectedFont());
   SampleText chosen = initial;
-  if (isFamilyChosen || font.family() != shown) chosen.FontName = FromQt(font.family());
-  chosen.FontSize = font.pointSizeF();
-  chosen.FontBold = font.bold();
-  chosen.FontItalic = font.italic();
+  if (isFamilyChosen) chosen.FontName = FromQt(last.family());
+  if (isStyleChosen) chosen.FontBold = last.bold();
+  if (isStyleChosen) chosen.FontItalic = last.italic();
+  if (isSizeChosen) chosen.FontSize = last.pointSizeF();
   return chosen;
 }
 

@@ -33,6 +33,8 @@ LibraryLists::LibraryLists(AppState& state, Ui::frmMain& controls, QObject* pare
 
 Outcome LibraryLists::Fill() {
   ModGlob& glob = m_state.glob;
+  glob.cboBibleName.clear();  // a start that stopped may have filled them
+  glob.cboBibleFile.clear();
   LocateInstallation(m_state.store, m_state.givenFolders, glob);
   GetLang(glob, m_state.ui);
   m_controls.cboLang->clear();
@@ -49,10 +51,14 @@ Outcome LibraryLists::Fill() {
 }
 
 Outcome LibraryLists::SelectFirst() {
-  if (m_state.glob.cboBibleName.empty()) return Outcome::kDone;
-  m_controls.cboBibleName->setCurrentIndex(0);
-  const auto place = static_cast<std::size_t>(SelectedTranslation());
-  return BooksInChapters(m_state.glob, place, m_state.codePage, m_state.ui);
+  int item = 0;
+  const int count = m_controls.cboBibleName->count();
+  while (item < count && !TranslationAt(m_state.glob, static_cast<std::size_t>(item))) ++item;
+  m_chosen = item < count ? item : -1;
+  m_controls.cboBibleName->setCurrentIndex(m_chosen);
+  const int place = SelectedTranslation();
+  if (place < 0) return Outcome::kDone;
+  return BooksInChapters(m_state.glob, static_cast<std::size_t>(place), m_state.codePage, m_state.ui);
 }
 
 Outcome LibraryLists::LoadVerses() {
@@ -77,12 +83,31 @@ void LibraryLists::ShowNames() {
 
 int LibraryLists::SelectedTranslation() const {
   const int item = m_controls.cboBibleName->currentIndex();
-  return item < 0 ? -1 : static_cast<int>(TranslationAt(m_state.glob, static_cast<std::size_t>(item)));
+  if (item < 0) return -1;
+  const auto place = TranslationAt(m_state.glob, static_cast<std::size_t>(item));
+  return place ? static_cast<int>(*place) : -1;
 }
 
 void LibraryLists::ChooseBible() {
-  TakeTranslation(static_cast<std::size_t>(SelectedTranslation()));
+  const int item = m_controls.cboBibleName->currentIndex();
+  const int place = SelectedTranslation();
+  if (place < 0) {
+    m_controls.cboBibleName->setCurrentIndex(m_chosen);
+    if (item >= 0) TellUnread(item);
+    return;
+  }
+  m_chosen = item;
+  TakeTranslation(static_cast<std::size_t>(place));
   if (LoadVerses() == Outcome::kEndProgram) emit EndProgram();
+}
+
+// An item that was listed from other folders than those that were entered later.
+void LibraryLists::TellUnread(int item) const {
+  const std::string& stem = m_state.glob.cboBibleFile[static_cast<std::size_t>(item)];
+  const QString text =
+      tr("\"%1\" can no longer be read. Its text would be:").arg(m_controls.cboBibleName->itemText(item));
+  m_state.ui.ShowMessage({MessageIcon::kWarning, FromQt(tr("Translation not found")),
+                          FromQt(text) + "\r\n" + VerseFile(m_state.glob, m_state.codePage, stem)});
 }
 
 void LibraryLists::ChooseLanguage() {

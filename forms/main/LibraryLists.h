@@ -24,7 +24,7 @@ class LibraryLists : public QObject {
   // Finds the library and fills every list; the stored language is shown, and no translation is selected yet.
   Outcome Fill();
 
-  // Selects the first translation and counts its chapters. A catalogue without one is no failure.
+  // Selects the first translation that can be read and counts its chapters. To have none is no failure.
   Outcome SelectFirst();
 
   // Reads the verse counts of the selected translation.
@@ -46,9 +46,11 @@ class LibraryLists : public QObject {
   void ShowTranslations();
   void ShowBooks();
   void TakeTranslation(std::size_t place);
+  void TellUnread(int item) const;
 
   AppState& m_state;
   Ui::frmMain& m_controls;
+  int m_chosen = -1;  // item of cboBibleName
 };
 
 }  // namespace folionet

@@ -12,6 +12,7 @@
 #include "HelpWindow.h"
 #include "LibraryLists.h"
 #include "MainCompile.h"
+#include "OneLine.h"
 #include "OptionSaving.h"
 #include "QtText.h"
 #include "RunGuard.h"
@@ -46,12 +47,19 @@ frmMain::frmMain(AppState& state, QWidget* parent)
   m_lists = new LibraryLists(state, *m_ui, this);
   m_folders = new FolderPickers(state, *m_ui, this);
   m_style = new StyleOptions(state, *m_ui, this);
+  KeepBoxesToOneLine(*m_ui->centralwidget);
   DressControls();
   ConnectOptions();
   ConnectCommands();
 }
 
 frmMain::~frmMain() = default;
+
+template <typename Dialog>
+void frmMain::Open() {
+  m_dialogs.Open<Dialog>();
+  IsStarted();
+}
 
 void frmMain::ConnectOptions() {
   PageOptions& options = m_state.options;
@@ -74,12 +82,12 @@ void frmMain::ConnectCommands() {
   connect(m_ui->cmdCompile, &QPushButton::clicked, this, &frmMain::Compile);
   connect(m_ui->cmdOpenIndex, &QPushButton::clicked, this, &frmMain::OpenIndexPage);
   connect(m_ui->cmdCheckSite, &QPushButton::clicked, this, &frmMain::CheckWrittenSite);
-  connect(m_ui->cmdPageTitles, &QPushButton::clicked, this, [this] { m_dialogs.Open<frmPAgeTitles>(); });
-  connect(m_ui->cmdKeyWords, &QPushButton::clicked, this, [this] { m_dialogs.Open<frmKeywords>(); });
-  connect(m_ui->cmdEffects, &QPushButton::clicked, this, [this] { m_dialogs.Open<frmEffects>(); });
+  connect(m_ui->cmdPageTitles, &QPushButton::clicked, this, [this] { Open<frmPAgeTitles>(); });
+  connect(m_ui->cmdKeyWords, &QPushButton::clicked, this, [this] { Open<frmKeywords>(); });
+  connect(m_ui->cmdEffects, &QPushButton::clicked, this, [this] { Open<frmEffects>(); });
   connect(m_ui->cmdLinkToMain, &QPushButton::clicked, this, &frmMain::OpenLinkToMain);
-  connect(m_ui->cmdCustomHeader, &QPushButton::clicked, this, [this] { m_dialogs.Open<frmCustomHeader>(); });
-  connect(m_ui->cmdCustomFooter, &QPushButton::clicked, this, [this] { m_dialogs.Open<frmCustomizeFooter>(); });
+  connect(m_ui->cmdCustomHeader, &QPushButton::clicked, this, [this] { Open<frmCustomHeader>(); });
+  connect(m_ui->cmdCustomFooter, &QPushButton::clicked, this, [this] { Open<frmCustomizeFooter>(); });
   connect(m_ui->cmdPageEncoding, &QPushButton::clicked, this, &frmMain::OpenEncoding);
   connect(m_ui->cmdHelp, &QPushButton::clicked, this, &frmMain::ShowHelp);
   connect(new QShortcut(QKeySequence(Qt::Key_F1), this), &QShortcut::activated, this, &frmMain::ShowHelp);
@@ -102,7 +110,7 @@ void frmMain::FocusControl(std::string_view name) {
 void frmMain::updateCheck() {
   m_state.options.chkBack = m_ui->chkBack->isChecked();
   m_ui->cmdBackColour->setEnabled(!m_state.options.chkBack);
-  if (m_state.options.chkBack) m_dialogs.Open<frmBackground>();
+  if (m_state.options.chkBack) Open<frmBackground>();
   TrySave(m_state, "updateCheck", [&](SettingsStore& store) { store.SaveFlag("chkBack", m_state.options.chkBack); });
 }
 
@@ -117,7 +125,8 @@ void frmMain::CSSCheck() {
 }
 
 void frmMain::Compile() {
-  if (m_startFailed && !AreSettingsSound()) return;
+  m_startFailure.clear();  // is told again
+  if (!IsStarted()) return;
   const CompileRequest request = GatherRequest(m_state, *m_ui, *m_lists, *m_folders);
   CompileOutcome outcome = CompileOutcome::kFailed;
   {
@@ -128,6 +137,7 @@ void frmMain::Compile() {
   }
   if (outcome == CompileOutcome::kEndProgram) End();
   if (outcome != CompileOutcome::kDone) return;
+  m_dialogs.Get<frmLinkToMAin>().SetString();
   m_indexPage = IndexPagePath(request);
   m_ui->cmdOpenIndex->setEnabled(true);
   m_ui->cmdCheckSite->setEnabled(true);
@@ -141,14 +151,14 @@ void frmMain::CheckWrittenSite() {
 }
 
 void frmMain::OpenEncoding() {
-  m_dialogs.Open<frmEncoding>();
+  Open<frmEncoding>();
   m_state.codePage = CodePage(m_state.texts.PageCharset);
   m_lists->ShowNames();
 }
 
 void frmMain::OpenLinkToMain() {
   m_dialogs.Get<frmLinkToMAin>().SetSizeEnabled(!m_state.options.chkCSS);
-  m_dialogs.Open<frmLinkToMAin>();
+  Open<frmLinkToMAin>();
 }
 
 void frmMain::ShowHelp() {

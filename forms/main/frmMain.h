@@ -5,6 +5,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "AppState.h"
 #include "Dialogs.h"
@@ -29,8 +30,9 @@ class frmMain : public QMainWindow {
   ~frmMain() override;
 
   // The start-up: reads every setting, the library and the dialogs' own, in a fixed order. A failure is reported and
-  // ends it there, and the form can be used as far as it got; what was not read is kept as stored when it exits. False
-  // when the program must end, which was told.
+  // stops it there, and the form can be used as far as it got; what was not read is kept as stored when it exits. It
+  // goes on when the setting that stopped it is sound again: after a dialog, and before a compile, which is refused
+  // until then. False when the program must end, which was told.
   bool LoadForm();
 
   // For the way to the person: a panel of the status bar, counted from 1, and the control of that name.
@@ -52,10 +54,11 @@ class frmMain : public QMainWindow {
  private:
   void ConnectOptions();
   void ConnectCommands();
-  void LoadFirstOptions();
-  bool LoadLibrary();
-  bool LoadOptions();
-  bool LoadLooks();
+  template <typename Dialog>
+  void Open();
+  std::vector<std::function<bool()>> StartSteps();
+  bool GoOnWithStart();
+  bool IsStarted();
   void ReadEncoding();
   void updateCheck();
   void CSSCheck();
@@ -64,7 +67,6 @@ class frmMain : public QMainWindow {
   void OpenLinkToMain();
   void OpenIndexPage();
   void CheckWrittenSite();
-  bool AreSettingsSound();
   void ShowHelp();
   void SaveDefaults();
   void RestoreAll();
@@ -80,7 +82,9 @@ class frmMain : public QMainWindow {
   Dialogs m_dialogs;
   HelpWindow* m_help = nullptr;  // made when first opened
   std::string m_indexPage;       // of the last run that was completed
-  bool m_startFailed = false;    // controls hold less than is stored
+  std::size_t m_nextStep = 0;    // of StartSteps; those before it are done
+  bool m_hasStopped = false;     // at a failure, since when the person may have changed what was read
+  std::string m_startFailure;    // what stopped the start-up, as it was told; empty when nothing did
   bool m_hasEnded = false;
 };
 

@@ -24,82 +24,90 @@ QString Caption() {
 }  // namespace
 
 bool frmMain::LoadForm() {
-  m_startFailed = false;
+  setWindowTitle(Caption());
+  m_folders->ListVolumes();
+  return GoOnWithStart();
+}
+
+// A failure that was told is not told again. False when the program must end.
+bool frmMain::GoOnWithStart() {
+  const auto steps = StartSteps();
   try {
-    LoadFirstOptions();
-    const bool goesOn = LoadLibrary() && LoadOptions() && LoadLooks();
-    if (!goesOn) End();
-    return goesOn;
+    for (; m_nextStep < steps.size(); ++m_nextStep) {
+      if (!steps[m_nextStep]()) {
+        End();
+        return false;
+      }
+    }
   } catch (const RunTimeError& error) {
+    if (m_startFailure == error.Extra()) return true;
+    if (!m_hasStopped) ReadForSaveDefaults(m_state.store, m_state.options, m_state.main);
+    m_hasStopped = true;
+    m_startFailure = error.Extra();
     std::string extra = FromQt(m_ui->txtFilename->text());
     if (!extra.empty()) extra += "\r\n";
-    m_startFailed = true;
-    ReadForSaveDefaults(m_state.store, m_state.options, m_state.main);
     m_state.ui.ShowErrorReport(error.Number(), "Form Load - MAIN", extra + error.Extra());
-    return true;
   }
-}
-
-// After a start that stopped at a bad setting a compile is refused for the same setting, as on the command line: pages
-// with other options than those stored would be made without a word.
-bool frmMain::AreSettingsSound() {
-  try {
-    MainOptions main;
-    LoadPageOptions(m_state.store, main);
-    ReadEncoding();
-    m_dialogs.LoadMissing();
-    return true;
-  } catch (const RunTimeError& error) {
-    m_state.ui.ShowErrorReport(error.Number(), "Form Load - MAIN", error.Extra());
-    return false;
-  }
-}
-
-void frmMain::LoadFirstOptions() {
-  PageOptions& options = m_state.options;
-  setWindowTitle(Caption());
-  options.chkBack = m_state.store.Flag("chkBack");
-  m_ui->chkBack->setChecked(options.chkBack);
-  m_ui->cmdBackColour->setEnabled(!options.chkBack);
-  m_ui->chkBack->setEnabled(!options.chkBack);
-  options.chkUseNames = m_state.store.Flag("chkUseNames");
-  m_ui->chkUseNames->setChecked(options.chkUseNames);
-  m_ui->chkUse83->setChecked(m_state.store.Flag("Use83"));
-}
-
-bool frmMain::LoadLibrary() {
-  // Names and files are read in it long before the charset is shown and a bad one reported.
-  m_state.codePage = StoredCodePage(m_state.store);
-  return m_lists->Fill() != Outcome::kEndProgram;
-}
-
-// The dialogs' own options and the chapters of the first translation.
-bool frmMain::LoadOptions() {
-  m_style->LoadAlignment();
-  m_ui->chkDoubleSpace->setChecked(m_state.store.Flag("chkDoubleSpace"));
-  m_folders->Restore();
-  m_dialogs.Load<frmCustomHeader>();
-  m_dialogs.Load<frmCustomizeFooter>();
-  m_dialogs.Load<frmBackground>();
-  if (m_lists->SelectFirst() == Outcome::kEndProgram) return false;
-  m_dialogs.Load<frmPAgeTitles>();
-  m_dialogs.Load<frmEffects>();
-  m_dialogs.Load<frmKeywords>();
-  return m_lists->LoadVerses() != Outcome::kEndProgram;
-}
-
-bool frmMain::LoadLooks() {
-  PageOptions& options = m_state.options;
-  m_style->GetDefaults();
-  ReadEncoding();
-  m_dialogs.Load<frmLinkToMAin>();
-  options.txtSample.FontBold = m_state.store.Boolean("FontBold");
-  options.txtSample.FontItalic = m_state.store.Boolean("FontItalic");
-  m_style->ShowSample();
-  options.chkCSS = m_state.store.Flag("chkCSS");
-  m_ui->chkCSS->setChecked(options.chkCSS);
-  m_style->EnableDisableOptions();
   return true;
+}
+
+// Goes on with a start-up that was stopped. Whether it is complete now.
+bool frmMain::IsStarted() {
+  const std::size_t last = StartSteps().size();
+  if (m_nextStep < last && !m_hasEnded) GoOnWithStart();
+  return m_nextStep == last && !m_hasEnded;
+}
+
+// Each step reads one thing, shows it, and is taken again as a whole after a failure. False when the program must end.
+std::vector<std::function<bool()>> frmMain::StartSteps() {
+  const auto plain = [](auto act) {
+    return [act] {
+      act();
+      return true;
+    };
+  };
+  PageOptions& options = m_state.options;
+  const SettingsStore& store = m_state.store;
+  return {
+      plain([this, &options, &store] {
+        options.chkBack = store.Flag("chkBack");
+        m_ui->chkBack->setChecked(options.chkBack);
+        m_ui->cmdBackColour->setEnabled(!options.chkBack);
+        m_ui->chkBack->setEnabled(!options.chkBack);
+      }),
+      plain([this, &options, &store] {
+        options.chkUseNames = store.Flag("chkUseNames");
+        m_ui->chkUseNames->setChecked(options.chkUseNames);
+      }),
+      plain([this, &store] { m_ui->chkUse83->setChecked(store.Flag("Use83")); }),
+      [this, &store] {
+        // Names and files are read in it long before the charset is shown and a bad one reported.
+        m_state.codePage = StoredCodePage(store);
+        return m_lists->Fill() != Outcome::kEndProgram;
+      },
+      plain([this] { m_style->LoadAlignment(); }),
+      plain([this, &store] { m_ui->chkDoubleSpace->setChecked(store.Flag("chkDoubleSpace")); }),
+      plain([this] { m_folders->Restore(); }),
+      plain([this] { m_dialogs.Load<frmCustomHeader>(); }),
+      plain([this] { m_dialogs.Load<frmCustomizeFooter>(); }),
+      plain([this] { m_dialogs.Load<frmBackground>(); }),
+      [this] { return m_lists->SelectFirst() != Outcome::kEndProgram; },
+      plain([this] { m_dialogs.Load<frmPAgeTitles>(); }),
+      plain([this] { m_dialogs.Load<frmEffects>(); }),
+      plain([this] { m_dialogs.Load<frmKeywords>(); }),
+      [this] { return m_lists->LoadVerses() != Outcome::kEndProgram; },
+      plain([this] { m_style->GetDefaults(); }),
+      plain([this] { ReadEncoding(); }),
+      plain([this] { m_dialogs.Load<frmLinkToMAin>(); }),
+      plain([&options, &store] { options.txtSample.FontBold = store.Boolean("FontBold"); }),
+      plain([&options, &store] { options.txtSample.FontItalic = store.Boolean("FontItalic"); }),
+      plain([this, &options, &store] {
+        m_style->ShowSample();
+        options.chkCSS = store.Flag("chkCSS");
+        m_ui->chkCSS->setChecked(options.chkCSS);
+        m_style->EnableDisableOptions();
+      }),
+  };
 }
 
 void frmMain::ReadEncoding() {

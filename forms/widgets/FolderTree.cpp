@@ -42,11 +42,12 @@ void FolderTree::SetRoot(const QString& name, const QString& path) {
   addTopLevelItem(root);
   Fill(root);
   root->setExpanded(true);
-  setCurrentItem(root);
+  setCurrentIndex({});  // said, else the focus would make the first one current
 }
 
 bool FolderTree::SetPath(const QString& path) {
   const QSignalBlocker quiet(this);
+  if (topLevelItemCount() == 0) return false;
   const QString relative = QDir(RootPath()).relativeFilePath(QDir::cleanPath(path));
   QTreeWidgetItem* item = topLevelItem(0);
   if (relative != QLatin1String(".")) {

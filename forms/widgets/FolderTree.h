@@ -13,7 +13,7 @@ class FolderTree : public QTreeWidget {
  public:
   explicit FolderTree(QWidget* parent = nullptr);
 
-  // Shows the folders under `path` and makes it current, without a signal.
+  // Shows the folders under `path`, none of which is current, without a signal.
   void SetRoot(const QString& name, const QString& path);
 
   // Makes a folder under the root current, without a signal. False when there is no such folder.

@@ -1,10 +1,13 @@
 #include "TextBox.h"
 
+#include <QKeyEvent>
+#include <QMimeData>
 #include <QSignalBlocker>
 #include <QTextDocument>
 #include <algorithm>
 
 #include "CodePage.h"
+#include "OneLine.h"
 
 namespace folionet {
 namespace {
@@ -77,6 +80,21 @@ std::string TextBox::Text() const {
 void TextBox::setRows(int rows) {
   m_rows = rows;
   updateGeometry();
+}
+
+// Return does nothing in it: a dialog's own button would be pressed by a person who wants a new line.
+void TextBox::keyPressEvent(QKeyEvent* event) {
+  const bool breaksLine =
+      event->matches(QKeySequence::InsertParagraphSeparator) || event->matches(QKeySequence::InsertLineSeparator);
+  if (m_isOneLine && breaksLine) return;
+  QPlainTextEdit::keyPressEvent(event);
+}
+
+void TextBox::insertFromMimeData(const QMimeData* source) {
+  if (!m_isOneLine) return QPlainTextEdit::insertFromMimeData(source);
+  QMimeData line;
+  line.setText(InOneLine(source->text()));
+  QPlainTextEdit::insertFromMimeData(&line);
 }
 
 QSize TextBox::SizeFor(int columns, int rows) const {

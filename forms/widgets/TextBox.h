@@ -6,11 +6,13 @@
 
 namespace folionet {
 
-// A multi-line box. Its text is UTF-8 with CR LF for each line break. A text that was put in and not changed since
+// A multi-line box. Its text is UTF-8 with CR LF for each line break; with `oneLine`, breaks that are typed or pasted
+// become blanks. A text that was put in and not changed since
 // comes back byte for byte; in a changed one, bytes that are not UTF-8 still do.
 class TextBox : public QPlainTextEdit {
   Q_OBJECT
   Q_PROPERTY(int rows READ Rows WRITE setRows)
+  Q_PROPERTY(bool oneLine READ IsOneLine WRITE setOneLine)
 
  public:
   explicit TextBox(QWidget* parent = nullptr);
@@ -23,8 +25,15 @@ class TextBox : public QPlainTextEdit {
   int Rows() const { return m_rows; }
   void setRows(int rows);
 
+  bool IsOneLine() const { return m_isOneLine; }
+  void setOneLine(bool isOneLine) { m_isOneLine = isOneLine; }
+
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override;
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+  void insertFromMimeData(const QMimeData* source) override;
 
  private:
   QSize SizeFor(int columns, int rows) const;
@@ -32,6 +41,7 @@ class TextBox : public QPlainTextEdit {
   std::string m_given;
   QString m_givenAsShown;
   int m_rows = 3;
+  bool m_isOneLine = false;
 };
 
 }  // namespace folionet

@@ -2,6 +2,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QClipboard>
 #include <QKeyEvent>
 #include <QLineEdit>
 
@@ -119,7 +120,12 @@ void FormTest::Click(const std::string& name) const { Get<QAbstractButton>(name)
 void FormTest::Give(const std::string& name, const std::string& text) {
   QWidget& control = Find(name);
   if (auto* line = qobject_cast<QLineEdit*>(&control)) return line->setText(ToQt(text));
-  if (auto* box = qobject_cast<TextBox*>(&control)) return box->setPlainText(ToQt(text));
+  if (auto* box = qobject_cast<TextBox*>(&control)) {
+    QApplication::clipboard()->setText(ToQt(text));
+    box->selectAll();
+    box->textCursor().removeSelectedText();
+    return box->paste();
+  }
   auto* list = qobject_cast<QComboBox*>(&control);
   if (list == nullptr) {
     m_ui.texts = {text};

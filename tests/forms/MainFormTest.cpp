@@ -1,8 +1,11 @@
+#include <QApplication>
 #include <QComboBox>
 #include <QDialog>
+#include <QFocusEvent>
 #include <QShortcut>
 #include <QTest>
 
+#include "FolderPickers.h"
 #include "FolderTree.h"
 #include "FormTest.h"
 #include "frmMain.h"
@@ -56,6 +59,40 @@ TEST_F(MainForm, ARetryThatListsTranslationsTwiceStillCompilesTheRightOne) {
   EXPECT_EQ(Shown("txtFilename"), m_home.Path() + "library/Modules/Bible/OTHER.TXT");
 }
 
+// The module folder is entered without its last separator, so that the second reading finds nothing.
+TEST_F(MainForm, ATranslationThatIsNoLongerThereIsTold) {
+  const std::string good = m_home.Read("library/Sysdefs/BOOKS.TXT");
+  m_home.Write("library/Sysdefs/BOOKS.TXT", "1\tGen\tGenesis\r\n");
+  m_ui.texts = {m_home.Path() + "library/", m_home.Path() + "library/Modules"};
+  m_ui.onMessage = [&] { m_home.Write("library/Sysdefs/BOOKS.TXT", good); };
+  ASSERT_TRUE(Start());
+  auto& list = Get<QComboBox>("cboBibleName");
+  ASSERT_EQ(list.count(), 2);
+  EXPECT_EQ(list.currentIndex(), -1);
+  const std::size_t boxes = m_ui.log.size();
+  Give("cboBibleName", "Other Bible");
+  ASSERT_EQ(m_ui.log.size(), boxes + 1);
+  EXPECT_EQ(m_ui.Boxes().back(),
+            "Translation not found: \"Other Bible\" can no longer be read. Its text would be:\r\n" + m_home.Path() +
+                "library/ModulesBible/OTHER.TXT");
+  EXPECT_EQ(list.currentIndex(), -1);
+}
+
+TEST_F(MainForm, DrivesAreListedAnewWhenTheirListIsOpened) {
+  ASSERT_TRUE(Start());
+  auto& drives = Get<QComboBox>("Drive1");
+  m_form->Folders().volumes = [] { return std::vector<Volume>{{"Computer", "/"}}; };
+  drives.showPopup();
+  EXPECT_EQ(Items("Drive1"), "Computer");
+  EXPECT_EQ(drives.currentIndex(), -1) << "the one that is shown is gone";
+  m_form->Folders().volumes = [this] {
+    return std::vector<Volume>{{"Computer", "/"}, {"Home", ToQt(m_home.Path()).chopped(1)}};
+  };
+  drives.hidePopup();
+  drives.showPopup();
+  EXPECT_EQ(Shown("Drive1"), "Home");
+}
+
 TEST_F(MainForm, AClickOnTheBackgroundOptionIsOneChange) {
   ASSERT_TRUE(Start());
   m_whenOpen = [this](QWidget&) {
@@ -91,6 +128,10 @@ TEST_F(MainForm, AFolderIsChosenInTheTreeOrByDrive) {
   const std::string home = m_home.Path();
   ASSERT_TRUE(Start());
   auto& tree = Get<FolderTree>("Dir1");
+  QFocusEvent focus(QEvent::FocusIn, Qt::TabFocusReason);
+  QApplication::sendEvent(&tree, &focus);
+  EXPECT_EQ(tree.currentItem(), nullptr) << "nothing looks chosen before it is";
+  EXPECT_EQ(Shown("txtOutputPath"), "");
   QTreeWidgetItem* root = tree.topLevelItem(0);
   ASSERT_EQ(root->childCount(), 4);  // config, library, program, site
   tree.setCurrentItem(root->child(3));

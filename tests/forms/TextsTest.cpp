@@ -17,6 +17,9 @@ namespace {
 
 class Texts : public FormTest {};
 
+// Buttons without a key of their own.
+const QStringList kKeyless{"cmdRestoreAll", "cmdBrowse", "cmdHelp", "cmdClose"};
+
 // What a person reads, letter for letter; slips in it are meant. A line of the file is control, property and text, with
 // "\n" for a line break, "\\" for a backslash and no "&" of mnemonics; "items" stands for the entries of a list.
 TEST_F(Texts, AreThoseOfTheFile) {
@@ -37,8 +40,9 @@ TEST_F(Texts, AreThoseOfTheFile) {
 }
 
 // A control that takes the focus can be found by name, and no two keys of a form are the same. The main form has more
-// controls than letters: those of one group share its title's, the tool tips of some buttons tell another key, and the
-// rare command that clears everything has none, nor has in some languages the one that opens the desktop's own window.
+// controls than letters: those of one group share its title's, the tool tips of some buttons tell another key, the help
+// tells those of two more, and the rare command that clears everything has none, nor has in some languages the one that
+// opens the desktop's own window.
 TEST_F(Texts, NameEveryControlAndGiveItsOwnKey) {
   ASSERT_TRUE(Start());
   for (const char* button : {"cmdPageEncoding", "frmEncoding.cmdAddNew"}) Click(button);
@@ -59,7 +63,7 @@ TEST_F(Texts, NameEveryControlAndGiveItsOwnKey) {
       if (!control->accessibleName().isEmpty() || !caption.isEmpty()) named.insert(control);
       const qsizetype at = label == nullptr || label->buddy() != nullptr ? caption.indexOf('&') : -1;
       EXPECT_TRUE(at < 0 || keys.insert(caption[at + 1].toUpper()).second) << FromQt(caption);
-      const bool mayHaveNone = control->objectName() == "cmdRestoreAll" || control->objectName() == "cmdBrowse";
+      const bool mayHaveNone = kKeyless.contains(control->objectName());
       if (qobject_cast<const QPushButton*>(control) != nullptr && !mayHaveNone) {
         EXPECT_TRUE(at >= 0 || control->toolTip().endsWith(").")) << FromQt(caption);
       }

@@ -48,7 +48,7 @@ void CheckTitleFile(const ModGlob& glob, const std::string& fileName, FaultList&
     PageNameCheck names(lines, faults);
     std::string_view line;
     int book = 0;
-    while (book < kBooks && lines.NextNotBlank(line)) {
+    while (book < kBooks && NextTitleLine(lines, line)) {
       ++book;
       faults.CheckBytes(path, lines.LineNumber(), line);
       try {

@@ -13,15 +13,9 @@ void PrintLine(const std::string& line) { std::puts(line.c_str()); }
 
 void ListTranslations(const CommonOptions& common, const Session& session) {
   const ModGlob& glob = session.glob;
-  if (glob.cboBibleName.empty() && !FolderExists(glob.ModulesPath)) {
-    const std::string refusal = "There is no folder \"" + glob.ModulesPath +
-                                "\" of Versalia's modules: give the one that holds Bible with --module-path FOLDER.";
-    if (!common.folders.modulePath.empty()) RefuseUsage(refusal);
-    std::fputs((WithoutControls(refusal) + "\n").c_str(), stderr);
-    throw ExitWith(kExitFailed);
-  }
   if (glob.cboBibleName.empty()) {
-    std::fputs("No translation is listed whose text is there: see \"folionet-cli check\".\n", stderr);
+    std::fputs("Give the folder that holds Bible with --module-path FOLDER, or see \"folionet-cli check\".\n", stderr);
+    if (!FolderExists(glob.ModulesPath)) throw ExitWith(common.folders.modulePath.empty() ? kExitFailed : kExitUsage);
   }
   for (std::size_t i = 0; i < glob.cboBibleName.size(); ++i) {
     PrintLine(session.codePage.DecodeForDisplay(glob.BibleFiles[i]) + "\t" +

@@ -97,6 +97,9 @@ void Session::LoadLists(bool withCatalogue) {
   if (PopulateCombos(withCatalogue ? 1 : 0, store.Text("cboLang"), glob, codePage, ui) != Outcome::kDone) {
     throw ExitWith(kExitFailed);
   }
+  if (const auto why = withCatalogue ? WhyNoTranslation(glob) : std::nullopt) {
+    std::fputs((WithoutControls(NoticeText(*why)) + "\n").c_str(), stderr);
+  }
   for (const std::string& text : glob.unreadableTexts) {
     std::fprintf(stderr, "A translation is left out, for its text cannot be read: %s\n", WithoutControls(text).c_str());
   }

@@ -262,19 +262,20 @@ bool IsUtf8(std::string_view text) {
   return wellFormed;
 }
 
+std::string FoldCase(std::string_view text) {
+  std::string folded;
+  ForEachUtf8(text, [&](const Piece& piece) {
+    if (piece.character == kUndecodable) {
+      folded += piece.bytes;
+    } else {
+      AppendUtf8(folded, u_foldCase(piece.character, U_FOLD_CASE_DEFAULT));
+    }
+  });
+  return folded;
+}
+
 bool EqualIgnoringCase(std::string_view left, std::string_view right) {
-  const auto fold = [](std::string_view text) {
-    std::string folded;
-    ForEachUtf8(text, [&](const Piece& piece) {
-      if (piece.character == kUndecodable) {
-        folded += piece.bytes;
-      } else {
-        AppendUtf8(folded, u_foldCase(piece.character, U_FOLD_CASE_DEFAULT));
-      }
-    });
-    return folded;
-  };
-  return left == right || fold(left) == fold(right);
+  return left == right || FoldCase(left) == FoldCase(right);
 }
 
 }  // namespace folionet

@@ -44,6 +44,9 @@ class CodePage {
 // Whether a text is well-formed UTF-8.
 bool IsUtf8(std::string_view text);
 
+// A UTF-8 text without letter case, for comparing; bytes that are not UTF-8 stay.
+std::string FoldCase(std::string_view text);
+
 // Two UTF-8 texts compared ignoring case, character by character.
 bool EqualIgnoringCase(std::string_view left, std::string_view right);
 

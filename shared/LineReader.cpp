@@ -18,6 +18,7 @@ constexpr std::size_t kChunk = 64;  // so that small inputs are read in parts
 #else
 constexpr std::size_t kChunk = std::size_t{64} << 10;
 #endif
+constexpr char kCtrlZ = 0x1A;  // older programs end a text file with it
 
 }  // namespace
 
@@ -32,6 +33,21 @@ LineReader::LineReader(const std::string& path, std::size_t longest)
   m_buffer.resize(std::min(kChunk, static_cast<std::size_t>(status.st_size) + 1));
   Fill();
   if (std::string_view(m_buffer.data(), m_end).starts_with(kByteOrderMark)) m_begin = kByteOrderMark.size();
+  FindLineEnd();
+}
+
+// A CR that no LF follows, however many CRs stand between, ends the first line of a file only where all lines end so.
+void LineReader::FindLineEnd() {
+  for (;;) {
+    const std::string_view text(m_buffer.data() + m_begin, m_end - m_begin);
+    const std::size_t first = text.find_first_of("\r\n");
+    const std::size_t next = first == std::string_view::npos ? first : text.find_first_not_of('\r', first);
+    if (next != std::string_view::npos || m_atEnd || text.size() > m_longest) {
+      if (first != std::string_view::npos && (next == std::string_view::npos || text[next] != '\n')) m_lineEnd = '\r';
+      return;
+    }
+    Fill();
+  }
 }
 
 void LineReader::Fill() {
@@ -47,6 +63,7 @@ void LineReader::Fill() {
     if (count < 0) throw RunTimeError::FromErrno(errno, m_path);
     if (count == 0) {
       m_atEnd = true;
+      while (m_end > m_begin && m_buffer[m_end - 1] == kCtrlZ) --m_end;
       break;
     }
     m_end += static_cast<std::size_t>(count);
@@ -62,12 +79,13 @@ bool LineReader::NextFromFile(std::string_view& line) {
       FailTooLong();
     }
     if (m_atEnd) {
-      if (pending == 0) return false;
+      const bool isLastLf = m_lineEnd == '\r' && pending == 1 && m_buffer[m_begin] == '\n';
+      if (pending == 0 || isLastLf) return false;
       Take(line, m_end, 0);
       return true;
     }
     Fill();
-    if (const void* found = std::memchr(m_buffer.data() + pending, '\n', m_end - pending)) {
+    if (const void* found = std::memchr(m_buffer.data() + pending, m_lineEnd, m_end - pending)) {
       Take(line, static_cast<std::size_t>(static_cast<const char*>(found) - m_buffer.data()), 1);
       return true;
     }
@@ -77,7 +95,7 @@ bool LineReader::NextFromFile(std::string_view& line) {
 // So that one who goes on reading finds the line behind it.
 void LineReader::SkipLine() {
   for (;;) {
-    if (const void* found = std::memchr(m_buffer.data() + m_begin, '\n', m_end - m_begin)) {
+    if (const void* found = std::memchr(m_buffer.data() + m_begin, m_lineEnd, m_end - m_begin)) {
       m_begin = static_cast<std::size_t>(static_cast<const char*>(found) - m_buffer.data()) + 1;
       return;
     }
@@ -93,9 +111,27 @@ void LineReader::FailTooLong() const {
 
 bool LineReader::NextNotBlank(std::string_view& line) {
   while (Next(line)) {
-    if (!TrimBlanks(line).empty()) return true;
+    if (TrimBlanks(line).empty()) continue;
+    RefuseLineEnds(line);
+    return true;
   }
   return false;
+}
+
+void LineReader::RefuseLineEnds(std::string_view part) const {
+  if (part.find(m_lineEnd == '\n' ? '\r' : '\n') == std::string_view::npos) return;
+  Fail(kInvalidProcedureCall, m_lineEnd == '\n'
+                                  ? "A CR alone stands in the line, where others end in LF: let all lines end alike."
+                                  : "An LF stands in the line, where others end in CR alone: let all lines end alike.");
+}
+
+bool LineReader::IsRestBlank() {
+  for (;;) {
+    const std::string_view rest(m_buffer.data() + m_begin, m_end - m_begin);
+    if (rest.find_first_not_of(" \t\r\n") != std::string_view::npos || rest.size() > m_longest) return false;
+    if (m_atEnd) return true;
+    Fill();
+  }
 }
 
 void LineReader::Fail(int number, const std::string& detail) const {

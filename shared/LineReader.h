@@ -12,8 +12,9 @@ namespace folionet {
 // Of UTF-8, at a file's start; it is no part of the text.
 inline constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
-// Reads a text file line by line, in constant memory. Lines end in CR LF or LF; the last one need not end; a UTF-8
-// byte-order mark at the start is skipped; every other byte, NUL included, is passed on as it is.
+// Reads a text file line by line, in constant memory. Lines end in CR LF or LF, or, in a file whose first line does, in
+// CR alone; the last one need not end. A UTF-8 byte-order mark at the start and a Ctrl+Z at the end are skipped; every
+// other byte, NUL included, is passed on as it is.
 class LineReader {
  public:
   // A longer line is refused with kOutOfMemory: one of a text, and one of a list, which is kept.
@@ -29,14 +30,21 @@ class LineReader {
 
   // As Next, but false when the file has to be read on: the line before is then still valid.
   bool NextInMemory(std::string_view& line) {
-    const void* found = std::memchr(m_buffer.data() + m_begin, '\n', m_end - m_begin);
+    const void* found = std::memchr(m_buffer.data() + m_begin, m_lineEnd, m_end - m_begin);
     if (found == nullptr) return false;
     Take(line, static_cast<std::size_t>(static_cast<const char*>(found) - m_buffer.data()), 1);
     return true;
   }
 
-  // As Next, passing over lines that hold nothing but blanks.
+  // As Next, passing over lines that hold nothing but blanks; a line that holds the end of another is refused.
   bool NextNotBlank(std::string_view& line);
+
+  // Throws for a part of the line last given that holds the end of a line: of a file whose lines do not end alike,
+  // several would be read as one.
+  void RefuseLineEnds(std::string_view part) const;
+
+  // Whether nothing but blanks and ends of lines follows. The line last given is not valid any more.
+  bool IsRestBlank();
 
   const std::string& Path() const { return m_path; }
   std::size_t LineNumber() const { return m_lineNumber; }  // of the line last given, from 1
@@ -53,10 +61,12 @@ class LineReader {
     m_begin = end + endLength;
     ++m_lineNumber;
     if (line.size() > m_longest) FailTooLong();
-    if (!line.empty() && line.back() == '\r') line.remove_suffix(1);
+    while (!line.empty() && line.back() == '\r') line.remove_suffix(1);
+    if (m_lineEnd == '\r' && line.starts_with('\n')) line.remove_prefix(1);
   }
 
   void Fill();
+  void FindLineEnd();
   void SkipLine();
   [[noreturn]] void FailTooLong() const;
 
@@ -68,6 +78,7 @@ class LineReader {
   std::size_t m_end = 0;
   std::size_t m_lineNumber = 0;
   bool m_atEnd = false;
+  char m_lineEnd = '\n';
 };
 
 // A text of a file, shortened to a length that a message can show, in double quotes.

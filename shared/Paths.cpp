@@ -7,34 +7,19 @@
 #include <algorithm>
 #include <cerrno>
 #include <memory>
+#include <utility>
 
 #include "CodePage.h"
 #include "FileHandle.h"
+#include "FolderLister.h"
 #include "RunTimeError.h"
 
 namespace folionet {
 namespace {
 
-bool Exists(const std::string& path) {
-  struct stat status {};
-  return stat(path.c_str(), &status) == 0;
-}
-
 struct CloseFolder {
   void operator()(DIR* folder) const { closedir(folder); }
 };
-
-// The path of `component` in `folder`, ignoring case; empty when there is none.
-std::string FindEntry(const std::string& folder, const std::string& component) {
-  try {
-    for (const std::string& entry : ListFolder(folder)) {
-      if (EqualIgnoringCase(entry, component)) return folder + entry;
-    }
-  } catch (const RunTimeError&) {
-    // A folder that cannot be listed holds no other name; opening the exact one tells why.
-  }
-  return {};
-}
 
 }  // namespace
 
@@ -64,21 +49,7 @@ bool FolderExists(const std::string& path) {
 }
 
 std::string LocateIgnoringCase(const std::string& folder, std::string_view name) {
-  const std::string base = NativePath(folder);
-  const std::string rest = NativePath(name);
-  if (Exists(base + rest)) return base + rest;
-  std::string found = base;
-  std::size_t at = 0;
-  while (at < rest.size()) {
-    const std::size_t slash = std::min(rest.find('/', at), rest.size());
-    const std::string component = rest.substr(at, slash - at);
-    std::string next = found + component;
-    if (!component.empty() && !Exists(next)) next = FindEntry(found.empty() ? "./" : found, component);
-    if (next.empty()) return base + rest;
-    found = next + (slash < rest.size() ? "/" : "");
-    at = slash + 1;
-  }
-  return found;
+  return FolderLister().Locate(folder, name);
 }
 
 std::vector<std::string> ListFolder(const std::string& folder) {
@@ -93,12 +64,12 @@ std::vector<std::string> ListFolder(const std::string& folder) {
     errno = 0;
   }
   if (errno != 0) throw RunTimeError::FromErrno(errno, path);
-  const auto lower = [](const std::string& text) { return CodePage("utf-8").ToLower(text); };
-  std::sort(names.begin(), names.end(), [&](const std::string& left, const std::string& right) {
-    const std::string lowerLeft = lower(left);
-    const std::string lowerRight = lower(right);
-    return lowerLeft != lowerRight ? lowerLeft < lowerRight : left < right;
-  });
+  // The names and what they are sorted by, made once for each.
+  std::vector<std::pair<std::string, std::string>> keys;
+  const CodePage utf8("utf-8");
+  for (std::string& name : names) keys.emplace_back(utf8.ToLower(name), std::move(name));
+  std::sort(keys.begin(), keys.end());
+  std::transform(keys.begin(), keys.end(), names.begin(), [](auto& key) { return std::move(key.second); });
   return names;
 }
 

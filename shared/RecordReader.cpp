@@ -84,6 +84,12 @@ std::int64_t RecordReader::Integer(std::string_view field, std::int64_t lowest, 
   return reading.value;
 }
 
+double RecordReader::Number(std::string_view field) const {
+  const NumberReading reading = ReadNumber(field);
+  if (reading.error != 0) m_lines.Fail(reading.error, "A number was expected: " + Quoted(field));
+  return reading.value;
+}
+
 std::string QuotedRecord(std::span<const std::string> fields) {
   std::string line;
   for (const std::string& field : fields) {

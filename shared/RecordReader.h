@@ -28,6 +28,9 @@ class RecordReader {
   // A field of the record last read as a whole number within limits; throws kTypeMismatch or kOverflow.
   std::int64_t Integer(std::string_view field, std::int64_t lowest, std::int64_t highest) const;
 
+  // The same as a number that need not be whole.
+  double Number(std::string_view field) const;
+
   const LineReader& Lines() const { return m_lines; }
 
  private:

@@ -30,6 +30,8 @@ struct ModGlob {
   std::array<std::int16_t, kBooks + 1> ChaptersInBook{};      // by order of appearance; element 0 is unused
   std::vector<ChapterEntry> ChapterIndex{1, ChapterEntry{}};  // the last element is all zero
 
+  int listedTranslations = 0;                // records of the catalogue that count, whether their text is there or not
+  std::string firstText;                     // where the text of the first of them was looked for, when it is not there
   std::vector<std::string> unreadableTexts;  // verse files of the catalogue that are there and cannot be read
 
   // The items of the lists. A translation's place in cboBibleName is its place in BibleNames, unless the catalogue was

@@ -20,6 +20,14 @@ bool IsLanguageFile(std::string_view name) {
 
 }  // namespace
 
+bool NextTitleLine(LineReader& lines, std::string_view& line) {
+  do {
+    if (!lines.Next(line)) return false;
+  } while (line.find_first_not_of(' ') == std::string_view::npos);
+  lines.RefuseLineEnds(line);
+  return true;
+}
+
 BookTitle ParseBookTitle(const LineReader& lines, std::string_view line) {
   const std::size_t firstTab = line.find('\t');
   const std::size_t lastTab = line.rfind('\t');
@@ -39,7 +47,7 @@ void ReadBookTitles(ModGlob& glob, const std::string& fileName) {
   LineReader lines(SysdefsFile(glob, fileName), LineReader::kLongestEntry);
   for (std::size_t book = 1; book <= kBooks; ++book) {
     std::string_view line;
-    if (!lines.NextNotBlank(line)) {
+    if (!NextTitleLine(lines, line)) {
       throw RunTimeError(kInputPastEnd, lines.Path(),
                          "The titles of 66 books were expected, " + std::to_string(book - 1) + " found.");
     }

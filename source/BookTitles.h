@@ -20,6 +20,9 @@ struct BookTitle {
   std::string title;
 };
 
+// As LineReader::NextNotBlank, but a line of tabs is given too: its fields are empty.
+bool NextTitleLine(LineReader& lines, std::string_view& line);
+
 // Throws RunTimeError (kInvalidProcedureCall) for a line with fewer than three fields.
 BookTitle ParseBookTitle(const LineReader& lines, std::string_view line);
 

@@ -6,6 +6,7 @@
 
 #include "BookTitles.h"
 #include "BuildInfo.h"
+#include "FolderLister.h"
 #include "Numbers.h"
 #include "Paths.h"
 #include "RunTimeError.h"
@@ -13,7 +14,8 @@
 namespace folionet {
 namespace {
 
-constexpr std::int64_t kFirstHiddenNumber = 1000;
+constexpr char kCatalogueName[] = "Translations.txt";
+constexpr double kFirstHiddenNumber = 1000;
 
 // A stem names a file in one folder; it must not lead out of it.
 void CheckStem(const RecordReader& records, std::string_view stem, const CodePage& codePage) {
@@ -53,12 +55,23 @@ bool IsMissing(const std::string& path) {
   return !std::filesystem::exists(path, error) && !error;
 }
 
+// As ReadCatalogueRecord, passing over records whose stem would lead out of its folder: the others are still good.
+bool ReadSoundRecord(RecordReader& records, const CodePage& codePage, CatalogueRecord& record) {
+  for (;;) {
+    try {
+      return ReadCatalogueRecord(records, codePage, record);
+    } catch (const RunTimeError& error) {
+      if (error.Number() != kBadFileName) throw;
+    }
+  }
+}
+
 }  // namespace
 
 bool ReadCatalogueRecord(RecordReader& records, const CodePage& codePage, CatalogueRecord& record) {
   std::array<std::string_view, 4> fields;
   if (!records.Next(fields)) return false;
-  record.isListed = records.Integer(fields[0], kInt32Min, kInt32Max) < kFirstHiddenNumber;
+  record.isListed = records.Number(fields[0]) < kFirstHiddenNumber;
   records.Integer(fields[1], kInt32Min, kInt32Max);
   if (record.isListed) CheckStem(records, fields[3], codePage);
   record.name = fields[2];
@@ -71,21 +84,25 @@ void FailMoreThanMostListed(const RecordReader& records) {
 }
 
 void ReadCatalogue(ModGlob& glob, const CodePage& codePage) {
-  RecordReader records(SysdefsFile(glob, "Translations.txt"));
+  RecordReader records(SysdefsFile(glob, kCatalogueName));
   glob.BibleNames.assign(1, {});
   glob.BibleFiles.assign(1, {});
   glob.unreadableTexts.clear();
+  glob.listedTranslations = 0;
+  glob.firstText.clear();
   std::size_t counter = 0;
   CatalogueRecord record;
-  int listed = 0;
-  while (ReadCatalogueRecord(records, codePage, record)) {
+  int& listed = glob.listedTranslations;
+  FolderLister folders;
+  while (ReadSoundRecord(records, codePage, record)) {
     if (!record.isListed) continue;
     if (++listed > kMostListed) FailMoreThanMostListed(records);
     glob.BibleNames[counter] = record.name;
     glob.BibleFiles[counter] = record.stem;
-    const std::string text = VerseFile(glob, codePage, record.stem);
+    const std::string text = VerseFile(glob, codePage, record.stem, folders);
     if (!FileExists(text)) {
       if (!IsMissing(text)) glob.unreadableTexts.push_back(text);
+      if (listed == 1) glob.firstText = text;
       continue;
     }
     ++counter;
@@ -113,6 +130,22 @@ Outcome PopulateCombos(int which, const std::string& cboLang, ModGlob& glob, con
     ++failures;
     if (!AskForPaths(glob, ui) || failures > kLastRetry) return Outcome::kEndProgram;
   }
+}
+
+std::optional<Notice> WhyNoTranslation(const ModGlob& glob) {
+  if (!glob.cboBibleName.empty()) return std::nullopt;
+  if (!FolderExists(glob.ModulesPath)) {
+    return Notice{Translatable("Notice", "There is no translation, for there is no folder %1 of Versalia's modules."),
+                  {glob.ModulesPath}};
+  }
+  const std::string catalogue = SysdefsFile(glob, kCatalogueName);
+  if (glob.listedTranslations == 0) {
+    return Notice{Translatable("Notice", "There is no translation, for the catalogue %1 lists none."), {catalogue}};
+  }
+  return Notice{Translatable("Notice",
+                             "There is no translation, for the text of none can be read: %1 lists %2, and the text of "
+                             "the first was looked for in %3."),
+                {catalogue, std::to_string(glob.listedTranslations), glob.firstText}};
 }
 
 std::optional<std::size_t> TranslationAt(const ModGlob& glob, std::size_t item) {

@@ -6,6 +6,7 @@
 
 #include "CodePage.h"
 #include "Installation.h"
+#include "Notice.h"
 #include "RecordReader.h"
 #include "UserInterface.h"
 #include "modGlob.h"
@@ -32,9 +33,10 @@ inline constexpr int kMostListed = 10000;
 [[noreturn]] void FailMoreThanMostListed(const RecordReader& records);
 
 // Reads the catalogue into BibleNames and BibleFiles and appends them to cboBibleName and cboBibleFile. Only records
-// that are listed are considered, of which there may be 10,000; a translation whose text file is missing is left out,
-// one whose text is there and cannot be read is left out and noted in unreadableTexts. Both arrays keep one spare
-// element at their end. Throws RunTimeError; cboBibleName is then unchanged.
+// that are listed are considered, of which there may be 10,000; one whose stem is no file name is passed over, a
+// translation whose text file is missing is left out, one whose text is there and cannot be read is left out and noted
+// in unreadableTexts. Both arrays keep one spare element at their end. Throws RunTimeError; cboBibleName is then
+// unchanged.
 void ReadCatalogue(ModGlob& glob, const CodePage& codePage);
 
 // Fills the lists of the form: when `which` is not 0 the catalogue, and always the book lists from the book-title file
@@ -42,6 +44,9 @@ void ReadCatalogue(ModGlob& glob, const CodePage& codePage);
 // all of it starts again; on the fourth failure, or at the first where nobody can be asked, kEndProgram is given.
 Outcome PopulateCombos(int which, const std::string& cboLang, ModGlob& glob, const CodePage& codePage,
                        UserInterface& ui);
+
+// Why cboBibleName is empty, after a reading: what was looked for, and where. Nothing when it is not empty.
+std::optional<Notice> WhyNoTranslation(const ModGlob& glob);
 
 // The place in BibleNames of an item of cboBibleName. Items stay when the catalogue is read again, so that translations
 // may be listed twice; nothing for one that the last reading did not find.

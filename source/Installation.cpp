@@ -1,5 +1,7 @@
 #include "Installation.h"
 
+#include <filesystem>
+#include <system_error>
 #include <utility>
 
 #include "Paths.h"
@@ -11,6 +13,12 @@ namespace {
 constexpr char kVersalia[] = "Versalia";
 constexpr char kModulePath[] = "Module_Path";
 
+bool IsStoredInstallation(const StoredSettings& store, const std::string& install) {
+  std::error_code error;
+  const std::string stored = NativePath(store.GetSetting(kVersalia, kModulePath, "VersaliaPath", ""));
+  return std::filesystem::equivalent(NativePath(install), stored, error) && !error;
+}
+
 }  // namespace
 
 void LocateInstallation(const StoredSettings& store, const GivenFolders& given, ModGlob& glob) {
@@ -19,9 +27,11 @@ void LocateInstallation(const StoredSettings& store, const GivenFolders& given, 
   };
   const std::string install = folder(given.versaliaPath, "VersaliaPath");
   // The stored module folder belongs to the stored installation: one that was given has its own, if anything.
-  const std::string own = install.empty() ? std::string() : WithSeparator(install).append("Modules/");
-  const bool hasOwn = !given.versaliaPath.empty() && given.modulePath.empty() && FolderExists(own);
-  std::string modules = hasOwn ? own : folder(given.modulePath, "ModulePath");
+  const std::string own =
+      install.empty() ? std::string() : WithSeparator(LocateIgnoringCase(WithSeparator(install), "Modules"));
+  const bool isGivenAlone = !given.versaliaPath.empty() && given.modulePath.empty();
+  const bool isOwn = isGivenAlone && (FolderExists(own) || !IsStoredInstallation(store, install));
+  std::string modules = isOwn ? own : folder(given.modulePath, "ModulePath");
   if (modules.empty()) modules = own;
   SetInstallation(glob, install, std::move(modules), "Sysdefs");
 }
@@ -38,7 +48,12 @@ std::string SysdefsFile(const ModGlob& glob, std::string_view fileName) {
 }
 
 std::string VerseFile(const ModGlob& glob, const CodePage& codePage, std::string_view stem) {
-  return LocateIgnoringCase(glob.ModulesPath, "Bible/" + codePage.Decode(stem) + ".TXT");
+  FolderLister folders;
+  return VerseFile(glob, codePage, stem, folders);
+}
+
+std::string VerseFile(const ModGlob& glob, const CodePage& codePage, std::string_view stem, FolderLister& folders) {
+  return folders.Locate(glob.ModulesPath, "Bible/" + codePage.Decode(stem) + ".TXT");
 }
 
 std::string IndexFile(const ModGlob& glob, const CodePage& codePage, std::string_view stem) {

@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "CodePage.h"
+#include "FolderLister.h"
 #include "modGlob.h"
 
 namespace folionet {
@@ -25,7 +26,8 @@ struct GivenFolders {
 
 // Sets InstallPath and ModulesPath, each to the folder given or else to what Versalia's own settings hold (application
 // "Versalia", section "Module_Path"), empty when unknown, and SysdefsPath. A module folder that is still unknown is
-// looked for under the installation's, and so is that of an installation that was given without one.
+// the one under the installation's, and so is that of an installation that was given without one, whether it is there
+// or not: the stored one is another library's, unless the stored installation is the one given.
 void LocateInstallation(const StoredSettings& store, const GivenFolders& given, ModGlob& glob);
 
 // Sets the folders from texts, used as they are; `sysdefs` is the name of the folder of definitions under InstallPath.
@@ -35,6 +37,7 @@ void SetInstallation(ModGlob& glob, std::string installPath, std::string modules
 // the exact path is given. `stem` is in the bytes of the catalogue.
 std::string SysdefsFile(const ModGlob& glob, std::string_view fileName);
 std::string VerseFile(const ModGlob& glob, const CodePage& codePage, std::string_view stem);
+std::string VerseFile(const ModGlob& glob, const CodePage& codePage, std::string_view stem, FolderLister& folders);
 std::string IndexFile(const ModGlob& glob, const CodePage& codePage, std::string_view stem);
 
 }  // namespace folionet

@@ -1,5 +1,6 @@
 #include "VerseFileReader.h"
 
+#include <array>
 #include <cstring>
 
 #include "Numbers.h"
@@ -8,6 +9,8 @@
 
 namespace folionet {
 namespace {
+
+constexpr std::size_t kLongestPlain = 4;
 
 std::size_t FindLastTab(std::string_view line) {
   const void* found = line.empty() ? nullptr : memrchr(line.data(), '\t', line.size());
@@ -53,17 +56,32 @@ void VerseFileReader::TakePlace(std::string_view place) {
   m_isPlaceRead = true;
 }
 
-bool VerseFileReader::ReadOn(std::string_view& line) {
+void VerseFileReader::KeepTexts() {
   m_kept = std::string(m_verse.verse).append(m_verse.text);
   const std::string_view kept = m_kept;
   m_verse.verse = kept.substr(0, m_verse.verse.size());
   m_verse.text = kept.substr(m_verse.verse.size());
-  return m_lines.Next(line);
+}
+
+void VerseFileReader::KeepAsLastOfPlace() {
+  m_before = m_verse;
+  m_beforeTexts.clear();
+  const std::array<std::string_view*, 4> texts{&m_before.bookField, &m_before.chapterField, &m_before.verse,
+                                               &m_before.text};
+  for (const std::string_view* text : texts) m_beforeTexts += *text;
+  std::string_view rest = m_beforeTexts;
+  for (std::string_view* text : texts) {
+    *text = rest.substr(0, text->size());
+    rest.remove_prefix(text->size());
+  }
 }
 
 bool VerseFileReader::Next() {
   std::string_view line;
-  if (!m_lines.NextInMemory(line) && !ReadOn(line)) return false;
+  if (!m_lines.NextInMemory(line)) {
+    KeepTexts();
+    if (!m_lines.Next(line)) return false;
+  }
   const std::size_t first = line.find('\t');
   const std::string_view rest = first == std::string_view::npos ? std::string_view() : line.substr(first + 1);
   // Nearly every line has the book and the chapter of the one before.
@@ -71,11 +89,21 @@ bool VerseFileReader::Next() {
   const std::size_t placeEnd = isSamePlace ? m_place.size() : PlaceEnd(rest);
   const std::size_t last = FindLastTab(rest);
   if (last == std::string_view::npos || placeEnd > last) {
+    const std::string shown = Quoted(line);
+    if (TrimBlanks(line).empty()) {
+      KeepTexts();
+      if (m_lines.IsRestBlank()) return false;
+      line = {};
+    }
     m_verse.text = line;
-    m_lines.Fail(kInvalidProcedureCall, "Five fields separated by tabs were expected: " + Quoted(line));
+    m_lines.Fail(kInvalidProcedureCall, "Five fields separated by tabs were expected: " + shown);
   }
+  if (!isSamePlace) KeepAsLastOfPlace();
   m_verse.verse = rest.substr(placeEnd, last - placeEnd);
   m_verse.text = rest.substr(last + 1);
+  // Where several lines were taken for one, the first field or the verse holds the ends of the others.
+  if (m_verse.verse.size() > kLongestPlain) m_lines.RefuseLineEnds(m_verse.verse);
+  if (first > kLongestPlain) m_lines.RefuseLineEnds(line.substr(0, first));
   if (!isSamePlace) TakePlace(rest.substr(0, placeEnd));
   return true;
 }

@@ -21,7 +21,7 @@ Lines ReadLines(const std::string& path) {
   return lines;
 }
 
-TEST(LineReaderTest, SplitsAtCrLfAndLf) {
+TEST(LineReaderTest, SplitsAtTheEndsOfTheFirstLine) {
   const test::TemporaryFolder folder;
   const std::string longLine(300000, 'x');
   const struct {
@@ -34,7 +34,10 @@ TEST(LineReaderTest, SplitsAtCrLfAndLf) {
       {"\xEF\xBB\xBF"
        "a\n",
        {"a"}},
-      {"a\rb\r\r\n", {"a\rb\r"}},
+      {"a\r\r\nb\rc\r\n", {"a", "b\rc"}},
+      {"a\rb\r\nc\r\n", {"a", "b", "c"}},
+      {"a\rb", {"a", "b"}},
+      {"a\n\x1A\x1A", {"a"}},
       {std::string("a\0b\n", 4), {std::string("a\0b", 3)}},
       {"x\n" + longLine + "\r\ny", {"x", longLine, "y"}},
   };

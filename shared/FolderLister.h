@@ -1,0 +1,24 @@
+#pragma once
+
+#include <map>
+#include <string>
+#include <string_view>
+
+namespace folionet {
+
+// Looks for files ignoring letter case. Each folder is listed once in the life of a lister, so that thousands of names
+// that are not there cost no more than one; make a new one where the folders may have changed.
+class FolderLister {
+ public:
+  // As LocateIgnoringCase.
+  std::string Locate(const std::string& folder, std::string_view name);
+
+ private:
+  using Entries = std::map<std::string, std::string>;  // the first name of each, by the name without letter case
+
+  const Entries& EntriesOf(const std::string& folder);
+
+  std::map<std::string, Entries> m_folders;
+};
+
+}  // namespace folionet

@@ -1,6 +1,7 @@
 #include "PageHead.h"
 
 #include "BuildInfo.h"
+#include "GeneratorLine.h"
 
 namespace folionet {
 namespace {
@@ -31,7 +32,7 @@ void PrintBodyLine(const DocumentHead& head, const PageOptions& options, Compile
 void PrintDocumentHead(const DocumentHead& head, const PageOptions& options, CompileContext& context) {
   PageFile& page = context.PageFile;
   page.Print("<html>\r\n<head>");
-  PrintMeta(page, "name", "GENERATOR", "Versalia Folionet Ver ", head.version);
+  PrintMeta(page, "name", "GENERATOR", kGenerator, head.version);
   page.Print("<meta http-equiv=\"Content-Type\" content=\"text/html; charset=", head.charset, "\">");
   PrintMeta(page, "http-equiv", "Content-Language", head.language);
   PrintMeta(page, "name", "DESCRIPTION", head.description);

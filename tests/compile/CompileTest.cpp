@@ -1,9 +1,13 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <filesystem>
 #include <functional>
 
+#include "FolderFacts.h"
 #include "SiteChanges.h"
 #include "Sitemap.h"
+#include "TemporaryFolder.h"
 #include "Validation.h"
 
 // What runs of the command line do not reach; those are in tests/runs.
@@ -71,6 +75,53 @@ TEST(SitemapTest, OnlyAddressesOfTheWebWillDo) {
   for (const char* address : {"https://a.htm", "https://a.htm/b", "https://a.b/x.html/"}) {
     EXPECT_FALSE(NamesAPage(address)) << address;
   }
+}
+
+std::size_t PagesOf(const std::string& folder) {
+  const std::filesystem::directory_iterator files(folder);
+  return static_cast<std::size_t>(
+      std::count_if(begin(files), end(files), [](const auto& file) { return file.path().extension() == ".html"; }));
+}
+
+// Sites that compiles made, put one over the other, with a person's files.
+TEST(FolderFactsTest, TellWhatLiesInAFolder) {
+  const struct {
+    std::vector<const char*> sites;
+    Texts more;
+    Texts replaced;
+    std::size_t others;
+    std::set<std::string> translations;
+  } cases[] = {
+      {{}, {}, {}, 0, {}},
+      {{}, {"index.html", "genesis_1.html", "own.html"}, {"genesis_1.html", "index.html"}, 1, {}},
+      {{"defaults"}, {}, {}, 0, {"King James Version"}},
+      {{"style-sheet"}, {}, {}, 2, {"King James Version"}},
+      {{"russian"}, {"picture.png"}, {}, 1, {"Синодальный перевод"}},
+      {{"defaults"}, {"index.html"}, {"index.html"}, 0, {"King James Version"}},
+  };
+  for (const auto& c : cases) {
+    const test::TemporaryFolder folder;
+    for (const std::string site : c.sites) {
+      using std::filesystem::copy_options;
+      std::filesystem::copy(SITE_CASES "/" + site + "/expected", folder.Path(),
+                            copy_options::recursive | copy_options::overwrite_existing);
+    }
+    for (const std::string& name : c.more) folder.Write(name, "<html>a person's</html>");
+    const std::size_t ownPages = c.more.empty() || c.more[0] == "picture.png" ? 0 : c.more.size();
+    const std::size_t pages = PagesOf(folder.Path()) - ownPages;
+    std::filesystem::create_directory(folder.Path() + "pictures.html");
+    SCOPED_TRACE(testing::PrintToString(c.sites) + testing::PrintToString(c.more));
+    auto facts = LookIntoFolder(folder.Path(), {"index.html", "genesis_1.html"}, [] { return true; });
+    ASSERT_TRUE(facts && facts->isThere);
+    EXPECT_EQ(facts->pages, pages);
+    EXPECT_EQ(facts->others, c.others);
+    EXPECT_EQ(facts->translations, c.translations);
+    std::sort(facts->replaced.begin(), facts->replaced.end());
+    EXPECT_EQ(facts->replaced, c.replaced);
+    EXPECT_FALSE(LookIntoFolder(folder.Path(), {}, [] { return false; }));
+  }
+  const auto none = LookIntoFolder("/nowhere/", {}, [] { return true; });
+  EXPECT_TRUE(none && !none->isThere);
 }
 
 }  // namespace

@@ -1,0 +1,137 @@
+#include "FolderFacts.h"
+
+#include <dirent.h>
+#include <fcntl.h>
+#include <sys/stat.h>
+
+#include <algorithm>
+#include <memory>
+#include <string_view>
+
+#include "FileHandle.h"
+#include "GeneratorLine.h"
+#include "PageNames.h"
+#include "Paths.h"
+#include "WholeFile.h"
+
+namespace folionet {
+namespace {
+
+struct CloseFolder {
+  void operator()(DIR* folder) const { closedir(folder); }
+};
+
+// What stands between two texts; empty when they are not there.
+std::string_view Between(std::string_view text, std::string_view before, std::string_view after) {
+  const std::size_t start = text.find(before);
+  if (start == std::string_view::npos) return {};
+  text.remove_prefix(start + before.size());
+  const std::size_t end = text.find(after);
+  return end == std::string_view::npos ? std::string_view() : text.substr(0, end);
+}
+
+// A file of the folder, as far as it has been read.
+struct OldFile {
+  bool isFolder = false;
+  bool isOurs = false;
+  bool isIndex = false;
+  std::string translation;  // UTF-8; empty when the page does not tell it
+};
+
+// The pages of chapters have this version whatever the program has; index pages have the program's.
+constexpr std::string_view kChapterVersion = "1.0";
+
+// An index page has the name as its heading; another one's link back to it does, in its first form.
+std::string_view NameIn(std::string_view page, bool isIndex) {
+  if (!isIndex) return Between(page, "Main Index: ", "<");
+  const std::string_view body = page.substr(std::min(page.find("<p>&nbsp;</p>"), page.size()));
+  const std::string_view heading = Between(body, "<h1>", "</h1>");
+  return heading.empty() ? Between(body, "<u>", "<br><br></u>") : heading;
+}
+
+OldFile ReadOldFile(int folder, const char* name, bool wantsName) {
+  constexpr std::size_t kLongestHead = std::size_t{64} << 10;
+  OldFile old;
+  const FileHandle file = FileHandle::OpenAt(folder, name, O_RDONLY | O_NONBLOCK | O_NOFOLLOW);
+  struct stat status {};
+  if (!file.IsOpen() || fstat(file.Get(), &status) != 0) return old;
+  old.isFolder = S_ISDIR(status.st_mode);
+  std::string head;
+  if (!S_ISREG(status.st_mode) || !ReadAll(file.Get(), head, kGeneratorHead, 0)) return old;
+  old.isOurs = IsOurPage(head);
+  old.isIndex = old.isOurs && Between(head, kGenerator, "\"") != kChapterVersion;
+  if (!old.isOurs || (!wantsName && !old.isIndex) ||
+      !ReadAll(file.Get(), head, std::min(kLongestHead, static_cast<std::size_t>(status.st_size)), 0)) {
+    return old;
+  }
+  const CodePage codePage{std::string(Between(head, "charset=", "\""))};
+  old.translation = codePage.DecodeForDisplay(NameIn(head, old.isIndex));
+  return old;
+}
+
+bool IsPageByName(std::string_view name) {
+  return EqualIgnoringCase(name.substr(name.rfind('.') + 1), "html") ||
+         EqualIgnoringCase(name.substr(name.rfind('.') + 1), "htm");
+}
+
+}  // namespace
+
+std::optional<FolderFacts> LookIntoFolder(const std::string& folder, const std::set<std::string>& written,
+                                          const std::function<bool()>& isWanted) {
+  constexpr std::size_t kAskedPages = 100;  // one in its first form among them is enough
+  FolderFacts facts;
+  const std::unique_ptr<DIR, CloseFolder> handle(opendir(NativePath(folder).c_str()));
+  if (handle == nullptr) return facts;
+  facts.isThere = true;
+  std::set<std::string> ofIndexPages;
+  while (const dirent* entry = readdir(handle.get())) {
+    if (!isWanted()) return std::nullopt;
+    const std::string name = entry->d_name;
+    if (entry->d_type == DT_DIR || name == "." || name == "..") continue;
+    const bool isWritten = written.contains(name);
+    OldFile old;
+    const bool isFile = entry->d_type == DT_REG || entry->d_type == DT_UNKNOWN;
+    if (isFile && (isWritten || IsPageByName(name))) {
+      old = ReadOldFile(dirfd(handle.get()), entry->d_name, facts.translations.empty() && facts.pages < kAskedPages);
+    }
+    if (old.isFolder) continue;
+    if (old.isOurs) {
+      ++facts.pages;
+      if (!old.translation.empty()) (old.isIndex ? ofIndexPages : facts.translations).insert(old.translation);
+    } else if (isWritten) {
+      facts.replaced.push_back(name);
+    } else {
+      ++facts.others;
+    }
+  }
+  if (!ofIndexPages.empty()) facts.translations = std::move(ofIndexPages);
+  return facts;
+}
+
+std::set<std::string> FilesOfSite(const CompileRequest& request, const ModGlob& glob, const CodePage& codePage) {
+  const PageNames names(glob.cboStartBook, request.options.chkUse83, codePage);
+  std::set<std::string> files{IndexFileName(request.options.txthttpRoot)};
+  for (int book = 1; book <= static_cast<int>(glob.cboStartBook.size()); ++book) {
+    const int chapters = glob.ChaptersInBook[static_cast<std::size_t>(book)];
+    for (int chapter = 1; chapter <= chapters; ++chapter) files.insert(names.OnDisk(book, chapter));
+  }
+  if (request.options.chkCSS) files.insert("default.css");
+  if (!request.sitemapAddress.empty()) files.insert("sitemap.xml");
+  return files;
+}
+
+std::string TranslationOfSite(const CompileRequest& request, const ModGlob& glob, const CodePage& codePage) {
+  const FileHandle folder =
+      FileHandle::Open(NativePath(request.txtOutputPath).c_str(), O_RDONLY | O_DIRECTORY | O_NONBLOCK);
+  if (!folder.IsOpen()) return {};
+  const PageNames names(glob.cboStartBook, request.options.chkUse83, codePage);
+  for (const std::string& name :
+       {IndexFileName(request.options.txthttpRoot), names.OnDisk(request.cboStartBook + 1, 1)}) {
+    if (name.empty() || name.find('/') != std::string::npos) continue;
+    const OldFile old = ReadOldFile(folder.Get(), name.c_str(), true);
+    if (!old.translation.empty()) return old.translation;
+  }
+  return {};
+}
+
+}  // namespace folionet

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <cstddef>
+#include <string_view>
+
+namespace folionet {
+
+// What the GENERATOR line of every page begins with, before the version: it tells our pages from all others.
+inline constexpr std::string_view kGenerator = "Versalia Folionet Ver ";
+
+// So much of a file shows whether it is a page of ours.
+inline constexpr std::size_t kGeneratorHead = 512;
+
+// Whether a file that begins like this is a page of ours, also one that an editor has been at.
+bool IsOurPage(std::string_view head);
+
+}  // namespace folionet

@@ -67,36 +67,19 @@ class CompileRun {
   }
 
   // Writes the chapter pages. The first page is opened for the start book's chapter 1 before any line is read, whatever
-  // the first line holds.
+  // the first line holds. After a failure, every page that was finished is on the disk.
   void WriteChapters() {
-    OpenChapter(m_request.cboStartBook + 1, 1, "1");
-    m_verses.emplace(m_request.txtFilename);
-    bool isFirst = true;
-    int lastBook = 0;
-    std::int16_t lastChapter = 0;
-    const Verse& verse = m_verses->Current();
-    while (m_verses->Next()) {
-      if (isFirst || verse.chapter != lastChapter || verse.book != lastBook) {
-        if (isFirst) {
-          m_holdsStartPage = !IsStartPage(verse.book, verse.chapter);
-        } else {
-          TurnPage(verse);
-        }
-        isFirst = false;
-        lastBook = verse.book;
-        lastChapter = verse.chapter;
+    try {
+      WriteAllChapters();
+    } catch (...) {
+      try {
+        WriteStartPage();
+      } catch (const RunTimeError&) {
+        // The first failure is the one to tell.
       }
-      BuildVerseLine({m_labels[static_cast<std::size_t>(verse.book)], verse.chapterField, verse.verse, verse.text},
-                     m_options, m_context);
-    }
-    ClosePage();
-    if (m_startPage) {
-      m_context.PageFile.Open(m_context.OutputFolder, m_names.OnDisk(m_request.cboStartBook + 1, 1));
-      m_context.PageFile.Add(*m_startPage);
-      Note(m_context.PageFile.Name(), m_context.PageFile.Close());
+      throw;
     }
   }
-
   void WriteIndex() {
     m_context.PageTitle = IndexText(m_inputs, m_options.frmKeywords.txtDescriptionI);
     m_context.PageMeta = IndexText(m_inputs, m_options.frmKeywords.txtKeywordsI);
@@ -120,13 +103,39 @@ class CompileRun {
 
   // The last values seen, for the report of a failure.
   std::string LastValues() const {
-    const Verse verse = m_verses ? m_verses->Current() : Verse();
+    const Verse verse = !m_verses ? Verse() : m_isLeavingPage ? m_verses->LastOfPlaceBefore() : m_verses->Current();
     std::string place = Shown(verse.chapterField);
     if (!verse.verse.empty() || !place.empty()) place += ":" + Shown(verse.verse);
     return "INDEX: " + Shown(verse.bookField) + "\r\nSL: " + place + "\r\nSR: " + Shown(verse.text);
   }
 
  private:
+  void WriteAllChapters() {
+    OpenChapter(m_request.cboStartBook + 1, 1, "1");
+    m_startName = m_context.PageFile.Name();
+    m_verses.emplace(m_request.txtFilename);
+    bool isFirst = true;
+    int lastBook = 0;
+    std::int16_t lastChapter = 0;
+    const Verse& verse = m_verses->Current();
+    while (m_verses->Next()) {
+      if (isFirst || verse.chapter != lastChapter || verse.book != lastBook) {
+        if (isFirst) {
+          m_holdsStartPage = !IsStartPage(verse.book, verse.chapter);
+        } else {
+          TurnPage(verse);
+        }
+        isFirst = false;
+        lastBook = verse.book;
+        lastChapter = verse.chapter;
+      }
+      BuildVerseLine({m_labels[static_cast<std::size_t>(verse.book)], verse.chapterField, verse.verse, verse.text},
+                     m_options, m_context);
+    }
+    ClosePage();
+    WriteStartPage();
+  }
+
   // A text of the verse file as a person can read it, whatever the file holds.
   std::string Shown(std::string_view text) const {
     constexpr std::size_t kShown = 200;
@@ -142,14 +151,16 @@ class CompileRun {
     if (m_shownBook.empty() || verse.book != m_context.BookNumber)
       m_shownBook = m_codePage.DecodeForDisplay(BookName(m_inputs, verse.book));
     m_ui.SetPanel(1, "Compiling file " + std::to_string(m_context.PagesCreated) + " " + m_shownBook);
+    m_isLeavingPage = true;
     ClosePage();
+    m_isLeavingPage = false;
     OpenChapter(verse.book, verse.chapter, verse.chapterField);
   }
 
   bool IsStartPage(int book, std::int16_t chapter) const { return book == m_request.cboStartBook + 1 && chapter == 1; }
 
-  // A start page that does not hold its own chapter is kept back: that chapter's page, when it comes, takes its place,
-  // and a site that is compiled again is not touched by writing both.
+  // A start page that does not hold its own chapter is kept back: a later page of its name, as its own chapter's is,
+  // takes its place, and a site that is compiled again is not touched by writing both.
   void ClosePage() {
     PrintPageFoot(m_options, m_context);
     if (std::exchange(m_holdsStartPage, false)) {
@@ -157,6 +168,14 @@ class CompileRun {
       return;
     }
     Note(m_context.PageFile.Name(), m_context.PageFile.Close());
+    if (m_startPage && m_context.PageFile.Name() == m_startName) m_startPage.reset();
+  }
+
+  void WriteStartPage() {
+    if (!m_startPage) return;
+    m_context.PageFile.Open(m_context.OutputFolder, m_startName);
+    m_context.PageFile.Add(*std::exchange(m_startPage, std::nullopt));
+    Note(m_startName, m_context.PageFile.Close());
   }
 
   void Note(const std::string& name, PageChange change) const {
@@ -178,7 +197,6 @@ class CompileRun {
     m_context.BookNumber = static_cast<std::int16_t>(book);
     m_context.ChapterNumber = chapter;
     m_context.BookTitle = BookName(m_inputs, book);
-    if (IsStartPage(book, chapter)) m_startPage.reset();
     m_context.PageTitle = PageText(m_inputs, m_titles.description, m_context.BookTitle, chapterText);
     m_context.PageMeta = PageText(m_inputs, m_titles.keywords, m_context.BookTitle, chapterText);
     WriteChapterHead({m_context.BookTitle, m_context.PageLanguage, m_context.PageCharset, m_context.FontName,
@@ -204,6 +222,8 @@ class CompileRun {
   std::optional<VerseFileReader> m_verses;  // outlives a failure, whose report shows the verse at hand
   bool m_holdsStartPage = false;
   std::optional<std::string> m_startPage;
+  std::string m_startName;
+  bool m_isLeavingPage = false;  // the verse at hand is of the page that comes
 };
 
 CompileOutcome Run(const CompileRequest& request, ModGlob& glob, UserInterface& ui, std::string& lastValues) {

@@ -4,6 +4,7 @@
 #include <set>
 
 #include "BookTitles.h"
+#include "CharacterReferences.h"
 #include "Installation.h"
 #include "LineReader.h"
 #include "PageFile.h"
@@ -22,7 +23,8 @@ class PageNameCheck {
 
   void Add(int book, const std::string& title) {
     const CodePage& codePage = m_faults.Charset();
-    const std::string name = codePage.Decode(ChapterPageName(title, book, 1, false, codePage));
+    const std::string name =
+        WithoutCharacterReferences(codePage.Decode(ChapterPageName(title, book, 1, false, codePage)));
     if (title.empty() || !IsPageName(name) || name.size() > kLongestFileName) {
       m_faults.Add(m_lines.Path(), m_lines.LineNumber(), "The title cannot be a file name: " + Quoted(title));
     }

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cstdlib>
 
+#include "CharacterReferences.h"
+
 namespace folionet {
 namespace {
 
@@ -43,13 +45,13 @@ std::string ChapterPageName(std::string_view bookName, int bookNumber, int chapt
 
 std::string IndexFileName(std::string_view httpRoot) {
   const std::size_t slash = httpRoot.rfind('/');
-  return std::string(slash == std::string_view::npos ? httpRoot : httpRoot.substr(slash + 1));
+  return WithoutCharacterReferences(slash == std::string_view::npos ? httpRoot : httpRoot.substr(slash + 1));
 }
 
 PageNames::PageNames(const std::vector<std::string>& titles, bool use83, const CodePage& codePage) : m_use83(use83) {
   for (std::size_t i = 0; i < titles.size(); ++i) {
     m_inLink.push_back(BookPart(titles[i], static_cast<int>(i) + 1, use83, codePage));
-    m_onDisk.push_back(codePage.Decode(m_inLink.back()));
+    m_onDisk.push_back(WithoutCharacterReferences(codePage.Decode(m_inLink.back())));
   }
 }
 

@@ -16,7 +16,8 @@ std::string UnderscoreSpaces(std::string_view text);
 std::string ChapterPageName(std::string_view bookName, int bookNumber, int chapter, bool use83,
                             const CodePage& codePage);
 
-// The file name in the address of the index page: what follows its last "/".
+// The file name in the address of the index page (UTF-8): what follows its last "/", with the letters that character
+// references stand for, as a browser asks for it.
 std::string IndexFileName(std::string_view httpRoot);
 
 // The page names of one compile run, with what depends on the book only worked out once.
@@ -28,7 +29,8 @@ class PageNames {
   // Adds the name as it stands in a link to the text. `book` is 1 to 66.
   void AddInLink(std::string& text, int book, int chapter) const { AddJoined(text, m_inLink[Index(book)], chapter); }
 
-  // The name of the file, as Unicode in UTF-8, so that a link and its file agree in a browser whatever the charset.
+  // The name of the file, as Unicode in UTF-8 and with the letters that character references stand for, so that a link
+  // and its file agree in a browser whatever the charset.
   std::string OnDisk(int book, int chapter) const;
 
   // What the names of all files of a book begin with.

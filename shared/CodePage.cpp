@@ -8,6 +8,7 @@
 #include <array>
 #include <utility>
 
+#include "CharsetLabels.h"
 #include "RunTimeError.h"
 
 namespace folionet {
@@ -62,6 +63,18 @@ void ForEachUtf8(std::string_view text, Take take) {
   }
 }
 
+// What ICU calls an encoding of the browsers, where it calls something narrower by their name.
+std::string IcuName(const std::string& encoding) {
+  constexpr std::array<std::array<const char*, 2>, 4> kNames{{{"big5", "big5-hkscs"},
+                                                              {"euc-kr", "windows-949"},
+                                                              {"iso-8859-8-i", "iso-8859-8"},
+                                                              {"shift_jis", "windows-31j"}}};
+  for (const auto& [ours, icus] : kNames) {
+    if (encoding == ours) return icus;
+  }
+  return encoding;
+}
+
 bool IsStatelessType(UConverterType type) {
   return type == UCNV_SBCS || type == UCNV_MBCS || type == UCNV_DBCS || type == UCNV_UTF8 || type == UCNV_LATIN_1 ||
          type == UCNV_US_ASCII;
@@ -72,15 +85,24 @@ bool IsStatelessType(UConverterType type) {
 // Opens ICU's converter at the first text that is not plain ASCII: most runs over English text never need it.
 class CodePage::Converter {
  public:
-  explicit Converter(std::string name) : m_name(std::move(name)), m_isUtf8(m_name == "utf-8") {}
+  explicit Converter(std::string name)
+      : m_name(std::move(name)), m_icuName(IcuName(m_name)), m_isUtf8(m_name == "utf-8") {}
 
   const std::string& Name() const { return m_name; }
   bool IsUtf8() const { return m_isUtf8; }
 
-  // Whether the name is usable at all. Opens the converter.
-  bool IsUsable() const {
+  // Whether there is such a converter at all, whatever its texts look like.
+  bool IsKnown() const {
     UErrorCode error = U_ZERO_ERROR;
-    const std::unique_ptr<UConverter, Close> converter(ucnv_open(m_name.c_str(), &error));
+    const std::unique_ptr<UConverter, Close> converter(ucnv_open(m_icuName.c_str(), &error));
+    return m_name == "replacement" || (U_SUCCESS(error) && !m_name.empty());
+  }
+
+  // Whether pages can be in it. Opens the converter.
+  bool IsUsable() const {
+    if (m_name.empty()) return false;
+    UErrorCode error = U_ZERO_ERROR;
+    const std::unique_ptr<UConverter, Close> converter(ucnv_open(m_icuName.c_str(), &error));
     return U_SUCCESS(error) && IsStatelessType(ucnv_getType(converter.get())) && HoldsAscii(converter.get());
   }
 
@@ -155,7 +177,7 @@ class CodePage::Converter {
   UConverter* Handle() const {
     if (m_handle == nullptr) {
       UErrorCode error = U_ZERO_ERROR;
-      m_handle.reset(ucnv_open(m_name.c_str(), &error));
+      m_handle.reset(ucnv_open(m_icuName.c_str(), &error));
       if (U_FAILURE(error)) throw RunTimeError(kOutOfMemory, m_name, u_errorName(error));
       ucnv_setToUCallBack(m_handle.get(), UCNV_TO_U_CALLBACK_STOP, nullptr, nullptr, nullptr, &error);
       ucnv_setFromUCallBack(m_handle.get(), UCNV_FROM_U_CALLBACK_STOP, nullptr, nullptr, nullptr, &error);
@@ -165,20 +187,24 @@ class CodePage::Converter {
   }
 
   std::string m_name;
+  std::string m_icuName;
   bool m_isUtf8;
   mutable std::unique_ptr<UConverter, Close> m_handle;
 };
 
 CodePage::CodePage(std::string_view charset) {
-  std::string name(charset);
-  std::transform(name.begin(), name.end(), name.begin(), [](char c) { return MapAscii(c, false); });
-  if (name == "utf8") name = "utf-8";
-  auto converter = std::make_shared<Converter>(name);
-  // The two names that nearly every site uses need no asking.
-  if (name != kDefaultName && name != "utf-8" && (name.empty() || !converter->IsUsable())) {
-    converter = std::make_shared<Converter>(kDefaultName);
+  std::string name(BrowserEncoding(charset));
+  if (name.empty()) {
+    m_use = CharsetUse::kNotKnown;
+    name = charset;
+    std::transform(name.begin(), name.end(), name.begin(), [](char c) { return MapAscii(c, false); });
   }
-  m_converter = std::move(converter);
+  m_converter = std::make_shared<Converter>(name);
+  // The two names that nearly every site uses need no asking.
+  if (name == kDefaultName || name == "utf-8" || m_converter->IsUsable()) return;
+  // What browsers take for another thing than a charset of pages is not known to them as one either.
+  m_use = m_converter->IsKnown() ? CharsetUse::kNotFit : CharsetUse::kNotKnown;
+  m_converter = std::make_shared<Converter>(kDefaultName);
 }
 
 const std::string& CodePage::Name() const { return m_converter->Name(); }

@@ -6,16 +6,27 @@
 
 namespace folionet {
 
+// Whether the bytes of a site are in the charset that its pages declare.
+enum class CharsetUse {
+  kAsDeclared,  // they are, as browsers understand the charset
+  kNotKnown,    // no browser knows the charset; the bytes are in it where ICU does, else in windows-1252
+  kNotFit,      // the charset keeps states or holds ASCII otherwise; the bytes are in windows-1252
+};
+
 // The character set that a site's bytes are in. Texts of Versalia's files and of pages are bytes in it; texts that a
 // person types or sees are UTF-8. Copies share one converter; use one CodePage from one thread only.
 class CodePage {
  public:
-  // The code page that a page charset names ("iso-8859-7", "utf-8"), when ICU knows it, it is stateless and it holds
-  // ASCII as ASCII; windows-1252 otherwise.
+  // The code page in which browsers read pages of this charset ("iso-8859-7", "utf-8"; windows-1252 for "iso-8859-1"),
+  // or else that which ICU knows under this name, when it is stateless and holds ASCII as ASCII; windows-1252
+  // otherwise.
   explicit CodePage(std::string_view charset = "windows-1252");
 
-  // The name that the code page was found under.
+  // The name of the code page, in small letters.
   const std::string& Name() const;
+
+  // How the code page fits the charset that it was made for.
+  CharsetUse Use() const { return m_use; }
 
   // UTF-8 to bytes. A character that the code page lacks becomes a decimal character reference ("&#8212;"); bytes that
   // are not UTF-8 are kept as they are.
@@ -39,6 +50,7 @@ class CodePage {
  private:
   class Converter;
   std::shared_ptr<const Converter> m_converter;
+  CharsetUse m_use = CharsetUse::kAsDeclared;
 };
 
 // Whether a text is well-formed UTF-8.

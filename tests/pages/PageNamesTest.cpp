@@ -29,6 +29,26 @@ TEST(PageNamesTest, FormsBothKindsOfNames) {
   }
 }
 
+// A browser asks for the letters that the references in a link stand for.
+TEST(PageNamesTest, ReferencesNameTheirLettersOnDisk) {
+  const struct {
+    const char* title;
+    const char* inLink;
+    const char* onDisk;
+  } cases[] = {{"G&#233;n&#xC9;se", "g&#233;n&#xc9;se_1.html", "génÉse_1.html"},
+               {"&Eacute;xode &amp; Co", "&eacute;xode_&amp;_co_1.html", "éxode_&_co_1.html"},
+               {"&Psi;alm&#146;s", "&psi;alm&#146;s_1.html", "ψalm’s_1.html"},
+               {"A&B &none; &#9999999;", "a&b_&none;_&#9999999;_1.html", "a&b_&none;_&#9999999;_1.html"}};
+  for (const auto& c : cases) {
+    const PageNames names({c.title}, false, CodePage());
+    std::string link;
+    names.AddInLink(link, 1, 1);
+    EXPECT_EQ(link, c.inLink);
+    EXPECT_EQ(names.OnDisk(1, 1), c.onDisk);
+  }
+  EXPECT_EQ(IndexFileName("https://a.b/caf&eacute;.html"), "café.html");
+}
+
 TEST(PageNamesTest, NamesThatLeadElsewhereAreRefused) {
   for (const char* name : {"genesis_1.html", "...", ".a", "a b", "é.html", "\xE9", "a:b"}) {
     EXPECT_TRUE(IsPageName(name)) << name;

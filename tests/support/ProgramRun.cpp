@@ -1,6 +1,7 @@
 #include "ProgramRun.h"
 
 #include <fcntl.h>
+#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -11,6 +12,11 @@
 
 namespace folionet::test {
 namespace {
+
+// Ends by a signal what would never end; the slowest program of the tests, a whole Bible under sanitizers, takes a tenth.
+constexpr unsigned kMostSeconds = 300;
+// No file of a program of the tests is longer, what it prints included.
+constexpr rlim_t kMostBytes = rlim_t{1} << 29;
 
 bool Redirect(int descriptor, const std::string& path) {
   constexpr mode_t kMode = 0600;
@@ -23,6 +29,9 @@ bool Redirect(int descriptor, const std::string& path) {
   std::vector<char*> arguments;
   for (const std::string& argument : command) arguments.push_back(const_cast<char*>(argument.c_str()));
   arguments.push_back(nullptr);
+  alarm(kMostSeconds);
+  const rlimit most{kMostBytes, kMostBytes};
+  setrlimit(RLIMIT_FSIZE, &most);
   setenv("HOME", folder.c_str(), 1);
   setenv("XDG_CONFIG_HOME", (folder + "config").c_str(), 1);
   setenv("XDG_DATA_HOME", (folder + "data").c_str(), 1);

@@ -13,7 +13,8 @@
 namespace folionet::test {
 namespace {
 
-// Ends by a signal what would never end; the slowest program of the tests, a whole Bible under sanitizers, takes a tenth.
+// Ends by a signal what would never end; the slowest program of the tests, a whole Bible under sanitizers, takes a
+// tenth.
 constexpr unsigned kMostSeconds = 300;
 // No file of a program of the tests is longer, what it prints included.
 constexpr rlim_t kMostBytes = rlim_t{1} << 29;

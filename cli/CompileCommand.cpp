@@ -22,8 +22,9 @@ void EndUnless(bool good) {
 
 std::string OutputPath(const CompileArguments& arguments, const Session& session) {
   if (!arguments.output.empty()) return WithSeparator(NativePath(arguments.output));
-  const bool isStored = session.store.Has("Dir1") && session.main.Dir1 != "C:" && !session.main.Dir1.empty();
-  return isStored ? WithSeparator(NativePath(session.main.Dir1)) : CompileRequest().txtOutputPath;
+  const bool isStored =
+      session.store.Has("Dir1") && session.options.main.Dir1 != "C:" && !session.options.main.Dir1.empty();
+  return isStored ? WithSeparator(NativePath(session.options.main.Dir1)) : CompileRequest().txtOutputPath;
 }
 
 // A folder that cannot be made, as in a home that is read only, does not matter where nothing of it is needed.

@@ -3,8 +3,8 @@
 #include <cstdio>
 
 #include "BookTitles.h"
+#include "OptionTable.h"
 #include "Paths.h"
-#include "SettingsKeys.h"
 
 namespace folionet {
 namespace {
@@ -35,7 +35,9 @@ void ListBooks(const Session& session) {
 ExitStatus RunList(const CommonOptions& common, const std::string& subject) {
   Session session(common);
   if (subject == "settings") {
-    for (const SettingKey& key : SettingKeys()) PrintLine(std::string(key.name) + "=" + session.store.Text(key.name));
+    for (const Option& option : OptionTable()) {
+      PrintLine(std::string(option.key) + "=" + session.store.Text(option.key));
+    }
     return kExitDone;
   }
   if (subject == "languages") {

@@ -4,10 +4,10 @@
 
 #include "Catalogue.h"
 #include "Numbers.h"
+#include "OptionLoading.h"
 #include "PageEncoding.h"
 #include "Paths.h"
 #include "RunTimeError.h"
-#include "SettingsKeys.h"
 
 namespace folionet {
 namespace {
@@ -55,14 +55,14 @@ void Session::Override(const std::vector<std::string>& assignments) {
     if (equals == std::string::npos) {
       RefuseUsage("--set: KEY=VALUE was expected: \"" + assignment + "\"." + kShowSettings);
     }
-    const SettingKey* key = FindSettingKey(name);
-    if (key == nullptr) {
+    const Option* option = FindOption(name);
+    if (option == nullptr) {
       RefuseUsage("--set: there is no setting \"" + name + "\"." + kShowSettings);
     }
     std::string value = assignment.substr(equals + 1);
-    if (CheckSetting(key->form, value) != 0) {
-      RefuseUsage(std::string("--set: ").append(name).append(" must be ").append(Describe(key->form)) + ": \"" + value +
-                  "\"." + kShowSettings);
+    if (CheckOption(option->form, value) != 0) {
+      RefuseUsage(std::string("--set: ").append(name).append(" must be ").append(Describe(option->form)) + ": \"" +
+                  value + "\"." + kShowSettings);
     }
     if (name == "cboLang") CheckLanguageFile("--set cboLang", value);
     store.Override(name, std::move(value));
@@ -71,8 +71,8 @@ void Session::Override(const std::vector<std::string>& assignments) {
 
 void Session::LoadOptions() {
   try {
-    options = LoadPageOptions(store, main);
-    texts.LinkAlignment = main.alignment;
+    LoadAllOptions(store, options);
+    texts.LinkAlignment = options.main.alignment;
   } catch (const RunTimeError& error) {
     ui.ShowErrorReport(error.Number(), "Form Load - MAIN", error.Extra());
     throw ExitWith(kExitFailed);
@@ -83,7 +83,7 @@ void Session::LoadOptions() {
 void Session::LoadCodePage() {
   try {
     PageEncoding encoding;
-    LoadPageEncoding(store, encoding, ui);
+    LoadPageEncoding(store, options, encoding, ui);
     texts.PageCharset = encoding.PageCharset;
     texts.PageLanguage = encoding.PageLanguage;
     codePage = CodePage(encoding.PageCharset);

@@ -8,7 +8,7 @@
 #include "CompileContext.h"
 #include "ConsoleUi.h"
 #include "Installation.h"
-#include "OptionRecords.h"
+#include "PageOptions.h"
 #include "StoredSettings.h"
 #include "modGlob.h"
 
@@ -72,7 +72,6 @@ class Session {
   ConsoleUi ui;
   ModGlob glob;
   CodePage codePage;
-  MainOptions main;
   PageOptions options;
   PageTexts texts;
   std::string chosenProgramFolder;

@@ -3,10 +3,9 @@
 #include "CodePage.h"
 #include "FuzzFiles.h"
 #include "IniText.h"
-#include "OptionRecords.h"
+#include "OptionLoading.h"
 #include "PageEncoding.h"
 #include "RunTimeError.h"
-#include "SettingsKeys.h"
 #include "SilentUi.h"
 
 namespace folionet::fuzz {
@@ -24,31 +23,21 @@ void LoadAll(const std::string& folder) {
   const StoredSettings store(folder);
   SilentUi ui;
   Try([&] {
-    MainOptions main;
-    LoadPageOptions(store, main);
+    PageOptions options;
+    LoadAllOptions(store, options);
   });
   Try([&] {
+    PageOptions options;
     PageEncoding encoding;
-    LoadPageEncoding(store, encoding, ui);
+    LoadPageEncoding(store, options, encoding, ui);
   });
-  for (const SettingKey& key : SettingKeys()) {
-    Try([&] {
-      // A text has its key's form when it reads, and only then.
-      const std::string text = store.Text(key.name);
-      const bool isGood = CheckSetting(key.form, text) == 0;
-      bool isRead = true;
-      try {
-        if (key.form == SettingForm::kFlag) store.Flag(key.name);
-        if (key.form == SettingForm::kColour) store.ColourOf(key.name);
-        if (key.form == SettingForm::kBoolean) store.Boolean(key.name);
-        if (key.form == SettingForm::kNumber) store.Number(key.name);
-        if (key.form == SettingForm::kPointSize) store.PointSize(key.name);
-        if (key.form == SettingForm::kEntry) EncodingCode(text, key.name);
-      } catch (const RunTimeError&) {
-        isRead = false;
-      }
-      if (isGood != isRead) std::abort();
-    });
+  PageOptions options;
+  for (const Option& option : OptionTable()) {
+    // A text has its option's form when it reads, and only then.
+    const bool isGood = CheckOption(option.form, store.Text(option.key)) == 0;
+    Try([&] { LoadOption(store, option, options); });
+    if (options.maySave.test(PlaceOf(option)) != isGood) std::abort();
+    if (CheckOption(option.form, OptionText(option, options)) != 0) std::abort();
   }
 }
 

@@ -1,15 +1,15 @@
 #include "EncodeOptions.h"
 
+#include "OptionTable.h"
+
 namespace folionet {
 
 PageOptions EncodePageOptions(PageOptions options, const CodePage& codePage) {
-  for (std::string* text :
-       {&options.txtSample.FontName, &options.frmPAgeTitles.txtIndex_html, &options.frmPAgeTitles.txtPageTitles,
-        &options.frmKeywords.txtKeywordsI, &options.frmKeywords.txtDescriptionI, &options.frmKeywords.txtKeyWords,
-        &options.frmKeywords.txtDescription, &options.frmLinkToMAin.txtLinkToMain, &options.frmLinkToMAin.cboSize,
-        &options.frmBackground.txtImagepath, &options.txthttpRoot}) {
-    *text = codePage.Encode(*text);
+  for (const Option& option : OptionTable()) {
+    const auto* field = std::get_if<std::string& (*)(PageOptions&)>(&option.field);
+    if (field != nullptr) (*field)(options) = codePage.Encode((*field)(options));
   }
+  options.txthttpRoot = codePage.Encode(options.txthttpRoot);
   return options;
 }
 

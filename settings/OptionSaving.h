@@ -1,22 +1,21 @@
 #pragma once
 
-#include "OptionRecords.h"
+#include <string_view>
+
+#include "OptionTable.h"
 #include "SettingsStore.h"
 
 namespace folionet {
 
-// The saving of the option records. A routine stores all of its keys or, when it throws RunTimeError, none.
+// A routine stores all that it is to store or, when it throws RunTimeError, nothing.
 
-// The twelve keys that are written at exit.
-void SaveDefaults(SettingsStore& store, const PageOptions& options, const MainOptions& main);
+// Stores one option, whatever was stored for it before: a person has just chosen it.
+void SaveOption(SettingsStore& store, std::string_view key, const PageOptions& options);
 
-void SaveTitles(SettingsStore& store, const PageTitleOptions& options);
-void SaveMETA(SettingsStore& store, const MetaOptions& options);
-void SaveLinkToMain(SettingsStore& store, const LinkToMainOptions& options);
-void SaveLCR(SettingsStore& store, int justification);
-void SaveLinkBackSize(SettingsStore& store, int size);
-void SaveBackImage(SettingsStore& store, const BackgroundOptions& options);
-void SaveWaterMark(SettingsStore& store, const BackgroundOptions& options);
-void SaveDefaultHyperlinkColors(SettingsStore& store, const EffectsOptions& options);
+// Stores the options of a part that are saved together, but what could not be read and was not changed since.
+void SaveOptions(SettingsStore& store, OptionPart part, PageOptions& options);
+
+// In the same way the twelve options that are stored at exit.
+void SaveDefaults(SettingsStore& store, PageOptions& options);
 
 }  // namespace folionet

@@ -1,6 +1,8 @@
 #include "PageEncoding.h"
 
-#include "BuildInfo.h"
+#include <optional>
+
+#include "OptionLoading.h"
 #include "RunTimeError.h"
 
 namespace folionet {
@@ -22,11 +24,20 @@ CodePage StoredCodePage(const StoredSettings& store) {
   }
 }
 
-void LoadPageEncoding(const StoredSettings& store, PageEncoding& encoding, UserInterface& ui) {
-  const std::string in = store.FilePath(kApplicationTitle) + ": ";
-  encoding.PageCharset = EncodingCode(store.Text("Charset"), in + "Charset");
+void LoadPageEncoding(const StoredSettings& store, PageOptions& options, PageEncoding& encoding, UserInterface& ui) {
+  std::optional<RunTimeError> failure;
+  try {
+    LoadOptions(store, OptionPart::kEncoding, options);
+  } catch (const RunTimeError& error) {
+    failure = error;
+  }
+  const auto show = [&](std::string_view key, const std::string& entry, std::string& code) {
+    if (!options.maySave.test(PlaceOf(*FindOption(key)))) throw RunTimeError(*failure);
+    code = EncodingCode(entry, key);
+  };
+  show("Charset", options.frmEncoding.cboCharset, encoding.PageCharset);
   ui.SetPanel(3, "Charset: " + encoding.PageCharset);
-  encoding.PageLanguage = EncodingCode(store.Text("Lang"), in + "Lang");
+  show("Lang", options.frmEncoding.cboLang, encoding.PageLanguage);
   ui.SetPanel(2, "Language: " + encoding.PageLanguage);
 }
 

@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "CodePage.h"
+#include "PageOptions.h"
 #include "StoredSettings.h"
 #include "UserInterface.h"
 
@@ -23,8 +24,8 @@ std::string EncodingCode(std::string_view entry, std::string_view what);
 // kept in it.
 CodePage StoredCodePage(const StoredSettings& store);
 
-// Reads both codes from the settings "Charset" and "Lang" and shows them in panels 3 and 2 of the status bar. Throws
-// RunTimeError; what was read by then is set.
-void LoadPageEncoding(const StoredSettings& store, PageEncoding& encoding, UserInterface& ui);
+// Reads both entries and shows their codes in panels 3 and 2 of the status bar. Throws RunTimeError for the first that
+// cannot be read; what comes before it is set and shown.
+void LoadPageEncoding(const StoredSettings& store, PageOptions& options, PageEncoding& encoding, UserInterface& ui);
 
 }  // namespace folionet

@@ -2,31 +2,16 @@
 
 #include <unistd.h>
 
-#include <array>
 #include <cerrno>
-#include <charconv>
 #include <filesystem>
 #include <system_error>
 #include <utility>
 
 #include "BuildInfo.h"
 #include "RunTimeError.h"
-#include "SettingsKeys.h"
 #include "WholeFile.h"
 
 namespace folionet {
-namespace {
-
-// A number's text without more digits than it needs: 12, 10.5
-std::string PlainText(double value) {
-  std::array<char, 32> buffer{};
-  const auto result =
-      std::to_chars(buffer.data(), buffer.data() + buffer.size(), static_cast<float>(value), std::chars_format::fixed);
-  return {buffer.data(), result.ptr};
-}
-
-}  // namespace
-
 SettingsStore::SettingsStore(const std::string& folder) : StoredSettings(folder) {}
 
 std::optional<std::string> SettingsStore::Stored(std::string_view application, const std::string& name) const {
@@ -78,13 +63,5 @@ void SettingsStore::DeleteSetting(std::string_view application) {
 void SettingsStore::SaveText(std::string_view key, std::string_view value) {
   SaveSetting(kApplicationTitle, kSettingsSection, key, value);
 }
-
-void SettingsStore::SaveFlag(std::string_view key, bool value) { SaveText(key, value ? "1" : "0"); }
-
-void SettingsStore::SaveBoolean(std::string_view key, bool value) { SaveText(key, value ? "True" : "False"); }
-
-void SettingsStore::SaveInteger(std::string_view key, std::int32_t value) { SaveText(key, std::to_string(value)); }
-
-void SettingsStore::SavePointSize(std::string_view key, double points) { SaveText(key, PlainText(points)); }
 
 }  // namespace folionet

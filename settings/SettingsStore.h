@@ -1,6 +1,5 @@
 #pragma once
 
-#include <cstdint>
 #include <functional>
 #include <optional>
 #include <string>
@@ -26,12 +25,8 @@ class SettingsStore : public StoredSettings {
   // Removes an application's whole area. Throws RunTimeError when its file cannot be removed.
   void DeleteSetting(std::string_view application);
 
-  // Typed writing of our own keys.
+  // Stores one of our own keys.
   void SaveText(std::string_view key, std::string_view value);
-  void SaveFlag(std::string_view key, bool value);
-  void SaveBoolean(std::string_view key, bool value);
-  void SaveInteger(std::string_view key, std::int32_t value);
-  void SavePointSize(std::string_view key, double points);
 
  protected:
   std::optional<std::string> Stored(std::string_view application, const std::string& name) const override;

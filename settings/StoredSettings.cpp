@@ -3,11 +3,8 @@
 #include <cstdlib>
 
 #include "BuildInfo.h"
-#include "CodePage.h"
-#include "Numbers.h"
+#include "OptionTable.h"
 #include "Paths.h"
-#include "RunTimeError.h"
-#include "SettingsKeys.h"
 #include "WholeFile.h"
 
 namespace folionet {
@@ -59,38 +56,9 @@ bool StoredSettings::Has(std::string_view key) const {
 }
 
 std::string StoredSettings::Text(std::string_view key) const {
-  const SettingKey* known = FindSettingKey(key);
+  const Option* option = FindOption(key);
   return GetSetting(kApplicationTitle, kSettingsSection, key,
-                    known != nullptr ? known->defaultText : std::string_view());
-}
-
-std::string StoredSettings::Checked(std::string_view key) const {
-  const SettingKey* known = FindSettingKey(key);
-  const std::string text = Text(key);
-  if (known == nullptr) return text;
-  const int error = CheckSetting(known->form, text);
-  if (error != 0) {
-    throw RunTimeError(
-        error, FilePath(kApplicationTitle),
-        "The setting " + std::string(key) + " must be " + std::string(Describe(known->form)) + ": \"" + text + "\"");
-  }
-  return std::string(TrimBlanks(text));
-}
-
-bool StoredSettings::Flag(std::string_view key) const { return ReadInteger(Checked(key), 0, 1).value == 1; }
-
-bool StoredSettings::Boolean(std::string_view key) const { return EqualIgnoringCase(Checked(key), "True"); }
-
-Colour StoredSettings::ColourOf(std::string_view key) const {
-  return static_cast<Colour>(ReadInteger(Checked(key), kInt32Min, kInt32Max).value);
-}
-
-std::int16_t StoredSettings::Number(std::string_view key) const {
-  return static_cast<std::int16_t>(ReadInteger(Checked(key), kInt16Min, kInt16Max).value);
-}
-
-double StoredSettings::PointSize(std::string_view key) const {
-  return static_cast<double>(static_cast<float>(ReadNumber(Checked(key)).value));
+                    option != nullptr ? option->defaultText : std::string_view());
 }
 
 }  // namespace folionet

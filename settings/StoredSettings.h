@@ -1,16 +1,17 @@
 #pragma once
 
-#include <cstdint>
 #include <functional>
 #include <map>
 #include <optional>
 #include <string>
 #include <string_view>
 
-#include "Colours.h"
 #include "IniText.h"
 
 namespace folionet {
+
+// Where our own keys stand.
+inline constexpr std::string_view kSettingsSection = "Keys";
 
 // The per-user option texts, to be read: one INI file "<application>.ini" per application name in one folder, in the
 // form that IniText.h tells. All texts are UTF-8.
@@ -38,14 +39,8 @@ class StoredSettings {
   // Whether a key of our own is stored or overridden.
   bool Has(std::string_view key) const;
 
-  // Typed reading of our own keys, with the defaults of the table of keys. A stored text that has not the key's form
-  // throws RunTimeError (kTypeMismatch, kOverflow or kInvalidProcedureCall) naming file, key and text.
+  // The text of an option, or its default.
   std::string Text(std::string_view key) const;
-  bool Flag(std::string_view key) const;
-  bool Boolean(std::string_view key) const;
-  Colour ColourOf(std::string_view key) const;
-  std::int16_t Number(std::string_view key) const;
-  double PointSize(std::string_view key) const;
 
  protected:
   // A longer settings file is not read.
@@ -63,8 +58,6 @@ class StoredSettings {
   const std::string& Folder() const { return m_folder; }
 
  private:
-  std::string Checked(std::string_view key) const;
-
   std::string m_folder;
   mutable std::map<std::string, IniValues, std::less<>> m_areas;
   std::map<std::string, std::string, std::less<>> m_overrides;

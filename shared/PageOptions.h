@@ -1,5 +1,7 @@
 #pragma once
 
+#include <bitset>
+#include <cstddef>
 #include <cstdint>
 #include <string>
 
@@ -7,18 +9,18 @@
 
 namespace folionet {
 
-// What the pages are made with. The fields bear the names of the controls that show them; their forms and defaults are
-// those of the settings table. Texts are UTF-8 as typed or stored; EncodePageOptions turns them into the bytes of the
-// page's code page when a compile or a preview starts.
+// What a person chooses, most of it for the pages. The fields bear the names of the controls that show them; their
+// forms and defaults stand in OptionTable.cpp. Texts are UTF-8 as typed or stored; EncodePageOptions turns them into
+// the bytes of the page's code page when a compile or a preview starts.
 
 // The style of the page text, which lives in the sample text box.
 struct SampleText {
-  std::string FontName = "Verdana";
-  double FontSize = 12;  // points
+  std::string FontName;
+  double FontSize = 0;  // points
   bool FontBold = false;
   bool FontItalic = false;
-  Colour BackColor = 16777215;
-  Colour ForeColor = 8389122;
+  Colour BackColor = 0;
+  Colour ForeColor = 0;
 };
 
 // Titles of the pages, as templates with dynamic words.
@@ -38,7 +40,7 @@ struct MetaOptions {
 // The link from a chapter page back to the index page.
 struct LinkToMainOptions {
   std::string txtLinkToMain;
-  std::int16_t LCR = 2;   // 1 left, 2 center, 3 right; anything else stands for none
+  std::int16_t LCR = 0;   // 1 left, 2 center, 3 right; anything else stands for none
   std::string alignment;  // "left", "center", "right", or empty when none was set
   std::string cboSize;    // the HTML font size
 };
@@ -65,14 +67,33 @@ struct EffectsOptions {
   bool chkSmallCaps = false;
   bool chkAllCaps = false;
   bool chkUnderline = false;
-  bool chkRollover = true;
+  bool chkRollover = false;
 };
 
+// The entries of the lists of encodings: a code, a blank and a description.
+struct EncodingOptions {
+  std::string cboCharset;
+  std::string cboLang;
+};
+
+// What the main form keeps beside.
+struct MainOptions {
+  std::string cboLang;      // the file name of the book titles
+  std::string alignmentLR;  // the last of the words "Left", "Center" and "Justify" that `alignment` was
+  std::string alignment;    // overall link alignment, one of these words or any other text that is stored
+  std::string Drive1;
+  std::string Dir1;
+};
+
+inline constexpr std::size_t kMostOptions = 64;
+
 struct PageOptions {
+  PageOptions();  // every default
+
   bool chkCSS = false;
   bool chkBack = false;
   bool chkUse83 = false;
-  bool chkUseNames = true;
+  bool chkUseNames = false;
   bool chkDoubleSpace = false;
   SampleText txtSample;
   PageTitleOptions frmPAgeTitles;
@@ -80,8 +101,14 @@ struct PageOptions {
   LinkToMainOptions frmLinkToMAin;
   BackgroundOptions frmBackground;
   EffectsOptions frmEffects;
+  EncodingOptions frmEncoding;
+  MainOptions main;
   std::string txthttpRoot = "txthttpRoot";  // the address of the index page
   std::string txtBibleSel = "txtBibleSel";  // the display name of the chosen translation
+
+  // By an option's place in the table, whether its field was read, saved, reset or chosen. What is stored for any other
+  // is kept by every saving as long as the field has its default.
+  std::bitset<kMostOptions> maySave;
 };
 
 }  // namespace folionet

@@ -5,7 +5,6 @@
 #include "CodePage.h"
 #include "CompileContext.h"
 #include "Installation.h"
-#include "OptionRecords.h"
 #include "PageOptions.h"
 #include "SettingsStore.h"
 #include "UserInterface.h"
@@ -22,7 +21,6 @@ struct AppState {
   GivenFolders givenFolders{};  // for this run
 
   ModGlob glob{};
-  MainOptions main{};
   PageOptions options{};              // UTF-8, but txtBibleSel is the translation's name as the catalogue has it
   PageTexts texts{};                  // UTF-8; RolloverStyle and BodyLinkTag change only where Effects is run
   CodePage codePage{"windows-1252"};  // of texts.PageCharset

@@ -12,7 +12,13 @@ namespace folionet {
 void LoadedDialog::LoadForm() {
   if (!m_isLoaded) KeepBoxesToOneLine(*this);
   m_isLoaded = true;
-  Load();
+  try {
+    Load();
+  } catch (const RunTimeError&) {
+    ShowRecord();
+    throw;
+  }
+  ShowRecord();
 }
 
 void LoadedDialog::showEvent(QShowEvent* event) {

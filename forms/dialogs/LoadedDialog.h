@@ -24,6 +24,7 @@ class LoadedDialog : public QDialog {
   LoadedDialog(UserInterface& ui, QWidget* parent) : QDialog(parent), m_reports(ui) {}
 
   virtual void Load() = 0;
+  virtual void ShowRecord() {}  // gives the controls what Load has read, all of it or less
   void showEvent(QShowEvent* event) override;
   void changeEvent(QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;  // F1 shows the help

@@ -3,6 +3,7 @@
 #include <exception>
 
 #include "Follow.h"
+#include "OptionLoading.h"
 #include "OptionSaving.h"
 #include "TrySave.h"
 #include "ui_frmBackground.h"
@@ -26,7 +27,8 @@ frmBackground::frmBackground(AppState& state, QWidget* parent)
   Follow(m_ui->txtImagepath, m_record.txtImagepath);
   Follow(m_ui->chkWaterMark, m_record.chkWaterMark);
   connect(m_ui->chkWaterMark, &QCheckBox::clicked, this, [this] {
-    TrySave(m_state, "chkWaterMark_Click", [this](SettingsStore& store) { SaveWaterMark(store, m_record); });
+    TrySave(m_state, "chkWaterMark_Click",
+            [this](SettingsStore& store) { SaveOption(store, "WaterMark", m_state.options); });
   });
   connect(m_ui->cmdImageName, &QPushButton::clicked, this, &frmBackground::SelectImage);
   connect(m_ui->cmdClose, &QPushButton::clicked, this, [this] {
@@ -37,8 +39,9 @@ frmBackground::frmBackground(AppState& state, QWidget* parent)
 
 frmBackground::~frmBackground() = default;
 
-void frmBackground::Load() {
-  LoadBackground(m_state.store, m_record);
+void frmBackground::Load() { LoadOptions(m_state.store, OptionPart::kBackground, m_state.options); }
+
+void frmBackground::ShowRecord() {
   m_ui->chkWaterMark->setChecked(m_record.chkWaterMark);
   m_ui->txtImagepath->setText(ToQt(m_record.txtImagepath));
 }
@@ -55,7 +58,8 @@ void frmBackground::SelectImage() {
 }
 
 void frmBackground::SaveImage() {
-  TrySave(m_state, "SaveBackImage", [this](SettingsStore& store) { SaveBackImage(store, m_record); });
+  TrySave(m_state, "SaveBackImage",
+          [this](SettingsStore& store) { SaveOptions(store, OptionPart::kBackground, m_state.options); });
 }
 
 }  // namespace folionet

@@ -22,6 +22,7 @@ class frmBackground : public LoadedDialog {
 
  private:
   void Load() override;
+  void ShowRecord() override;
 
   void SelectImage();
   void SaveImage();

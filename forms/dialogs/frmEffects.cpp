@@ -1,13 +1,14 @@
 #include "frmEffects.h"
 
 #include <QFontDatabase>
+#include <QSignalBlocker>
 #include <algorithm>
 #include <utility>
 
 #include "Effects.h"
 #include "Follow.h"
+#include "OptionLoading.h"
 #include "OptionSaving.h"
-#include "RunTimeError.h"
 #include "Swatches.h"
 #include "TrySave.h"
 #include "ui_frmEffects.h"
@@ -28,17 +29,19 @@ frmEffects::frmEffects(AppState& state, QWidget* parent)
       m_state(state),
       m_record(state.options.frmEffects),
       m_ui(std::make_unique<Ui::frmEffects>()) {
-  SetDefaultHyperlinkColors(m_state.store, m_record, 1);
-  for (Swatch* swatch : {&m_record.lblHyperlink, &m_record.lblActive, &m_record.lblFollowed, &m_record.lblRColor}) {
-    swatch->isDefault = false;
-  }
+  m_record = PageOptions().frmEffects;
   m_ui->setupUi(this);
   ConnectRecord();
-  for (const auto& [button, swatch] :
-       {std::pair{m_ui->cmdHyperlink, &m_record.lblHyperlink}, std::pair{m_ui->cmdActive, &m_record.lblActive},
-        std::pair{m_ui->cmdFollowed, &m_record.lblFollowed}, std::pair{m_ui->cmdRollover, &m_record.lblRColor}}) {
-    connect(button, &QPushButton::clicked, this, [this, chosen = swatch] { PickColour(*chosen); });
-  }
+  const auto pick = [this](const QPushButton* button, const char* key, Swatch& swatch) {
+    connect(button, &QPushButton::clicked, this, [this, key, &swatch] {
+      PickColour(swatch);
+      MarkChosen(key, m_state.options);
+    });
+  };
+  pick(m_ui->cmdHyperlink, "lblHyperlink", m_record.lblHyperlink);
+  pick(m_ui->cmdActive, "lblActive", m_record.lblActive);
+  pick(m_ui->cmdFollowed, "lblFollowed", m_record.lblFollowed);
+  pick(m_ui->cmdRollover, "lblRColor", m_record.lblRColor);
   connect(m_ui->cmdRollover, &QPushButton::clicked, this, &frmEffects::BuildEffects);
   connect(m_ui->cmdRestoreDefaults, &QPushButton::clicked, this, &frmEffects::RestoreDefaults);
   connect(m_ui->cmdClose, &QPushButton::clicked, this, &frmEffects::Close);
@@ -65,16 +68,12 @@ void frmEffects::ConnectRecord() {
 }
 
 void frmEffects::Load() {
-  m_ui->cboFont->clear();
-  m_ui->cboFont->addItems(QFontDatabase::families());
-  m_record.chkRollover = true;
-  try {
-    SetDefaultHyperlinkColors(m_state.store, m_record, 0);
-  } catch (const RunTimeError&) {
-    ShowRecord();
-    throw;
+  {
+    const QSignalBlocker fillingChoosesNothing(m_ui->cboFont);
+    m_ui->cboFont->clear();
+    m_ui->cboFont->addItems(QFontDatabase::families());
   }
-  ShowRecord();
+  SetDefaultHyperlinkColors(0);
   BuildEffects();
 }
 
@@ -90,8 +89,18 @@ void frmEffects::PickColour(Swatch& swatch) {
 
 void frmEffects::RestoreDefaults() {
   if (!m_state.ui.AskYesNo("Confirm Restore Defaults", "Are you sure?")) return;
-  SetDefaultHyperlinkColors(m_state.store, m_record, 1);
+  SetDefaultHyperlinkColors(1);
   ShowRecord();
+}
+
+// Any other number than these two asks for nothing.
+void frmEffects::SetDefaultHyperlinkColors(int ask) {
+  if (ask == 0) LoadOptions(m_state.store, OptionPart::kEffects, m_state.options);
+  if (ask != 1) return;
+  ResetOptions(OptionPart::kEffects, m_state.options);
+  for (Swatch* swatch : {&m_record.lblHyperlink, &m_record.lblActive, &m_record.lblFollowed, &m_record.lblRColor}) {
+    swatch->isDefault = true;
+  }
 }
 
 void frmEffects::BuildEffects() {
@@ -103,7 +112,7 @@ void frmEffects::BuildEffects() {
 void frmEffects::Close() {
   BuildEffects();
   TrySave(m_state, "SaveDefaultHyperlinkColors",
-          [this](SettingsStore& store) { SaveDefaultHyperlinkColors(store, m_record); });
+          [this](SettingsStore& store) { SaveOptions(store, OptionPart::kEffects, m_state.options); });
   hide();
 }
 

@@ -24,15 +24,16 @@ class frmEffects : public LoadedDialog {
  protected:
   // Lists the fonts, reads every option and builds the shared texts.
   void Load() override;
+  void ShowRecord() override;
   void showEvent(QShowEvent* event) override;
 
  private:
   void ConnectRecord();
   void PickColour(Swatch& swatch);
   void RestoreDefaults();
+  void SetDefaultHyperlinkColors(int ask);
   void BuildEffects();
   void Close();
-  void ShowRecord();
   void ShowLooks();
   void ShowSample();
 

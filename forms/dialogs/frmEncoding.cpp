@@ -120,7 +120,7 @@ bool frmEncoding::SaveAndUse() {
   PageEncoding encoding{m_state.texts.PageLanguage, m_state.texts.PageCharset};
   bool isDone = true;
   try {
-    LoadPageEncoding(m_state.store, encoding, m_state.ui);
+    LoadPageEncoding(m_state.store, m_state.options, encoding, m_state.ui);
     encoding.PageLanguage = EncodingCode(typedLanguage, "Lang");
     encoding.PageCharset = EncodingCode(typedCharset, "Charset");
   } catch (const RunTimeError& error) {

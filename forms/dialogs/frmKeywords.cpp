@@ -5,6 +5,7 @@
 
 #include "Follow.h"
 #include "KeyReleases.h"
+#include "OptionLoading.h"
 #include "OptionSaving.h"
 #include "PreviewBox.h"
 #include "TrySave.h"
@@ -27,9 +28,10 @@ frmKeywords::frmKeywords(AppState& state, QWidget* parent)
 
 frmKeywords::~frmKeywords() = default;
 
-void frmKeywords::Load() {
-  MetaOptions& record = m_state.options.frmKeywords;
-  LoadMETA(m_state.store, record);
+void frmKeywords::Load() { LoadOptions(m_state.store, OptionPart::kKeywords, m_state.options); }
+
+void frmKeywords::ShowRecord() {
+  const MetaOptions record = m_state.options.frmKeywords;
   m_ui->txtKeywordsI->SetText(record.txtKeywordsI);
   m_ui->txtDescriptionI->SetText(record.txtDescriptionI);
   m_ui->txtKeyWords->SetText(record.txtKeyWords);
@@ -55,7 +57,8 @@ bool frmKeywords::RefreshTitles() {
 }
 
 void frmKeywords::Close() {
-  TrySave(m_state, "SaveMETA", [this](SettingsStore& store) { SaveMETA(store, m_state.options.frmKeywords); });
+  TrySave(m_state, "SaveMETA",
+          [this](SettingsStore& store) { SaveOptions(store, OptionPart::kKeywords, m_state.options); });
   hide();
 }
 

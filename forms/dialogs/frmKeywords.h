@@ -23,6 +23,7 @@ class frmKeywords : public LoadedDialog {
  private:
   // Reads the four templates; the previews stay as they are.
   void Load() override;
+  void ShowRecord() override;
 
   void showEvent(QShowEvent* event) override;
   bool RefreshTitles();

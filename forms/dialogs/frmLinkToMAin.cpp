@@ -8,9 +8,9 @@
 #include "Follow.h"
 #include "LinkBack.h"
 #include "Numbers.h"
+#include "OptionLoading.h"
 #include "OptionSaving.h"
 #include "PreviewBox.h"
-#include "RunTimeError.h"
 #include "TrySave.h"
 #include "ui_frmLinkToMAin.h"
 
@@ -39,19 +39,14 @@ frmLinkToMAin::frmLinkToMAin(AppState& state, QWidget* parent)
 frmLinkToMAin::~frmLinkToMAin() = default;
 
 void frmLinkToMAin::Load() {
-  const auto show = [this] {
-    m_ui->txtLinkToMain->setText(ToQt(m_record.txtLinkToMain));
-    ShowJustification();
-    m_ui->cboSize->SetText(ToQt(m_record.cboSize));
-  };
-  try {
-    LoadLinkToMain(m_state.store, m_record);
-  } catch (const RunTimeError&) {
-    show();
-    throw;
-  }
-  show();
+  LoadOptions(m_state.store, OptionPart::kLinkToMain, m_state.options);
   SetFontSize(static_cast<int>(ReadInteger(m_record.cboSize, kInt16Min, kInt16Max).value));
+}
+
+void frmLinkToMAin::ShowRecord() {
+  m_ui->txtLinkToMain->setText(ToQt(m_record.txtLinkToMain));
+  ShowJustification();
+  m_ui->cboSize->SetText(ToQt(m_record.cboSize));
 }
 
 void frmLinkToMAin::SetSizeEnabled(bool isEnabled) { m_ui->cboSize->setEnabled(isEnabled); }
@@ -59,7 +54,7 @@ void frmLinkToMAin::SetSizeEnabled(bool isEnabled) { m_ui->cboSize->setEnabled(i
 void frmLinkToMAin::Justify(int justification) {
   m_record.LCR = static_cast<std::int16_t>(justification);
   ShowJustification();
-  TrySave(m_state, "SetJustification", [&](SettingsStore& store) { SaveLCR(store, justification); });
+  TrySave(m_state, "SetJustification", [&](SettingsStore& store) { SaveOption(store, "LCR", m_state.options); });
   m_record.alignment = AlignmentWord(justification);
   SetString();
 }
@@ -83,7 +78,7 @@ void frmLinkToMAin::SetFontSize(int size) {
     font.setPointSize(std::clamp(size + 8, 1, kLargestShown));
     box->setFont(font);
   }
-  TrySave(m_state, "SetFontSize", [&](SettingsStore& store) { SaveLinkBackSize(store, size); });
+  TrySave(m_state, "SetFontSize", [&](SettingsStore& store) { store.SaveText("LinkBackSize", std::to_string(size)); });
   SetString();
 }
 
@@ -110,7 +105,8 @@ void frmLinkToMAin::Refresh() {
 
 void frmLinkToMAin::Close() {
   hide();
-  TrySave(m_state, "SaveLinkToMain", [this](SettingsStore& store) { SaveLinkToMain(store, m_record); });
+  TrySave(m_state, "SaveLinkToMain",
+          [this](SettingsStore& store) { SaveOptions(store, OptionPart::kLinkToMain, m_state.options); });
 }
 
 }  // namespace folionet

@@ -29,6 +29,7 @@ class frmLinkToMAin : public LoadedDialog {
  private:
   // Reads text, alignment and size, and builds the HTML of the link.
   void Load() override;
+  void ShowRecord() override;
 
   void Justify(int justification);
   void ShowJustification();

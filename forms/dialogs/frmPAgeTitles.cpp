@@ -2,6 +2,7 @@
 
 #include "Follow.h"
 #include "KeyReleases.h"
+#include "OptionLoading.h"
 #include "OptionSaving.h"
 #include "PreviewBox.h"
 #include "TrySave.h"
@@ -27,9 +28,10 @@ frmPAgeTitles::frmPAgeTitles(AppState& state, QWidget* parent)
 
 frmPAgeTitles::~frmPAgeTitles() = default;
 
-void frmPAgeTitles::Load() {
-  PageTitleOptions& titles = m_state.options.frmPAgeTitles;
-  LoadTitles(m_state.store, titles);
+void frmPAgeTitles::Load() { LoadOptions(m_state.store, OptionPart::kPageTitles, m_state.options); }
+
+void frmPAgeTitles::ShowRecord() {
+  const PageTitleOptions titles = m_state.options.frmPAgeTitles;
   m_ui->txtIndex_html->setText(ToQt(titles.txtIndex_html));
   m_ui->txtPageTitles->setText(ToQt(titles.txtPageTitles));
 }
@@ -42,7 +44,7 @@ void frmPAgeTitles::showEvent(QShowEvent* event) {
 
 void frmPAgeTitles::SaveTitles() {
   TrySave(m_state, "SaveTitles",
-          [this](SettingsStore& store) { folionet::SaveTitles(store, m_state.options.frmPAgeTitles); });
+          [this](SettingsStore& store) { SaveOptions(store, OptionPart::kPageTitles, m_state.options); });
 }
 
 bool frmPAgeTitles::ShowPreviews() {

@@ -23,6 +23,7 @@ class frmPAgeTitles : public LoadedDialog {
  private:
   // Reads both templates.
   void Load() override;
+  void ShowRecord() override;
 
   void showEvent(QShowEvent* event) override;
   void SaveTitles();

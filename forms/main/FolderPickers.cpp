@@ -7,6 +7,7 @@
 #include "CompileRequest.h"
 #include "FolderTree.h"
 #include "OpeningCombo.h"
+#include "OptionLoading.h"
 #include "Paths.h"
 #include "QtText.h"
 #include "RunTimeError.h"
@@ -43,8 +44,7 @@ FolderPickers::FolderPickers(AppState& state, Ui::frmMain& controls, QObject* pa
 
 void FolderPickers::Restore() {
   if (!m_state.glob.OutputFolder.empty()) return;
-  m_state.main.Drive1 = m_state.store.Text("Drive1");
-  m_state.main.Dir1 = m_state.store.Text("Dir1");
+  LoadOptions(m_state.store, OptionPart::kFolders, m_state.options);
   RestoreDrive();
   RestoreFolder();
 }
@@ -72,11 +72,11 @@ void FolderPickers::ListVolumes() {
 }
 
 void FolderPickers::RestoreDrive() {
-  if (!IsStored(m_state.main.Drive1)) return;
-  const int item = m_controls.Drive1->findData(CleanPath(m_state.main.Drive1));
+  if (!IsStored(m_state.options.main.Drive1)) return;
+  const int item = m_controls.Drive1->findData(CleanPath(m_state.options.main.Drive1));
   try {
-    if (item < 0) throw RunTimeError::FromErrno(ENODEV, m_state.main.Drive1);
-    ListFolder(m_state.main.Drive1);
+    if (item < 0) throw RunTimeError::FromErrno(ENODEV, m_state.options.main.Drive1);
+    ListFolder(m_state.options.main.Drive1);
     ShowVolume(item);
   } catch (const RunTimeError& error) {
     ReportDrive(m_state.ui, error);
@@ -84,12 +84,12 @@ void FolderPickers::RestoreDrive() {
 }
 
 void FolderPickers::RestoreFolder() {
-  if (!IsStored(m_state.main.Dir1)) return;
-  const QString folder = CleanPath(m_state.main.Dir1);
+  if (!IsStored(m_state.options.main.Dir1)) return;
+  const QString folder = CleanPath(m_state.options.main.Dir1);
   if (ShowFolder(folder)) {
     Dir1_Change(folder);
   } else {
-    ReportDrive(m_state.ui, RunTimeError(kPathNotFound, m_state.main.Dir1));
+    ReportDrive(m_state.ui, RunTimeError(kPathNotFound, m_state.options.main.Dir1));
   }
 }
 
@@ -128,9 +128,10 @@ void FolderPickers::Drive1_Change(int item) {
 }
 
 void FolderPickers::Dir1_Change(const QString& path) {
-  m_state.main.Drive1 = FromQt(m_controls.Dir1->RootPath());
-  m_state.main.Dir1 = FromQt(path);
-  m_state.glob.OutputFolder = m_state.main.Dir1.ends_with('/') ? m_state.main.Dir1 : m_state.main.Dir1 + '/';
+  MainOptions& main = m_state.options.main;
+  main.Drive1 = FromQt(m_controls.Dir1->RootPath());
+  main.Dir1 = FromQt(path);
+  m_state.glob.OutputFolder = main.Dir1.ends_with('/') ? main.Dir1 : main.Dir1 + '/';
   m_controls.txtOutputPath->setText(ToQt(m_state.glob.OutputFolder));
   m_controls.txtOutputPath->setToolTip(m_controls.txtOutputPath->text());
 }

@@ -3,6 +3,8 @@
 #include "BookTitles.h"
 #include "Catalogue.h"
 #include "ChapterIndex.h"
+#include "OptionLoading.h"
+#include "OptionSaving.h"
 #include "QtText.h"
 #include "TrySave.h"
 #include "ui_frmMain.h"
@@ -39,9 +41,9 @@ Outcome LibraryLists::Fill() {
   GetLang(glob, m_state.ui);
   m_controls.cboLang->clear();
   for (const std::string& name : glob.cboLang) m_controls.cboLang->addItem(ToQt(name));
-  m_state.main.cboLang = m_state.store.Text("cboLang");
-  m_controls.cboLang->SetText(ToQt(m_state.main.cboLang));
-  if (PopulateCombos(1, m_state.main.cboLang, glob, m_state.codePage, m_state.ui) == Outcome::kEndProgram) {
+  LoadOptions(m_state.store, OptionPart::kLanguageFile, m_state.options);
+  m_controls.cboLang->SetText(ToQt(m_state.options.main.cboLang));
+  if (PopulateCombos(1, m_state.options.main.cboLang, glob, m_state.codePage, m_state.ui) == Outcome::kEndProgram) {
     return Outcome::kEndProgram;
   }
   ShowTranslations();
@@ -113,9 +115,10 @@ void LibraryLists::TellUnread(int item) const {
 void LibraryLists::ChooseLanguage() {
   m_controls.cboStartBook->clear();
   m_controls.cboEndBook->clear();
-  m_state.main.cboLang = FromQt(m_controls.cboLang->Text());
-  TrySave(m_state, "cboLang_Click", [&](SettingsStore& store) { store.SaveText("cboLang", m_state.main.cboLang); });
-  if (PopulateCombos(0, m_state.main.cboLang, m_state.glob, m_state.codePage, m_state.ui) == Outcome::kEndProgram) {
+  m_state.options.main.cboLang = FromQt(m_controls.cboLang->Text());
+  TrySave(m_state, "cboLang_Click", [&](SettingsStore& store) { SaveOption(store, "cboLang", m_state.options); });
+  if (PopulateCombos(0, m_state.options.main.cboLang, m_state.glob, m_state.codePage, m_state.ui) ==
+      Outcome::kEndProgram) {
     emit EndProgram();
     return;
   }

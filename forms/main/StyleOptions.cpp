@@ -2,7 +2,7 @@
 
 #include <new>
 
-#include "OptionRecords.h"
+#include "OptionLoading.h"
 #include "QtText.h"
 #include "RunTimeError.h"
 #include "ui_frmMain.h"
@@ -20,15 +20,16 @@ StyleOptions::StyleOptions(AppState& state, Ui::frmMain& controls, QObject* pare
 }
 
 void StyleOptions::LoadAlignment() {
-  const AlignmentReading reading = folionet::LoadAlignment(m_state.store);
-  m_controls.optAlignLeft->setChecked(reading.selected == "Left");
-  m_controls.OptAlignCenter->setChecked(reading.selected == "Center");
-  m_controls.OptAlignJust->setChecked(reading.selected == "Justify");
-  SetAlignment(reading.text);  // whatever it holds
+  LoadOptions(m_state.store, OptionPart::kAlignment, m_state.options);
+  const std::string selected = SelectedAlignment(m_state.options.main);
+  m_controls.optAlignLeft->setChecked(selected == "Left");
+  m_controls.OptAlignCenter->setChecked(selected == "Center");
+  m_controls.OptAlignJust->setChecked(selected == "Justify");
+  SetAlignment(m_state.options.main.alignment);  // whatever it holds
 }
 
 void StyleOptions::GetDefaults() {
-  folionet::GetDefaults(m_state.store, m_state.options.txtSample);
+  LoadOptions(m_state.store, OptionPart::kSample, m_state.options);
   ShowSample();
 }
 
@@ -67,7 +68,8 @@ void StyleOptions::PickFont() {
 }
 
 void StyleOptions::SetAlignment(const std::string& text) {
-  m_state.main.alignment = text;
+  m_state.options.main.alignment = text;
+  if (IsKnownAlignment(text)) m_state.options.main.alignmentLR = text;
   m_state.texts.LinkAlignment = text;
 }
 

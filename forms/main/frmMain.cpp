@@ -65,7 +65,8 @@ void frmMain::ConnectOptions() {
   PageOptions& options = m_state.options;
   connect(m_ui->chkUseNames, &QCheckBox::clicked, this, [this, &options](bool on) {
     options.chkUseNames = on;
-    TrySave(m_state, "chkUseNames_Click", [on](SettingsStore& store) { store.SaveFlag("chkUseNames", on); });
+    TrySave(m_state, "chkUseNames_Click",
+            [&](SettingsStore& store) { SaveOption(store, "chkUseNames", m_state.options); });
   });
   connect(m_ui->chkUse83, &QCheckBox::toggled, this, [&options](bool on) { options.chkUse83 = on; });
   connect(m_ui->chkDoubleSpace, &QCheckBox::toggled, this, [&options](bool on) { options.chkDoubleSpace = on; });
@@ -111,13 +112,13 @@ void frmMain::updateCheck() {
   m_state.options.chkBack = m_ui->chkBack->isChecked();
   m_ui->cmdBackColour->setEnabled(!m_state.options.chkBack);
   if (m_state.options.chkBack) Open<frmBackground>();
-  TrySave(m_state, "updateCheck", [&](SettingsStore& store) { store.SaveFlag("chkBack", m_state.options.chkBack); });
+  TrySave(m_state, "updateCheck", [&](SettingsStore& store) { SaveOption(store, "chkBack", m_state.options); });
 }
 
 void frmMain::CSSCheck() {
   m_state.options.chkCSS = m_ui->chkCSS->isChecked();
   m_ui->cmdEffects->setEnabled(!m_state.options.chkCSS);
-  TrySave(m_state, "CSSCheck", [&](SettingsStore& store) { store.SaveFlag("chkCSS", m_state.options.chkCSS); });
+  TrySave(m_state, "CSSCheck", [&](SettingsStore& store) { SaveOption(store, "chkCSS", m_state.options); });
   m_style->EnableDisableOptions();
   if (!m_state.options.chkCSS) return;
   m_state.ui.ShowMessage({MessageIcon::kInformation, "CSS file to be used",
@@ -167,8 +168,7 @@ void frmMain::ShowHelp() {
 }
 
 void frmMain::SaveDefaults() {
-  TrySave(m_state, "SaveDefaults",
-          [&](SettingsStore& store) { folionet::SaveDefaults(store, m_state.options, m_state.main); });
+  TrySave(m_state, "SaveDefaults", [&](SettingsStore& store) { folionet::SaveDefaults(store, m_state.options); });
 }
 
 void frmMain::RestoreAll() {
@@ -181,7 +181,7 @@ void frmMain::RestoreAll() {
     m_state.ui.ShowErrorReport(error.Number(), "cmdRestoreAll_Click", error.Extra());
     return;
   }
-  m_state.options.txtSample = SampleText();
+  m_state.options.txtSample = PageOptions().txtSample;
   m_style->ShowSample();
   ReadEncoding();
   m_state.ui.ShowMessage({MessageIcon::kInformation, std::string("Restart ") + kApplicationTitle,

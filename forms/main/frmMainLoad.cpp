@@ -4,6 +4,7 @@
 #include "ChapterIndex.h"
 #include "FolderPickers.h"
 #include "LibraryLists.h"
+#include "OptionLoading.h"
 #include "PageEncoding.h"
 #include "QtText.h"
 #include "RunTimeError.h"
@@ -41,7 +42,7 @@ bool frmMain::GoOnWithStart() {
     }
   } catch (const RunTimeError& error) {
     if (m_startFailure == error.Extra()) return true;
-    if (!m_hasStopped) ReadForSaveDefaults(m_state.store, m_state.options, m_state.main);
+    if (!m_hasStopped) LoadMissingOptions(m_state.store, m_state.options);
     m_hasStopped = true;
     m_startFailure = error.Extra();
     std::string extra = FromQt(m_ui->txtFilename->text());
@@ -68,25 +69,32 @@ std::vector<std::function<bool()>> frmMain::StartSteps() {
   };
   PageOptions& options = m_state.options;
   const SettingsStore& store = m_state.store;
+  const auto load = [&options, &store](std::string_view key) { LoadOption(store, *FindOption(key), options); };
   return {
-      plain([this, &options, &store] {
-        options.chkBack = store.Flag("chkBack");
+      plain([this, load, &options] {
+        load("chkBack");
         m_ui->chkBack->setChecked(options.chkBack);
         m_ui->cmdBackColour->setEnabled(!options.chkBack);
         m_ui->chkBack->setEnabled(!options.chkBack);
       }),
-      plain([this, &options, &store] {
-        options.chkUseNames = store.Flag("chkUseNames");
+      plain([this, load, &options] {
+        load("chkUseNames");
         m_ui->chkUseNames->setChecked(options.chkUseNames);
       }),
-      plain([this, &store] { m_ui->chkUse83->setChecked(store.Flag("Use83")); }),
+      plain([this, load, &options] {
+        load("Use83");
+        m_ui->chkUse83->setChecked(options.chkUse83);
+      }),
       [this, &store] {
         // Names and files are read in it long before the charset is shown and a bad one reported.
         m_state.codePage = StoredCodePage(store);
         return m_lists->Fill() != Outcome::kEndProgram;
       },
       plain([this] { m_style->LoadAlignment(); }),
-      plain([this, &store] { m_ui->chkDoubleSpace->setChecked(store.Flag("chkDoubleSpace")); }),
+      plain([this, load, &options] {
+        load("chkDoubleSpace");
+        m_ui->chkDoubleSpace->setChecked(options.chkDoubleSpace);
+      }),
       plain([this] { m_folders->Restore(); }),
       plain([this] { m_dialogs.Load<frmCustomHeader>(); }),
       plain([this] { m_dialogs.Load<frmCustomizeFooter>(); }),
@@ -99,11 +107,9 @@ std::vector<std::function<bool()>> frmMain::StartSteps() {
       plain([this] { m_style->GetDefaults(); }),
       plain([this] { ReadEncoding(); }),
       plain([this] { m_dialogs.Load<frmLinkToMAin>(); }),
-      plain([&options, &store] { options.txtSample.FontBold = store.Boolean("FontBold"); }),
-      plain([&options, &store] { options.txtSample.FontItalic = store.Boolean("FontItalic"); }),
       plain([this, &options, &store] {
+        LoadOptions(store, OptionPart::kLooks, options);
         m_style->ShowSample();
-        options.chkCSS = store.Flag("chkCSS");
         m_ui->chkCSS->setChecked(options.chkCSS);
         m_style->EnableDisableOptions();
       }),
@@ -112,7 +118,7 @@ std::vector<std::function<bool()>> frmMain::StartSteps() {
 
 void frmMain::ReadEncoding() {
   PageEncoding encoding;
-  LoadPageEncoding(m_state.store, encoding, m_state.ui);
+  LoadPageEncoding(m_state.store, m_state.options, encoding, m_state.ui);
   m_state.texts.PageCharset = encoding.PageCharset;
   m_state.texts.PageLanguage = encoding.PageLanguage;
   m_state.codePage = CodePage(encoding.PageCharset);

@@ -31,7 +31,8 @@ TEST(SampleText, NamesItsStyle) {
     SampleText sample;
     const char* text;
   } cases[] = {
-      {{}, "Verdana]\r\n[Fontsize:3] [Format: None]\r\n[Foreground:#020280#]\r\n[Background:#FFFFFF#]"},
+      {PageOptions().txtSample,
+       "Verdana]\r\n[Fontsize:3] [Format: None]\r\n[Foreground:#020280#]\r\n[Background:#FFFFFF#]"},
       {{"Arial", 10.5, true, true, 0, 8389122},
        "Arial]\r\n[Fontsize:2] Format: BoldItalic\r\n[Foreground:#020280#]\r\n[Background:#000000#]"},
       {{"Arial", 8, true, false, 0x0C0B0A, 255},

@@ -41,7 +41,7 @@ TEST_F(MainForm, ABadSettingEndsAStartWhereItIsRead) {
     EXPECT_NE(m_ui.said[0].find(c.key), std::string::npos) << m_ui.said[0];
     EXPECT_EQ(m_ui.said[0].starts_with(m_home.Path() + "library/Modules/Bible/SMALL.TXT\r\n"), c.listsAreFilled);
     EXPECT_EQ(Get<QComboBox>("cboStartBook").count(), c.listsAreFilled ? 66 : 0);
-    EXPECT_EQ(m_state->options.frmPAgeTitles.txtPageTitles.empty(), !c.titlesAreLoaded);
+    EXPECT_EQ(m_form->OptionDialogs().Get<frmPAgeTitles>().IsLoaded(), c.titlesAreLoaded);
     EXPECT_EQ(Shown("frmMain.StatusBar1_Panel2").empty(), !c.languageIsShown);
   }
 }

@@ -1,8 +1,12 @@
+#include <QAbstractButton>
+#include <QComboBox>
+#include <QLineEdit>
 #include <map>
 #include <set>
 
 #include "FormTest.h"
-#include "SettingsKeys.h"
+#include "OptionTable.h"
+#include "TextBox.h"
 #include "frmMain.h"
 
 namespace folionet {
@@ -63,7 +67,7 @@ const struct Row {
 class Settings : public FormTest {
  protected:
   Settings() {
-    for (const SettingKey& key : SettingKeys()) m_expected[std::string(key.name)] = key.defaultText;
+    for (const Option& option : OptionTable()) m_expected[std::string(option.key)] = option.defaultText;
   }
 
   // Leaves a dialog by its button, which saves.
@@ -115,10 +119,46 @@ TEST_F(Settings, EveryKeySurvivesARestartByItself) {
     Exit();
     ExpectStored();
   }
-  std::set<std::string> covered;
-  for (const Row& row : kRows) covered.insert(row.key);
-  EXPECT_EQ(covered.size(), m_expected.size());
   ExpectStartShowsThem();
+}
+
+// Every key of the table has a row here, and with it a control; every control that a person can set has its key, but
+// for those that choose what to compile, where a chooser is opened or what is only added to a list.
+TEST_F(Settings, EveryKeyHasItsControlAndEveryControlItsKey) {
+  std::set<std::string> keys;
+  std::set<std::string> controls{"cboBibleName",
+                                 "cboStartBook",
+                                 "cboEndBook",
+                                 "txthttpRoot",
+                                 "optAlignLeft",
+                                 "OptAlignCenter",
+                                 "Drive1",
+                                 "frmLinkToMAin.OLeft",
+                                 "frmLinkToMAin.OCenter",
+                                 "frmEncoding.txtLang",
+                                 "frmEncoding.txtCharset",
+                                 "frmCustomHeader.Text1",
+                                 "frmCustomizeFooter.Text1"};
+  for (const Row& row : kRows) {
+    keys.insert(row.key);
+    controls.insert(row.control);
+  }
+  for (const Option& option : OptionTable()) EXPECT_EQ(keys.count(std::string(option.key)), 1U) << option.key;
+  EXPECT_EQ(keys.size(), OptionTable().size());
+  ASSERT_TRUE(Start());
+  Get("frmEncoding.");
+  for (const QWidget* control : m_form->findChildren<QWidget*>()) {
+    const auto* button = qobject_cast<const QAbstractButton*>(control);
+    const auto* line = qobject_cast<const QLineEdit*>(control);
+    const auto* box = qobject_cast<const TextBox*>(control);
+    const bool isSet = (button != nullptr && button->isCheckable()) || (line != nullptr && !line->isReadOnly()) ||
+                       (box != nullptr && !box->isReadOnly()) || qobject_cast<const QComboBox*>(control) != nullptr;
+    const QString name = control->objectName();
+    if (!isSet || name.isEmpty() || name.startsWith("qt_")) continue;  // a part of another control
+    const QWidget* form = control->window();
+    const std::string full = (form == m_form.get() ? "" : FromQt(form->objectName()) + ".") + FromQt(name);
+    EXPECT_EQ(controls.count(full), 1U) << full;
+  }
 }
 
 TEST_F(Settings, RestoreAllBringsEveryDefaultBack) {
@@ -145,7 +185,7 @@ TEST_F(Settings, RestoreAllBringsEveryDefaultBack) {
   EXPECT_TRUE(m_form->close());
   EXPECT_EQ(m_ui.log.size(), 3U) << "nothing more is asked";
   EXPECT_FALSE(m_home.Has("config/Folionet.ini"));
-  for (const SettingKey& key : SettingKeys()) m_expected[std::string(key.name)] = key.defaultText;
+  for (const Option& option : OptionTable()) m_expected[std::string(option.key)] = option.defaultText;
   ExpectStartShowsThem();
 }
 

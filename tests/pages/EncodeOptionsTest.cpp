@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "EncodeOptions.h"
+#include "OptionTable.h"
 
 namespace folionet {
 namespace {
@@ -8,19 +9,16 @@ namespace {
 // Every typed text must be encoded; one that was forgotten would reach pages as UTF-8.
 TEST(EncodeOptionsTest, EncodesEveryTypedText) {
   const std::string typed = "é";
+  const auto isText = [](const Option& option) { return option.form == OptionForm::kText; };
   PageOptions options;
-  options.txtSample.FontName = options.txthttpRoot = typed;
-  options.frmPAgeTitles = {typed, typed};
-  options.frmKeywords = {typed, typed, typed, typed};
-  options.frmLinkToMAin = {typed, 2, "center", typed};
-  options.frmBackground.txtImagepath = typed;
+  options.txthttpRoot = typed;
+  for (const Option& option : OptionTable()) {
+    if (isText(option)) SetOption(option, typed, options);
+  }
   const PageOptions encoded = EncodePageOptions(options, CodePage("windows-1252"));
-  for (const std::string* text :
-       {&encoded.txtSample.FontName, &encoded.txthttpRoot, &encoded.frmPAgeTitles.txtIndex_html,
-        &encoded.frmPAgeTitles.txtPageTitles, &encoded.frmKeywords.txtKeywordsI, &encoded.frmKeywords.txtDescriptionI,
-        &encoded.frmKeywords.txtKeyWords, &encoded.frmKeywords.txtDescription, &encoded.frmLinkToMAin.txtLinkToMain,
-        &encoded.frmLinkToMAin.cboSize, &encoded.frmBackground.txtImagepath}) {
-    EXPECT_EQ(*text, "\xE9");
+  EXPECT_EQ(encoded.txthttpRoot, "\xE9");
+  for (const Option& option : OptionTable()) {
+    EXPECT_EQ(OptionText(option, encoded), isText(option) ? "\xE9" : option.defaultText) << option.key;
   }
   const PageTexts texts = EncodePageTexts({typed, typed, typed, typed, typed, typed, typed}, CodePage());
   for (const std::string* text : {&texts.RolloverStyle, &texts.BodyLinkTag, &texts.CustomHeader, &texts.CustomFooter,

@@ -14,6 +14,7 @@
 #include "CustomHtml.h"
 #include "EncodingLists.h"
 #include "JointChange.h"
+#include "OptionLoading.h"
 #include "OptionSaving.h"
 #include "RunTimeError.h"
 #include "ScriptedUi.h"
@@ -26,7 +27,10 @@ bool Save(const std::string& what, const std::string& folder, const std::string&
   test::ScriptedUi ui;
   if (what == "settings") {
     SettingsStore store(folder);
-    SaveDefaults(store, {}, {.Dir1 = text});
+    PageOptions options;
+    LoadAllOptions(store, options);
+    options.main.Dir1 = text;
+    SaveDefaults(store, options);
   } else if (what == "header") {
     const bool isSaved = SaveCustomHtml(folder + "/", kCustomHeader, CodePage(), text, ui);
     for (const std::string& report : ui.Boxes()) std::cerr << report << '\n';

@@ -1,10 +1,10 @@
 #include <gtest/gtest.h>
 
-#include <functional>
+#include <filesystem>
 
-#include "OptionRecords.h"
+#include "OptionLoading.h"
+#include "OptionSaving.h"
 #include "RunTimeError.h"
-#include "SettingsKeys.h"
 #include "SettingsStore.h"
 #include "TemporaryFolder.h"
 
@@ -64,50 +64,96 @@ TEST(SettingsStoreTest, AFailedSaveIsToldAndNotTriedAgain) {
   EXPECT_EQ(store.Text("Font"), "Verdana");
 }
 
-TEST(SettingsStoreTest, ValuesThatDoNotConvertAreFailures) {
-  const std::function<void(const SettingsStore&)> flag = [](const auto& s) { s.Flag("chkCSS"); };
-  const std::function<void(const SettingsStore&)> colour = [](const auto& s) { s.ColourOf("BackColor"); };
-  const std::function<void(const SettingsStore&)> boolean = [](const auto& s) { s.Boolean("FontBold"); };
-  const std::function<void(const SettingsStore&)> number = [](const auto& s) { s.Number("LCR"); };
-  const std::function<void(const SettingsStore&)> points = [](const auto& s) { s.PointSize("FontSize"); };
+TEST(OptionsTest, ThatDoNotConvertAreFailuresAndStayAsTheyAreStored) {
   const struct {
-    const std::function<void(const SettingsStore&)>& read;
     const char* key;
     const char* text;
     int number;
   } cases[] = {
-      {flag, "chkCSS", "x", kTypeMismatch},
-      {flag, "chkCSS", "40000", kOverflow},
-      {flag, "chkCSS", "2", kInvalidProcedureCall},
-      {colour, "BackColor", "#FFFFFF", kTypeMismatch},
-      {colour, "BackColor", "4294967296", kOverflow},
-      {boolean, "FontBold", "1", kTypeMismatch},
-      {number, "LCR", "", kTypeMismatch},
-      {number, "LCR", "99999", kOverflow},
-      {points, "FontSize", "12pt", kTypeMismatch},
-      {points, "FontSize", "inf", kTypeMismatch},
-      {points, "FontSize", "1,5", kTypeMismatch},
-      {points, "FontSize", "1e39", kOverflow},
+      {"chkCSS", "x", kTypeMismatch},
+      {"chkCSS", "40000", kOverflow},
+      {"chkCSS", "2", kInvalidProcedureCall},
+      {"BackColor", "#FFFFFF", kTypeMismatch},
+      {"BackColor", "4294967296", kOverflow},
+      {"FontBold", "1", kTypeMismatch},
+      {"LCR", "", kTypeMismatch},
+      {"LCR", "99999", kOverflow},
+      {"LinkBackSize", "32760", kOverflow},
+      {"FontSize", "12pt", kTypeMismatch},
+      {"FontSize", "inf", kTypeMismatch},
+      {"FontSize", "1,5", kTypeMismatch},
+      {"FontSize", "1e39", kOverflow},
+      {"lblRColor", "red", kTypeMismatch},
+      {"Lang", "en", kInvalidProcedureCall},
   };
   for (const auto& c : cases) {
+    SCOPED_TRACE(std::string(c.key) + "=" + c.text);
     const TemporaryFolder folder;
     SettingsStore(folder.Path()).SaveText(c.key, c.text);
+    const std::string before = folder.Read("Folionet.ini");
+    SettingsStore store(folder.Path());
+    PageOptions options;
     try {
-      c.read(SettingsStore(folder.Path()));
-      ADD_FAILURE() << c.key << "=" << c.text;
+      LoadAllOptions(store, options);
+      ADD_FAILURE() << "read";
     } catch (const RunTimeError& error) {
-      EXPECT_EQ(error.Number(), c.number) << c.key << "=" << c.text;
-      EXPECT_NE(error.Extra().find(std::string("The setting ") + c.key + " must be "), std::string::npos);
+      EXPECT_EQ(error.Number(), c.number);
+      EXPECT_NE(error.Extra().find(c.key), std::string::npos) << error.Extra();
     }
+    LoadMissingOptions(store, options);
+    SaveDefaults(store, options);
+    SaveOptions(store, FindOption(c.key)->part, options);
+    EXPECT_EQ(SettingsStore(folder.Path()).Text(c.key), c.text);
+    EXPECT_NE(folder.Read("Folionet.ini"), before);
   }
 }
 
-TEST(HyperlinkOptionsTest, StayAsTheyAreWhenNothingIsAsked) {
+// What a person gives an option that could not be read takes the place of what is stored, the default too once it is
+// asked for.
+TEST(OptionsTest, ThatAPersonChangedAreSaved) {
   const TemporaryFolder folder;
-  EffectsOptions effects;
-  effects.cboStyle = "Bold";
-  SetDefaultHyperlinkColors(SettingsStore(folder.Path()), effects, 2);
-  EXPECT_EQ(effects.cboStyle, "Bold");
+  SettingsStore store(folder.Path());
+  store.SaveText("lblActive", "red");
+  store.SaveText("lblHyperlink", "blue");
+  PageOptions options;
+  EXPECT_THROW(LoadOptions(store, OptionPart::kEffects, options), RunTimeError);
+  options.frmEffects.lblActive.colour = 7;
+  SaveOptions(store, OptionPart::kEffects, options);
+  EXPECT_EQ(store.Text("lblActive") + " " + store.Text("lblHyperlink"), "7 blue");
+  ResetOptions(OptionPart::kEffects, options);
+  SaveOptions(store, OptionPart::kEffects, options);
+  EXPECT_EQ(store.Text("lblActive") + " " + store.Text("lblHyperlink"), "255 16711680");
+}
+
+TEST(OptionsTest, OfAFileThatCannotBeReadAreNotWrittenOver) {
+  const TemporaryFolder folder;
+  const std::string file = folder.Path() + "Folionet.ini";
+  folder.Write("Folionet.ini", "[Keys]\nDir1=/kept\n");
+  std::filesystem::rename(file, file + ".away");
+  std::filesystem::create_directory(file);
+  SettingsStore store(folder.Path());
+  PageOptions options;
+  EXPECT_THROW(LoadAllOptions(store, options), RunTimeError);
+  LoadMissingOptions(store, options);
+  std::filesystem::remove(file);
+  std::filesystem::rename(file + ".away", file);
+  options.main.Drive1 = "/";
+  SaveDefaults(store, options);
+  EXPECT_EQ(folder.Read("Folionet.ini"), "[Keys]\nDir1=/kept\nDrive1=/\n");
+}
+
+// Each row has a field of its own, and a default of its form that comes back from that field as it is.
+TEST(OptionsTest, HaveTheDefaultsOfTheirTable) {
+  const PageOptions defaults;
+  for (const Option& option : OptionTable()) {
+    EXPECT_EQ(CheckOption(option.form, option.defaultText), 0) << option.key;
+    EXPECT_EQ(OptionText(option, defaults), option.defaultText) << option.key;
+    PageOptions changed;
+    SetOption(option, option.defaultText == "0" || option.defaultText == "False" ? "1" : "0", changed);
+    for (const Option& other : OptionTable()) {
+      EXPECT_EQ(OptionText(other, changed) == other.defaultText, &other != &option) << option.key << " " << other.key;
+    }
+  }
 }
 
 }  // namespace

@@ -10,9 +10,11 @@
 #include <unordered_map>
 #include <utility>
 
-#include "CharacterReferences.h"
+#include "Addresses.h"
 #include "CodePage.h"
+#include "FolderLister.h"
 #include "PageLinks.h"
+#include "PageText.h"
 #include "Paths.h"
 #include "RunTimeError.h"
 #include "StyleLinks.h"
@@ -88,17 +90,15 @@ class SiteChecker {
   struct Source {
     const std::string& path;
     std::set<std::string>& linked;
-    std::optional<std::string> base{};    // the folder that its links start from; none when that is another site's
-    std::optional<CodePage> writtenIn{};  // the code page that a compile took for this page's charset
+    std::optional<std::string> base{};  // the folder that its links start from; none when that is another site's
   };
 
   // An address of a page or a style sheet.
   struct Address {
-    std::string_view text;  // in UTF-8, without character references
+    std::string_view text;  // as browsers read it
     std::size_t line;
-    std::string_view shown;    // as the file has it, in UTF-8
-    std::string_view bytes{};  // as the file has it
-    bool isPage = false;       // whether it may be a page's
+    std::string written{};  // of a page's address: as the compile that wrote it took its bytes
+    bool isPage = false;    // whether it may be a page's
   };
 
   void ReadWaiting() {
@@ -128,21 +128,18 @@ class SiteChecker {
   }
 
   void FollowPage(Source page, const std::string& bytes) {
-    const std::string charset = FindPageCharset(bytes);
-    const CodePage codePage(BrowserCharset(charset));
-    const std::vector<PageLink> links = FindPageLinks(bytes);
-    page.base = FindBase(page.path, links, codePage);
-    page.writtenIn.emplace(charset);
+    const CodePage codePage(FindPageCharset(bytes));
+    const std::vector<PageLink> links = FindPageLinks(DecodePage(bytes, codePage));
+    page.base = FindBase(page.path, links);
     for (const PageLink& link : links) {
-      const std::string shown = codePage.DecodeForDisplay(link.value);
-      const std::string text = WithoutCharacterReferences(shown);
+      const std::string text = AsBrowsersRead(link.value);
       switch (link.form) {
         case LinkForm::kPage:
         case LinkForm::kFile:
-          Follow(page, {text, link.line, shown, link.value, link.form == LinkForm::kPage});
+          Follow(page, {text, link.line, AsItIsWritten(link.value), link.form == LinkForm::kPage});
           break;
         case LinkForm::kRefresh:
-          Follow(page, {RefreshAddress(text), link.line, RefreshAddress(text), {}, true});
+          Follow(page, {RefreshAddress(text), link.line, {}, true});
           break;
         case LinkForm::kBase:
           break;
@@ -152,28 +149,23 @@ class SiteChecker {
         case LinkForm::kStyle:
           FollowAll(page, FindStyleLinks(text), link.line);
           break;
-        case LinkForm::kSheet:
-          FollowAll(page, FindStyleLinks(shown), link.line);
-          break;
       }
     }
   }
 
   // The folder that the links of a page start from: its own, or that of its first "base".
-  static std::optional<std::string> FindBase(const std::string& path, const std::vector<PageLink>& links,
-                                             const CodePage& codePage) {
+  static std::optional<std::string> FindBase(const std::string& path, const std::vector<PageLink>& links) {
     const std::string own(FolderOf(path));
     const auto base =
         std::find_if(links.begin(), links.end(), [](const PageLink& link) { return link.form == LinkForm::kBase; });
     if (base == links.end()) return own;
-    const std::string address = WithoutCharacterReferences(codePage.DecodeForDisplay(base->value));
-    const std::string target = LocalTarget(address);
-    if (IsElsewhere(address) || target.starts_with('/')) return std::nullopt;
+    const std::string target = LocalTarget(base->value);
+    if (IsElsewhere(base->value) || target.starts_with('/')) return std::nullopt;
     return own + std::string(FolderOf(target));
   }
 
   void FollowAll(const Source& source, const std::vector<StyleLink>& links, std::size_t firstLine) {
-    for (const StyleLink& link : links) Follow(source, {link.address, firstLine + link.line, link.address});
+    for (const StyleLink& link : links) Follow(source, {link.address, firstLine + link.line});
   }
 
   void Follow(const Source& source, const Address& address) {
@@ -210,10 +202,10 @@ class SiteChecker {
     const std::string name(address.text);
     const std::string target = LocalTarget(name);
     if (name != target && m_names.contains(name)) return {LinkFault::kSign, {}, name};
-    if (!source.writtenIn || target.empty()) return {LinkFault::kMissing};
-    const std::string written = LocalTarget(WithoutCharacterReferences(source.writtenIn->Decode(address.bytes)));
+    if (target.empty()) return {LinkFault::kMissing};
+    const std::string written = LocalTarget(address.written);
     if (written != target && m_names.contains(written)) return {LinkFault::kCharset, {}, written};
-    return {address.shown.find("\uFFFD") == std::string_view::npos ? LinkFault::kMissing : LinkFault::kCharset};
+    return {name.find("\uFFFD") == std::string::npos ? LinkFault::kMissing : LinkFault::kCharset};
   }
 
   void AddBroken(const Source& source, const Address& address, const Goal& goal) {
@@ -225,7 +217,7 @@ class SiteChecker {
         m_broken.try_emplace({PathInFolder(path).value_or(path), fault}, m_report.broken.size(), std::string());
     auto& [at, lastPage] = known->second;
     if (isNew) {
-      m_report.broken.push_back({std::string(address.shown), fault, goal.otherCase, !address.isPage && !IsSheet(path),
+      m_report.broken.push_back({std::string(address.text), fault, goal.otherCase, !address.isPage && !IsSheet(path),
                                  source.path, address.line});
     }
     if (isNew || lastPage != source.path) ++m_report.broken[at].pages;
@@ -246,7 +238,7 @@ class SiteChecker {
     const bool isExact = path.find('/') != std::string::npos || m_names.contains(path);
     std::error_code error;
     if (!isExact || !std::filesystem::exists(m_folder + path, error)) {
-      const std::string other = LocateIgnoringCase(m_folder, path);
+      const std::string other = m_lister.Locate(m_folder, path);
       if (!FileExists(other) && !FolderExists(other)) return {LinkFault::kMissing};
       return {LinkFault::kOtherCase, other.substr(m_folder.size())};
     }
@@ -294,6 +286,7 @@ class SiteChecker {
   }
 
   std::string m_folder;
+  FolderLister m_lister;
   std::string m_indexName;
   std::set<std::string> m_names;
   std::unordered_map<std::string, Goal> m_goals;          // of each path that a link has

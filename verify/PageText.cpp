@@ -1,0 +1,123 @@
+#include "PageText.h"
+
+#include <unicode/utf8.h>
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+#include <utility>
+
+#include "Addresses.h"
+#include "HtmlReader.h"
+
+namespace folionet {
+namespace {
+
+// Elements that may stand in the head of a page.
+constexpr std::array<std::string_view, 10> kHeadElements{"html", "head",  "title",  "meta",     "link",
+                                                         "base", "style", "script", "noscript", "object"};
+
+constexpr std::size_t kAlwaysSearched = 1024;
+
+// The character for the byte 0 that does not decode; the others follow it. Nobody else has a use for them.
+constexpr UChar32 kFirstByte = 0x10FE00;
+
+void Append(std::string& text, UChar32 character) {
+  std::array<char, U8_MAX_LENGTH> bytes{};
+  std::size_t length = 0;
+  U8_APPEND_UNSAFE(bytes.data(), length, character);
+  text.append(bytes.data(), length);
+}
+
+// Gives each character of a text with its bytes; a byte that is no UTF-8 is one below 0.
+template <typename Take>
+void ForEachCharacter(std::string_view text, const Take& take) {
+  const auto* const data = reinterpret_cast<const std::uint8_t*>(text.data());
+  const auto length = static_cast<std::int64_t>(text.size());
+  for (std::int64_t at = 0; at < length;) {
+    const std::int64_t start = at;
+    UChar32 character = 0;
+    U8_NEXT(data, at, length, character);
+    take(character, text.substr(static_cast<std::size_t>(start), static_cast<std::size_t>(at - start)));
+  }
+}
+
+// What follows "charset" and "=" in a text such as "text/html; charset=utf-8".
+std::string CharsetInContent(std::string_view content) {
+  const std::string lower = FoldCase(content);
+  std::string_view rest = lower;
+  for (std::size_t at = rest.find("charset"); at != std::string_view::npos; at = rest.find("charset")) {
+    rest = TrimmedAsHtml(rest.substr(at + 7));
+    if (!rest.starts_with('=')) continue;
+    rest = TrimmedAsHtml(rest.substr(1));
+    const bool isQuoted = rest.starts_with('"') || rest.starts_with('\'');
+    const std::string_view end = isQuoted ? rest.substr(0, 1) : "; \t\r\n\f";
+    if (isQuoted) rest.remove_prefix(1);
+    return std::string(rest.substr(0, rest.find_first_of(end)));
+  }
+  return {};
+}
+
+std::string DeclaredCharset(const HtmlTag& tag) {
+  const std::string* const charset = tag.Find("charset");
+  if (charset != nullptr) return std::string(TrimmedAsHtml(*charset));
+  const std::string* const kind = tag.Find("http-equiv");
+  const std::string* const content = tag.Find("content");
+  if (kind == nullptr || content == nullptr || !EqualIgnoringCase(*kind, "content-type")) return {};
+  return CharsetInContent(*content);
+}
+
+}  // namespace
+
+bool IsUtf16(std::string_view page) { return page.starts_with("\xFF\xFE") || page.starts_with("\xFE\xFF"); }
+
+std::string FindPageCharset(std::string_view page) {
+  if (page.starts_with("\xEF\xBB\xBF")) return "utf-8";
+  std::string ascii(page);
+  std::replace_if(
+      ascii.begin(), ascii.end(), [](char c) { return static_cast<unsigned char>(c) >= 0x80; }, '?');
+  std::string found;
+  bool isHead = true;
+  ReadHtml(ascii, [&](const HtmlTag& tag) {
+    isHead = isHead && std::find(kHeadElements.begin(), kHeadElements.end(), tag.element) != kHeadElements.end();
+    if (!isHead && tag.end > kAlwaysSearched) return false;
+    if (tag.element == "meta") found = DeclaredCharset(tag);
+    return found.empty();
+  });
+  if (EqualIgnoringCase(found.substr(0, 6), "utf-16")) return "utf-8";
+  return found.empty() ? "windows-1252" : found;
+}
+
+std::string DecodePage(std::string_view page, const CodePage& codePage) {
+  std::string text;
+  ForEachCharacter(codePage.Decode(page), [&](UChar32 character, std::string_view bytes) {
+    if (character >= 0) {
+      text += bytes;
+    } else {
+      for (const char byte : bytes) Append(text, kFirstByte + static_cast<unsigned char>(byte));
+    }
+  });
+  return text;
+}
+
+std::string AsBrowsersRead(std::string_view text) {
+  std::string read;
+  ForEachCharacter(text, [&](UChar32 character, std::string_view bytes) {
+    read += character >= kFirstByte && character < kFirstByte + 0x100 ? "\uFFFD" : bytes;
+  });
+  return read;
+}
+
+std::string AsItIsWritten(std::string_view text) {
+  std::string written;
+  ForEachCharacter(text, [&](UChar32 character, std::string_view bytes) {
+    if (character >= kFirstByte && character < kFirstByte + 0x100) {
+      written += static_cast<char>(character - kFirstByte);
+    } else {
+      written += bytes;
+    }
+  });
+  return written;
+}
+
+}  // namespace folionet

@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <map>
+#include <utility>
 
 #include "Case.h"
 #include "Escapes.h"
@@ -41,7 +42,12 @@ Line Parsed(const std::string& whole) {
 // The words of tests/runs/RunsTest.cpp that drive the forms or look at them.
 class FormRuns : public FormTest {
  public:
-  explicit FormRuns(test::ScriptCase script) : m_script(std::move(script)) {}
+  explicit FormRuns(test::ScriptCase script) : m_script(std::move(script)) {
+    m_ui.onPanel = [this](int panel, std::string_view text) {
+      if (panel == 1) m_panels += std::string(text) + "\n";
+      m_form->ShowPanel(panel, text);
+    };
+  }
   void TestBody() override {
     test::RunScript(m_script, [this](const std::string& line) { return Do(line); });
   }
@@ -75,6 +81,9 @@ class FormRuns : public FormTest {
     } else if (state != States().end()) {
       lines = {line.verb};
       for (const std::string& name : line.names) lines[0] += " " + state->second(*this, name);
+    } else if (line.verb == "panels") {
+      const Lines texts = test::MarkLines("| ", std::exchange(m_panels, {}));
+      lines.insert(lines.end(), texts.begin(), texts.end());
     } else {
       lines = m_case.Do(whole);
     }
@@ -105,6 +114,7 @@ class FormRuns : public FormTest {
   test::ScriptCase m_script;
   test::Case m_case{m_home};
   std::size_t m_seen = 0;  // boxes
+  std::string m_panels;    // what the status bar has told of runs, a line each
 };
 
 const std::map<std::string, FormRuns::Act>& FormRuns::Actions() {

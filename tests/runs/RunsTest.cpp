@@ -9,7 +9,7 @@
 //                                         link PATH TARGET, hardlink PATH TARGET
 //   $ site --start-book=2                 compiles the library into out/, "compile" to what is given; "cli" and
 //                                         "make_library" are the programs themselves; before one, "bounded" bounds its
-//                                         memory and time, "limited" the size of its files
+//                                         memory and time, "limited" the size of its files, and "terminal" gives it one
 //   | a line of standard output           ! a line of standard error      ? the exit status, when it is not 0
 //   + a file made outside out/            ~ a file changed there          - a file that is gone
 //   show FILE                             prints a file; find FILE TEXT the lines with a text; list FOLDER the files
@@ -23,6 +23,7 @@
 //   give frmEffects.cmdActive 255         types, picks or chooses
 //   answer yes                            to the question to come
 //   > Confirm Exit?: All settings ...     a box that came: title or report, and text
+//   panels                                the texts of a run in the status bar
 //   shows =BodyLinkTag <body ...          a control's text; after "=", a text that the pages are made with
 //
 // A text in double quotes may hold \n, \r, \t, \\, \" and \xE9, and so may what follows a control's name. A line that

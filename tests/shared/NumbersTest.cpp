@@ -52,5 +52,19 @@ TEST(NumbersTest, TakesTheNumberThatATextBeginsWith) {
   for (const auto& c : cases) EXPECT_EQ(LeadingInteger(c.text), c.value) << c.text;
 }
 
+TEST(NumbersTest, EachErrorHasItsWords) {
+  std::string all;
+  for (int number = 1; number <= 100; ++number) {
+    const std::string_view text = StandardMessage(number);
+    if (text != StandardMessage(0)) all += std::to_string(number) + " " + std::string(text) + "\n";
+  }
+  EXPECT_EQ(all + std::string(StandardMessage(0)),
+            "5 Invalid procedure call or argument\n6 Overflow\n7 Out of memory\n9 Subscript out of range\n"
+            "13 Type mismatch\n52 Bad file name or number\n53 File not found\n55 File already open\n"
+            "57 Device I/O error\n61 Disk full\n62 Input past end of file\n67 Too many files\n"
+            "68 Device unavailable\n70 Permission denied\n71 Disk not ready\n75 Path/File access error\n"
+            "76 Path not found\nApplication-defined or object-defined error");
+}
+
 }  // namespace
 }  // namespace folionet

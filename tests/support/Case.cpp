@@ -50,6 +50,11 @@ std::string WithShortReports(std::string text) {
 Command CommandOf(const Command& words) {
   Command command;
   std::size_t at = 0;
+  if (words.at(at) == "terminal") {
+    std::string line;
+    for (const std::string& word : CommandOf({words.begin() + 1, words.end()})) line += "'" + word + "' ";
+    return {"/usr/bin/script", "--quiet", "--return", "--command", line, "/dev/null"};
+  }
   if (words.at(at) == "limited") {
     ++at;
     command = {"/usr/bin/prlimit", "--fsize=4096"};

@@ -19,6 +19,7 @@
 #include "PageNames.h"
 #include "RunTimeError.h"
 #include "Sitemap.h"
+#include "Text.h"
 #include "Validation.h"
 #include "VerseFileReader.h"
 
@@ -139,10 +140,7 @@ class CompileRun {
   // A text of the verse file as a person can read it, whatever the file holds.
   std::string Shown(std::string_view text) const {
     constexpr std::size_t kShown = 200;
-    std::string shown(text.substr(0, kShown));
-    std::replace_if(
-        shown.begin(), shown.end(), [](unsigned char c) { return (c < 0x20 && c != '\t') || c == 0x7F; }, '?');
-    return m_codePage.DecodeForDisplay(shown);
+    return Escaped(m_codePage.DecodeForDisplay(text.substr(0, kShown)), "\t");
   }
 
   void TurnPage(const Verse& verse) {

@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "CodePage.h"
+#include "Text.h"
 
 namespace folionet {
 namespace {
@@ -13,21 +14,17 @@ bool IsUnreserved(char c) {
          c == '_' || c == '~';
 }
 
-bool IsHexDigit(char c) { return (c >= '0' && c <= '9') || (c >= 'a' && c <= 'f') || (c >= 'A' && c <= 'F'); }
-
 // Percent-encodes every byte but unreserved ones and those of `kept`; a "%" of `kept` that encodes nothing all the
 // same.
 std::string PercentEncoded(std::string_view text, std::string_view kept) {
-  constexpr char kDigits[] = "0123456789ABCDEF";
   std::string encoded;
   for (std::size_t i = 0; i < text.size(); ++i) {
     const char c = text[i];
-    const bool encodes = i + 2 < text.size() && IsHexDigit(text[i + 1]) && IsHexDigit(text[i + 2]);
+    const bool encodes = i + 2 < text.size() && HexDigit(text[i + 1]) >= 0 && HexDigit(text[i + 2]) >= 0;
     if (IsUnreserved(c) || (kept.find(c) != std::string_view::npos && (c != '%' || encodes))) {
       encoded += c;
     } else {
-      const auto byte = static_cast<unsigned char>(c);
-      encoded.append({'%', kDigits[byte / 16], kDigits[byte % 16]});
+      encoded += "%" + TwoHexDigits(static_cast<unsigned char>(c));
     }
   }
   return encoded;

@@ -4,6 +4,7 @@
 
 #include "LineReader.h"
 #include "RunTimeError.h"
+#include "Text.h"
 
 namespace folionet {
 namespace {

@@ -10,6 +10,7 @@
 
 #include "Paths.h"
 #include "RunTimeError.h"
+#include "Text.h"
 #include "WholeFile.h"
 
 namespace folionet {
@@ -22,18 +23,12 @@ std::string RealPath(const std::string& path) {
   return real != nullptr ? std::string(real.get()) : std::string();
 }
 
-// Whether the UTF-8 text holds a character of U+0080 to U+009F at `at`.
-bool IsUpperControl(std::string_view text, std::size_t at) {
-  return text[at] == '\xC2' && at + 1 < text.size() && static_cast<unsigned char>(text[at + 1]) < 0xA0;
-}
-
 }  // namespace
 
 bool IsPageName(std::string_view name) {
   if (name.empty() || name == "." || name == "..") return false;
   for (std::size_t i = 0; i < name.size(); ++i) {
-    const auto byte = static_cast<unsigned char>(name[i]);
-    if (byte < 0x20 || byte == 0x7F || byte == '/' || byte == '\\' || IsUpperControl(name, i)) return false;
+    if (name[i] == '/' || name[i] == '\\' || IsControl(name, i)) return false;
   }
   return true;
 }

@@ -4,6 +4,7 @@
 
 #include "CodePage.h"
 #include "LineReader.h"
+#include "Text.h"
 
 namespace folionet {
 namespace {
@@ -15,13 +16,7 @@ struct Escape {
 };
 constexpr Escape kEscapes[] = {{'n', '\n'}, {'r', '\r'}, {'t', '\t'}, {'"', '"'}, {'\\', '\\'}};
 
-bool IsIniBlank(char c) { return c == ' ' || (c >= '\t' && c <= '\r'); }
-
-std::string_view Trimmed(std::string_view text) {
-  while (!text.empty() && IsIniBlank(text.front())) text.remove_prefix(1);
-  while (!text.empty() && IsIniBlank(text.back())) text.remove_suffix(1);
-  return text;
-}
+constexpr std::string_view kIniBlanks = " \t\n\v\f\r";
 
 std::string Unquoted(std::string_view inner) {
   std::string text;
@@ -56,20 +51,21 @@ bool IsWholeQuoted(std::string_view value) {
 void ReadLine(std::string_view line, std::string& section, IniValues& values) {
   if (line.empty() || line.front() == ';' || line.front() == '#') return;
   if (line.front() == '[' && line.back() == ']') {
-    section = line.size() > 2 ? Trimmed(line.substr(1, line.size() - 2)) : std::string_view();
+    section = line.size() > 2 ? Trimmed(line.substr(1, line.size() - 2), kIniBlanks) : std::string_view();
     if (!section.empty()) section += '/';
     return;
   }
   const std::size_t equals = line.find('=');
   if (equals == 0 || equals == std::string_view::npos) return;
-  const std::string_view value = Trimmed(line.substr(equals + 1));
-  values.insert_or_assign(section + std::string(Trimmed(line.substr(0, equals))),
+  const std::string_view value = Trimmed(line.substr(equals + 1), kIniBlanks);
+  values.insert_or_assign(section + std::string(Trimmed(line.substr(0, equals), kIniBlanks)),
                           IsWholeQuoted(value) ? Unquoted(value.substr(1, value.size() - 2)) : std::string(value));
 }
 
 std::string ValueText(std::string_view value) {
   constexpr std::string_view kNeedsQuotes("\"\r\n\0", 4);
-  if (value == Trimmed(value) && value.find_first_of(kNeedsQuotes) == std::string_view::npos) return std::string(value);
+  if (value == Trimmed(value, kIniBlanks) && value.find_first_of(kNeedsQuotes) == std::string_view::npos)
+    return std::string(value);
   std::string quoted = "\"";
   for (const char c : value) {
     const auto* const escape = std::find_if(std::begin(kEscapes), std::end(kEscapes),
@@ -93,7 +89,7 @@ IniValues ParseIni(std::string_view text) {
   std::string section;
   while (!text.empty()) {
     const std::size_t end = std::min(text.find('\n'), text.size());
-    ReadLine(Trimmed(text.substr(0, end)), section, values);
+    ReadLine(Trimmed(text.substr(0, end), kIniBlanks), section, values);
     text.remove_prefix(std::min(end + 1, text.size()));
   }
   return values;

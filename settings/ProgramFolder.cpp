@@ -3,7 +3,6 @@
 #include <unistd.h>
 
 #include <array>
-#include <cstdlib>
 #include <filesystem>
 #include <system_error>
 
@@ -24,11 +23,8 @@ std::string InstalledDataFolder() {
 }
 
 std::string UserDataFolder() {
-  if (const char* folder = std::getenv("XDG_DATA_HOME"); folder != nullptr && folder[0] == '/') {
-    return WithSeparator(folder) + kApplicationTitle + "/";
-  }
-  const char* home = std::getenv("HOME");
-  return std::string(home != nullptr ? home : "") + "/.local/share/" + kApplicationTitle + "/";
+  const std::string folder = UserFolder("XDG_DATA_HOME", ".local/share");
+  return folder.empty() ? folder : folder + kApplicationTitle + "/";
 }
 
 }  // namespace
@@ -55,6 +51,7 @@ std::string MissingFolder(const std::string& chosen) {
 
 std::string FindProgramFolder(const std::string& chosen) {
   std::string folder = ProgramFolderPath(chosen);
+  if (folder.empty()) return InstalledDataFolder();
   if (!chosen.empty() || folder == ExecutableFolder()) return folder;
   std::error_code error;
   std::filesystem::create_directories(folder, error);

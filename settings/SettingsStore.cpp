@@ -28,6 +28,9 @@ void SettingsStore::SaveSetting(std::string_view application, std::string_view s
 void SettingsStore::Sync(std::string_view application) {
   // A refused value must not be tried again by every later one, nor be read as if it were stored.
   const IniValues changes = std::exchange(m_unsaved, {});
+  if (Folder().empty()) {
+    throw RunTimeError(kPathNotFound, FilePath(application), "HOME does not name a folder to save it in.");
+  }
   std::error_code ignored;
   std::filesystem::create_directories(Folder(), ignored);
   // Another program may have saved since the file was read: what it changed is kept.
@@ -55,6 +58,7 @@ void SettingsStore::SaveTogether(const std::function<void()>& saves) {
 
 void SettingsStore::DeleteSetting(std::string_view application) {
   Take(application, {});
+  if (Folder().empty()) return;
   if (unlink(FilePath(application).c_str()) != 0 && errno != ENOENT && errno != ENOTDIR) {
     throw RunTimeError::FromErrno(errno, FilePath(application));
   }

@@ -1,7 +1,5 @@
 #include "StoredSettings.h"
 
-#include <cstdlib>
-
 #include "BuildInfo.h"
 #include "OptionTable.h"
 #include "Paths.h"
@@ -9,13 +7,9 @@
 
 namespace folionet {
 
-StoredSettings::StoredSettings(const std::string& folder) : m_folder(WithSeparator(folder)) {}
+StoredSettings::StoredSettings(const std::string& folder) : m_folder(folder.empty() ? folder : WithSeparator(folder)) {}
 
-std::string StoredSettings::DefaultFolder() {
-  if (const char* folder = std::getenv("XDG_CONFIG_HOME"); folder != nullptr && folder[0] == '/') return folder;
-  const char* home = std::getenv("HOME");
-  return std::string(home != nullptr ? home : "") + "/.config";
-}
+std::string StoredSettings::DefaultFolder() { return UserFolder("XDG_CONFIG_HOME", ".config"); }
 
 std::string StoredSettings::FilePath(std::string_view application) const {
   return m_folder + std::string(application) + ".ini";
@@ -36,7 +30,8 @@ std::string StoredSettings::NameOf(std::string_view section, std::string_view ke
 std::optional<std::string> StoredSettings::Stored(std::string_view application, const std::string& name) const {
   auto area = m_areas.find(application);
   if (area == m_areas.end()) {
-    const std::optional<std::string> text = ReadIfThere(FilePath(application), kLongestFile);
+    const std::optional<std::string> text =
+        m_folder.empty() ? std::nullopt : ReadIfThere(FilePath(application), kLongestFile);
     area = m_areas.emplace(application, text ? ParseIni(*text) : IniValues()).first;
   }
   const auto found = area->second.find(name);

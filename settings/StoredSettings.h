@@ -17,13 +17,13 @@ inline constexpr std::string_view kSettingsSection = "Keys";
 // form that IniText.h tells. All texts are UTF-8.
 class StoredSettings {
  public:
-  // `folder` is where the files are.
+  // `folder` is where the files are; empty when there is none: then nothing is stored, and nothing can be.
   explicit StoredSettings(const std::string& folder);
   virtual ~StoredSettings() = default;
   StoredSettings(const StoredSettings&) = delete;
   StoredSettings& operator=(const StoredSettings&) = delete;
 
-  // $XDG_CONFIG_HOME, or ~/.config.
+  // $XDG_CONFIG_HOME, or ~/.config; empty when the environment names neither.
   static std::string DefaultFolder();
 
   // The stored text, or `defaultText` when the key is missing. This and every routine below throws RunTimeError when

@@ -9,6 +9,8 @@
 #include <optional>
 #include <utility>
 
+#include "Text.h"
+
 namespace folionet {
 namespace {
 
@@ -106,10 +108,7 @@ std::string WithoutCharacterReferences(std::string_view text) {
       resolved += text[at];
       continue;
     }
-    std::array<char, U8_MAX_LENGTH> bytes{};
-    std::size_t length = 0;
-    U8_APPEND_UNSAFE(bytes.data(), length, *character);
-    resolved.append(bytes.data(), length);
+    AppendUtf8(resolved, static_cast<char32_t>(*character));
     at = end;
   }
   return resolved;

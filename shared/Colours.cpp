@@ -1,20 +1,14 @@
 #include "Colours.h"
 
+#include "Text.h"
+
 namespace folionet {
-namespace {
-
-std::string TwoHexDigits(std::uint32_t part) {
-  constexpr char kDigits[] = "0123456789ABCDEF";
-  return {kDigits[part / 16 % 16], kDigits[part % 16]};
-}
-
-}  // namespace
 
 void SeperateRGB(Colour colour, std::string& red, std::string& green, std::string& blue) {
   const auto bits = static_cast<std::uint32_t>(colour);
-  red = TwoHexDigits(bits & 255U);
-  green = TwoHexDigits((bits & 65280U) / 256U);
-  blue = TwoHexDigits((bits & 16711680U) / 65536U);
+  red = TwoHexDigits(static_cast<unsigned char>(bits));
+  green = TwoHexDigits(static_cast<unsigned char>(bits >> 8U));
+  blue = TwoHexDigits(static_cast<unsigned char>(bits >> 16U));
 }
 
 std::string HtmlColour(Colour colour) {

@@ -1,7 +1,5 @@
 #include "Finding.h"
 
-#include "RunTimeError.h"
-
 namespace folionet {
 
 Finding FindingOf(const RunTimeError& error) {

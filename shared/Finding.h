@@ -5,11 +5,10 @@
 #include <utility>
 #include <vector>
 
+#include "RunTimeError.h"
 #include "Sentence.h"
 
 namespace folionet {
-
-class RunTimeError;
 
 enum class Severity {
   kNote,     // told because it was asked for

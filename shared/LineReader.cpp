@@ -6,7 +6,6 @@
 #include <cerrno>
 #include <cstring>
 
-#include "CodePage.h"
 #include "Numbers.h"
 #include "RunTimeError.h"
 
@@ -136,14 +135,6 @@ bool LineReader::IsRestBlank() {
 
 void LineReader::Fail(int number, const std::string& detail) const {
   throw RunTimeError(number, m_path, detail, m_lineNumber);
-}
-
-std::string Quoted(std::string_view text) {
-  constexpr std::size_t kShown = 60;
-  std::string shown;
-  for (const char c : text.substr(0, kShown)) shown += static_cast<unsigned char>(c) < 0x20 ? '?' : c;
-  if (!IsUtf8(shown)) shown = CodePage().DecodeForDisplay(shown);
-  return "\"" + shown + (text.size() > kShown ? "..." : "") + "\"";
 }
 
 }  // namespace folionet

@@ -81,7 +81,4 @@ class LineReader {
   char m_lineEnd = '\n';
 };
 
-// A text of a file, shortened to a length that a message can show, in double quotes.
-std::string Quoted(std::string_view text);
-
 }  // namespace folionet

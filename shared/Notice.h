@@ -1,23 +1,16 @@
 #pragma once
 
 #include <string>
-#include <vector>
+
+#include "Sentence.h"
 
 namespace folionet {
 
-// Something that a person should know, as a value: the command line prints it in English, a form in the desktop's
-// language, by its English words.
-struct Notice {
-  const char* sentence = "";        // of Translatable, with "%1" to "%9" where values stand
-  std::vector<std::string> values;  // UTF-8
+// Something that a person should know, as a value.
+using Notice = Sentence;
 
-  friend bool operator==(const Notice& left, const Notice& right);
-};
+constexpr const char* Translatable(const char* context, const char* sentence) { return Words(context, sentence); }
 
-// Marks an English sentence of a Notice for script/check-translations; its context is "Notice".
-constexpr const char* Translatable(const char* /*context*/, const char* sentence) { return sentence; }
-
-// The English sentence with its values.
-std::string NoticeText(const Notice& notice);
+inline std::string NoticeText(const Notice& notice) { return notice.InEnglish(); }
 
 }  // namespace folionet

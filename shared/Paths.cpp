@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <cstdlib>
 #include <memory>
 #include <utility>
 
@@ -50,6 +51,13 @@ bool FolderExists(const std::string& path) {
 
 std::string LocateIgnoringCase(const std::string& folder, std::string_view name) {
   return FolderLister().Locate(folder, name);
+}
+
+std::string UserFolder(const char* variable, std::string_view belowHome) {
+  if (const char* folder = std::getenv(variable); folder != nullptr && folder[0] == '/') return WithSeparator(folder);
+  const char* home = std::getenv("HOME");
+  if (home == nullptr || home[0] != '/') return {};
+  return WithSeparator(WithSeparator(home).append(belowHome));
 }
 
 std::vector<std::string> ListFolder(const std::string& folder) {

@@ -31,6 +31,10 @@ bool FolderExists(const std::string& path);
 // itself. The exact path when there is neither, so that an error names what was looked for.
 std::string LocateIgnoringCase(const std::string& folder, std::string_view name);
 
+// The person's folder that the environment's `variable` names, else `belowHome` below their home, with a separator at
+// its end; empty when neither is known: a relative path in the environment is none.
+std::string UserFolder(const char* variable, std::string_view belowHome);
+
 // The names of a folder's entries, sorted ignoring case. Throws RunTimeError when the folder cannot be read.
 std::vector<std::string> ListFolder(const std::string& folder);
 

@@ -4,6 +4,7 @@
 
 #include "Numbers.h"
 #include "RunTimeError.h"
+#include "Text.h"
 
 namespace folionet {
 namespace {

@@ -7,6 +7,8 @@
 #include <system_error>
 #include <utility>
 
+#include "Text.h"
+
 namespace folionet {
 namespace {
 
@@ -85,9 +87,9 @@ std::string_view StandardMessage(int number) {
 
 RunTimeError::RunTimeError(int number, std::string item, std::string detail, std::size_t line)
     : m_number(number), m_item(std::move(item)), m_detail(std::move(detail)), m_line(line) {
-  m_what = std::string(StandardMessage(number)) + ": " + m_item;
+  m_what = std::string(StandardMessage(number)) + ": " + Escaped(m_item);
   if (m_line != 0) m_what += ", line " + std::to_string(m_line);
-  if (!m_detail.empty()) m_what += ": " + m_detail;
+  if (!m_detail.empty()) m_what += ": " + Escaped(m_detail);
 }
 
 RunTimeError RunTimeError::FromErrno(int systemError, const std::string& path) {
@@ -95,9 +97,9 @@ RunTimeError RunTimeError::FromErrno(int systemError, const std::string& path) {
 }
 
 std::string RunTimeError::Extra() const {
-  std::string text = m_item;
+  std::string text = Escaped(m_item);
   if (m_line != 0) text += "\r\nLine " + std::to_string(m_line);
-  if (!m_detail.empty()) text += "\r\n" + m_detail;
+  if (!m_detail.empty()) text += "\r\n" + Escaped(m_detail);
   return text;
 }
 

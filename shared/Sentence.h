@@ -16,6 +16,10 @@ struct Sentence {
   const char* pattern = "";  // of the program's own: "%1" to "%9" stand for the arguments, as in Qt's patterns
   std::vector<std::string> arguments{};  // names, numbers and quoted texts, which are no words to translate
 
+  friend bool operator==(const Sentence& left, const Sentence& right) {
+    return std::string_view(left.pattern) == right.pattern && left.arguments == right.arguments;
+  }
+
   bool IsEmpty() const { return *pattern == '\0'; }
 
   // The pattern with its arguments in place; "%" and a digit in an argument stay as they are.

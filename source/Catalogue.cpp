@@ -10,6 +10,7 @@
 #include "Numbers.h"
 #include "Paths.h"
 #include "RunTimeError.h"
+#include "Text.h"
 
 namespace folionet {
 namespace {

@@ -7,6 +7,7 @@
 #include "Paths.h"
 #include "RecordReader.h"
 #include "RunTimeError.h"
+#include "Text.h"
 
 namespace folionet {
 namespace {

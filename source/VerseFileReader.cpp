@@ -5,6 +5,7 @@
 
 #include "Numbers.h"
 #include "RunTimeError.h"
+#include "Text.h"
 #include "modGlob.h"
 
 namespace folionet {

@@ -1,0 +1,95 @@
+#include "Text.h"
+
+#include <algorithm>
+
+#include "CodePage.h"
+
+namespace folionet {
+
+std::string_view Trimmed(std::string_view text, std::string_view blanks) {
+  const std::size_t first = text.find_first_not_of(blanks);
+  if (first == std::string_view::npos) return {};
+  return text.substr(first, text.find_last_not_of(blanks) - first + 1);
+}
+
+std::string AsciiLower(std::string_view text) {
+  std::string lower(text);
+  std::transform(lower.begin(), lower.end(), lower.begin(), [](char c) { return AsciiLower(c); });
+  return lower;
+}
+
+int HexDigit(char c) {
+  if (c >= '0' && c <= '9') return c - '0';
+  const char lower = AsciiLower(c);
+  return lower >= 'a' && lower <= 'f' ? lower - 'a' + 10 : -1;
+}
+
+std::string TwoHexDigits(unsigned char value) {
+  constexpr char kDigits[] = "0123456789ABCDEF";
+  return {kDigits[value >> 4U], kDigits[value & 15U]};
+}
+
+void AppendUtf8(std::string& text, char32_t character) {
+  const auto byte = [&](char32_t lead, unsigned shift, char32_t mask) {
+    text += static_cast<char>(lead | ((character >> shift) & mask));
+  };
+  const bool isSurrogate = character >= 0xD800 && character <= 0xDFFF;
+  if (isSurrogate || character > 0x10FFFF) character = 0xFFFD;
+  if (character < 0x80) return byte(0, 0, 0x7F);
+  if (character < 0x800) {
+    byte(0xC0, 6, 0x1F);
+  } else {
+    if (character < 0x10000) {
+      byte(0xE0, 12, 0x0F);
+    } else {
+      byte(0xF0, 18, 0x07);
+      byte(0x80, 12, 0x3F);
+    }
+    byte(0x80, 6, 0x3F);
+  }
+  byte(0x80, 0, 0x3F);
+}
+
+bool IsControl(std::string_view text, std::size_t at) {
+  const auto byte = static_cast<unsigned char>(text[at]);
+  const auto next = static_cast<unsigned char>(at + 1 < text.size() ? text[at + 1] : 0);
+  return byte < 0x20 || byte == 0x7F || (byte == 0xC2 && next >= 0x80 && next <= 0x9F);
+}
+
+std::string Escaped(std::string_view text, std::string_view kept) {
+  std::string shown;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    if (!IsControl(text, i) || kept.find(text[i]) != std::string_view::npos) {
+      shown += text[i];
+      continue;
+    }
+    const bool isLong = text[i] == '\xC2';
+    if (isLong) ++i;
+    switch (text[i]) {
+      case '\n':
+        shown += "\\n";
+        break;
+      case '\r':
+        shown += "\\r";
+        break;
+      case '\t':
+        shown += "\\t";
+        break;
+      default:
+        shown += "\\x" + TwoHexDigits(static_cast<unsigned char>(text[i]));
+    }
+  }
+  return shown;
+}
+
+std::string Quoted(std::string_view text) {
+  constexpr std::size_t kShown = 60;
+  std::size_t length = kShown;
+  while (length > kShown - 4 && !IsUtf8(text.substr(0, length))) --length;  // cuts no character in two
+  const bool isUtf8 = IsUtf8(text.substr(0, length));
+  const std::string shown =
+      isUtf8 ? std::string(text.substr(0, length)) : CodePage().DecodeForDisplay(text.substr(0, kShown));
+  return "\"" + Escaped(shown) + (text.size() > kShown ? "..." : "") + "\"";
+}
+
+}  // namespace folionet

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace folionet {
+
+// The few things that are done to texts everywhere. Numbers.h has IsBlank and TrimBlanks.
+
+// `text` without the characters of `blanks` around it.
+std::string_view Trimmed(std::string_view text, std::string_view blanks);
+
+// Of ASCII alone; every other character stays as it is.
+inline char AsciiLower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c; }
+std::string AsciiLower(std::string_view text);
+
+// The value of a hexadecimal digit, -1 for any other character.
+int HexDigit(char c);
+
+// Two digits, upper case.
+std::string TwoHexDigits(unsigned char value);
+
+// Adds a character as UTF-8; U+FFFD for what is none.
+void AppendUtf8(std::string& text, char32_t character);
+
+// Whether the character of a UTF-8 text at `at` is one that a terminal would obey: below a blank, U+007F to U+009F.
+bool IsControl(std::string_view text, std::size_t at);
+
+// A UTF-8 text as a line shows it: each control character but those to keep as "\n", "\t" or "\x1B", so that nothing
+// that an argument or a file brings is obeyed or passes for a line of the program's own.
+std::string Escaped(std::string_view text, std::string_view kept = {});
+
+// A text of a file, shortened to a length that a message can show, escaped, in double quotes. Bytes that are no UTF-8
+// are taken for windows-1252.
+std::string Quoted(std::string_view text);
+
+}  // namespace folionet

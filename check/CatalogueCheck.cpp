@@ -7,69 +7,76 @@
 #include "LineReader.h"
 #include "Paths.h"
 #include "RecordReader.h"
+#include "Text.h"
 
 namespace folionet {
 namespace {
 
 // Whether the text of a record can be read. One that is there and cannot be is not called missing.
-bool CheckVerseFile(const RecordReader& records, const std::string& name, const std::string& text, FaultList& faults) {
+bool CheckVerseFile(const RecordReader& records, const std::string& name, const std::string& text,
+                    CheckedLibrary& library) {
   if (FileExists(text)) return true;
-  std::string fault = "The text of " + Quoted(name) + " is missing: " + text;
+  const char* kind = "missing-text";
+  Sentence what{"The text of %1 is missing: %2", {Quoted(name), text}};
   try {
     const LineReader reader(text);
   } catch (const RunTimeError& error) {
     if (error.Number() != kFileNotFound && error.Number() != kPathNotFound) {
-      fault = "The text of " + Quoted(name) + " cannot be read: " + text + ": " + error.Detail();
+      kind = "unreadable";
+      what = {"The text of %1 cannot be read: %2: %3", {Quoted(name), text, error.Detail()}};
     }
   }
-  faults.Add(records.Lines().Path(), records.Lines().LineNumber(), fault);
+  library.Add(kind, records.Lines().Path(), records.Lines().LineNumber(), std::move(what));
   return false;
 }
 
-void CheckRecord(ModGlob& glob, const RecordReader& records, const CatalogueRecord& record, FaultList& faults) {
+void CheckRecord(const RecordReader& records, const CatalogueRecord& record, CheckedLibrary& library) {
+  ModGlob& glob = library.glob;
   const std::string& path = records.Lines().Path();
   const std::size_t line = records.Lines().LineNumber();
-  faults.CheckBytes(path, line, record.name);
-  faults.CheckBytes(path, line, record.stem);
+  library.CheckBytes(path, line, record.name);
+  library.CheckBytes(path, line, record.stem);
   if (!record.isListed) return;
-  const std::string text = VerseFile(glob, faults.Charset(), record.stem);
-  if (!CheckVerseFile(records, record.name, text, faults)) return;
+  const std::string text = VerseFile(glob, library.codePage, record.stem);
+  if (!CheckVerseFile(records, record.name, text, library)) return;
   if (std::find(glob.BibleFiles.begin(), glob.BibleFiles.end(), record.stem) != glob.BibleFiles.end()) {
-    faults.Add(path, line, "The file stem is listed twice: " + Quoted(record.stem));
+    library.Add("doubled-stem", path, line, {"The file stem is listed twice: %1", {Quoted(record.stem)}});
     return;
   }
-  faults.CheckLetterCase(text, glob.ModulesPath + "Bible/" + faults.Charset().Decode(record.stem) + ".TXT");
+  library.CheckLetterCase(text, glob.ModulesPath + "Bible/" + library.codePage.Decode(record.stem) + ".TXT");
   glob.BibleNames.push_back(record.name);
   glob.BibleFiles.push_back(record.stem);
 }
 
 }  // namespace
 
-void CheckCatalogue(ModGlob& glob, FaultList& faults) {
+void CheckCatalogue(CheckedLibrary& library) {
+  ModGlob& glob = library.glob;
   glob.BibleNames.clear();
   glob.BibleFiles.clear();
   try {
     const std::string path = SysdefsFile(glob, "Translations.txt");
     RecordReader records(path);
-    faults.CheckLetterCase(path, glob.SysdefsPath + "Translations.txt");
+    library.CheckLetterCase(path, glob.SysdefsPath + "Translations.txt");
     CatalogueRecord record;
     int listed = 0;
     for (bool more = true; more;) {
       try {
-        more = ReadCatalogueRecord(records, faults.Charset(), record);
+        more = ReadCatalogueRecord(records, library.codePage, record);
         if (more && record.isListed && ++listed > kMostListed) {
           more = false;
           FailMoreThanMostListed(records);
         }
-        if (more) CheckRecord(glob, records, record, faults);
+        if (more) CheckRecord(records, record, library);
       } catch (const RunTimeError& error) {
-        faults.Add(error);
+        library.findings.Add(FindingOf(error));
         more = more && error.Line() != 0;  // a bad record is passed over; a file that cannot be read on is not
       }
     }
-    if (glob.BibleNames.empty()) faults.Add(path, 0, "No translation is listed whose text is there.");
+    if (glob.BibleNames.empty())
+      library.Add("no-translation", path, 0, {"No translation is listed whose text is there."});
   } catch (const RunTimeError& error) {
-    faults.Add(error);
+    library.findings.Add(FindingOf(error));
   }
   glob.cboBibleName = glob.BibleNames;
 }

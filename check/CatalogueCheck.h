@@ -1,12 +1,11 @@
 #pragma once
 
-#include "FaultList.h"
-#include "modGlob.h"
+#include "CheckedLibrary.h"
 
 namespace folionet {
 
 // Names the faults of the catalogue of translations: bad records, stems that are no file names, texts that are missing.
 // Fills BibleNames, BibleFiles and cboBibleName with the translations whose text is there, whatever else is wrong.
-void CheckCatalogue(ModGlob& glob, FaultList& faults);
+void CheckCatalogue(CheckedLibrary& library);
 
 }  // namespace folionet

@@ -3,35 +3,47 @@
 #include "modGlob.h"
 
 namespace folionet {
-namespace {
 
-std::string Range(int from, int to) { return std::to_string(from) + (to > from ? " to " + std::to_string(to) : ""); }
-
-}  // namespace
-
-std::string Place(int book, int chapter) {
-  return "Book " + std::to_string(book) + " chapter " + std::to_string(chapter);
+void ChapterOrder::AddMissingBooks(int from, int to, std::size_t line) {
+  const BiblePlace place{.book = from};
+  if (from == to) {
+    m_library.Add("missing-book", m_path, line, {"Missing: book %1", {std::to_string(from)}}, place);
+  } else {
+    m_library.Add("missing-book", m_path, line, {"Missing: book %1 to %2", {std::to_string(from), std::to_string(to)}},
+                  place);
+  }
 }
 
 void ChapterOrder::CheckStep(int book, int chapter, std::size_t line) {
+  const std::string name = std::to_string(book);
   if (book < m_book || (book == m_book && chapter < m_chapter)) {
-    m_faults.Add(m_path, line, Place(book, chapter) + " is out of order: it follows " + Place(m_book, m_chapter));
+    m_library.Add("chapter-order", m_path, line,
+                  {"Book %1 chapter %2 is out of order: it follows Book %3 chapter %4",
+                   {name, std::to_string(chapter), std::to_string(m_book), std::to_string(m_chapter)}},
+                  {book, chapter});
     return;
   }
-  if (book > m_book + 1) m_faults.Add(m_path, line, "Missing: book " + Range(m_book + 1, book - 1));
-  const int before = book == m_book ? m_chapter : 0;
-  if (chapter > before + 1) {
-    m_faults.Add(m_path, line, "Missing: book " + std::to_string(book) + " chapter " + Range(before + 1, chapter - 1));
+  if (book > m_book + 1) AddMissingBooks(m_book + 1, book - 1, line);
+  const int first = (book == m_book ? m_chapter : 0) + 1;
+  if (chapter == first + 1) {
+    m_library.Add("missing-chapter", m_path, line, {"Missing: book %1 chapter %2", {name, std::to_string(first)}},
+                  {book, first});
+  } else if (chapter > first) {
+    m_library.Add("missing-chapter", m_path, line,
+                  {"Missing: book %1 chapter %2 to %3", {name, std::to_string(first), std::to_string(chapter - 1)}},
+                  {book, first});
   }
 }
 
 ChapterSeen& ChapterOrder::Begin(int book, int chapter, std::size_t line) {
-  const auto [entry, isNew] = m_chapters.try_emplace({book, chapter}, ChapterSeen{0, line});
+  const auto [entry, isNew] = m_chapters.try_emplace({book, chapter}, ChapterSeen{.line = line});
   if (isNew) {
     CheckStep(book, chapter, line);
   } else {
-    m_faults.Add(m_path, line,
-                 Place(book, chapter) + " is doubled: it began on line " + std::to_string(entry->second.line));
+    m_library.Add("doubled-chapter", m_path, line,
+                  {"Book %1 chapter %2 is doubled: it began on line %3",
+                   {std::to_string(book), std::to_string(chapter), std::to_string(entry->second.line)}},
+                  {book, chapter});
   }
   if (book > m_book || (book == m_book && chapter > m_chapter)) {
     m_book = book;
@@ -41,7 +53,7 @@ ChapterSeen& ChapterOrder::Begin(int book, int chapter, std::size_t line) {
 }
 
 void ChapterOrder::End() {
-  if (m_book < kBooks) m_faults.Add(m_path, 0, "Missing: book " + Range(m_book + 1, kBooks));
+  if (m_book < kBooks) AddMissingBooks(m_book + 1, kBooks, 0);
 }
 
 }  // namespace folionet

@@ -5,16 +5,14 @@
 #include <string>
 #include <utility>
 
-#include "FaultList.h"
+#include "CheckedLibrary.h"
 
 namespace folionet {
 
-// A chapter's name in a message: "Book 1 chapter 1"
-std::string Place(int book, int chapter);
-
 // A chapter as a file has it: how many verses, and where it begins.
 struct ChapterSeen {
-  int verses = 0;
+  int verses = 0;   // lines of a text
+  int covered = 0;  // verses that they hold: a line may hold several of them, or a part of one
   std::size_t line = 0;
 };
 
@@ -24,7 +22,7 @@ using ChapterTable = std::map<std::pair<int, int>, ChapterSeen>;
 // Follows the chapters of a file in their order, and names those that are doubled, missing or out of order.
 class ChapterOrder {
  public:
-  ChapterOrder(std::string path, FaultList& faults) : m_path(std::move(path)), m_faults(faults) {}
+  ChapterOrder(std::string path, CheckedLibrary& library) : m_path(std::move(path)), m_library(library) {}
 
   // A chapter begins on `line`. Gives its entry, which is an older one when the chapter was there before.
   ChapterSeen& Begin(int book, int chapter, std::size_t line);
@@ -35,10 +33,11 @@ class ChapterOrder {
   const ChapterTable& Chapters() const { return m_chapters; }
 
  private:
+  void AddMissingBooks(int from, int to, std::size_t line);
   void CheckStep(int book, int chapter, std::size_t line);
 
   std::string m_path;
-  FaultList& m_faults;
+  CheckedLibrary& m_library;
   ChapterTable m_chapters;
   int m_book = 0;
   int m_chapter = 0;

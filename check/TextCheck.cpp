@@ -2,16 +2,16 @@
 
 #include <array>
 #include <filesystem>
-#include <set>
 #include <system_error>
 
 #include "ChapterOrder.h"
-#include "Installation.h"
 #include "LineReader.h"
 #include "Numbers.h"
 #include "Paths.h"
 #include "RecordReader.h"
+#include "Text.h"
 #include "VerseFileReader.h"
+#include "VerseOrder.h"
 
 namespace folionet {
 namespace {
@@ -19,70 +19,47 @@ namespace {
 constexpr std::int64_t kByteMax = 255;
 
 void CheckIndexRecord(RecordReader& records, const std::array<std::string_view, 7>& fields, ChapterOrder& order,
-                      FaultList& faults) {
+                      CheckedLibrary& library) {
   const std::string& path = records.Lines().Path();
   const std::size_t line = records.Lines().LineNumber();
   const auto book = static_cast<int>(records.Integer(fields[2], 0, kByteMax));
   const auto chapter = static_cast<int>(records.Integer(fields[3], 0, kByteMax));
   const auto verses = static_cast<int>(records.Integer(fields[4], 0, kByteMax));
   if (book < 1 || book > kBooks) {
-    faults.Add(path, line, "A book from 1 to 66 was expected: " + std::to_string(book));
+    library.Add("bad-book", path, line, {"A book from 1 to 66 was expected: %1", {std::to_string(book)}});
     return;
   }
   order.Begin(book, chapter, line).verses = verses;
 }
 
-ChapterTable CheckIndex(const std::string& path, FaultList& faults) {
-  ChapterOrder order(path, faults);
+ChapterTable CheckIndex(const std::string& path, CheckedLibrary& library) {
+  ChapterOrder order(path, library);
   try {
     RecordReader records(path);
     std::array<std::string_view, 7> fields;
     for (bool more = true; more;) {
       try {
         more = records.Next(fields);
-        if (more) CheckIndexRecord(records, fields, order, faults);
+        if (more) CheckIndexRecord(records, fields, order, library);
       } catch (const RunTimeError& error) {
-        faults.Add(error);
+        library.findings.Add(FindingOf(error));
         more = error.Line() != 0;
       }
     }
     order.End();
   } catch (const RunTimeError& error) {
-    faults.Add(error);
+    library.findings.Add(FindingOf(error));
   }
   return order.Chapters();
 }
 
-// Follows the verses of one chapter.
-class VerseOrder {
- public:
-  void Begin() {
-    m_seen.clear();
-    m_last = 0;
-  }
-
-  // What is wrong with this verse after those before it; empty when nothing is.
-  std::string Next(std::string_view field) {
-    const IntegerReading verse = ReadInteger(field, 1, kInt16Max);
-    if (verse.error != 0) return "The number of a verse was expected: " + Quoted(field);
-    const auto number = static_cast<int>(verse.value);
-    const int before = m_last;
-    m_last = std::max(m_last, number);
-    if (!m_seen.insert(number).second) return "Verse " + std::to_string(number) + " is doubled.";
-    if (number < before) return "Verse " + std::to_string(number) + " is out of order.";
-    if (number == before + 1) return {};
-    const std::string missing = std::to_string(before + 1);
-    return "Missing: verse " + (number == before + 2 ? missing : missing + " to " + std::to_string(number - 1));
-  }
-
- private:
-  std::set<int> m_seen;
-  int m_last = 0;
-};
+// Lines that are no verses are read on past, but not for ever.
+constexpr std::size_t kMostMalformed = 500;
 
 class TextReader {
  public:
-  TextReader(const std::string& path, FaultList& faults) : m_reader(path), m_order(path, faults), m_faults(faults) {}
+  TextReader(const std::string& path, CheckedLibrary& library)
+      : m_reader(path), m_order(path, library), m_library(library) {}
 
   ChapterTable ReadAll() {
     for (bool more = true; more;) {
@@ -90,15 +67,26 @@ class TextReader {
         more = m_reader.Next();
         if (more) Take(m_reader.Current());
       } catch (const RunTimeError& error) {
-        m_faults.Add(error);
-        more = error.Line() != 0;
+        m_library.findings.Add(FindingOf(error));
+        more = error.Line() != 0 && IsWorthReadingOn();
       }
     }
-    m_order.End();
+    if (!m_hasGivenUp) m_order.End();
     return m_order.Chapters();
   }
 
+  // Whether it was not read to its end.
+  bool HasGivenUp() const { return m_hasGivenUp; }
+
  private:
+  bool IsWorthReadingOn() {
+    if (++m_malformed < kMostMalformed) return true;
+    m_hasGivenUp = true;
+    m_library.Add("unreadable", m_reader.Lines().Path(), m_reader.Lines().LineNumber(),
+                  {"The text is not read any further: %1 of its lines are malformed.", {std::to_string(m_malformed)}});
+    return false;
+  }
+
   void Take(const Verse& verse) {
     const std::string& path = m_reader.Lines().Path();
     const std::size_t line = m_reader.Lines().LineNumber();
@@ -109,62 +97,73 @@ class TextReader {
       m_verses.Begin();
     }
     ++m_chapter->verses;
-    if (const std::string wrong = m_verses.Next(verse.verse); !wrong.empty()) {
-      m_faults.Add(path, line, Place(verse.book, verse.chapter) + ": " + wrong);
+    const BiblePlace place{verse.book, verse.chapter, std::string(TrimBlanks(verse.verse))};
+    if (auto wrong = m_verses.Next(verse.verse)) {
+      wrong->what.arguments.insert(wrong->what.arguments.begin(),
+                                   {std::to_string(verse.book), std::to_string(verse.chapter)});
+      m_library.Add(wrong->kind, path, line, std::move(wrong->what), place);
     }
-    m_faults.CheckBytes(path, line, verse.text);
+    m_chapter->covered = m_verses.Covered();
+    m_library.CheckBytes(path, line, verse.text, place);
   }
 
   VerseFileReader m_reader;
   ChapterOrder m_order;
-  FaultList& m_faults;
+  CheckedLibrary& m_library;
   VerseOrder m_verses;
   ChapterSeen* m_chapter = nullptr;
   int m_bookNumber = 0;
   int m_chapterNumber = 0;
+  std::size_t m_malformed = 0;
+  bool m_hasGivenUp = false;
 };
 
-void Compare(const ChapterTable& index, const std::string& indexPath, const ChapterTable& text,
-             const std::string& textPath, FaultList& faults) {
+void Compare(const ChapterTable& index, const ChapterTable& text, const TranslationFiles& files,
+             CheckedLibrary& library) {
   for (const auto& [key, seen] : index) {
     const auto found = text.find(key);
-    const std::string place = Place(key.first, key.second);
+    const BiblePlace place{key.first, key.second};
+    const std::string book = std::to_string(key.first);
+    const std::string chapter = std::to_string(key.second);
     if (found == text.end()) {
-      faults.Add(indexPath, seen.line, place + " stands in the index but not in the text.");
-    } else if (found->second.verses != seen.verses) {
-      faults.Add(indexPath, seen.line,
-                 place + " has " + std::to_string(seen.verses) + (seen.verses == 1 ? " verse" : " verses") +
-                     " in the index, " + std::to_string(found->second.verses) + " in the text.");
+      library.Add("not-in-text", files.index, seen.line,
+                  {"Book %1 chapter %2 stands in the index but not in the text.", {book, chapter}}, place);
+    } else if (found->second.verses != seen.verses && found->second.covered != seen.verses) {
+      library.Add("verse-count", files.index, seen.line,
+                  {seen.verses == 1 ? "Book %1 chapter %2 has %3 verse in the index, %4 in the text."
+                                    : "Book %1 chapter %2 has %3 verses in the index, %4 in the text.",
+                   {book, chapter, std::to_string(seen.verses), std::to_string(found->second.verses)}},
+                  place);
     }
   }
   for (const auto& [key, seen] : text) {
-    if (!index.contains(key)) {
-      faults.Add(textPath, seen.line, Place(key.first, key.second) + " stands in the text but not in the index.");
-    }
+    if (index.contains(key)) continue;
+    library.Add("not-in-index", files.text, seen.line,
+                {"Book %1 chapter %2 stands in the text but not in the index.",
+                 {std::to_string(key.first), std::to_string(key.second)}},
+                {key.first, key.second});
   }
 }
 
 }  // namespace
 
-void CheckText(const ModGlob& glob, const std::string& stem, FaultList& faults) {
-  const std::string indexPath = IndexFile(glob, faults.Charset(), stem);
-  const std::string textPath = VerseFile(glob, faults.Charset(), stem);
+void CheckText(CheckedLibrary& library, const TranslationFiles& files) {
   // One that is there and cannot be read is told by its reader.
   std::error_code ignored;
-  const bool hasIndex = std::filesystem::exists(std::filesystem::symlink_status(indexPath, ignored));
+  const bool hasIndex = std::filesystem::exists(std::filesystem::symlink_status(files.index, ignored));
   if (!hasIndex) {
-    faults.Add(indexPath, 0,
-               "The chapter index is missing. Versalia makes it at the first search in this translation.");
+    library.Add("missing-index", files.index, 0,
+                {"The chapter index is missing. Versalia makes it at the first search in this translation."});
   } else {
-    faults.CheckLetterCase(indexPath, glob.InstallPath + "Index/" + faults.Charset().Decode(stem) + ".TXT.INDEX");
+    library.CheckLetterCase(files.index, files.properIndex);
   }
   try {
-    TextReader text(textPath, faults);
-    const ChapterTable index = hasIndex ? CheckIndex(indexPath, faults) : ChapterTable();
+    TextReader text(files.text, library);
+    const ChapterTable index = hasIndex ? CheckIndex(files.index, library) : ChapterTable();
     const ChapterTable chapters = text.ReadAll();
-    if (FileExists(indexPath)) Compare(index, indexPath, chapters, textPath, faults);
+    if (FileExists(files.index) && !text.HasGivenUp()) Compare(index, chapters, files, library);
   } catch (const RunTimeError& error) {
-    faults.Add(error);
+    library.findings.Add(FindingOf(error));
   }
 }
 

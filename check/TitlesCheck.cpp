@@ -10,6 +10,7 @@
 #include "PageFile.h"
 #include "PageNames.h"
 #include "Paths.h"
+#include "Text.h"
 
 namespace folionet {
 namespace {
@@ -19,64 +20,69 @@ constexpr std::size_t kLongestFileName = 255;
 // The page names of one file of titles, by the book that has them.
 class PageNameCheck {
  public:
-  PageNameCheck(const LineReader& lines, FaultList& faults) : m_lines(lines), m_faults(faults) {}
+  PageNameCheck(const LineReader& lines, CheckedLibrary& library) : m_lines(lines), m_library(library) {}
 
   void Add(int book, const std::string& title) {
-    const CodePage& codePage = m_faults.Charset();
+    const CodePage& codePage = m_library.codePage;
     const std::string name =
         WithoutCharacterReferences(codePage.Decode(ChapterPageName(title, book, 1, false, codePage)));
     if (title.empty() || !IsPageName(name) || name.size() > kLongestFileName) {
-      m_faults.Add(m_lines.Path(), m_lines.LineNumber(), "The title cannot be a file name: " + Quoted(title));
+      m_library.Add("bad-title", m_lines.Path(), m_lines.LineNumber(),
+                    {"The title cannot be a file name: %1", {Quoted(title)}}, {book});
     }
     const auto [first, isNew] = m_bookOfName.emplace(name, book);
     if (!isNew) {
-      m_faults.Add(m_lines.Path(), m_lines.LineNumber(),
-                   "Books " + std::to_string(first->second) + " and " + std::to_string(book) +
-                       " have the same page names, such as " + name);
+      m_library.Add("shared-name", m_lines.Path(), m_lines.LineNumber(),
+                    {"Books %1 and %2 have the same page names, such as %3",
+                     {std::to_string(first->second), std::to_string(book), name}},
+                    {book});
     }
   }
 
  private:
   const LineReader& m_lines;
-  FaultList& m_faults;
+  CheckedLibrary& m_library;
   std::map<std::string, int> m_bookOfName;
 };
 
-void CheckTitleFile(const ModGlob& glob, const std::string& fileName, FaultList& faults) {
+void CheckTitleFile(const std::string& fileName, CheckedLibrary& library) {
+  const ModGlob& glob = library.glob;
   try {
     const std::string path = SysdefsFile(glob, fileName);
     LineReader lines(path, LineReader::kLongestEntry);
-    faults.CheckLetterCase(path, glob.SysdefsPath + fileName);
-    PageNameCheck names(lines, faults);
+    library.CheckLetterCase(path, glob.SysdefsPath + fileName);
+    PageNameCheck names(lines, library);
     std::string_view line;
     int book = 0;
     while (book < kBooks && NextTitleLine(lines, line)) {
       ++book;
-      faults.CheckBytes(path, lines.LineNumber(), line);
+      library.CheckBytes(path, lines.LineNumber(), line, {book});
       try {
         names.Add(book, ParseBookTitle(lines, line).title);
       } catch (const RunTimeError& error) {
-        faults.Add(error);
+        library.findings.Add(FindingOf(error));
       }
     }
     if (book < kBooks) {
-      faults.Add(path, 0, "The titles of 66 books were expected, " + std::to_string(book) + " found.");
+      library.Add("missing-titles", path, 0,
+                  {"The titles of 66 books were expected, %1 found.", {std::to_string(book)}});
     }
   } catch (const RunTimeError& error) {
-    faults.Add(error);
+    library.findings.Add(FindingOf(error));
   }
 }
 
 }  // namespace
 
-void CheckTitles(const ModGlob& glob, const std::string& chosen, FaultList& faults) {
-  CheckTitleFile(glob, chosen, faults);
+void CheckTitles(CheckedLibrary& library) {
+  const std::string& chosen = library.titlesFile;
+  CheckTitleFile(chosen, library);
   try {
-    for (const std::string& name : LanguageFiles(glob)) {
-      if (!EqualIgnoringCase(name, chosen)) CheckTitleFile(glob, name, faults);
+    for (const std::string& name : LanguageFiles(library.glob)) {
+      if (!EqualIgnoringCase(name, chosen)) CheckTitleFile(name, library);
     }
   } catch (const RunTimeError& error) {
-    faults.Add(error);
+    library.findings.Add(FindingOf(error));
   }
 }
 

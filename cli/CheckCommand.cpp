@@ -1,40 +1,51 @@
 #include "CheckCommand.h"
 
-#include <cstdio>
-
-#include "CatalogueCheck.h"
-#include "FaultList.h"
-#include "TextCheck.h"
-#include "TitlesCheck.h"
+#include "LibraryCheck.h"
+#include "Session.h"
 
 namespace folionet {
+namespace {
 
-ExitStatus RunCheck(const CommonOptions& common, const std::string& translation,
-                    const std::vector<std::string>& settings) {
-  Session session(common);
-  session.Override(settings);
+// What to do about a finding that does not say so itself.
+constexpr char kCorrectPlace[] = "Correct this place, or let Versalia install the translation anew.";
+
+std::string Counted(std::size_t number, const char* thing) {
+  return std::to_string(number) + " " + thing + (number == 1 ? "" : "s");
+}
+
+void ShowAll(const Findings& findings, ConsoleUi& ui) {
+  for (Finding finding : findings.Kept()) {
+    if (finding.remedy.IsEmpty()) finding.remedy = {kCorrectPlace};
+    ui.Show(finding);
+  }
+  const std::size_t unlisted = findings.Count() - findings.Kept().size();
+  if (unlisted > 0) ui.Sum(std::to_string(unlisted) + " more are not listed.", false);
+  const std::size_t warnings = findings.Count(Severity::kWarning);
+  ui.Sum(Counted(findings.Count(Severity::kFault), "fault") +
+             (warnings > 0 ? ", " + Counted(warnings, "warning") : "") + " found.",
+         findings.Count() == 0);
+}
+
+}  // namespace
+
+ExitStatus RunCheck(const CommonOptions& common, const CheckArguments& arguments, ConsoleUi& ui) {
+  Session session(common, ui);
+  session.Override(arguments.settings);
   session.LoadCodePage();
-  FaultList faults(session.codePage);
-  CheckCatalogue(session.glob, faults);
-  CheckTitles(session.glob, session.store.Text("cboLang"), faults);
-
+  Findings findings;
+  LibraryCheck check(session.glob, session.codePage, session.store.Text("cboLang"), findings);
+  check.ExamineLists();
   const std::size_t count = session.glob.cboBibleName.size();
-  std::size_t first = 0;
-  std::size_t end = count;
-  if (!translation.empty()) {
-    first = session.FindTranslation(translation);
-    end = first + 1;
+  if (arguments.translation.empty()) {
+    for (std::size_t place = 0; place < count; ++place) check.ExamineTranslation(session.glob.BibleFiles[place]);
+  } else {
+    check.ExamineTranslation(session.glob.BibleFiles[session.FindTranslation(arguments.translation)]);
   }
-  for (std::size_t place = first; place < end; ++place) {
-    CheckText(session.glob, session.glob.BibleFiles[place], faults);
-  }
-  faults.PrintCount();
-  if (faults.Count() == 0) return kExitDone;
-  std::fflush(stdout);
-  std::fputs(count == 0 ? "Give Versalia's folders with --versalia-path FOLDER and --module-path FOLDER, or install a "
-                          "translation in Versalia.\n"
-                        : "Correct these places, or let Versalia install the translation anew, and check again.\n",
-             stderr);
+  ShowAll(findings, ui);
+  if (findings.Count(Severity::kFault) == 0) return ui.Done();
+  ui.Tell(count == 0 ? "Give Versalia's folders with --versalia-path FOLDER and --module-path FOLDER, or install a "
+                       "translation in Versalia."
+                     : "Correct these places, or let Versalia install the translation anew, and check again.");
   return kExitRefused;
 }
 

@@ -3,15 +3,19 @@
 #include <string>
 #include <vector>
 
-#include "Session.h"
+#include "CommonOptions.h"
+#include "ConsoleUi.h"
 
 namespace folionet {
 
-// Reads the catalogue, every file of book titles, and index and text of one translation (all of them when the name is
-// empty) through, and prints each fault as "file:line: what is wrong", then their count. Changes nothing.
-// `settings` are given for this run, as to compile: the charset and the file of titles are what counts. Gives
+// The arguments of "folionet-cli check"; an empty text stands for one that was not given.
+struct CheckArguments {
+  std::string translation;            // all of them when empty
+  std::vector<std::string> settings;  // for this run, as to compile: the charset and the file of titles are what counts
+};
+
+// Examines the library and prints each finding as "file:line: what is wrong", then their count. Changes nothing. Gives
 // kExitRefused when there are faults.
-ExitStatus RunCheck(const CommonOptions& common, const std::string& translation,
-                    const std::vector<std::string>& settings);
+ExitStatus RunCheck(const CommonOptions& common, const CheckArguments& arguments, ConsoleUi& ui);
 
 }  // namespace folionet

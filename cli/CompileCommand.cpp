@@ -1,6 +1,6 @@
 #include "CompileCommand.h"
 
-#include <cstdio>
+#include <cstring>
 
 #include "ChapterIndex.h"
 #include "Compile.h"
@@ -58,50 +58,74 @@ void SelectTranslation(const CompileArguments& arguments, Session& session, Comp
             Outcome::kDone);
 }
 
-// What a person does about a fact at the command line; a setting that mends it is named behind it.
-const char* StepText(RunFactKind kind) {
+const char* KindText(RunFactKind kind) {
   switch (kind) {
     case RunFactKind::kEndsBeforeStart:
-      return " Give the books in their order with --start-book and --end-book.";
+      return "ends-before-start";
+    case RunFactKind::kRemovesPages:
+      return "removes-pages";
     case RunFactKind::kIndexTakesPage:
-      return " Give it a name of its own with --index-address.";
+      return "index-takes-page";
     case RunFactKind::kPagesMeet:
-      return " Give other titles with --language-file, or short names:";
+      break;
+  }
+  return "pages-meet";
+}
+
+// What a person does about a fact at the command line.
+Sentence RemedyOf(const RunFact& fact) {
+  switch (fact.kind) {
+    case RunFactKind::kEndsBeforeStart:
+      return {"Give the books in their order with --start-book and --end-book."};
+    case RunFactKind::kIndexTakesPage:
+      return {"Give it a name of its own with --index-address."};
+    case RunFactKind::kPagesMeet:
+      return {"Give other titles with --language-file, or short names: --set \"%1=%2\".",
+              {fact.remedy.key, fact.remedy.value}};
     case RunFactKind::kRemovesPages:
       break;
   }
-  return "";
+  return {};
 }
 
 // Warnings are told before the run; a plan tells beforehand what is removed in any case.
-void TellFacts(const std::vector<RunFact>& facts, bool dryRun) {
+void TellFacts(const std::vector<RunFact>& facts, bool dryRun, ConsoleUi& ui) {
   for (const RunFact& fact : facts) {
+    Finding finding{.kind = KindText(fact.kind), .what = fact.notice, .remedy = RemedyOf(fact)};
     if (dryRun && fact.kind == RunFactKind::kRemovesPages) {
-      std::printf("%s\n", NoticeText(fact.notice).c_str());
+      finding.severity = Severity::kNote;
+      ui.Show(finding);
     } else if (fact.isWarning) {
-      std::string text = "Warning: " + NoticeText(fact.notice) + StepText(fact.kind);
-      if (!fact.remedy.key.empty()) text += " --set \"" + fact.remedy.key + "=" + fact.remedy.value + "\".";
-      std::fprintf(stderr, "%s\n", WithoutControls(text).c_str());
+      ui.Warn(std::move(finding));
     }
   }
 }
 
-void PrintNames(const char* before, const std::vector<std::string>& names) {
-  for (const std::string& name : names) std::printf("%s%s\n", before, name.c_str());
+// What would become of files, for one who asked.
+void PrintPlan(const char* state, const std::vector<std::string>& names, ConsoleUi& ui) {
+  for (const std::string& name : names) {
+    if (ui.IsJson()) {
+      ui.Show({.kind = state, .severity = Severity::kNote, .file = name});
+    } else {
+      ui.Print(std::string(state).append(9 - std::strlen(state), ' ') + name);
+    }
+  }
 }
 
 // What the run did, or would do, as the arguments ask for it.
-void PrintChanges(const CompileArguments& arguments, const SiteChanges& changes) {
+void PrintChanges(const CompileArguments& arguments, const SiteChanges& changes, ConsoleUi& ui) {
   if (arguments.dryRun) {
-    PrintNames("new      ", changes.New());
-    PrintNames("changed  ", changes.Changed());
-    PrintNames("same     ", changes.Same());
-    PrintNames("removed  ", changes.Removed());
-    std::printf("%zu new, %zu changed, %zu the same, %zu removed. Nothing was written.\n", changes.New().size(),
-                changes.Changed().size(), changes.Same().size(), changes.Removed().size());
+    PrintPlan("new", changes.New(), ui);
+    PrintPlan("changed", changes.Changed(), ui);
+    PrintPlan("same", changes.Same(), ui);
+    PrintPlan("removed", changes.Removed(), ui);
+    ui.Sum(std::to_string(changes.New().size()) + " new, " + std::to_string(changes.Changed().size()) + " changed, " +
+               std::to_string(changes.Same().size()) + " the same, " + std::to_string(changes.Removed().size()) +
+               " removed. Nothing was written.",
+           false);
   } else if (arguments.listChanged) {
-    PrintNames("", changes.New());
-    PrintNames("", changes.Changed());
+    for (const std::string& name : changes.New()) ui.Print(name);
+    for (const std::string& name : changes.Changed()) ui.Print(name);
   }
 }
 
@@ -119,11 +143,10 @@ void RefuseOtherThanFolders(const std::string& sitemap) {
 
 }  // namespace
 
-ExitStatus RunCompile(const CommonOptions& common, const CompileArguments& arguments) {
+ExitStatus RunCompile(const CommonOptions& common, const CompileArguments& arguments, ConsoleUi& ui) {
   if (!arguments.sitemap.empty()) RefuseOtherThanFolders(arguments.sitemap);
-  CommonOptions quietWhenListing = common;
-  quietWhenListing.quiet = common.quiet || arguments.listChanged || arguments.dryRun;
-  Session session(quietWhenListing);
+  if (arguments.listChanged || arguments.dryRun) ui.HideResults();
+  Session session(common, ui);
   session.Override(arguments.settings);
   if (!arguments.languageFile.empty()) {
     session.CheckLanguageFile("--language-file", arguments.languageFile);
@@ -155,11 +178,11 @@ ExitStatus RunCompile(const CommonOptions& common, const CompileArguments& argum
   if (arguments.dryRun || arguments.listChanged) request.changes = &changes;
   request.sitemapAddress = arguments.sitemap;
   request.dryRun = arguments.dryRun;
-  if (request.cboBibleName >= 0) TellFacts(FindRunFacts(request, session.glob), arguments.dryRun);
+  if (request.cboBibleName >= 0) TellFacts(FindRunFacts(request, session.glob), arguments.dryRun, ui);
   switch (cmdCompile_Click(request, session.glob, session.ui)) {
     case CompileOutcome::kDone:
-      PrintChanges(arguments, changes);
-      return kExitDone;
+      PrintChanges(arguments, changes, ui);
+      return ui.Done();
     case CompileOutcome::kRefused:
       return kExitRefused;
     case CompileOutcome::kFailed:
@@ -167,7 +190,7 @@ ExitStatus RunCompile(const CommonOptions& common, const CompileArguments& argum
       break;
   }
   // What has changed by then is to be uploaded all the same: the next run finds it as it should be.
-  if (!arguments.dryRun) PrintChanges(arguments, changes);
+  if (!arguments.dryRun) PrintChanges(arguments, changes, ui);
   return kExitFailed;
 }
 

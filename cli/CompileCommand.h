@@ -23,6 +23,6 @@ struct CompileArguments {
 };
 
 // Compiles a translation as the form does.
-ExitStatus RunCompile(const CommonOptions& common, const CompileArguments& arguments);
+ExitStatus RunCompile(const CommonOptions& common, const CompileArguments& arguments, ConsoleUi& ui);
 
 }  // namespace folionet

@@ -3,21 +3,18 @@
 #include <unistd.h>
 
 #include <cstdio>
+#include <utility>
 
 #include "ErrorReport.h"
+#include "FindingLines.h"
 #include "NextSteps.h"
 #include "ProgramFolder.h"
+#include "Text.h"
 
 namespace folionet {
 namespace {
 
-void Write(std::FILE* stream, std::string_view text) {
-  const std::string shown = WithoutControls(text, "\t\n") + "\n";
-  std::fwrite(shown.data(), 1, shown.size(), stream);
-}
-
-}  // namespace
-
+// Line ends as a terminal and a text file have them here.
 std::string WithNewLines(std::string_view text) {
   std::string lines;
   for (std::size_t i = 0; i < text.size(); ++i) {
@@ -26,20 +23,10 @@ std::string WithNewLines(std::string_view text) {
   return lines;
 }
 
-std::string WithoutControls(std::string_view text, std::string_view kept) {
-  std::string shown;
-  for (std::size_t i = 0; i < text.size(); ++i) {
-    const auto byte = static_cast<unsigned char>(text[i]);
-    const auto next = static_cast<unsigned char>(i + 1 < text.size() ? text[i + 1] : 0);
-    const bool isUpper = byte == 0xC2 && next >= 0x80 && next <= 0x9F;  // U+0080 to U+009F
-    const bool isControl = byte < 0x20 || byte == 0x7F || isUpper;
-    shown += isControl && kept.find(text[i]) == std::string_view::npos ? '?' : text[i];
-    if (isUpper) ++i;
-  }
-  return shown;
-}
+}  // namespace
 
-ConsoleUi::ConsoleUi(bool quiet) : m_quiet(quiet), m_showsProgress(!quiet && isatty(STDERR_FILENO) != 0) {}
+ConsoleUi::ConsoleUi(const CommonOptions& common)
+    : m_common(common), m_showsResults(!common.quiet), m_showsProgress(!common.quiet && isatty(STDERR_FILENO) != 0) {}
 
 ConsoleUi::~ConsoleUi() { EndProgress(); }
 
@@ -48,13 +35,62 @@ void ConsoleUi::EndProgress() {
   m_progressShown = false;
 }
 
-void ConsoleUi::ShowMessage(const Message& message) {
+// Each stream is behind the other in the order in which they were written to, where both go to one place.
+void ConsoleUi::Write(std::FILE* stream, std::string_view text, std::string_view kept) {
   EndProgress();
+  const std::string shown = Escaped(text, kept) + "\n";
+  if (stream == stderr) std::fflush(stdout);
+  std::fwrite(shown.data(), 1, shown.size(), stream);
+}
+
+void ConsoleUi::Print(std::string_view line) { Write(stdout, line, {}); }
+
+void ConsoleUi::Print(std::string_view field, std::string_view next) {
+  Write(stdout, Escaped(field) + "\t" + Escaped(next), "\t");
+}
+
+void ConsoleUi::WriteText(std::FILE* stream, std::string_view text) {
+  if (text.empty()) return;
+  if (text.back() == '\n') text.remove_suffix(1);
+  Write(stream, text, "\t\n");
+}
+
+void ConsoleUi::PrintText(std::string_view text) { WriteText(stdout, text); }
+
+void ConsoleUi::Tell(std::string_view line) { Write(stderr, line, {}); }
+
+void ConsoleUi::TellText(std::string_view text) { WriteText(stderr, text); }
+
+void ConsoleUi::Show(const Finding& finding) {
+  m_hasWarned = m_hasWarned || finding.severity == Severity::kWarning;
+  Print(m_common.json ? JsonLine(finding) : PlainLine(finding));
+}
+
+void ConsoleUi::Warn(Finding finding) {
+  finding.severity = Severity::kWarning;
+  if (m_common.json) return Show(finding);
+  m_hasWarned = true;
+  Tell(PlainLine(finding) + (finding.remedy.IsEmpty() ? "" : " " + finding.remedy.InEnglish()));
+}
+
+void ConsoleUi::Sum(const std::string& line, bool isWell) {
+  if (!m_common.json && !(m_common.quiet && isWell)) Print(line);
+}
+
+bool ConsoleUi::Finish() {
+  if (std::fflush(stdout) == 0 && std::ferror(stdout) == 0) return true;
+  std::fputs("folionet-cli: standard output cannot be written. Send it to a file on a disk with room.\n", stderr);
+  return false;
+}
+
+ExitStatus ConsoleUi::Done() const { return m_common.strict && m_hasWarned ? kExitRefused : kExitDone; }
+
+void ConsoleUi::ShowMessage(const Message& message) {
   if (!message.isResult) {
-    Write(stderr, message.title + ": " + WithNewLines(message.text));
-    if (const std::string_view step = NextStep(message.title); !step.empty()) Write(stderr, step);
-  } else if (!m_quiet) {
-    Write(stdout, WithNewLines(message.text));
+    TellText(message.title + ": " + WithNewLines(message.text));
+    if (const std::string_view step = NextStep(message.title); !step.empty()) Tell(step);
+  } else if (m_showsResults) {
+    PrintText(WithNewLines(message.text));
   }
 }
 
@@ -63,10 +99,9 @@ bool ConsoleUi::AskYesNo(const std::string& /*title*/, const std::string& /*text
 std::optional<std::string> ConsoleUi::AskText(const InputBox& /*box*/) { return std::nullopt; }
 
 void ConsoleUi::ShowErrorReport(int errorNumber, std::string_view moduleLabel, const std::string& extraInfo) {
-  EndProgress();
-  Write(stderr, WithNewLines(BuildErrorReport(errorNumber, moduleLabel, extraInfo, ExecutableFolder())));
+  TellText(WithNewLines(BuildErrorReport(errorNumber, moduleLabel, extraInfo, ExecutableFolder())));
   if (const std::string_view step = NextStepAfterReport(errorNumber, moduleLabel, extraInfo); !step.empty()) {
-    Write(stderr, "\n" + std::string(step));
+    TellText("\n" + std::string(step));
   }
 }
 
@@ -77,7 +112,7 @@ void ConsoleUi::SetPanel(int panel, std::string_view text) {
   if (now - m_lastProgress < kInterval) return;
   m_lastProgress = now;
   m_progressShown = true;
-  std::fputs(("\r\033[K" + WithoutControls(text)).c_str(), stderr);
+  std::fputs(("\r\033[K" + Escaped(text)).c_str(), stderr);
 }
 
 }  // namespace folionet

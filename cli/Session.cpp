@@ -1,7 +1,5 @@
 #include "Session.h"
 
-#include <cstdio>
-
 #include "Catalogue.h"
 #include "Numbers.h"
 #include "OptionLoading.h"
@@ -33,13 +31,8 @@ std::vector<std::string> Decoded(const std::vector<std::string>& texts, std::siz
 
 }  // namespace
 
-void RefuseUsage(const std::string& text) {
-  std::fputs((WithoutControls(text) + "\n").c_str(), stderr);
-  throw ExitWith(kExitUsage);
-}
-
-Session::Session(const CommonOptions& common)
-    : store(StoredSettings::DefaultFolder()), ui(common.quiet), chosenProgramFolder(common.programFolder) {
+Session::Session(const CommonOptions& common, ConsoleUi& console)
+    : store(StoredSettings::DefaultFolder()), ui(console), chosenProgramFolder(common.programFolder) {
   try {
     LocateInstallation(store, common.folders, glob);
   } catch (const RunTimeError& error) {
@@ -98,10 +91,10 @@ void Session::LoadLists(bool withCatalogue) {
     throw ExitWith(kExitFailed);
   }
   if (const auto why = withCatalogue ? WhyNoTranslation(glob) : std::nullopt) {
-    std::fputs((WithoutControls(NoticeText(*why)) + "\n").c_str(), stderr);
+    ui.Tell(NoticeText(*why));
   }
   for (const std::string& text : glob.unreadableTexts) {
-    std::fprintf(stderr, "A translation is left out, for its text cannot be read: %s\n", WithoutControls(text).c_str());
+    ui.Tell("A translation is left out, for its text cannot be read: " + text);
   }
 }
 

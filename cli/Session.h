@@ -1,12 +1,13 @@
 #pragma once
 
-#include <exception>
 #include <string>
 #include <vector>
 
 #include "CodePage.h"
+#include "CommonOptions.h"
 #include "CompileContext.h"
 #include "ConsoleUi.h"
+#include "ExitStatus.h"
 #include "Installation.h"
 #include "PageOptions.h"
 #include "StoredSettings.h"
@@ -14,33 +15,10 @@
 
 namespace folionet {
 
-// The exit statuses of folionet-cli.
-enum ExitStatus { kExitDone = 0, kExitRefused = 1, kExitUsage = 2, kExitFailed = 3 };
-
-// Ends the command with an exit status; what there is to say has been said.
-class ExitWith : public std::exception {
- public:
-  explicit ExitWith(ExitStatus status) : m_status(status) {}
-  ExitStatus Status() const { return m_status; }
-
- private:
-  ExitStatus m_status;
-};
-
-// An argument that cannot be used: says so on standard error, with what to do, and ends the command.
-[[noreturn]] void RefuseUsage(const std::string& text);
-
-// The options that every command knows.
-struct CommonOptions {
-  GivenFolders folders;
-  std::string programFolder;
-  bool quiet = false;
-};
-
 // One run of the command line: the records that a form would hold, read as it reads them.
 class Session {
  public:
-  explicit Session(const CommonOptions& common);
+  Session(const CommonOptions& common, ConsoleUi& ui);
 
   // Gives settings values for this run, each "KEY=VALUE". Ends the command for an unknown key, a value of the wrong
   // form or a file of book titles that is not there.
@@ -69,7 +47,7 @@ class Session {
   int FindBook(const std::string& numberOrTitle) const;
 
   StoredSettings store;
-  ConsoleUi ui;
+  ConsoleUi& ui;
   ModGlob glob;
   CodePage codePage;
   PageOptions options;

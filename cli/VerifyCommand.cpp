@@ -1,7 +1,6 @@
 #include "VerifyCommand.h"
 
 #include <algorithm>
-#include <cstdio>
 #include <string>
 #include <vector>
 
@@ -11,8 +10,6 @@
 
 namespace folionet {
 namespace {
-
-void PrintShown(const std::string& line) { std::printf("%s\n", WithoutControls(line).c_str()); }
 
 std::string Counted(std::size_t number, const std::string& thing) {
   return std::to_string(number) + " " + thing + (number == 1 ? "" : "s");
@@ -39,19 +36,19 @@ const char* StepText(SiteStep step) {
          "own pages and style sheets, or put the missing file there.";
 }
 
-void PrintFindings(const SiteReport& report, const std::string& index) {
+void PrintFindings(const SiteReport& report, const std::string& index, ConsoleUi& ui) {
   for (const BrokenTarget& broken : report.broken) {
     const std::string pages = broken.pages > 1 ? " (" + std::to_string(broken.pages) + " pages, this one first)" : "";
-    PrintShown(broken.page + ":" + std::to_string(broken.line) + ": \"" + broken.target + "\" " + FaultText(broken) +
-               pages + ".");
+    ui.Print(broken.page + ":" + std::to_string(broken.line) + ": \"" + broken.target + "\" " + FaultText(broken) +
+             pages + ".");
   }
-  for (const UnreadFile& file : report.unread) PrintShown(file.name + ": cannot be read: " + file.why + ".");
+  for (const UnreadFile& file : report.unread) ui.Print(file.name + ": cannot be read: " + file.why + ".");
   for (const std::string& link : report.linkedFolders) {
-    PrintShown(link + ": a symbolic link to another folder, whose pages were not read: see that the server has it.");
+    ui.Print(link + ": a symbolic link to another folder, whose pages were not read: see that the server has it.");
   }
   const std::string unreached =
       ": no page that " + index + " leads to links here: left from an earlier compile, or outside the chosen books.";
-  for (const std::string& page : report.unreachable) PrintShown(page + unreached);
+  for (const std::string& page : report.unreachable) ui.Print(page + unreached);
 }
 
 // Ends the command when there is no such index page in a folder.
@@ -84,7 +81,9 @@ std::string FoundIndex(const std::string& folder) {
 
 }  // namespace
 
-ExitStatus RunVerify(const std::string& folder, const std::string& indexName) {
+ExitStatus RunVerify(const VerifyArguments& arguments, ConsoleUi& ui) {
+  const std::string& folder = arguments.folder;
+  const std::string& indexName = arguments.indexName;
   if (!FolderExists(folder)) {
     RefuseUsage((FileExists(folder) ? "This is no folder: \"" : "There is no folder \"") + folder +
                 "\": give the one that compile wrote into.");
@@ -93,21 +92,21 @@ ExitStatus RunVerify(const std::string& folder, const std::string& indexName) {
     if (!indexName.empty()) RefuseMissingIndex(folder, indexName);
     const std::string index = indexName.empty() ? FoundIndex(folder) : indexName;
     const SiteReport report = CheckSite(folder, index);
-    PrintFindings(report, index);
-    PrintShown(Counted(report.pages, "page") + ", " + Counted(report.links, "link") + ": " +
-               std::to_string(report.brokenLinks) + " broken, " + Counted(report.unreachable.size(), "page") +
-               " not reached.");
+    PrintFindings(report, index, ui);
+    ui.Print(Counted(report.pages, "page") + ", " + Counted(report.links, "link") + ": " +
+             std::to_string(report.brokenLinks) + " broken, " + Counted(report.unreachable.size(), "page") +
+             " not reached.");
     if (report.leadOut > 0) {
-      PrintShown(Counted(report.leadOut, "link") +
-                 (report.leadOut == 1 ? " leads out of the folder and was" : " lead out of the folder and were") +
-                 " not followed.");
+      ui.Print(Counted(report.leadOut, "link") +
+               (report.leadOut == 1 ? " leads out of the folder and was" : " lead out of the folder and were") +
+               " not followed.");
     }
     if (report.IsSound()) return kExitDone;
-    std::fflush(stdout);
-    for (const SiteStep step : StepsFor(report)) std::fprintf(stderr, "%s\n", StepText(step));
+    for (const SiteStep step : StepsFor(report)) ui.Tell(StepText(step));
     return kExitRefused;
   } catch (const RunTimeError& error) {
-    std::fprintf(stderr, "%s\nSee that it may be read, or give another index page with --index NAME.\n", error.what());
+    ui.Tell(error.what());
+    ui.Tell("See that it may be read, or give another index page with --index NAME.");
     return kExitFailed;
   }
 }

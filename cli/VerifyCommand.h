@@ -2,15 +2,21 @@
 
 #include <string>
 
-#include "Session.h"
+#include "ConsoleUi.h"
 
 namespace folionet {
 
+// The arguments of "folionet-cli verify"; an empty text stands for one that was not given.
+struct VerifyArguments {
+  std::string folder;
+  std::string indexName;
+};
+
 // Reads a written site through and prints each thing that links name and that is not there as "page:line: ...", of the
 // first page that names it, then the pages that the index does not lead to, then the counts. What to do next goes to
-// standard error. Control characters are shown as "?". Changes nothing. Gives kExitRefused when a link is broken or a
+// standard error. Changes nothing. Gives kExitRefused when a link is broken or a
 // page cannot be read. `indexName` may be empty: then it is index.html or index.htm; one that is not there is a usage
 // error.
-ExitStatus RunVerify(const std::string& folder, const std::string& indexName);
+ExitStatus RunVerify(const VerifyArguments& arguments, ConsoleUi& ui);
 
 }  // namespace folionet

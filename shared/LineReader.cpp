@@ -66,6 +66,7 @@ void LineReader::Fill() {
       break;
     }
     m_end += static_cast<std::size_t>(count);
+    m_bytesRead += static_cast<std::size_t>(count);
   }
 }
 
@@ -125,9 +126,15 @@ void LineReader::RefuseLineEnds(std::string_view part) const {
 }
 
 bool LineReader::IsRestBlank() {
+  // What was found the last time holds until it is reached: many blank lines are not looked through again for each.
+  if (m_bytesRead - (m_end - m_begin) < m_knownText) return false;
   for (;;) {
     const std::string_view rest(m_buffer.data() + m_begin, m_end - m_begin);
-    if (rest.find_first_not_of(" \t\r\n") != std::string_view::npos || rest.size() > m_longest) return false;
+    const std::size_t text = std::min(rest.find_first_not_of(" \t\r\n"), rest.size());
+    if (text < rest.size() || rest.size() > m_longest) {
+      m_knownText = m_bytesRead - (rest.size() - text);
+      return false;
+    }
     if (m_atEnd) return true;
     Fill();
   }

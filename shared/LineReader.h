@@ -77,6 +77,8 @@ class LineReader {
   std::size_t m_begin = 0;
   std::size_t m_end = 0;
   std::size_t m_lineNumber = 0;
+  std::size_t m_bytesRead = 0;  // of the file; the last of them stand in the buffer
+  std::size_t m_knownText = 0;  // where in the file the rest is known to be more than blanks
   bool m_atEnd = false;
   char m_lineEnd = '\n';
 };

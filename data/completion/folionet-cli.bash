@@ -47,14 +47,14 @@ _folionet_cli() {
       return
       ;;
   esac
-  local common="--versalia-path --module-path --program-folder --help"
+  local common="--versalia-path --module-path --program-folder --quiet --strict --help"
   case $command in
     compile)
       common+=" --translation --language-file --start-book --end-book --output --index-address --set --sitemap"
-      common+=" --list-changed --dry-run --quiet"
+      common+=" --list-changed --dry-run --json"
       ;;
     list) common="translations languages books settings $common" ;;
-    check) common+=" --translation --set" ;;
+    check) common+=" --translation --set --json" ;;
     verify)
       common+=" --index"
       if [[ $word != -* ]]; then

@@ -48,6 +48,14 @@ TEST(ProgramTest, MakesItsFolderForASiteOnly) {
   EXPECT_EQ(plan.errors, "");
   EXPECT_NE(plan.output.find("\n0 new, 0 changed, "), std::string::npos) << plan.output;
   EXPECT_FALSE(home.Has("data"));
+  // A home that is no absolute path is none.
+  command.pop_back();
+  for (const char* environment : {"HOME=relative", "NOTHING=1"}) {
+    Command without{"/usr/bin/env", "-i", environment};
+    without.insert(without.end(), command.begin(), command.end());
+    EXPECT_EQ(RunProgram(without, home.Path()).errors, "");
+  }
+  EXPECT_FALSE(home.Has("relative") || home.Has(".local") || home.Has("data"));
 }
 
 TEST(ProgramTest, LinksNoQt) {

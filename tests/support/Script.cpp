@@ -150,7 +150,12 @@ std::string Visible(const std::string& text) {
     std::array<char, 8> hex{};
     std::snprintf(hex.data(), hex.size(), "\\x%02X", static_cast<unsigned>(byte));
     const bool isPlain = (byte >= ' ' && byte < 0x7F) || (byte >= 0x80 && isText);
-    visible += c == '\t' ? "\\t" : c == '\r' ? "\\r" : c == '\n' ? "\\n" : isPlain ? std::string(1, c) : hex.data();
+    visible += c == '\\'   ? "\\\\"
+               : c == '\t' ? "\\t"
+               : c == '\r' ? "\\r"
+               : c == '\n' ? "\\n"
+               : isPlain   ? std::string(1, c)
+                           : hex.data();
   }
   return visible;
 }

@@ -1,0 +1,29 @@
+#include "LibraryCheck.h"
+
+#include "CatalogueCheck.h"
+#include "Installation.h"
+#include "TextCheck.h"
+#include "TitlesCheck.h"
+
+namespace folionet {
+namespace {
+
+// In the order in which they run: the catalogue tells which translations there are.
+constexpr void (*kListChecks[])(CheckedLibrary&) = {CheckCatalogue, CheckTitles};
+
+constexpr void (*kTranslationChecks[])(CheckedLibrary&, const TranslationFiles&) = {CheckText};
+
+}  // namespace
+
+void LibraryCheck::ExamineLists() {
+  for (const auto check : kListChecks) check(m_library);
+}
+
+void LibraryCheck::ExamineTranslation(const std::string& stem) {
+  const TranslationFiles files{IndexFile(m_library.glob, m_library.codePage, stem),
+                               VerseFile(m_library.glob, m_library.codePage, stem),
+                               m_library.glob.InstallPath + "Index/" + m_library.codePage.Decode(stem) + ".TXT.INDEX"};
+  for (const auto check : kTranslationChecks) check(m_library, files);
+}
+
+}  // namespace folionet

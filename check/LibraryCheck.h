@@ -1,0 +1,28 @@
+#pragma once
+
+#include <string>
+
+#include "CheckedLibrary.h"
+
+namespace folionet {
+
+// Examines a library, changing nothing. Each check is a routine in a file of its own, and has its row in one of the two
+// tables of LibraryCheck.cpp.
+class LibraryCheck {
+ public:
+  // `titlesFile` is the chosen file of book titles.
+  LibraryCheck(ModGlob& glob, const CodePage& codePage, std::string titlesFile, Findings& findings)
+      : m_library{glob, codePage, std::move(titlesFile), findings} {}
+
+  // The catalogue and the book titles. Fills BibleNames, BibleFiles and cboBibleName with the translations whose text
+  // is there, whatever else is wrong.
+  void ExamineLists();
+
+  // A translation's chapter index and text. `stem` is in the bytes of the catalogue.
+  void ExamineTranslation(const std::string& stem);
+
+ private:
+  CheckedLibrary m_library;
+};
+
+}  // namespace folionet

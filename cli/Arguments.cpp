@@ -1,0 +1,216 @@
+#include "Arguments.h"
+
+#include <CLI/CLI.hpp>
+#include <memory>
+#include <sstream>
+#include <vector>
+
+#include "BuildInfo.h"
+#include "CheckCommand.h"
+#include "CodePage.h"
+#include "CompileCommand.h"
+#include "ListCommand.h"
+#include "ProgramFolder.h"
+#include "Text.h"
+#include "VerifyCommand.h"
+
+namespace folionet {
+namespace {
+
+// Help texts are wrapped by hand: a line holds 80 columns.
+
+void AddCommonOptions(CLI::App& app, CommonOptions& common) {
+  app.add_option("--versalia-path", common.folders.versaliaPath, "Holds Sysdefs and Index (default: Versalia's own)")
+      ->type_name("FOLDER");
+  app.add_option("--module-path", common.folders.modulePath, "Holds Bible (default: Modules in --versalia-path)")
+      ->type_name("FOLDER");
+  app.add_option("--program-folder", common.programFolder, "default.css (default: ~/.local/share/Folionet)")
+      ->type_name("FOLDER")
+      ->check(MissingFolder, "");
+  app.add_flag("--quiet", common.quiet, "Say nothing when all goes well");
+  app.add_flag("--strict", common.strict, "End with 1 when there were warnings");
+  app.footer(
+      "\"COMMAND --help\" shows a command's options. Exit status: see folionet-cli(1).\n\n"
+      "Example:\n"
+      "  folionet-cli compile --output ~/site --index-address index.html");
+}
+
+void AddSettings(CLI::App& command, std::vector<std::string>& settings) {
+  command.add_option("--set", settings, "Gives a setting a value; repeatable (no default)")
+      ->type_name("KEY=VALUE")
+      ->expected(1)
+      ->take_all();
+}
+
+CLI::Option* AddJson(CLI::App& command, CommonOptions& common) {
+  return command.add_flag("--json", common.json, "Print JSON, an object a line");
+}
+
+void AddCompile(CLI::App& app, Arguments& asked) {
+  CLI::App& compile = *app.add_subcommand("compile", "Writes a page for every chapter, and an index page");
+  const auto arguments = std::make_shared<CompileArguments>();
+  compile.add_option("--translation", arguments->translation, "One of \"list translations\" (default: the first)")
+      ->type_name("NAME|STEM");
+  compile
+      .add_option("--language-file", arguments->languageFile, "One of \"list languages\" (default: setting cboLang)")
+      ->type_name("NAME");
+  compile.add_option("--start-book", arguments->startBook, "First book of the index page (default: 1)")
+      ->type_name("N|TITLE");
+  compile.add_option("--end-book", arguments->endBook, "Last book of the index page (default: 66)")
+      ->type_name("N|TITLE");
+  compile.add_option("--output", arguments->output, "Where the pages go (default: the setting Dir1)")
+      ->type_name("FOLDER");
+  compile.add_option("--index-address", arguments->indexAddress, "Name or address of the index page (no default)")
+      ->type_name("TEXT");
+  AddSettings(compile, arguments->settings);
+  compile.add_option("--sitemap", arguments->sitemap, "Write sitemap.xml for this address (default: none)")
+      ->type_name("ADDRESS");
+  compile.add_flag("--list-changed", arguments->listChanged, "Print the names of the pages whose bytes changed");
+  CLI::Option* dryRun =
+      compile.add_flag("--dry-run", arguments->dryRun, "Write nothing; print what each page would become");
+  AddJson(compile, asked.common)->needs(dryRun);
+  compile.footer(
+      "Pages that are there are overwritten, those of books before the start book\n"
+      "deleted. \"folionet-cli list settings\" shows the settings and their values.\n\n"
+      "Example:\n"
+      "  folionet-cli compile --translation KJV --output ~/site \\\n"
+      "                       --index-address index.html --set chkCSS=1");
+  compile.callback([&asked, arguments] {
+    asked.run = [arguments](const CommonOptions& common, ConsoleUi& ui) { return RunCompile(common, *arguments, ui); };
+  });
+}
+
+void AddList(CLI::App& app, Arguments& asked) {
+  CLI::App& list = *app.add_subcommand("list", "Shows what can be chosen, or the settings");
+  const auto subject = std::make_shared<std::string>();
+  const auto isSubject = [](const std::string& what) {
+    const bool isKnown = what == "translations" || what == "languages" || what == "books" || what == "settings";
+    return isKnown ? std::string() : "translations, languages, books or settings was expected: \"" + what + "\"";
+  };
+  list.add_option("WHAT", *subject,
+                  "translations: file stem and name of each;\n"
+                  "languages: the files of book titles;\n"
+                  "books: number and title, as cboLang has them;\n"
+                  "settings: KEY=VALUE, stored or default")
+      ->required()
+      ->type_name("")
+      ->check(isSubject, "");
+  list.footer(
+      "Example:\n"
+      "  folionet-cli list translations");
+  list.callback([&asked, subject] {
+    asked.run = [subject](const CommonOptions& common, ConsoleUi& ui) { return RunList(common, *subject, ui); };
+  });
+}
+
+void AddCheck(CLI::App& app, Arguments& asked) {
+  CLI::App& check = *app.add_subcommand("check", "Reads a library and names every fault in it");
+  const auto arguments = std::make_shared<CheckArguments>();
+  check.add_option("--translation", arguments->translation, "Display name or file stem (default: all of them)")
+      ->type_name("NAME|STEM");
+  AddSettings(check, arguments->settings);
+  AddJson(check, asked.common);
+  check.footer(
+      "Prints each fault with file and line, then their number; changes nothing.\n"
+      "Exit status 1 when there are faults.\n\n"
+      "Example:\n"
+      "  folionet-cli check --translation KJV");
+  check.callback([&asked, arguments] {
+    asked.run = [arguments](const CommonOptions& common, ConsoleUi& ui) { return RunCheck(common, *arguments, ui); };
+  });
+}
+
+void AddVerify(CLI::App& app, Arguments& asked) {
+  CLI::App& verify = *app.add_subcommand("verify", "Reads a written site and names the broken links");
+  const auto arguments = std::make_shared<VerifyArguments>();
+  verify.add_option("FOLDER", arguments->folder, "The folder of the site")->required()->type_name("");
+  verify
+      .add_option("--index", arguments->indexName, "File name of the index page (default: index.html,\nelse index.htm)")
+      ->type_name("NAME");
+  verify.footer(
+      "Also lists the pages that the index page does not lead to. Changes nothing.\n"
+      "Exit status 1 when a link is broken.\n\n"
+      "Example:\n"
+      "  folionet-cli verify ~/site");
+  verify.callback([&asked, arguments] {
+    asked.run = [arguments](const CommonOptions& /*common*/, ConsoleUi& ui) { return RunVerify(*arguments, ui); };
+  });
+}
+
+// Refuses an empty text wherever `app` or one of its commands takes a value: a script's variable that is not set would
+// otherwise pass for an option that was not given.
+void RefuseEmptyValues(CLI::App& app) {
+  const auto refuse = [](const std::string& value) {
+    return value.empty() ? std::string("a value was expected, but the text given is empty") : std::string();
+  };
+  for (CLI::Option* option : app.get_options()) {
+    if (option->get_items_expected_max() > 0) option->check(refuse, "");
+  }
+  for (CLI::App* command : app.get_subcommands({})) RefuseEmptyValues(*command);
+}
+
+// "compile, list, check or verify was expected"
+std::string ExpectedCommands(const CLI::App& app) {
+  std::string names;
+  const auto commands = app.get_subcommands([](const CLI::App*) { return true; });
+  for (std::size_t i = 0; i < commands.size(); ++i) {
+    if (i > 0) names += i + 1 == commands.size() ? " or " : ", ";
+    names += commands[i]->get_name();
+  }
+  return names + " was expected.";
+}
+
+// What is said about arguments that cannot be parsed: what is wrong, and the --help of the command that was meant.
+std::string UsageText(const CLI::App* app, const CLI::Error& error) {
+  std::string text = error.what();
+  std::string command = app->get_name();
+  if (const auto chosen = app->get_subcommands(); !chosen.empty()) {
+    command += " " + chosen.front()->get_name();
+  } else if (const auto unknown = app->remaining(); error.get_name() == "RequiredError") {
+    if (unknown.empty()) {
+      text = "A command is missing: " + ExpectedCommands(*app);
+    } else if (unknown.front().starts_with('-')) {
+      text = "The following argument was not expected: " + unknown.front();
+    } else {
+      text = "There is no command \"" + unknown.front() + "\": " + ExpectedCommands(*app);
+    }
+  }
+  return Escaped(text) + "\nSee \"" + command + " --help\".\n";
+}
+
+}  // namespace
+
+Arguments ParseArguments(int argc, char** argv) {
+  Arguments asked;
+  for (int i = 1; i < argc; ++i) {
+    if (!IsUtf8(argv[i])) {
+      asked.errors = "Argument " + std::to_string(i) + " is not UTF-8 text: give it in UTF-8.\n";
+      asked.status = kExitUsage;
+      return asked;
+    }
+  }
+  CLI::App app("Turns a Bible translation installed by Versalia into a static web site.", "folionet-cli");
+  app.set_version_flag("--version", std::string("folionet-cli ") + kVersion);
+  app.require_subcommand(1);
+  app.fallthrough();
+  AddCommonOptions(app, asked.common);
+  AddCompile(app, asked);
+  AddList(app, asked);
+  AddCheck(app, asked);
+  AddVerify(app, asked);
+  RefuseEmptyValues(app);
+  app.failure_message(UsageText);
+  try {
+    app.parse(argc, argv);
+  } catch (const CLI::ParseError& error) {
+    asked.run = nullptr;
+    std::ostringstream output;
+    std::ostringstream errors;
+    asked.status = app.exit(error, output, errors) == 0 ? kExitDone : kExitUsage;
+    asked.output = output.str();
+    asked.errors = errors.str();
+  }
+  return asked;
+}
+
+}  // namespace folionet

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <exception>
+#include <stdexcept>
+#include <string>
+
+namespace folionet {
+
+// The exit statuses of folionet-cli.
+enum ExitStatus { kExitDone = 0, kExitRefused = 1, kExitUsage = 2, kExitFailed = 3 };
+
+// Ends the command with an exit status; what there is to say has been said.
+class ExitWith : public std::exception {
+ public:
+  explicit ExitWith(ExitStatus status) : m_status(status) {}
+  ExitStatus Status() const { return m_status; }
+
+ private:
+  ExitStatus m_status;
+};
+
+// An argument that cannot be used: its text says what to do instead, and ends the command with kExitUsage.
+class UsageError : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
+[[noreturn]] inline void RefuseUsage(const std::string& text) { throw UsageError(text); }
+
+}  // namespace folionet

@@ -7,9 +7,10 @@
 //   write FILE TEXT [N TEXT]...           the text, then others N times each; "append" leaves what the file holds
 //   replace FILE OLD NEW                  also: remove PATH..., rename PATH PATH, folder PATH, pipe PATH,
 //                                         link PATH TARGET, hardlink PATH TARGET
-//   $ site --start-book=2                 compiles the library into out/, "compile" to what is given; "cli" and
-//                                         "make_library" are the programs themselves; before one, "bounded" bounds its
-//                                         memory and time, "limited" the size of its files, and "terminal" gives it one
+//   $ site --start-book=2                 compiles the library into out/, "compile" to what is given; "cli",
+//                                         "make_library" and "folionet" are the programs; before one, "bounded"
+//                                         bounds its memory and time, "limited" the size of its files, "terminal"
+//                                         gives it one, LANG=de sets its environment
 //   | a line of standard output           ! a line of standard error      ? the exit status, when it is not 0
 //   + a file made outside out/            ~ a file changed there          - a file that is gone
 //   show FILE                             prints a file; find FILE TEXT the lines with a text; list FOLDER the files

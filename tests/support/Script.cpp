@@ -50,8 +50,9 @@ std::vector<ScriptCase> ReadScript(const fs::path& path) {
 }
 
 bool UsesForms(const ScriptCase& script) {
-  return std::any_of(script.steps.begin(), script.steps.end(),
-                     [](const ScriptStep& step) { return step.line.substr(0, 5) == "start"; });
+  return std::any_of(script.steps.begin(), script.steps.end(), [](const ScriptStep& step) {
+    return step.line.starts_with("start") || (step.line[0] == '$' && step.line.find(" folionet") != std::string::npos);
+  });
 }
 
 // How many lines a line such as "> (16 lines more)" stands for; 0 for any other line.

@@ -9,6 +9,7 @@
 #include "CheckCommand.h"
 #include "CodePage.h"
 #include "CompileCommand.h"
+#include "ImportCommand.h"
 #include "ListCommand.h"
 #include "ProgramFolder.h"
 #include "Text.h"
@@ -80,6 +81,38 @@ void AddCompile(CLI::App& app, Arguments& asked) {
   });
 }
 
+void AddImport(CLI::App& app, Arguments& asked) {
+  CLI::App& import = *app.add_subcommand("import", "Makes a translation of a Bible text in a file");
+  const auto arguments = std::make_shared<ImportArguments>();
+  import
+      .add_option("PATH", arguments->paths,
+                  "Files, folders or zip archives, or - for standard\n"
+                  "input: USFM, USX, USFX, OSIS, Zefania XML, or one\nverse a line")
+      ->required()
+      ->type_name("");
+  import.add_option("--name", arguments->name, "Display name (default: the one in the text, or\nthe file's)")
+      ->type_name("NAME");
+  import.add_option("--stem", arguments->stem, "Stem of its files (default: made of the name)")->type_name("STEM");
+  import.add_option("--into", arguments->into, "The library (default:\n~/.local/share/Folionet/library)")
+      ->type_name("FOLDER");
+  import.add_option("--titles", arguments->titles, "A file of book titles (default: the text's own)")
+      ->type_name("BOOKS_FILE");
+  import.add_option("--charset", arguments->charset, "Of the files (default: what they tell, or UTF-8)")
+      ->type_name("NAME");
+  import.add_flag("--replace", arguments->replace, "Replace the translation of this name or stem");
+  import.add_flag("--dry-run", arguments->dryRun, "Write nothing; tell what would be imported");
+  import.footer(
+      "The library is used without a further option when none of Versalia is known.\n"
+      "Nothing is written unless the whole text could be read.\n\n"
+      "Example:\n"
+      "  folionet-cli import eng-web_usfm.zip --name \"World English Bible\"");
+  import.callback([&asked, arguments] {
+    asked.run = [arguments](const CommonOptions& common, ConsoleUi& ui) { return RunImport(common, *arguments, ui);
+};
+}  // namespace
+);
+}  // namespace folionet
+
 void AddList(CLI::App& app, Arguments& asked) {
   CLI::App& list = *app.add_subcommand("list", "Shows what can be chosen, or the settings");
   const auto subject = std::make_shared<std::string>();
@@ -149,7 +182,7 @@ void RefuseEmptyValues(CLI::App& app) {
   for (CLI::App* command : app.get_subcommands({})) RefuseEmptyValues(*command);
 }
 
-// "compile, list, check or verify was expected"
+// "compile, import, list, check or verify was expected"
 std::string ExpectedCommands(const CLI::App& app) {
   std::string names;
   const auto commands = app.get_subcommands([](const CLI::App*) { return true; });
@@ -195,6 +228,7 @@ Arguments ParseArguments(int argc, char** argv) {
   app.fallthrough();
   AddCommonOptions(app, asked.common);
   AddCompile(app, asked);
+  AddImport(app, asked);
   AddList(app, asked);
   AddCheck(app, asked);
   AddVerify(app, asked);

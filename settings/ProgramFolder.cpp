@@ -7,6 +7,7 @@
 #include <system_error>
 
 #include "BuildInfo.h"
+#include "OwnLibrary.h"
 #include "Paths.h"
 #include "RunTimeError.h"
 #include "WholeFile.h"
@@ -28,6 +29,8 @@ std::string UserDataFolder() {
 }
 
 }  // namespace
+
+std::string OwnLibraryFolder() { return UserDataFolder() + "library/"; }
 
 std::string ExecutableFolder() {
   std::error_code error;

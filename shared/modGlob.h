@@ -16,6 +16,14 @@ struct ChapterEntry {
   std::uint8_t Verses = 0;
 };
 
+// What is known of a translation that was imported beside what Versalia's files can say; all UTF-8.
+struct ImportedText {
+  std::string name;      // display name
+  std::string language;  // code, such as "en"; empty when the text did not tell
+  std::string charset;   // that its text and its file of book titles are in: "windows-1252" or "utf-8"
+  std::string titles;    // name of its file of book titles
+};
+
 // The values that the whole program shares, made in main and handed down by reference. Names and titles are the bytes
 // of Versalia's files; folders are paths.
 struct ModGlob {

@@ -4,6 +4,7 @@
 #include <system_error>
 #include <utility>
 
+#include "OwnLibrary.h"
 #include "Paths.h"
 #include "StoredSettings.h"
 
@@ -25,7 +26,10 @@ void LocateInstallation(const StoredSettings& store, const GivenFolders& given, 
   const auto folder = [&](const std::string& chosen, const char* key) {
     return chosen.empty() ? store.GetSetting(kVersalia, kModulePath, key, "") : WithSeparator(chosen);
   };
-  const std::string install = folder(given.versaliaPath, "VersaliaPath");
+  std::string install = folder(given.versaliaPath, "VersaliaPath");
+  const std::string imported = OwnLibraryFolder();
+  const bool isUnknown = install.empty() && given.modulePath.empty();
+  if (isUnknown && FolderExists(imported) && folder({}, "ModulePath").empty()) install = imported;
   // The stored module folder belongs to the stored installation: one that was given has its own, if anything.
   const std::string own =
       install.empty() ? std::string() : WithSeparator(LocateIgnoringCase(WithSeparator(install), "Modules"));
@@ -33,7 +37,7 @@ void LocateInstallation(const StoredSettings& store, const GivenFolders& given, 
   const bool isOwn = isGivenAlone && (FolderExists(own) || !IsStoredInstallation(store, install));
   std::string modules = isOwn ? own : folder(given.modulePath, "ModulePath");
   if (modules.empty()) modules = own;
-  SetInstallation(glob, install, std::move(modules), "Sysdefs");
+  SetInstallation(glob, std::move(install), std::move(modules), "Sysdefs");
 }
 
 void SetInstallation(ModGlob& glob, std::string installPath, std::string modulesPath, std::string_view sysdefs) {

@@ -25,9 +25,10 @@ struct GivenFolders {
 };
 
 // Sets InstallPath and ModulesPath, each to the folder given or else to what Versalia's own settings hold (application
-// "Versalia", section "Module_Path"), empty when unknown, and SysdefsPath. A module folder that is still unknown is
-// the one under the installation's, and so is that of an installation that was given without one, whether it is there
-// or not: the stored one is another library's, unless the stored installation is the one given.
+// "Versalia", section "Module_Path"), empty when unknown, and SysdefsPath. Where neither tells, our own library of
+// imported texts is it, when there is one. A module folder that is still unknown is the one under the installation's,
+// and so is that of an installation that was given without one, whether it is there or not: the stored one is another
+// library's, unless the stored installation is the one given.
 void LocateInstallation(const StoredSettings& store, const GivenFolders& given, ModGlob& glob);
 
 // Sets the folders from texts, used as they are; `sysdefs` is the name of the folder of definitions under InstallPath.

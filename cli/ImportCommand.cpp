@@ -1,0 +1,87 @@
+#include "ImportCommand.h"
+
+#include <filesystem>
+#include <system_error>
+
+#include "Finding.h"
+#include "FindingLines.h"
+#include "ImportText.h"
+#include "LibraryWriter.h"
+#include "Paths.h"
+#include "RunTimeError.h"
+#include "Session.h"
+
+namespace folionet {
+namespace {
+
+std::string Counted(std::size_t number, const char* thing) {
+  return std::to_string(number) + " " + thing + (number == 1 ? "" : "s");
+}
+
+ExitStatus TellError(const RunTimeError& error, ConsoleUi& ui) {
+  std::string text = error.Item();
+  if (error.Line() != 0) text += ":" + std::to_string(error.Line());
+  if (!error.Detail().empty()) text += ": " + error.Detail();
+  ui.Tell(text);
+  ui.Tell("Nothing was written.");
+  return kExitFailed;
+}
+
+void TellFindings(const ImportedBible& bible, ConsoleUi& ui) {
+  for (const Finding& finding : bible.findings.Kept()) ui.Tell(PlainLine(finding));
+  if (const std::size_t more = bible.findings.Count() - bible.findings.Kept().size(); more != 0) {
+    ui.Tell("And " + std::to_string(more) + " more.");
+  }
+  for (const LeftOutBook& book : bible.leftOut) {
+    ui.Tell("Left out, as it is none of the 66 books: " + book.name + " (" + Counted(book.verses, "verse") + ")");
+  }
+}
+
+std::string ResultLine(const LibraryPlan& plan) {
+  return plan.stem + ": " + plan.text.name + ": " + Counted(static_cast<std::size_t>(plan.books), "book") + ", " +
+         Counted(static_cast<std::size_t>(plan.chapters), "chapter") + ", " + Counted(plan.verses, "verse") + ", " +
+         plan.text.charset + (plan.text.language.empty() ? std::string() : ", language " + plan.text.language) +
+         ", in " + plan.folder;
+}
+
+// How the library that was written is chosen, where another one is used without a word.
+void TellHowToChoose(const CommonOptions& common, const LibraryPlan& plan, ConsoleUi& ui) {
+  const Session session(common, ui);
+  const std::string known = session.glob.InstallPath;
+  std::error_code ignored;
+  if (std::filesystem::equivalent(known, plan.folder, ignored)) return;
+  ui.Tell("Another library is known, " + known + "; choose this one with --versalia-path " + plan.folder);
+}
+
+std::string FallbackName(const std::string& path) {
+  if (path == "-") return {};
+  const std::string name = std::filesystem::path(path).lexically_normal().filename().string();
+  return name.substr(0, name.find('.'));
+}
+
+}  // namespace
+
+ExitStatus RunImport(const CommonOptions& common, const ImportArguments& arguments, ConsoleUi& ui) {
+  LibraryRequest request;
+  request.name = arguments.name;
+  request.stem = arguments.stem;
+  request.folder = NativePath(arguments.into);
+  request.titlesFile = NativePath(arguments.titles);
+  request.fallbackName = FallbackName(arguments.paths.front());
+  request.replace = arguments.replace;
+  if (const std::string refusal = RefusalOf(request); !refusal.empty()) RefuseUsage(refusal);
+  try {
+    const ImportedBible bible = ReadBible({arguments.paths, arguments.charset});
+    const LibraryPlan plan = PlanLibrary(bible, request);
+    if (!arguments.dryRun) WriteLibrary(plan);
+    if (!common.quiet) TellFindings(bible, ui);
+    ui.Sum(ResultLine(plan), true);
+    if (arguments.dryRun) ui.Sum("Nothing was written.", true);
+    if (!arguments.dryRun && !common.quiet) TellHowToChoose(common, plan, ui);
+    return ui.Done();
+  } catch (const RunTimeError& error) {
+    return TellError(error, ui);
+  }
+}
+
+}  // namespace folionet

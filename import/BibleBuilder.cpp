@@ -1,0 +1,315 @@
+#include "BibleBuilder.h"
+
+#include <algorithm>
+
+#include "BookTable.h"
+#include "LineReader.h"
+#include "Numbers.h"
+#include "RunTimeError.h"
+
+namespace folionet {
+namespace {
+
+constexpr int kHighestChapter = 255;  // more do not go into a chapter index
+constexpr std::size_t kLongestField = 32;
+constexpr int kOneChapterBooks[] = {31, 57, 63, 64, 65};
+
+bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+
+// A verse number without the marks of direction that a text written from right to left may hold in a bridge.
+std::string CleanField(std::string_view field) {
+  std::string clean(TrimBlanks(field));
+  for (const std::string_view mark : {"\u200F", "\u200E", "\u200B"}) {
+    for (std::size_t at = clean.find(mark); at != std::string::npos; at = clean.find(mark))
+      clean.erase(at, mark.size());
+  }
+  return clean;
+}
+
+bool IsVerseField(std::string_view field) {
+  const auto isOdd = [](char c) {
+    return static_cast<unsigned char>(c) <= ' ' || c == '<' || c == '>' || c == '&' || c == '"';
+  };
+  return !field.empty() && field.size() <= kLongestField && IsDigit(field[0]) &&
+         std::none_of(field.begin(), field.end(), isOdd);
+}
+
+}  // namespace
+
+void BibleBuilder::SetFile(const std::string& file) {
+  m_file = file;
+  m_line = 0;
+}
+
+void BibleBuilder::SetName(std::string_view name) {
+  if (m_bible.name.empty()) m_bible.name = WithSingleBlanks(name);
+}
+
+void BibleBuilder::SetLanguage(std::string_view code) {
+  if (!m_bible.language.empty()) return;
+  for (const char c : TrimBlanks(code)) {
+    const char lower = c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+    if (!IsDigit(lower) && lower != '-' && (lower < 'a' || lower > 'z')) break;
+    m_bible.language += lower;
+  }
+}
+
+std::string BibleBuilder::Place() const {
+  if (m_book == 0) return {};
+  std::string place = m_book <= kBooks ? std::string(BookAt(m_book).title)
+                                       : m_outside[static_cast<std::size_t>(m_book - kBooks - 1)].name;
+  if (m_chapter != 0) place += " " + std::to_string(m_chapter);
+  if (m_hasVerse) place += ":" + m_field;
+  return place + ": ";
+}
+
+void BibleBuilder::Fail(const std::string& what) const {
+  throw RunTimeError(kInvalidProcedureCall, m_file, Place() + what, m_line);
+}
+
+void BibleBuilder::Note(const char* kind, const char* pattern, const std::string& about) {
+  if (!m_noted.insert(kind + about).second) return;
+  m_bible.findings.Add({kind, Severity::kNote, m_file, m_line, {}, {pattern, {about}}, {}});
+}
+
+void BibleBuilder::BeginBook(std::string_view name) {
+  const std::string clean = WithSingleBlanks(name);
+  if (clean.empty()) Fail("the code or the name of a book was expected");
+  const int number = FindBook(clean);
+  OpenBook(number != 0 ? number : OutsideBook(clean));
+}
+
+void BibleBuilder::BeginBookNumber(int number, std::string_view name) {
+  const bool isKnown = number >= 1 && number <= kBooks;
+  const std::string clean = WithSingleBlanks(name);
+  OpenBook(isKnown ? number : OutsideBook(clean.empty() ? "book " + std::to_string(number) : clean));
+}
+
+int BibleBuilder::OutsideBook(std::string_view name) {
+  constexpr std::size_t kMostOutside = 1000;
+  constexpr std::size_t kLongestName = 100;
+  const std::string kept(name.substr(0, kLongestName));
+  const auto [found, isNew] = m_outsideByName.emplace(BookKey(kept), kBooks + 1 + static_cast<int>(m_outside.size()));
+  if (isNew) {
+    m_outside.push_back({kept, 0});
+    if (m_outside.size() > kMostOutside) Fail("there are more than 1000 different names of books");
+  }
+  return found->second;
+}
+
+void BibleBuilder::OpenBook(int number) {
+  CloseChapter();
+  m_book = number;
+  m_chapter = 0;
+  if (std::find(m_order.begin(), m_order.end(), number) == m_order.end()) m_order.push_back(number);
+}
+
+void BibleBuilder::AddTitle(TitleKind kind, std::string_view title) {
+  if (m_book < 1 || m_book > kBooks) return;
+  const int rank = 3 - static_cast<int>(kind);
+  const auto book = static_cast<std::size_t>(m_book);
+  std::string clean = WithSingleBlanks(title);
+  if (clean.empty() || m_titleRank[book] >= rank) return;
+  m_titleRank[book] = rank;
+  m_bible.titles[book] = std::move(clean);
+}
+
+void BibleBuilder::BeginChapter(std::string_view number) {
+  CloseChapter();
+  m_chapter = 0;
+  if (m_book == 0) Fail("a book was expected before chapter " + Quoted(number));
+  const IntegerReading reading = ReadInteger(CleanField(number), 1, kHighestChapter);
+  if (reading.error != 0) {
+    if (m_book > kBooks) return;
+    Fail("a chapter from 1 to 255 was expected: " + Quoted(number));
+  }
+  m_chapter = static_cast<int>(reading.value);
+}
+
+void BibleBuilder::BeginVerse(std::string_view field) {
+  CloseVerse();
+  if (m_book == 0) Fail("a book was expected before verse " + Quoted(field));
+  if (m_chapter == 0 &&
+      std::find(std::begin(kOneChapterBooks), std::end(kOneChapterBooks), m_book) != std::end(kOneChapterBooks)) {
+    m_chapter = 1;
+  }
+  if (m_chapter == 0 && m_book <= kBooks) Fail("a chapter was expected before verse " + Quoted(field));
+  m_field = CleanField(field);
+  if (!IsVerseField(m_field)) {
+    if (m_book <= kBooks) Fail("the number of a verse was expected: " + Quoted(field));
+    m_field = "0";
+  }
+  m_verseLine = m_line;
+  m_hasVerse = true;
+  m_isInVerse = true;
+  m_isInTitle = false;
+  m_verse = m_title;
+  m_verse.Break();
+  m_title.Clear();
+}
+
+void BibleBuilder::EndVerse() { m_isInVerse = false; }
+
+void BibleBuilder::AddText(std::string_view text) {
+  FlowingText* flow = nullptr;
+  if (m_isInTitle) {
+    flow = &m_title;
+  } else if (m_isInVerse) {
+    flow = &m_verse;
+    if (!m_title.IsEmpty() && text.find_first_not_of(" \t\r\n") != std::string_view::npos) {
+      // The verse goes on behind the title: it stands in the midst of its text.
+      m_verse.Append(m_title);
+      m_title.Clear();
+    }
+  }
+  if (flow != nullptr && !flow->Add(text)) Fail("a verse of at most 1 MiB was expected");
+}
+
+void BibleBuilder::AddBreak() {
+  if (m_isInTitle) m_title.Break();
+  if (m_isInVerse) m_verse.Break();
+}
+
+void BibleBuilder::BeginCanonicalTitle() {
+  AddBreak();
+  if (m_isInVerse && m_verse.IsEmpty()) return;  // it stands where it belongs
+  m_isInTitle = true;
+  m_title.Break();
+}
+
+void BibleBuilder::EndCanonicalTitle() {
+  AddBreak();
+  m_isInTitle = false;
+}
+
+void BibleBuilder::CloseVerse() {
+  if (!m_hasVerse) return;
+  if (m_book > kBooks) {
+    ++m_outside[static_cast<std::size_t>(m_book - kBooks - 1)].verses;
+  } else {
+    NameOddities();
+  }
+  // Names that are none of ours may turn out to be those of the 66 books in another language.
+  if (m_book <= kBooks || (m_mayNamesBeInOrder && m_book <= 2 * kBooks)) {
+    m_bible.Add({m_book, m_chapter, m_field, m_verse.Text()});
+  }
+  m_hasVerse = false;
+  m_isInVerse = false;
+  m_verse.Clear();
+}
+
+void BibleBuilder::CloseChapter() {
+  m_isInTitle = false;
+  if (m_hasVerse) m_verse.Append(m_title);
+  m_title.Clear();
+  CloseVerse();
+  m_lastNumber = 0;
+}
+
+void BibleBuilder::NameOddities() {
+  const auto name = [this](const char* kind, const char* pattern) {
+    const std::string place = Place();
+    m_bible.findings.Add({kind,
+                          Severity::kWarning,
+                          m_file,
+                          m_verseLine,
+                          {m_book, m_chapter, m_field},
+                          {pattern, {place.substr(0, place.size() - 2)}},
+                          {}});
+  };
+  const auto number = LeadingInteger(m_field).value_or(0);
+  if (!m_seen.insert(std::to_string(m_book * 256 + m_chapter) + ":" + m_field).second) {
+    name("doubled-verse", Words("Import", "%1 comes twice; both are kept."));
+  } else if (number < m_lastNumber) {
+    name("verse-order", Words("Import", "%1 is out of order."));
+  }
+  m_lastNumber = std::max(m_lastNumber, static_cast<int>(number));
+  if (m_verse.IsEmpty()) name("empty-verse", Words("Import", "%1 has no text."));
+}
+
+void BibleBuilder::EndFile() {
+  CloseChapter();
+  m_book = 0;
+  m_chapter = 0;
+}
+
+void BibleBuilder::UseNamesInOrder() {
+  ImportedBible::NewNumbers numbers{};
+  bool isInOrder = m_mayNamesBeInOrder && m_order.size() == kBooks;
+  for (std::size_t i = 0; i < m_order.size() && i < kBooks; ++i) {
+    const auto place = static_cast<std::uint8_t>(i + 1);
+    // A known name in another place tells that the others do not stand for the books in their order.
+    if (m_order[i] <= kBooks && m_order[i] != place) isInOrder = false;
+  }
+  for (std::size_t i = 0; i < m_order.size(); ++i) {
+    const auto old = static_cast<std::size_t>(m_order[i]);
+    if (old > 2 * kBooks) continue;
+    numbers[old] = isInOrder ? static_cast<std::uint8_t>(i + 1) : static_cast<std::uint8_t>(old <= kBooks ? old : 0);
+    if (isInOrder && old > kBooks) m_bible.titles[i + 1] = m_outside[old - kBooks - 1].name;
+  }
+  if (isInOrder) m_outside.clear();
+  m_bible.Renumber(numbers);
+}
+
+void BibleBuilder::FindMissing() {
+  const auto name = [this](const char* kind, const char* pattern, const std::string& what) {
+    m_bible.findings.Add({kind, Severity::kNote, {}, 0, {}, {pattern, {what}}, {}});
+  };
+  const auto title = [](int book) { return std::string(BookAt(book).title); };
+  int lastBook = 0;
+  int lastChapter = 0;
+  const auto nameBooks = [&](int first, int last) {
+    if (first > last) return;
+    name("missing-book", Words("Import", "Not in the text: %1"),
+         first == last ? title(first) : title(first) + " to " + title(last));
+  };
+  for (std::size_t i = 0; i < m_bible.VerseCount(); ++i) {
+    const ImportedBible::Verse verse = m_bible.VerseAt(i);
+    if (verse.book != lastBook) {
+      nameBooks(lastBook + 1, verse.book - 1);
+      lastBook = verse.book;
+      lastChapter = 0;
+    }
+    for (int chapter = lastChapter + 1; chapter < verse.chapter; ++chapter) {
+      name("missing-chapter", Words("Import", "Not in the text: %1"), title(lastBook) + " " + std::to_string(chapter));
+    }
+    lastChapter = verse.chapter;
+  }
+  nameBooks(lastBook + 1, kBooks);
+}
+
+void BibleBuilder::CheckCounts() const {
+  constexpr int kMostVerses = 255;  // more do not go into a chapter index
+  int count = 0;
+  ImportedBible::Verse last;
+  for (std::size_t i = 0; i < m_bible.VerseCount(); ++i) {
+    const ImportedBible::Verse verse = m_bible.VerseAt(i);
+    count = verse.book == last.book && verse.chapter == last.chapter ? count + 1 : 1;
+    last = verse;
+    if (count <= kMostVerses) continue;
+    throw RunTimeError(kOverflow, m_file,
+                       std::string(BookAt(verse.book).title) + " " + std::to_string(verse.chapter) +
+                           ": at most 255 verses in a chapter were expected");
+  }
+}
+
+ImportedBible BibleBuilder::Finish() {
+  CloseChapter();
+  UseNamesInOrder();
+  if (m_bible.VerseCount() == 0) {
+    throw RunTimeError(kInvalidProcedureCall, m_file,
+                       m_outside.empty()
+                           ? "a text with verses was expected; there is none"
+                           : "verses of one of the 66 books were expected; the books are others, such as " +
+                                 Quoted(m_outside.front().name));
+  }
+  m_bible.Sort();
+  CheckCounts();
+  FindMissing();
+  for (const LeftOutBook& book : m_outside) {
+    if (book.verses != 0) m_bible.leftOut.push_back(book);
+  }
+  return std::move(m_bible);
+}
+
+}  // namespace folionet

@@ -1,0 +1,68 @@
+#include "FlowingText.h"
+
+#include <array>
+
+namespace folionet {
+namespace {
+
+constexpr unsigned char kBomStart = 0xEF;
+constexpr std::string_view kBom = "\xEF\xBB\xBF";
+
+// The bytes that are not simply passed on.
+constexpr std::array<bool, 256> MakeSpecial() {
+  std::array<bool, 256> special{};
+  for (std::size_t c = 0; c <= ' '; ++c) special[c] = true;
+  special['&'] = special['<'] = special['>'] = special[0x7F] = special[kBomStart] = true;
+  return special;
+}
+constexpr std::array<bool, 256> kSpecial = MakeSpecial();
+
+std::string_view Reference(char c) { return c == '&' ? "&amp;" : c == '<' ? "&lt;" : "&gt;"; }
+
+}  // namespace
+
+bool FlowingText::Add(std::string_view piece) {
+  std::size_t at = 0;
+  while (at < piece.size()) {
+    std::size_t end = at;
+    while (end < piece.size() && !kSpecial[static_cast<unsigned char>(piece[end])]) ++end;
+    const char c = end < piece.size() ? piece[end] : ' ';
+    const bool isReference = c == '&' || c == '<' || c == '>';
+    const bool isOther = static_cast<unsigned char>(c) == kBomStart && piece.substr(end, kBom.size()) != kBom;
+    if (end > at || isReference || isOther) {
+      if (m_isBlankDue && !m_text.empty()) m_text += ' ';
+      m_isBlankDue = false;
+      m_text.append(piece, at, end - at);
+    }
+    if (end == piece.size()) break;
+    if (isReference) {
+      m_text += Reference(c);
+    } else if (isOther) {
+      m_text += c;
+    } else if (static_cast<unsigned char>(c) == kBomStart) {
+      end += kBom.size() - 1;
+    } else {
+      m_isBlankDue = true;
+    }
+    at = end + 1;
+  }
+  return m_text.size() <= kLongest;
+}
+
+std::string WithSingleBlanks(std::string_view text) {
+  std::string result;
+  bool isBlankDue = false;
+  for (const char c : text) {
+    const auto byte = static_cast<unsigned char>(c);
+    if (byte <= ' ' || byte == 0x7F) {
+      isBlankDue = true;
+      continue;
+    }
+    if (isBlankDue && !result.empty()) result += ' ';
+    isBlankDue = false;
+    result += c;
+  }
+  return result;
+}
+
+}  // namespace folionet

@@ -1,0 +1,71 @@
+#include "LibraryTitles.h"
+
+#include <algorithm>
+#include <set>
+
+#include "BookTitles.h"
+#include "CodePage.h"
+#include "FlowingText.h"
+#include "LineReader.h"
+#include "RunTimeError.h"
+#include "TitleLanguages.h"
+
+namespace folionet {
+namespace {
+
+// A title of a book as the name of a page may hold it. A ":" would make an address of the name, a "%" or "#" end it.
+std::string Nameable(std::string_view title) {
+  constexpr std::size_t kLongest = 160;  // bytes; a file system has room for 255
+  std::string name;
+  for (const char c : title) {
+    if (c == '/' || c == '\\') {
+      name += '-';
+    } else if (std::string_view(":*?\"<>|#%&").find(c) == std::string_view::npos) {
+      name += c;
+    }
+  }
+  name = WithSingleBlanks(name);
+  if (name.size() > kLongest) {
+    std::size_t end = kLongest;
+    while ((static_cast<unsigned char>(name[end]) & 0xC0) == 0x80) --end;
+    name.resize(end);
+  }
+  // A name that begins with a dot is hidden, or is no name.
+  return name.substr(std::min(name.find_first_not_of(". "), name.size()));
+}
+
+}  // namespace
+
+BookTitleList MakePageTitles(const BookTitleList& given, std::string_view language) {
+  const TitleLanguage& nearest = NearestLanguage(language);
+  const CodePage utf8("utf-8");
+  BookTitleList titles;
+  std::set<std::string> names;
+  for (std::size_t book = 1; book <= kBooks; ++book) {
+    std::string title = Nameable(given[book]);
+    if (title.empty()) title = nearest.titles[book - 1];
+    std::string unique = title;
+    for (int number = 2; !names.insert(utf8.ToLower(unique)).second; ++number) {
+      unique = title + " " + std::to_string(number);
+    }
+    titles[book] = std::move(unique);
+  }
+  return titles;
+}
+
+BookTitleList ReadTitlesFile(const std::string& path) {
+  LineReader lines(path, LineReader::kLongestEntry);
+  BookTitleList titles;
+  for (std::size_t book = 1; book <= kBooks; ++book) {
+    std::string_view line;
+    if (!lines.NextNotBlank(line)) {
+      throw RunTimeError(kInputPastEnd, path,
+                         "The titles of 66 books were expected, " + std::to_string(book - 1) + " found.");
+    }
+    const std::string title = ParseBookTitle(lines, line).title;
+    titles[book] = IsUtf8(title) ? title : CodePage().Decode(title);
+  }
+  return titles;
+}
+
+}  // namespace folionet

@@ -1,0 +1,245 @@
+#include "LibraryWriter.h"
+
+#include <sys/file.h>
+#include <unicode/uloc.h>
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <filesystem>
+#include <system_error>
+
+#include "BookTable.h"
+#include "CatalogueText.h"
+#include "CodePage.h"
+#include "FileHandle.h"
+#include "FileSet.h"
+#include "FlowingText.h"
+#include "ImportedText.h"
+#include "LibraryTitles.h"
+#include "LineReader.h"
+#include "OwnLibrary.h"
+#include "Paths.h"
+#include "RunTimeError.h"
+#include "TitleLanguages.h"
+#include "WholeFile.h"
+#include "Windows1252.h"
+
+namespace folionet {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::size_t kLongestStem = 60;
+constexpr std::size_t kLongestName = 200;
+
+bool IsOfStem(char c) {
+  return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '-' || c == '_';
+}
+
+bool HasControl(std::string_view text) {
+  return std::any_of(text.begin(), text.end(), [](unsigned char c) { return c < 0x20 || c == 0x7F; });
+}
+
+std::string AbsoluteFolder(const std::string& folder) {
+  return WithSeparator(fs::absolute(folder).lexically_normal().string());
+}
+
+// A language's code as pages declare it: "eng" is "en".
+std::string LanguageCode(const std::string& code) {
+  std::array<char, ULOC_LANG_CAPACITY> main{};
+  UErrorCode status = U_ZERO_ERROR;
+  const std::size_t end = std::min(code.find('-'), code.size());
+  uloc_getLanguage(code.substr(0, end).c_str(), main.data(), static_cast<int32_t>(main.size()), &status);
+  return U_FAILURE(status) || main[0] == '\0' ? code : main.data() + code.substr(end);
+}
+
+// "World English Bible" gives WEB, "Afrikaans" AFRIKAANS; empty for a name without a letter or digit of ASCII.
+std::string StemOf(std::string_view name) {
+  constexpr std::size_t kFewestWords = 2;
+  std::string initials;
+  std::string all;
+  bool isStart = true;
+  for (const char c : name) {
+    if (!IsOfStem(c) || c == '-' || c == '_') {
+      isStart = isStart || c == ' ' || c == '-';
+      continue;
+    }
+    const char upper = c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
+    if (isStart || (c >= '0' && c <= '9')) initials += upper;
+    all += upper;
+    isStart = false;
+  }
+  return initials.size() > kFewestWords ? initials : all.substr(0, kLongestStem / 3);
+}
+
+// What is there already, and where.
+struct Existing {
+  std::string content;
+  std::vector<CatalogueEntry> entries;
+
+  const CatalogueEntry* WithStem(std::string_view stem) const {
+    const auto found = std::find_if(entries.begin(), entries.end(),
+                                    [&](const CatalogueEntry& entry) { return EqualIgnoringCase(entry.stem, stem); });
+    return found == entries.end() ? nullptr : &*found;
+  }
+
+  const CatalogueEntry* WithName(const std::string& name) const {
+    const std::string bytes = FitsWindows1252(name) ? ToWindows1252(name) : name;
+    const auto found = std::find_if(entries.begin(), entries.end(), [&](const CatalogueEntry& entry) {
+      return entry.name == bytes || entry.name == name;
+    });
+    return found == entries.end() ? nullptr : &*found;
+  }
+};
+
+std::string FreeStem(const std::string& wanted, const Existing& existing) {
+  const std::string base = wanted.empty() ? "TEXT" : wanted;
+  std::string stem = base;
+  for (int number = 2; existing.WithStem(stem) != nullptr; ++number) stem = base + "-" + std::to_string(number);
+  return stem;
+}
+
+// Chooses the stem, and refuses to take the place of a translation that is not to be replaced.
+void ChooseStem(const LibraryRequest& request, const Existing& existing, LibraryPlan& plan) {
+  const CatalogueEntry* const sameName = existing.WithName(plan.text.name);
+  if (request.stem.empty()) {
+    plan.stem = sameName != nullptr ? sameName->stem : FreeStem(StemOf(plan.text.name), existing);
+  } else {
+    plan.stem = request.stem;
+  }
+  const CatalogueEntry* const sameStem = existing.WithStem(plan.stem);
+  plan.replaces = sameStem != nullptr;
+  if (sameStem == nullptr || request.replace) return;
+  throw RunTimeError(kFileAlreadyOpen, plan.folder,
+                     "The library holds a translation with the stem " + sameStem->stem +
+                         " already. Replace it with --replace, or give this one another --name and --stem.");
+}
+
+std::string Bytes(const LibraryPlan& plan, std::string_view utf8) {
+  return plan.text.charset == "utf-8" ? std::string(utf8) : ToWindows1252(utf8);
+}
+
+// The verse file and its index.
+void MakeTexts(const ImportedBible& bible, LibraryPlan& plan, std::string& verses, std::string& index) {
+  verses.reserve(bible.AllText().size() + bible.VerseCount() * std::size_t{20});
+  plan.verses = bible.VerseCount();
+  int lastBook = 0;
+  for (std::size_t i = 0; i < plan.verses;) {
+    const auto [book, chapter, firstField, firstText] = bible.VerseAt(i);
+    const std::size_t offset = verses.size();
+    const std::size_t first = i;
+    const std::string place = "\t" + std::to_string(book) + "\t" + std::to_string(chapter) + "\t";
+    for (; i < plan.verses; ++i) {
+      const ImportedBible::Verse verse = bible.VerseAt(i);
+      if (verse.book != book || verse.chapter != chapter) break;
+      verses.append(std::to_string(i + 1)).append(place).append(Bytes(plan, verse.field)).append("\t");
+      verses.append(Bytes(plan, verse.text)).append("\r\n");
+    }
+    if (book != lastBook) ++plan.books;
+    lastBook = book;
+    index.append(std::to_string(++plan.chapters)).append(",").append(std::to_string(offset)).append(",");
+    index.append(std::to_string(book)).append(",").append(std::to_string(chapter)).append(",");
+    index.append(std::to_string(i - first)).append(",").append(std::to_string(verses.size() - offset));
+    index.append(",\"").append(BookLabel(book)).append("\"\r\n");
+  }
+}
+
+std::string TitlesContent(const LibraryPlan& plan, const BookTitleList& titles) {
+  std::vector<std::string_view> list(titles.begin() + 1, titles.end());
+  return Bytes(plan, TitleFileText(list));
+}
+
+// The delivered files of titles that the library lacks.
+void AddDeliveredTitles(LibraryPlan& plan) {
+  const auto add = [&](const std::string& name, const TitleLanguage& language) {
+    const std::string path = LocateIgnoringCase(plan.folder, "Sysdefs/" + name);
+    if (FileExists(path)) return;
+    std::vector<std::string_view> titles(language.titles.begin(), language.titles.end());
+    plan.files.emplace_back(path, ToWindows1252(TitleFileText(titles)));
+  };
+  for (const TitleLanguage& language : TitleLanguages()) {
+    add("BOOKS_" + std::string(language.name) + ".TXT", language);
+  }
+  add("BOOKS.TXT", TitleLanguages().front());
+}
+
+void MakeFolder(const std::string& path) {
+  std::error_code error;
+  fs::create_directories(path, error);
+  if (!FolderExists(path)) throw RunTimeError::FromErrno(error ? error.value() : ENOTDIR, path);
+}
+
+std::string NameFor(const ImportedBible& bible, const LibraryRequest& request) {
+  std::string name = WithSingleBlanks(!request.name.empty() ? request.name
+                                      : !bible.name.empty() ? bible.name
+                                                            : request.fallbackName);
+  if (name.empty()) name = "Bible";
+  if (name.size() > kLongestName) {
+    std::size_t end = kLongestName;
+    while ((static_cast<unsigned char>(name[end]) & 0xC0) == 0x80) --end;
+    name.resize(end);
+  }
+  return name;
+}
+
+}  // namespace
+
+std::string RefusalOf(const LibraryRequest& request) {
+  if (HasControl(request.name)) return "--name: a text without control characters was expected.";
+  if (request.name.size() > kLongestName) return "--name: a text of at most 200 bytes was expected.";
+  if (request.stem.size() > kLongestStem || !std::all_of(request.stem.begin(), request.stem.end(), IsOfStem)) {
+    return "--stem: at most 60 letters and digits of ASCII, \"-\" and \"_\" were expected: " + Quoted(request.stem);
+  }
+  if (HasControl(request.folder)) return "--into: a folder without control characters in its name was expected.";
+  return {};
+}
+
+LibraryPlan PlanLibrary(const ImportedBible& bible, const LibraryRequest& request) {
+  LibraryPlan plan;
+  plan.folder = AbsoluteFolder(request.folder.empty() ? OwnLibraryFolder() : request.folder);
+  plan.text.name = NameFor(bible, request);
+  plan.text.language = LanguageCode(bible.language);
+  plan.catalogue = LocateIgnoringCase(plan.folder, "Sysdefs/Translations.txt");
+  Existing existing;
+  existing.content = ReadIfThere(plan.catalogue).value_or("");
+  existing.entries = CatalogueEntries(existing.content, plan.catalogue);
+  ChooseStem(request, existing, plan);
+
+  const BookTitleList titles = MakePageTitles(
+      request.titlesFile.empty() ? bible.titles : ReadTitlesFile(request.titlesFile), plan.text.language);
+  bool fits = FitsWindows1252(bible.AllText()) && FitsWindows1252(plan.text.name);
+  for (const std::string& title : titles) fits = fits && FitsWindows1252(title);
+  plan.text.charset = fits ? "windows-1252" : "utf-8";
+  plan.text.titles = "BOOKS_" + plan.stem + ".TXT";
+
+  std::string verses;
+  std::string index;
+  MakeTexts(bible, plan, verses, index);
+  const std::string verseFile = LocateIgnoringCase(plan.folder, "Modules/Bible/" + plan.stem + ".TXT");
+  plan.files.emplace_back(verseFile, std::move(verses));
+  plan.files.emplace_back(LocateIgnoringCase(plan.folder, "Index/" + plan.stem + ".TXT.INDEX"), std::move(index));
+  plan.files.emplace_back(ImportedTextFile(verseFile), WriteImportedText(plan.text));
+  plan.files.emplace_back(LocateIgnoringCase(plan.folder, "Sysdefs/" + plan.text.titles), TitlesContent(plan, titles));
+  AddDeliveredTitles(plan);
+  plan.catalogueBefore = existing.content;
+  const std::string name = FitsWindows1252(plan.text.name) ? ToWindows1252(plan.text.name) : plan.text.name;
+  plan.files.emplace_back(plan.catalogue, WithTranslation(existing.content, plan.catalogue, {name, plan.stem}));
+  return plan;
+}
+
+void WriteLibrary(const LibraryPlan& plan) {
+  for (const auto& [path, content] : plan.files) MakeFolder(fs::path(path).parent_path().string());
+  const std::string sysdefs = fs::path(plan.catalogue).parent_path().string();
+  const FileHandle lock = FileHandle::Open(sysdefs.c_str(), O_RDONLY | O_DIRECTORY);
+  // A file system that knows no locks is let pass.
+  const bool isTaken = lock.IsOpen() && flock(lock.Get(), LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK;
+  if (isTaken || ReadIfThere(plan.catalogue).value_or("") != plan.catalogueBefore) {
+    throw RunTimeError(kPermissionDenied, plan.folder, "Another import is writing into this library. Import again.");
+  }
+  FileSet files;
+  for (const auto& [path, content] : plan.files) files.Add(path, content);
+  files.Commit();
+}
+
+}  // namespace folionet

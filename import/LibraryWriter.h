@@ -1,0 +1,64 @@
+#pragma once
+
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "ImportedBible.h"
+#include "modGlob.h"
+
+// Writes a translation in the layout of Versalia's installation:
+//
+//   Sysdefs/Translations.txt             the catalogue                     (CatalogueText.h)
+//   Sysdefs/BOOKS.TXT                    the book titles, English          (TitleLanguages.h)
+//   Sysdefs/BOOKS_<LANGUAGE>.TXT         the book titles of a language
+//   Sysdefs/BOOKS_<STEM>.TXT             the book titles of the translation
+//   Index/<STEM>.TXT.INDEX               the chapter index
+//   Modules/Bible/<STEM>.TXT             the verses
+//   Modules/Bible/<STEM>.TXT.folionet    what else is known of it          (ImportedText.h)
+//
+// A verse is a line of five fields, separated by tabs: running number, book, chapter, verse, text. A chapter is a line
+// of the index, seven fields separated by commas: running number, byte offset of its first verse line in the verse
+// file, book, chapter, number of verses, length of its verse lines in bytes, quoted label of the book. Running numbers
+// count from 1; lines end in CR LF.
+//
+//   1<TAB>1<TAB>1<TAB>1<TAB>In the beginning God created the heaven and the earth.
+//   1,0,1,1,31,4411,"Gen"
+
+namespace folionet {
+
+struct LibraryRequest {
+  std::string name;        // display name; empty for the one that the text tells, or `fallbackName`
+  std::string stem;        // stem of its files; empty for one made from the name
+  std::string folder;      // where the library is or will be; empty for OwnLibraryFolder
+  std::string titlesFile;  // path of a file of book titles to use; empty for the titles of the text
+  std::string fallbackName;
+  bool replace = false;  // a translation of the same name or stem is replaced
+};
+
+// What is to be written, whole.
+struct LibraryPlan {
+  std::string folder;  // absolute, ends in a separator
+  std::string stem;
+  ImportedText text;
+  int books = 0;
+  int chapters = 0;
+  std::size_t verses = 0;
+  bool replaces = false;
+
+  std::string catalogue;                                   // its path
+  std::string catalogueBefore;                             // its content when the plan was made
+  std::vector<std::pair<std::string, std::string>> files;  // path and content; the catalogue is the last
+};
+
+// Why no library can be made of `request`, naming the option; empty when one can.
+std::string RefusalOf(const LibraryRequest& request);
+
+// Works out what becomes of the library, which need not be there yet. Throws RunTimeError: for a file of the library
+// that cannot be read, and for a translation that is there and not to be replaced.
+LibraryPlan PlanLibrary(const ImportedBible& bible, const LibraryRequest& request);
+
+// Writes the plan. Throws RunTimeError; the library is then as it was.
+void WriteLibrary(const LibraryPlan& plan);
+
+}  // namespace folionet

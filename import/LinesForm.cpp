@@ -1,0 +1,219 @@
+#include "LinesForm.h"
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+#include "BookTable.h"
+#include "LineReader.h"
+#include "Numbers.h"
+
+namespace folionet {
+namespace {
+
+constexpr std::string_view kDigits = "0123456789";
+
+bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+
+bool IsNumber(std::string_view text) {
+  const std::string_view number = TrimBlanks(text);
+  return !number.empty() && number.find_first_not_of(kDigits) == std::string_view::npos;
+}
+
+// The length of the verse number that a text begins with: "1", "1-2", "3a", "3a-4b"; 0 for none.
+std::size_t FieldLength(std::string_view text) {
+  std::size_t at = 0;
+  for (;;) {
+    const std::size_t digits = std::min(text.find_first_not_of(kDigits, at), text.size());
+    if (digits == at) return 0;
+    at = digits;
+    if (at < text.size() && text[at] >= 'a' && text[at] <= 'z') ++at;
+    const bool goesOn = at + 1 < text.size() && (text[at] == '-' || text[at] == ',') && IsDigit(text[at + 1]);
+    if (!goesOn) return at;
+    ++at;
+  }
+}
+
+// A line's fields; one in double quotes may hold the separator, and quotes that are doubled. The last of `most` fields
+// is the rest of the line. Empty when a quote is not closed.
+std::vector<std::string> Split(std::string_view line, char separator, std::size_t most = std::string_view::npos) {
+  std::vector<std::string> fields;
+  for (;;) {
+    std::string field;
+    if (line.starts_with('"')) {
+      std::size_t at = 1;
+      for (;; ++at) {
+        if (at >= line.size()) return {};
+        if (line[at] != '"') {
+          field += line[at];
+        } else if (at + 1 < line.size() && line[at + 1] == '"') {
+          field += line[at++];
+        } else {
+          break;
+        }
+      }
+      line.remove_prefix(at + 1);
+      const std::size_t end = std::min(line.find(separator), line.size());
+      field += line.substr(0, end);
+      line.remove_prefix(end);
+    } else {
+      const std::size_t end = fields.size() + 1 == most ? line.size() : std::min(line.find(separator), line.size());
+      field = line.substr(0, end);
+      line.remove_prefix(end);
+    }
+    fields.push_back(std::move(field));
+    if (line.empty()) return fields;
+    line.remove_prefix(1);
+  }
+}
+
+bool IsSkipped(std::string_view line) { return TrimBlanks(line).empty() || line.starts_with('#'); }
+
+}  // namespace
+
+LinesForm::LinesForm(BibleBuilder& builder) : m_builder(builder) { m_builder.LetNamesBeInOrder(); }
+
+bool LinesForm::IsLine(std::string_view line) { return ColumnsOfHeader(line) || ColumnsOf(line); }
+
+std::optional<LinesForm::Columns> LinesForm::ColumnsOfHeader(std::string_view line) {
+  constexpr std::array<std::array<std::string_view, 4>, 4> kNames{{{"b", "book", "bookid", "bookname"},
+                                                                   {"c", "chapter", "chapternumber", "chapternum"},
+                                                                   {"v", "verse", "versenumber", "versenum"},
+                                                                   {"t", "text", "versetext", "scripture"}}};
+  for (const char separator : {'\t', ',', ';', '|'}) {
+    std::array<std::size_t, 4> places{};
+    std::array<bool, 4> found{};
+    const std::vector<std::string> fields = Split(line, separator);
+    for (std::size_t i = 0; i < fields.size(); ++i) {
+      std::string name = BookKey(fields[i]);
+      std::erase(name, '_');
+      for (std::size_t column = 0; column < kNames.size(); ++column) {
+        if (std::find(kNames[column].begin(), kNames[column].end(), name) == kNames[column].end()) continue;
+        places[column] = i;
+        found[column] = true;
+      }
+    }
+    if (std::all_of(found.begin(), found.end(), [](bool is) { return is; })) {
+      return Columns{separator, false, places[0], places[1], places[2], places[3]};
+    }
+  }
+  return std::nullopt;
+}
+
+std::optional<LinesForm::Columns> LinesForm::ColumnsOf(std::string_view line) {
+  for (const char separator : {'\t', ',', ';', '|'}) {
+    const std::vector<std::string> fields = Split(line, separator);
+    const std::size_t count = fields.size();
+    if (count >= 5 && IsNumber(fields[0]) && IsNumber(fields[1]) && IsNumber(fields[2]) && IsNumber(fields[3])) {
+      return Columns{separator, false, 1, 2, 3, 4};
+    }
+    if (count >= 4 && IsNumber(fields[1]) && FieldLength(TrimBlanks(fields[2])) != 0) return Columns{separator};
+    if (count < 2) continue;
+    const auto reference = SplitReference(fields[0]);
+    if (reference && TrimBlanks(reference->text).empty()) return Columns{separator, true};
+  }
+  if (SplitReference(line)) return Columns{};
+  return std::nullopt;
+}
+
+// The reference ends at the line's first colon and the verse number behind it, so a text may hold any character.
+std::optional<LinesForm::Row> LinesForm::SplitReference(std::string_view line) {
+  const std::size_t colon = line.find(':');
+  if (colon == std::string_view::npos || colon == 0) return std::nullopt;
+  const std::size_t before = line.find_last_not_of(kDigits, colon - 1);
+  if (before == std::string_view::npos || before + 1 == colon) return std::nullopt;
+  Row row;
+  row.book = TrimBlanks(line.substr(0, before + 1));
+  row.chapter = line.substr(before + 1, colon - before - 1);
+  std::string_view rest = line.substr(colon + 1);
+  row.verse = rest.substr(0, FieldLength(rest));
+  rest.remove_prefix(row.verse.size());
+  if (rest.starts_with(':')) rest.remove_prefix(1);
+  const bool isSeparated = rest.empty() || IsBlank(rest.front());
+  if (row.verse.empty() || !isSeparated || row.book.find_first_not_of(kDigits) == std::string_view::npos) {
+    return std::nullopt;
+  }
+  row.text = rest;
+  return row;
+}
+
+std::optional<LinesForm::Row> LinesForm::SplitRow(std::string_view line, const Columns& columns,
+                                                  std::vector<std::string>& fields) {
+  if (columns.separator == '\0') return SplitReference(line);
+  if (columns.isReference) {
+    fields = Split(line, columns.separator, 2);
+    if (fields.empty()) return std::nullopt;
+    auto row = SplitReference(fields[0]);
+    if (row && fields.size() > 1) row->text = fields[1];
+    return row;
+  }
+  const std::size_t last = std::max({columns.book, columns.chapter, columns.verse, columns.text});
+  fields = Split(line, columns.separator, last + 1);
+  if (fields.size() <= last && !(fields.size() == last && columns.text == last)) return std::nullopt;
+  fields.resize(last + 1);
+  return Row{TrimBlanks(fields[columns.book]), TrimBlanks(fields[columns.chapter]), TrimBlanks(fields[columns.verse]),
+             fields[columns.text]};
+}
+
+void LinesForm::Read(std::string_view piece) {
+  for (;;) {
+    const std::size_t end = piece.find('\n');
+    if (m_rest.size() + std::min(end, piece.size()) > LineReader::kLongestLine) {
+      m_builder.SetLine(m_line + 1);
+      m_builder.Fail("a line of at most 4 MiB was expected");
+    }
+    if (end == std::string_view::npos) {
+      m_rest += piece;
+      return;
+    }
+    if (m_rest.empty()) {
+      TakeLine(piece.substr(0, end));
+    } else {
+      m_rest += piece.substr(0, end);
+      TakeLine(m_rest);
+      m_rest.clear();
+    }
+    piece.remove_prefix(end + 1);
+  }
+}
+
+void LinesForm::Finish() {
+  if (!m_rest.empty()) TakeLine(m_rest);
+  m_rest.clear();
+}
+
+void LinesForm::TakeLine(std::string_view line) {
+  ++m_line;
+  if (line.ends_with('\r')) line.remove_suffix(1);
+  if (IsSkipped(line)) return;
+  if (!m_columns) {
+    m_columns = ColumnsOfHeader(line);
+    if (m_columns) return;
+    m_columns = ColumnsOf(line);
+  }
+  m_builder.SetLine(m_line);
+  const auto row = m_columns ? SplitRow(line, *m_columns, m_fields) : std::nullopt;
+  if (!row) m_builder.Fail("a verse such as \"GEN 1:1 In the beginning\" was expected: " + Quoted(line));
+  TakeRow(*row);
+}
+
+void LinesForm::TakeRow(const Row& row) {
+  if (row.book != m_book) {
+    const IntegerReading number = ReadInteger(row.book, 1, kInt16Max);
+    if (number.error == 0) {
+      m_builder.BeginBookNumber(static_cast<int>(number.value), {});
+    } else {
+      m_builder.BeginBook(row.book);
+    }
+    m_book = row.book;
+    m_chapter.clear();
+  }
+  if (row.chapter != m_chapter) {
+    m_builder.BeginChapter(row.chapter);
+    m_chapter = row.chapter;
+  }
+  m_builder.BeginVerse(row.verse);
+  m_builder.AddText(row.text);
+}
+
+}  // namespace folionet

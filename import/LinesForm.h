@@ -1,0 +1,69 @@
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "TextForm.h"
+
+namespace folionet {
+
+// One verse a line, with the book as code, name or number:
+//
+//   GEN 1:1 In the beginning God created the heaven and the earth.
+//   Ge1:1 In the beginning
+//   II Kings 2:1: And it came to pass
+//   Genesis<TAB>1<TAB>1<TAB>In the beginning
+//   1,1,1,"In the beginning God created"
+//   "Genesis 1:1","In the beginning"
+//
+// A table may begin with a line that names its columns (book, chapter, verse and text, or b, c, v and t; others are
+// passed over), and may have a running number before the book. Blank lines and those that begin with "#" are skipped.
+class LinesForm : public TextForm {
+ public:
+  explicit LinesForm(BibleBuilder& builder);
+
+  // Whether a line has this form, a line with the names of columns included.
+  static bool IsLine(std::string_view line);
+
+  void Read(std::string_view piece) override;
+  void Finish() override;
+
+ private:
+  // Where the columns of a table are. Without a separator a line begins with its reference.
+  struct Columns {
+    char separator = '\0';
+    bool isReference = false;  // the first column is "GEN 1:1", the second the text
+    std::size_t book = 0;
+    std::size_t chapter = 1;
+    std::size_t verse = 2;
+    std::size_t text = 3;
+  };
+
+  struct Row {
+    std::string_view book;
+    std::string_view chapter;
+    std::string_view verse;
+    std::string_view text;
+  };
+
+  static std::optional<Columns> ColumnsOfHeader(std::string_view line);
+  static std::optional<Columns> ColumnsOf(std::string_view line);
+  static std::optional<Row> SplitReference(std::string_view line);
+  static std::optional<Row> SplitRow(std::string_view line, const Columns& columns, std::vector<std::string>& fields);
+
+  void TakeLine(std::string_view line);
+  void TakeRow(const Row& row);
+
+  BibleBuilder& m_builder;
+  std::string m_rest;
+  std::size_t m_line = 0;
+  std::optional<Columns> m_columns;
+  std::vector<std::string> m_fields;
+  std::string m_book;
+  std::string m_chapter;
+};
+
+}  // namespace folionet

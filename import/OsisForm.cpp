@@ -1,0 +1,135 @@
+#include "OsisForm.h"
+
+#include <algorithm>
+#include <array>
+#include <vector>
+
+#include "LineReader.h"
+
+namespace folionet {
+namespace {
+
+// "Gen.1.1" taken apart; a part that is not there is empty.
+struct OsisReference {
+  std::string_view book;
+  std::string_view chapter;
+  std::string verse;
+};
+
+OsisReference ParseReference(std::string_view id) {
+  id = id.substr(0, id.find_first_of(" -"));
+  if (const std::size_t work = id.find(':'); work != std::string_view::npos) id.remove_prefix(work + 1);
+  OsisReference reference;
+  const std::size_t first = id.find('.');
+  reference.book = id.substr(0, first);
+  if (first == std::string_view::npos) return reference;
+  id.remove_prefix(first + 1);
+  const std::size_t second = id.find('.');
+  reference.chapter = id.substr(0, second);
+  if (second == std::string_view::npos) return reference;
+  for (const char c : id.substr(second + 1)) {
+    if (c != '!') reference.verse += c;  // "3!a" is 3a
+  }
+  return reference;
+}
+
+// The verse number of one that holds several: "Gen.1.1 Gen.1.2" gives "1-2".
+std::string FieldOf(std::string_view id) {
+  const OsisReference first = ParseReference(id);
+  const std::size_t last = id.find_last_of(" -");
+  if (last == std::string_view::npos) return first.verse;
+  const OsisReference end = ParseReference(id.substr(last + 1));
+  const bool isSameChapter = end.book == first.book && end.chapter == first.chapter;
+  return isSameChapter && end.verse != first.verse ? first.verse + "-" + end.verse : first.verse;
+}
+
+// Those whose text is none of the verse they stand in.
+bool IsLeftOut(std::string_view name) {
+  constexpr std::array<std::string_view, 7> kLeftOut{"note", "figure", "speaker", "rdg", "index", "head", "label"};
+  return std::find(kLeftOut.begin(), kLeftOut.end(), name) != kLeftOut.end();
+}
+
+bool IsBlock(std::string_view name) {
+  constexpr std::array<std::string_view, 9> kBlocks{"p", "l", "lg", "lb", "list", "item", "table", "row", "cell"};
+  return std::find(kBlocks.begin(), kBlocks.end(), name) != kBlocks.end();
+}
+
+}  // namespace
+
+XmlForm::Part OsisForm::Begin(const XmlElement& element) {
+  const std::string_view name = element.Name();
+  if (name == "w") return Part::kPass;
+  if (name == "verse") return BeginVerse(element);
+  if (name == "title") return BeginTitle(element);
+  if (IsLeftOut(name)) return Part::kLeftOut;
+  if (IsBlock(name)) return Part::kBlock;
+  if (name == "div") {
+    if (element.Get("type") == "book") GoTo(ParseReference(element.Get("osisID")).book, {});
+    return Part::kBlock;
+  }
+  if (name == "chapter") {
+    const OsisReference place = ParseReference(element.Get("osisID"));
+    if (!place.chapter.empty()) GoTo(place.book, place.chapter);
+    return Part::kBlock;
+  }
+  if (name == "work") m_isInWork = true;
+  if (name == "osisText") {
+    m_isInWork = false;
+    Builder().SetLanguage(element.Get("lang"));
+  }
+  return Part::kPass;
+}
+
+void OsisForm::GoTo(std::string_view book, std::string_view chapter) {
+  m_isInWork = false;
+  if (!book.empty() && book != m_book) {
+    Builder().BeginBook(book);
+    m_book = book;
+    m_chapter.clear();
+  }
+  if (!chapter.empty() && chapter != m_chapter) {
+    Builder().BeginChapter(chapter);
+    m_chapter = chapter;
+  }
+}
+
+XmlForm::Part OsisForm::BeginVerse(const XmlElement& element) {
+  if (!element.Get("eID").empty()) {
+    Builder().EndVerse();
+    return Part::kPass;
+  }
+  const std::string_view start = element.Get("sID");
+  const std::string_view id = element.Get("osisID").empty() ? start : element.Get("osisID");
+  const OsisReference place = ParseReference(id);
+  if (place.verse.empty()) Builder().Fail("the osisID of a verse, such as \"Gen.1.1\", was expected: " + Quoted(id));
+  GoTo(place.book, place.chapter);
+  Builder().BeginVerse(FieldOf(id));
+  return start.empty() ? Part::kVerse : Part::kPass;
+}
+
+XmlForm::Part OsisForm::BeginTitle(const XmlElement& element) {
+  const std::string_view type = element.Get("type");
+  if (m_isInWork) {
+    m_captured = Captured::kName;
+    return Part::kCaptured;
+  }
+  if (type == "psalm" || element.Get("canonical") == "true") return Part::kCanonicalTitle;
+  const bool isOfBook = !m_book.empty() && m_chapter.empty() && (type.empty() || type == "main");
+  if (!isOfBook) return Part::kLeftOut;
+  Builder().AddTitle(TitleKind::kShort, element.Get("short"));
+  m_captured = type == "main" ? Captured::kMainTitle : Captured::kTitle;
+  return Part::kCaptured;
+}
+
+void OsisForm::EndCaptured(const std::string& text) {
+  switch (m_captured) {
+    case Captured::kName:
+      return Builder().SetName(text);
+    case Captured::kMainTitle:
+      return Builder().AddTitle(TitleKind::kMiddle, text);
+    case Captured::kTitle:
+      return Builder().AddTitle(TitleKind::kLong, text);
+  }
+}
+
+}  // namespace folionet

@@ -1,0 +1,193 @@
+#include "TextDecoder.h"
+
+#include <unicode/ucnv.h>
+
+#include <algorithm>
+#include <array>
+
+#include "CodePage.h"
+#include "LineReader.h"
+#include "RunTimeError.h"
+#include "TextFault.h"
+
+namespace folionet {
+namespace {
+
+constexpr std::size_t kPiece = std::size_t{64} << 10;
+constexpr std::size_t kPivot = std::size_t{16} << 10;
+
+std::size_t LinesIn(std::string_view text) {
+  return static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n'));
+}
+
+// How many bytes at the end of a text begin a character of UTF-8 that goes on behind it.
+std::size_t UnfinishedLength(std::string_view text) {
+  constexpr std::size_t kMost = 3;
+  for (std::size_t length = 1; length <= std::min(kMost, text.size()); ++length) {
+    const auto byte = static_cast<unsigned char>(text[text.size() - length]);
+    if (byte < 0x80) return 0;
+    if (byte >= 0xC0) {
+      const std::size_t whole = byte >= 0xF0 ? 4 : byte >= 0xE0 ? 3 : 2;
+      return length < whole ? length : 0;
+    }
+  }
+  return 0;
+}
+
+// What stands between quotes behind "encoding=" in an XML declaration.
+std::string EncodingOfXml(std::string_view head) {
+  if (!head.starts_with("<?xml")) return {};
+  const std::string_view declaration = head.substr(0, head.find("?>"));
+  std::size_t at = declaration.find("encoding");
+  if (at == std::string_view::npos) return {};
+  at = declaration.find_first_of("\"'", at);
+  if (at == std::string_view::npos) return {};
+  const std::size_t end = declaration.find(declaration[at], at + 1);
+  return end == std::string_view::npos ? std::string() : std::string(declaration.substr(at + 1, end - at - 1));
+}
+
+// The charset that a line \ide names: "1252 - Western", "CP-1252", "windows-1251", "UTF-8", "65001 - Unicode".
+std::string EncodingOfUsfm(std::string_view head) {
+  constexpr std::size_t kSearched = 4096;
+  const std::string_view searched = head.substr(0, kSearched);
+  const std::size_t at = searched.find("\\ide ");
+  if (at == std::string_view::npos) return {};
+  std::string_view line = searched.substr(at + 5);
+  line = line.substr(0, line.find_first_of("\r\n\\"));
+  for (const std::string_view number :
+       {"1250", "1251", "1252", "1253", "1254", "1255", "1256", "1257", "1258", "874"}) {
+    if (line.find(number) != std::string_view::npos) return "windows-" + std::string(number);
+  }
+  return {};
+}
+
+// An encoding of two bytes, by its byte-order mark or by the zeros of ASCII characters in it.
+std::string WideEncoding(std::string_view head) {
+  if (head.starts_with("\xFF\xFE")) return "UTF-16LE";
+  if (head.starts_with("\xFE\xFF")) return "UTF-16BE";
+  if (head.size() < 4) return {};
+  if (head[1] == '\0' && head[3] == '\0' && head[0] != '\0') return "UTF-16LE";
+  if (head[0] == '\0' && head[2] == '\0' && head[1] != '\0') return "UTF-16BE";
+  return {};
+}
+
+bool IsNameOfUtf8(const std::string& name) {
+  return EqualIgnoringCase(name, "utf-8") || EqualIgnoringCase(name, "utf8");
+}
+
+}  // namespace
+
+void TextDecoder::CloseConverter::operator()(UConverter* converter) const { ucnv_close(converter); }
+
+TextDecoder::TextDecoder(ByteSource& bytes, const std::string& charset) : m_bytes(bytes) {
+  FillRaw();
+  ChooseEncoding(charset);
+  Decode();
+}
+
+TextDecoder::~TextDecoder() = default;
+
+void TextDecoder::FillRaw() {
+  std::size_t have = m_raw.size();
+  m_raw.resize(have + kPiece);
+  while (have < m_raw.size() && !m_isAtEnd) {
+    const std::size_t count = m_bytes.Read(m_raw.data() + have, m_raw.size() - have);
+    if (count == 0) m_isAtEnd = true;
+    have += count;
+  }
+  m_raw.resize(have);
+}
+
+void TextDecoder::ChooseEncoding(const std::string& charset) {
+  if (m_raw.starts_with(kByteOrderMark)) {
+    m_raw.erase(0, kByteOrderMark.size());
+  } else if (const std::string wide = WideEncoding(m_raw); !wide.empty()) {
+    OpenConverter(wide);
+    if (m_raw.starts_with("\xFF\xFE") || m_raw.starts_with("\xFE\xFF")) m_raw.erase(0, 2);
+  } else if (!charset.empty()) {
+    OpenConverter(charset);
+  } else if (const std::string named = EncodingOfXml(m_raw); !named.empty()) {
+    OpenConverter(named);
+  } else if (const std::string page = EncodingOfUsfm(m_raw); !page.empty()) {
+    // Many a text that was turned into UTF-8 still names the code page that it was in before.
+    const std::string_view head = std::string_view(m_raw).substr(0, m_raw.size() - UnfinishedLength(m_raw));
+    if (!IsUtf8(head)) OpenConverter(page);
+  }
+}
+
+void TextDecoder::OpenConverter(const std::string& charset) {
+  if (IsNameOfUtf8(charset)) return;
+  UErrorCode status = U_ZERO_ERROR;
+  m_from.reset(ucnv_open(charset.c_str(), &status));
+  if (U_FAILURE(status)) {
+    throw RunTimeError(kInvalidProcedureCall, "Charset " + Quoted(charset),
+                       "The name of a charset, such as windows-1251, was expected.");
+  }
+  m_encoding = charset;
+  // What calls itself iso-8859-1 is windows-1252, as browsers read it.
+  if (const std::string& name = CodePage(charset).Name(); EqualIgnoringCase(name, "windows-1252")) {
+    const bool isLatin = EqualIgnoringCase(charset, "iso-8859-1") || EqualIgnoringCase(charset, "us-ascii");
+    if (isLatin) m_from.reset(ucnv_open(name.c_str(), &status));
+  }
+  m_to.reset(ucnv_open("UTF-8", &status));
+  ucnv_setToUCallBack(m_from.get(), UCNV_TO_U_CALLBACK_STOP, nullptr, nullptr, nullptr, &status);
+  if (U_FAILURE(status)) throw RunTimeError(kOutOfMemory, "Charset " + Quoted(charset));
+  m_pivot.resize(kPivot * sizeof(UChar));
+}
+
+bool TextDecoder::Next(std::string_view& piece) {
+  if (m_isGiven) {
+    m_lines += LinesIn(m_text);
+    m_text.clear();
+    while (m_text.empty() && m_faultLine == 0 && !(m_isAtEnd && m_raw.empty())) {
+      FillRaw();
+      Decode();
+    }
+  }
+  m_isGiven = true;
+  if (m_text.empty() && m_faultLine != 0) {
+    throw TextFault("text in " + m_encoding + " was expected; give the charset of the file with --charset NAME",
+                    m_faultLine);
+  }
+  piece = m_text;
+  return !m_text.empty();
+}
+
+void TextDecoder::NoteFault(std::size_t textBefore) {
+  m_text.resize(textBefore);
+  m_faultLine = m_lines + LinesIn(m_text) + 1;
+}
+
+void TextDecoder::Decode() {
+  if (!m_from) return DecodeUtf8();
+  constexpr std::size_t kMostPerByte = 4;
+  m_text.resize(m_raw.size() * kMostPerByte + kMostPerByte);
+  auto* const pivot = reinterpret_cast<UChar*>(m_pivot.data());
+  UChar* pivotSource = pivot;
+  UChar* pivotTarget = pivot;
+  char* target = m_text.data();
+  const char* source = m_raw.data();
+  UErrorCode status = U_ZERO_ERROR;
+  ucnv_convertEx(m_to.get(), m_from.get(), &target, m_text.data() + m_text.size(), &source, m_raw.data() + m_raw.size(),
+                 pivot, &pivotSource, &pivotTarget, pivot + kPivot, false, m_isAtEnd ? 1 : 0, &status);
+  m_text.resize(static_cast<std::size_t>(target - m_text.data()));
+  m_raw.clear();
+  if (U_FAILURE(status)) NoteFault(m_text.size());
+}
+
+void TextDecoder::DecodeUtf8() {
+  const std::size_t unfinished = m_isAtEnd ? 0 : UnfinishedLength(m_raw);
+  m_text.assign(m_raw, 0, m_raw.size() - unfinished);
+  m_raw.erase(0, m_text.size());
+  if (IsUtf8(m_text)) return;
+  // The lines before the fault are good.
+  std::size_t good = 0;
+  for (std::size_t end = m_text.find('\n'); end != std::string::npos; end = m_text.find('\n', good)) {
+    if (!IsUtf8(std::string_view(m_text).substr(good, end + 1 - good))) break;
+    good = end + 1;
+  }
+  m_raw.clear();
+  NoteFault(good);
+}
+
+}  // namespace folionet

@@ -1,0 +1,58 @@
+#pragma once
+
+#include <cstddef>
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "InputFiles.h"
+
+struct UConverter;
+
+namespace folionet {
+
+// The text of a file in UTF-8, piece by piece. Its encoding is, in this order: what its byte-order mark tells; UTF-16
+// when it looks like that; the charset that was given; the one that it names itself (in an XML declaration or behind
+// \ide); UTF-8.
+class TextDecoder {
+ public:
+  // Reads the beginning. `charset` is empty when none was given. Throws RunTimeError for a charset that is not known.
+  TextDecoder(ByteSource& bytes, const std::string& charset);
+  TextDecoder(const TextDecoder&) = delete;
+  TextDecoder& operator=(const TextDecoder&) = delete;
+  ~TextDecoder();
+
+  // The beginning, as far as it can be decoded.
+  std::string_view Head() const { return m_text; }
+
+  // Gives the next piece, the beginning first; false at the end. It is valid until the next call. Throws TextFault for
+  // bytes that are no text of the encoding.
+  bool Next(std::string_view& piece);
+
+ private:
+  struct CloseConverter {
+    void operator()(UConverter* converter) const;
+  };
+  using Converter = std::unique_ptr<UConverter, CloseConverter>;
+
+  void ChooseEncoding(const std::string& charset);
+  void OpenConverter(const std::string& charset);
+  void FillRaw();
+  void Decode();
+  void DecodeUtf8();
+  void NoteFault(std::size_t textBefore);
+
+  ByteSource& m_bytes;
+  std::string m_encoding = "UTF-8";
+  Converter m_from;  // none for UTF-8
+  Converter m_to;
+  std::string m_pivot;
+  std::string m_raw;   // bytes that are not decoded yet
+  std::string m_text;  // what Next gives next
+  bool m_isAtEnd = false;
+  bool m_isGiven = false;
+  std::size_t m_lines = 0;      // before m_text
+  std::size_t m_faultLine = 0;  // of bytes that cannot be decoded, behind m_text; 0 for none
+};
+
+}  // namespace folionet

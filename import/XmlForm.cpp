@@ -1,0 +1,75 @@
+#include "XmlForm.h"
+
+namespace folionet {
+
+void XmlForm::Start(const XmlElement& element) {
+  if (m_leftOut > 0) {
+    ++m_leftOut;
+    return;
+  }
+  m_builder.SetLine(m_reader.Line());
+  const Part part = Begin(element);
+  switch (part) {
+    case Part::kLeftOut:
+      m_leftOut = 1;
+      return;
+    case Part::kBlock:
+      m_builder.AddBreak();
+      break;
+    case Part::kCanonicalTitle:
+      m_builder.BeginCanonicalTitle();
+      break;
+    case Part::kCaptured:
+      if (m_capturing++ == 0) m_captured.clear();
+      break;
+    case Part::kPass:
+    case Part::kVerse:
+      break;
+  }
+  m_parts.push_back(part);
+}
+
+void XmlForm::End(std::string_view /*name*/) {
+  if (m_leftOut > 0) {
+    --m_leftOut;
+    return;
+  }
+  const Part part = m_parts.back();
+  m_parts.pop_back();
+  switch (part) {
+    case Part::kBlock:
+      m_builder.AddBreak();
+      break;
+    case Part::kVerse:
+      m_builder.EndVerse();
+      break;
+    case Part::kCanonicalTitle:
+      m_builder.EndCanonicalTitle();
+      break;
+    case Part::kCaptured:
+      if (--m_capturing == 0) EndCaptured(m_captured);
+      break;
+    case Part::kPass:
+    case Part::kLeftOut:
+      break;
+  }
+}
+
+bool XmlForm::NoteEnd(std::string_view name) {
+  m_builder.SetLine(m_reader.Line());
+  m_builder.Note("xml-end", Words("Import", "An element ends in the wrong place: %1"),
+                 std::string(name) + " (line " + std::to_string(m_reader.Line()) + ")");
+  return true;
+}
+
+void XmlForm::Text(std::string_view text) {
+  constexpr std::size_t kLongestCaptured = 10000;
+  if (m_leftOut > 0) return;
+  if (m_capturing == 0) {
+    m_builder.AddText(text);
+  } else if (m_captured.size() < kLongestCaptured) {
+    m_captured += text;
+  }
+}
+
+}  // namespace folionet

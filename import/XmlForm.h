@@ -1,0 +1,54 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "TextForm.h"
+#include "XmlReader.h"
+
+namespace folionet {
+
+// What the forms that are XML have in common: what becomes of the text of each element.
+class XmlForm : public TextForm, protected XmlHandler {
+ public:
+  explicit XmlForm(BibleBuilder& builder) : m_builder(builder), m_reader(*this) {}
+
+  void Read(std::string_view piece) override { m_reader.Read(piece); }
+  void Finish() override { m_reader.Finish(); }
+
+ protected:
+  enum class Part {
+    kPass,            // its text belongs to what it stands in
+    kLeftOut,         // with all that is in it
+    kBlock,           // as kPass, between blanks
+    kVerse,           // a verse, which ends with it
+    kCanonicalTitle,  // ends with it
+    kCaptured,        // no text of a verse; given to EndCaptured
+  };
+
+  // An element begins that stands in nothing left out.
+  virtual Part Begin(const XmlElement& element) = 0;
+
+  // The whole text of an element that is kCaptured.
+  virtual void EndCaptured(const std::string& text) = 0;
+
+  // Notes an end that does not fit, and puts up with it.
+  bool NoteEnd(std::string_view name);
+
+  BibleBuilder& Builder() { return m_builder; }
+
+ private:
+  void Start(const XmlElement& element) override;
+  void End(std::string_view name) override;
+  void Text(std::string_view text) override;
+
+  BibleBuilder& m_builder;
+  XmlReader m_reader;
+  std::vector<Part> m_parts;  // of the elements that are open
+  int m_leftOut = 0;          // how many open elements are left out
+  int m_capturing = 0;
+  std::string m_captured;
+};
+
+}  // namespace folionet

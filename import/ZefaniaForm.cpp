@@ -1,0 +1,61 @@
+#include "ZefaniaForm.h"
+
+#include <algorithm>
+#include <array>
+
+#include "LineReader.h"
+#include "Numbers.h"
+
+namespace folionet {
+namespace {
+
+bool IsLeftOut(std::string_view name) {
+  constexpr std::array<std::string_view, 6> kLeftOut{"note", "remark", "xref", "caption", "prolog", "media"};
+  return std::find(kLeftOut.begin(), kLeftOut.end(), name) != kLeftOut.end();
+}
+
+}  // namespace
+
+XmlForm::Part ZefaniaForm::Begin(const XmlElement& element) {
+  std::string name(element.Name());
+  std::transform(name.begin(), name.end(), name.begin(),
+                 [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; });
+  if (name == "vers" || name == "verse") {
+    Builder().BeginVerse(element.Get("vnumber"));
+    return Part::kVerse;
+  }
+  if (name == "chapter") {
+    Builder().BeginChapter(element.Get("cnumber"));
+    return Part::kPass;
+  }
+  if (name == "biblebook") {
+    m_isInInformation = false;
+    const std::string_view title = element.Get("bname");
+    const IntegerReading number = ReadInteger(element.Get("bnumber"), 1, kInt16Max);
+    if (number.error == 0) {
+      Builder().BeginBookNumber(static_cast<int>(number.value), title);
+    } else {
+      Builder().BeginBook(title);
+    }
+    Builder().AddTitle(TitleKind::kShort, title);
+    return Part::kPass;
+  }
+  if (name == "xmlbible") Builder().SetName(element.Get("biblename"));
+  if (name == "information") m_isInInformation = true;
+  if (m_isInInformation && (name == "title" || name == "language")) {
+    m_isLanguage = name == "language";
+    return Part::kCaptured;
+  }
+  if (IsLeftOut(name)) return Part::kLeftOut;
+  return name == "br" ? Part::kBlock : Part::kPass;
+}
+
+void ZefaniaForm::EndCaptured(const std::string& text) {
+  if (m_isLanguage) {
+    Builder().SetLanguage(text);
+  } else {
+    Builder().SetName(text);
+  }
+}
+
+}  // namespace folionet

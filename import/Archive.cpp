@@ -12,6 +12,7 @@
 #include "LateLibrary.h"
 #include "LineReader.h"
 #include "RunTimeError.h"
+#include "Text.h"
 
 namespace folionet {
 namespace {

@@ -6,6 +6,7 @@
 #include "LineReader.h"
 #include "Numbers.h"
 #include "RunTimeError.h"
+#include "Text.h"
 
 namespace folionet {
 namespace {

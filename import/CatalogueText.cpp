@@ -10,6 +10,7 @@
 #include "LineReader.h"
 #include "Numbers.h"
 #include "RunTimeError.h"
+#include "Text.h"
 
 namespace folionet {
 

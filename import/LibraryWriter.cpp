@@ -21,6 +21,7 @@
 #include "OwnLibrary.h"
 #include "Paths.h"
 #include "RunTimeError.h"
+#include "Text.h"
 #include "TitleLanguages.h"
 #include "WholeFile.h"
 #include "Windows1252.h"

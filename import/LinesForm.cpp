@@ -7,6 +7,7 @@
 #include "BookTable.h"
 #include "LineReader.h"
 #include "Numbers.h"
+#include "Text.h"
 
 namespace folionet {
 namespace {

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "LineReader.h"
+#include "Text.h"
 
 namespace folionet {
 namespace {

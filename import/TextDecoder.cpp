@@ -8,6 +8,7 @@
 #include "CodePage.h"
 #include "LineReader.h"
 #include "RunTimeError.h"
+#include "Text.h"
 #include "TextFault.h"
 
 namespace folionet {

@@ -6,6 +6,7 @@
 
 #include "LateLibrary.h"
 #include "LineReader.h"
+#include "Text.h"
 #include "TextFault.h"
 
 namespace folionet {

@@ -1,8 +1,10 @@
 #include "ProgramFolder.h"
 
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <array>
+#include <cerrno>
 #include <filesystem>
 #include <system_error>
 
@@ -14,6 +16,12 @@
 
 namespace folionet {
 namespace {
+
+// A file that cannot be opened, or a link that leads nowhere, is the person's all the same.
+bool IsNameTaken(const std::string& path) {
+  struct stat status {};
+  return lstat(path.c_str(), &status) == 0 || (errno != ENOENT && errno != ENOTDIR);
+}
 
 // Where the delivered files are that a person's own folder is filled from: beside the program, as in a build that
 // belongs to somebody else, or where an installation, moved or not, has them.
@@ -43,13 +51,19 @@ namespace {
 std::string ProgramFolderPath(const std::string& chosen) {
   if (!chosen.empty()) return WithSeparator(NativePath(chosen));
   const std::string own = ExecutableFolder();
-  return FileExists(own + "default.css") && access(own.c_str(), W_OK) == 0 ? own : UserDataFolder();
+  return IsNameTaken(own + "default.css") && access(own.c_str(), W_OK) == 0 ? own : UserDataFolder();
 }
 
 }  // namespace
 
 std::string MissingFolder(const std::string& chosen) {
   return chosen.empty() || FolderExists(chosen) ? std::string() : "there is no folder \"" + chosen + "\"";
+}
+
+void DeliverFiles(const std::string& from, const std::string& folder) {
+  for (const std::string name : {"default.css", "lang.txt", "enc.txt"}) {
+    if (!IsNameTaken(folder + name)) ReplaceWholeFile(folder + name, ReadWholeFile(from + name));
+  }
 }
 
 std::string FindProgramFolder(const std::string& chosen) {
@@ -59,9 +73,7 @@ std::string FindProgramFolder(const std::string& chosen) {
   std::error_code error;
   std::filesystem::create_directories(folder, error);
   if (error) throw RunTimeError::FromErrno(error.value(), folder);
-  for (const std::string name : {"default.css", "lang.txt", "enc.txt"}) {
-    if (!FileExists(folder + name)) ReplaceWholeFile(folder + name, ReadWholeFile(InstalledDataFolder() + name));
-  }
+  DeliverFiles(InstalledDataFolder(), folder);
   return folder;
 }
 

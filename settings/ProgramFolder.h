@@ -12,10 +12,14 @@ std::string MissingFolder(const std::string& chosen);
 
 // The folder of the program's own files (default.css, lang.txt, enc.txt, the custom header and footer), ending in the
 // folder separator: `chosen` when it is not empty; else the executable's folder when it holds default.css and can be
-// written to; else $XDG_DATA_HOME/Folionet, which is made when missing and given any of the three delivered files that
-// it lacks; else, where the environment names no such folder, the one that the delivered files are in. Throws
-// RunTimeError when a folder of the person cannot be made or filled.
+// written to; else $XDG_DATA_HOME/Folionet, which is made when missing and given any of the three delivered files for
+// which it has no name at all; else, where the environment names no such folder, the one that the delivered files are
+// in. Throws RunTimeError when a folder of the person cannot be made or filled.
 std::string FindProgramFolder(const std::string& chosen);
+
+// Gives a folder those of the delivered files for which it has no name at all: one of the person's own that cannot be
+// opened stays, and whoever reads it tells. Both folders end in the separator. Throws RunTimeError.
+void DeliverFiles(const std::string& from, const std::string& folder);
 
 // The same folder, with nothing made or filled: where the person's own is not there yet, the one that the delivered
 // files are in.

@@ -1,8 +1,7 @@
 #include "SettingsStore.h"
 
-#include <unistd.h>
-
 #include <cerrno>
+#include <cstdio>
 #include <filesystem>
 #include <system_error>
 #include <utility>
@@ -57,11 +56,13 @@ void SettingsStore::SaveTogether(const std::function<void()>& saves) {
 }
 
 void SettingsStore::DeleteSetting(std::string_view application) {
-  Take(application, {});
-  if (Folder().empty()) return;
-  if (unlink(FilePath(application).c_str()) != 0 && errno != ENOENT && errno != ENOTDIR) {
-    throw RunTimeError::FromErrno(errno, FilePath(application));
+  const std::string path = FilePath(application);
+  const bool hasFile = !Folder().empty();
+  if (hasFile && std::rename(path.c_str(), (path + ".before-restore").c_str()) != 0 && errno != ENOENT &&
+      errno != ENOTDIR) {
+    throw RunTimeError::FromErrno(errno, path);
   }
+  Take(application, {});
 }
 
 void SettingsStore::SaveText(std::string_view key, std::string_view value) {

@@ -22,7 +22,8 @@ class SettingsStore : public StoredSettings {
   // Calls `saves`, whose savings of our own keys reach the file all together at its end, or none of them does.
   void SaveTogether(const std::function<void()>& saves);
 
-  // Removes an application's whole area. Throws RunTimeError when its file cannot be removed.
+  // Removes an application's whole area; its file is kept beside as "<file>.before-restore". Throws RunTimeError when
+  // that fails, and everything is as it was.
   void DeleteSetting(std::string_view application);
 
   // Stores one of our own keys.

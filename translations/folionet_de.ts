@@ -368,6 +368,26 @@
         <source>Look for links that lead nowhere in the site that was compiled last (F8).</source>
         <translation>In der zuletzt erzeugten Website nach Links ohne Ziel suchen (F8).</translation>
     </message>
+    <message>
+        <source>Settings not saved</source>
+        <translation>Einstellungen nicht gespeichert</translation>
+    </message>
+    <message>
+        <source>The settings cannot be saved.</source>
+        <translation>Die Einstellungen können nicht gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>Leave without saving them?</source>
+        <translation>Ohne Speichern beenden?</translation>
+    </message>
+    <message>
+        <source>The book titles cannot be read from %1, the Language File that is chosen.
+Restore ALL Defaults, or another name for cboLang in %2, lets the program start again.
+Return all settings to default now?</source>
+        <translation>Die Buchtitel können nicht aus %1 gelesen werden, der gewählten Language File.
+„Restore ALL Defaults“ oder ein anderer Name für cboLang in %2 lässt das Programm wieder starten.
+Jetzt alle Einstellungen zurücksetzen?</translation>
+    </message>
 </context>
 <context>
     <name>folionet::frmPAgeTitles</name>

@@ -368,6 +368,26 @@
         <source>Look for links that lead nowhere in the site that was compiled last (F8).</source>
         <translation>Buscar enlaces que no llevan a ninguna parte en el último sitio compilado (F8).</translation>
     </message>
+    <message>
+        <source>Settings not saved</source>
+        <translation>Ajustes no guardados</translation>
+    </message>
+    <message>
+        <source>The settings cannot be saved.</source>
+        <translation>Los ajustes no se pueden guardar.</translation>
+    </message>
+    <message>
+        <source>Leave without saving them?</source>
+        <translation>¿Salir sin guardarlos?</translation>
+    </message>
+    <message>
+        <source>The book titles cannot be read from %1, the Language File that is chosen.
+Restore ALL Defaults, or another name for cboLang in %2, lets the program start again.
+Return all settings to default now?</source>
+        <translation>No se pueden leer los títulos de los libros de %1, el Language File elegido.
+«Restore ALL Defaults», u otro nombre para cboLang en %2, permite que el programa vuelva a arrancar.
+¿Restablecer ahora todos los ajustes?</translation>
+    </message>
 </context>
 <context>
     <name>folionet::frmPAgeTitles</name>

@@ -25,7 +25,7 @@ struct AppState {
   PageTexts texts{};                  // UTF-8; RolloverStyle and BodyLinkTag change only where Effects is run
   CodePage codePage{"windows-1252"};  // of texts.PageCharset
   std::string startBookText{};        // the title shown in the main form's cboStartBook, in the bytes of its file
-  bool saveFailureTold = false;       // set by TrySave
+  std::string lastSaveFailure{};      // set by TrySave; empty after a save that went well
 };
 
 }  // namespace folionet

@@ -7,10 +7,11 @@ namespace folionet {
 bool TrySave(AppState& state, std::string_view label, const std::function<void(SettingsStore&)>& save) {
   try {
     save(state.store);
+    state.lastSaveFailure.clear();
     return true;
   } catch (const RunTimeError& error) {
-    if (!state.saveFailureTold) {
-      state.saveFailureTold = true;
+    if (state.lastSaveFailure != error.what()) {
+      state.lastSaveFailure = error.what();
       state.ui.ShowErrorReport(error.Number(), label, error.Extra());
     }
     return false;

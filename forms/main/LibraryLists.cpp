@@ -43,13 +43,21 @@ Outcome LibraryLists::Fill() {
   for (const std::string& name : glob.cboLang) m_controls.cboLang->addItem(ToQt(name));
   LoadOptions(m_state.store, OptionPart::kLanguageFile, m_state.options);
   m_controls.cboLang->SetText(ToQt(m_state.options.main.cboLang));
-  if (PopulateCombos(1, m_state.options.main.cboLang, glob, m_state.codePage, m_state.ui) == Outcome::kEndProgram) {
-    return Outcome::kEndProgram;
-  }
+  if (ReadLists(1) == Outcome::kEndProgram) return Outcome::kEndProgram;
   ShowTranslations();
   ShowBooks();
   TakeTranslation(0);
   return Outcome::kDone;
+}
+
+// Where the catalogue is sound, a Language File of the person's choice is what ends the program.
+Outcome LibraryLists::ReadLists(int which) {
+  const std::string& chosen = m_state.options.main.cboLang;
+  const std::string path = SysdefsFile(m_state.glob, chosen);  // before other folders are asked for
+  const Outcome outcome = PopulateCombos(which, chosen, m_state.glob, m_state.codePage, m_state.ui);
+  const bool isChosen = chosen != FindOption("cboLang")->defaultText && !m_state.glob.cboBibleName.empty();
+  if (outcome == Outcome::kEndProgram && isChosen) m_unreadLanguageFile = path;
+  return outcome;
 }
 
 Outcome LibraryLists::SelectFirst() {
@@ -117,8 +125,7 @@ void LibraryLists::ChooseLanguage() {
   m_controls.cboEndBook->clear();
   m_state.options.main.cboLang = FromQt(m_controls.cboLang->Text());
   TrySave(m_state, "cboLang_Click", [&](SettingsStore& store) { SaveOption(store, "cboLang", m_state.options); });
-  if (PopulateCombos(0, m_state.options.main.cboLang, m_state.glob, m_state.codePage, m_state.ui) ==
-      Outcome::kEndProgram) {
+  if (ReadLists(0) == Outcome::kEndProgram) {
     emit EndProgram();
     return;
   }

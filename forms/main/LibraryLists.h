@@ -33,6 +33,9 @@ class LibraryLists : public QObject {
   // Shows the names again after the code page has changed.
   void ShowNames();
 
+  // The path of the Language File that a person has chosen and for which the program must end; empty for none.
+  const std::string& UnreadLanguageFile() const { return m_unreadLanguageFile; }
+
   // The place in BibleNames of the selected translation; -1 for none.
   int SelectedTranslation() const;
 
@@ -47,10 +50,12 @@ class LibraryLists : public QObject {
   void ShowBooks();
   void TakeTranslation(std::size_t place);
   void TellUnread(int item) const;
+  Outcome ReadLists(int which);
 
   AppState& m_state;
   Ui::frmMain& m_controls;
   int m_chosen = -1;  // item of cboBibleName
+  std::string m_unreadLanguageFile;
 };
 
 }  // namespace folionet

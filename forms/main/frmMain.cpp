@@ -79,7 +79,10 @@ void frmMain::ConnectOptions() {
 }
 
 void frmMain::ConnectCommands() {
-  connect(m_lists, &LibraryLists::EndProgram, this, &frmMain::End);
+  connect(m_lists, &LibraryLists::EndProgram, this, [this] {
+    OfferRestore();
+    if (!m_hasEnded) End();
+  });
   connect(m_ui->cmdCompile, &QPushButton::clicked, this, &frmMain::Compile);
   connect(m_ui->cmdOpenIndex, &QPushButton::clicked, this, &frmMain::OpenIndexPage);
   connect(m_ui->cmdCheckSite, &QPushButton::clicked, this, &frmMain::CheckWrittenSite);
@@ -167,12 +170,37 @@ void frmMain::ShowHelp() {
   m_help->ShowContents();
 }
 
-void frmMain::SaveDefaults() {
-  TrySave(m_state, "SaveDefaults", [&](SettingsStore& store) { folionet::SaveDefaults(store, m_state.options); });
+bool frmMain::SaveDefaults() {
+  return TrySave(m_state, "SaveDefaults",
+                 [&](SettingsStore& store) { folionet::SaveDefaults(store, m_state.options); });
+}
+
+// At exit a failure is always told and the form stays open; from the second one on a person can leave without saving.
+bool frmMain::LeavesUnsaved() {
+  return std::exchange(m_exitFailed, true) &&
+         m_state.ui.AskYesNo(FromQt(tr("Settings not saved")), FromQt(tr("The settings cannot be saved.")) + "\r\n" +
+                                                                   FromQt(tr("Leave without saving them?")));
 }
 
 void frmMain::RestoreAll() {
-  if (!m_state.ui.AskYesNo("Restore Factory Settings", "Rerurn all settings to default?\r\nAre you sure???")) return;
+  if (m_state.ui.AskYesNo("Restore Factory Settings", "Rerurn all settings to default?\r\nAre you sure???")) Restore();
+}
+
+// For a program that must end: when it is a Language File of the person's choice that cannot be read, every later start
+// would end for it too.
+void frmMain::OfferRestore() {
+  const std::string& file = m_lists->UnreadLanguageFile();
+  if (file.empty()) return;
+  const QString text =
+      tr("The book titles cannot be read from %1, the Language File that is chosen.\n"
+         "Restore ALL Defaults, or another name for cboLang in %2, lets the program start again.\n"
+         "Return all settings to default now?");
+  const std::string lines = FromQt(text.arg(ToQt(file), ToQt(m_state.store.FilePath(kApplicationTitle)))
+                                       .replace(QLatin1String("\n"), QLatin1String("\r\n")));
+  if (m_state.ui.AskYesNo("Language File", lines)) Restore();
+}
+
+void frmMain::Restore() {
   try {
     m_state.store.DeleteSetting(kApplicationTitle);
     m_dialogs.Renew<frmEffects>();
@@ -204,7 +232,11 @@ void frmMain::closeEvent(QCloseEvent* event) {
     return;
   }
   if (!m_hasEnded) {
-    SaveDefaults();
+    m_state.lastSaveFailure.clear();
+    if (!SaveDefaults() && !LeavesUnsaved()) {
+      event->ignore();
+      return;
+    }
     End();
   }
   event->accept();

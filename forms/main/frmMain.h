@@ -68,8 +68,11 @@ class frmMain : public QMainWindow {
   void OpenIndexPage();
   void CheckWrittenSite();
   void ShowHelp();
-  void SaveDefaults();
+  bool SaveDefaults();
+  bool LeavesUnsaved();
   void RestoreAll();
+  void Restore();
+  void OfferRestore();
   void End();
   void DressControls();
 
@@ -85,6 +88,7 @@ class frmMain : public QMainWindow {
   std::size_t m_nextStep = 0;    // of StartSteps; those before it are done
   bool m_hasStopped = false;     // at a failure, since when the person may have changed what was read
   std::string m_startFailure;    // what stopped the start-up, as it was told; empty when nothing did
+  bool m_exitFailed = false;     // the settings could not be saved when the form was last to be closed
   bool m_hasEnded = false;
 };
 

@@ -36,7 +36,8 @@ bool frmMain::GoOnWithStart() {
   try {
     for (; m_nextStep < steps.size(); ++m_nextStep) {
       if (!steps[m_nextStep]()) {
-        End();
+        OfferRestore();
+        if (!m_hasEnded) End();
         return false;
       }
     }

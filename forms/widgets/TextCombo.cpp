@@ -5,6 +5,9 @@
 
 namespace folionet {
 
+// The first item that is added is not selected where there is such a text; what is painted comes from paintEvent.
+TextCombo::TextCombo(QWidget* parent) : QComboBox(parent) { setPlaceholderText(QStringLiteral(" ")); }
+
 void TextCombo::SetText(const QString& text) {
   m_ownText = text;
   setCurrentIndex(findText(text, Qt::MatchExactly | Qt::MatchCaseSensitive));

@@ -185,6 +185,7 @@ TEST_F(Settings, RestoreAllBringsEveryDefaultBack) {
   EXPECT_TRUE(m_form->close());
   EXPECT_EQ(m_ui.log.size(), 3U) << "nothing more is asked";
   EXPECT_FALSE(m_home.Has("config/Folionet.ini"));
+  EXPECT_NE(m_home.Read("config/Folionet.ini.before-restore").find("Font=DejaVu Serif"), std::string::npos);
   for (const Option& option : OptionTable()) m_expected[std::string(option.key)] = option.defaultText;
   ExpectStartShowsThem();
 }
@@ -208,7 +209,8 @@ TEST_F(Settings, AFailedStartLosesNoneOfThem) {
   ExpectStored();
 }
 
-// A settings file that cannot be written is told of once; every option still works, and nothing that was typed is lost.
+// A settings file that cannot be written is told of once in a row; every option still works, and nothing that was typed
+// is lost.
 TEST_F(Settings, AFailureToSaveIsToldOnce) {
   const std::pair<std::string, std::string> cases[] = {{"chkUseNames", "chkUseNames_Click"},
                                                        {"cboLang", "cboLang_Click"},
@@ -229,14 +231,45 @@ TEST_F(Settings, AFailureToSaveIsToldOnce) {
   BlockSettings();
   for (const auto& [control, label] : cases) {
     m_ui.log.clear();
-    m_state->saveFailureTold = false;
+    m_state->lastSaveFailure.clear();
     m_ui.yesNo = {true};
     Give(control, control == "cboLang" ? "BOOKS_DUTCH.TXT" : "4");
     Give("chkUseNames", "");
     std::erase_if(m_ui.log, [](const std::string& box) { return box.starts_with("C"); });  // boxes that ask or inform
     EXPECT_EQ(m_ui.log, Log{"76 " + label});
   }
+  EXPECT_FALSE(m_hasEnded) << "an exit that cannot save leaves the form open";
+}
+
+// After a save that went well a failure is told again; at exit it always is, and the second time a person can leave.
+TEST_F(Settings, AFailureToSaveIsToldAgain) {
+  ASSERT_TRUE(Start());
+  BlockSettings();
+  Click("chkUseNames");
+  Click("chkUseNames");
+  EXPECT_EQ(m_ui.log, Log{"76 chkUseNames_Click"});
+  Remove("config");
+  Click("chkUseNames");
+  BlockSettings();
+  Click("chkUseNames");
+  m_ui.yesNo = {true, true, false, true, true};
+  for (int i = 0; i < 3; ++i) Click("cmdClose");
+  EXPECT_EQ(m_ui.log,
+            (Log{"76 chkUseNames_Click", "76 chkUseNames_Click", "Confirm Exit?", "76 SaveDefaults", "Confirm Exit?",
+                 "76 SaveDefaults", "Settings not saved?", "Confirm Exit?", "76 SaveDefaults", "Settings not saved?"}));
   EXPECT_TRUE(m_hasEnded);
+}
+
+TEST_F(Settings, ARefusedRestoreChangesNothing) {
+  Store("PageTitles", "mine");
+  ASSERT_TRUE(Start());
+  m_home.Write("config/Folionet.ini.before-restore/in_the_way", "");
+  m_ui.yesNo = {true};
+  Click("cmdRestoreAll");
+  EXPECT_EQ(m_ui.log, (Log{"Restore Factory Settings?", "75 cmdRestoreAll_Click"}));
+  EXPECT_FALSE(m_hasEnded);
+  EXPECT_EQ(m_state->options.frmPAgeTitles.txtPageTitles, "mine");
+  EXPECT_EQ(m_store->Text("PageTitles"), "mine");
 }
 
 TEST_F(Settings, AreReadWhereTheyCannotBeWritten) {

@@ -1,6 +1,9 @@
 #include <gtest/gtest.h>
 
+#include <filesystem>
+
 #include "ProgramFolder.h"
+#include "TemporaryFolder.h"
 
 namespace folionet {
 namespace {
@@ -8,6 +11,18 @@ namespace {
 // The test's own folder holds the delivered files, as an unpacked program's does.
 TEST(ProgramFolderTest, TheExecutablesFolderServesWhenItHoldsTheStyleSheet) {
   EXPECT_EQ(FindProgramFolder(""), ExecutableFolder());
+}
+
+TEST(ProgramFolderTest, OnlyFilesWithoutANameAreDelivered) {
+  const test::TemporaryFolder home;
+  for (const char* name : {"default.css", "lang.txt", "enc.txt"}) home.Write(std::string("from/") + name, "delivered");
+  home.Write("own/lang.txt/a_folder_of_that_name", "own");
+  std::filesystem::create_symlink("away", home.Path() + "own/enc.txt");
+  DeliverFiles(home.Path() + "from/", home.Path() + "own/");
+  EXPECT_EQ(home.Read("own/default.css"), "delivered");
+  EXPECT_EQ(home.Read("own/lang.txt/a_folder_of_that_name"), "own");
+  EXPECT_EQ(std::filesystem::read_symlink(home.Path() + "own/enc.txt"), "away");
+  EXPECT_FALSE(home.Has("own/away"));
 }
 
 }  // namespace

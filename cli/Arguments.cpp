@@ -55,10 +55,15 @@ void AddCompile(CLI::App& app, Arguments& asked) {
   compile
       .add_option("--language-file", arguments->languageFile, "One of \"list languages\" (default: setting cboLang)")
       ->type_name("NAME");
-  compile.add_option("--start-book", arguments->startBook, "First book of the index page (default: 1)")
-      ->type_name("N|TITLE");
-  compile.add_option("--end-book", arguments->endBook, "Last book of the index page (default: 66)")
-      ->type_name("N|TITLE");
+  CLI::Option* first =
+      compile.add_option("--start-book", arguments->startBook, "First book of the index page (default: 1)");
+  CLI::Option* last = compile.add_option("--end-book", arguments->endBook, "Last book of the index page (default: 66)");
+  first->option_text("BOOK");
+  last->option_text("BOOK");
+  compile.add_option("--books", arguments->books, "Both: NT, Gospels, Matthew-Acts (default: none)")
+      ->option_text("BOOKS")
+      ->excludes(first)
+      ->excludes(last);
   compile.add_option("--output", arguments->output, "Where the pages go (default: the setting Dir1)")
       ->type_name("FOLDER");
   compile.add_option("--index-address", arguments->indexAddress, "Name or address of the index page (no default)")
@@ -69,13 +74,12 @@ void AddCompile(CLI::App& app, Arguments& asked) {
   compile.add_flag("--list-changed", arguments->listChanged, "Print the names of the pages whose bytes changed");
   CLI::Option* dryRun =
       compile.add_flag("--dry-run", arguments->dryRun, "Write nothing; print what each page would become");
-  AddJson(compile, asked.common)->needs(dryRun);
+  AddJson(compile, asked.common)->needs(dryRun)->option_text(" ");
   compile.footer(
       "Pages that are there are overwritten, those of books before the start book\n"
       "deleted. \"folionet-cli list settings\" shows the settings and their values.\n\n"
       "Example:\n"
-      "  folionet-cli compile --translation KJV --output ~/site \\\n"
-      "                       --index-address index.html --set chkCSS=1");
+      "  folionet-cli compile --books NT --output ~/site --index-address index.html");
   compile.callback([&asked, arguments] {
     asked.run = [arguments](const CommonOptions& common, ConsoleUi& ui) { return RunCompile(common, *arguments, ui); };
   });
@@ -117,13 +121,14 @@ void AddList(CLI::App& app, Arguments& asked) {
   CLI::App& list = *app.add_subcommand("list", "Shows what can be chosen, or the settings");
   const auto subject = std::make_shared<std::string>();
   const auto isSubject = [](const std::string& what) {
-    const bool isKnown = what == "translations" || what == "languages" || what == "books" || what == "settings";
-    return isKnown ? std::string() : "translations, languages, books or settings was expected: \"" + what + "\"";
+    if (IsListSubject(what)) return std::string();
+    return "translations, languages, books, charsets or settings was expected: \"" + what + "\"";
   };
   list.add_option("WHAT", *subject,
                   "translations: file stem and name of each;\n"
                   "languages: the files of book titles;\n"
-                  "books: number and title, as cboLang has them;\n"
+                  "books: number, title, code, as cboLang has them;\n"
+                  "charsets: for --set Charset=...;\n"
                   "settings: KEY=VALUE, stored or default")
       ->required()
       ->type_name("")

@@ -158,6 +158,11 @@ ExitStatus RunCompile(const CommonOptions& common, const CompileArguments& argum
   CompileRequest request;
   request.options = session.options;
   SelectTranslation(arguments, session, request);
+  if (!arguments.books.empty()) {
+    const BookRange books = session.FindBooks(arguments.books);
+    request.cboStartBook = books.first;
+    request.cboEndBook = books.last;
+  }
   if (!arguments.startBook.empty()) request.cboStartBook = session.FindBook(arguments.startBook);
   if (!arguments.endBook.empty()) request.cboEndBook = session.FindBook(arguments.endBook);
   if (arguments.indexAddress) request.options.txthttpRoot = *arguments.indexAddress;

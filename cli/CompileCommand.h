@@ -14,6 +14,7 @@ struct CompileArguments {
   std::string languageFile;
   std::string startBook;
   std::string endBook;
+  std::string books;  // both at once
   std::string output;
   std::optional<std::string> indexAddress;
   std::vector<std::string> settings;

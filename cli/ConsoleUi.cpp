@@ -45,8 +45,10 @@ void ConsoleUi::Write(std::FILE* stream, std::string_view text, std::string_view
 
 void ConsoleUi::Print(std::string_view line) { Write(stdout, line, {}); }
 
-void ConsoleUi::Print(std::string_view field, std::string_view next) {
-  Write(stdout, Escaped(field) + "\t" + Escaped(next), "\t");
+void ConsoleUi::Print(std::initializer_list<std::string> fields) {
+  std::string line;
+  for (const std::string& field : fields) line += Escaped(field) + "\t";
+  Write(stdout, line.substr(0, line.size() - 1), "\t");
 }
 
 void ConsoleUi::WriteText(std::FILE* stream, std::string_view text) {
@@ -99,6 +101,7 @@ bool ConsoleUi::AskYesNo(const std::string& /*title*/, const std::string& /*text
 std::optional<std::string> ConsoleUi::AskText(const InputBox& /*box*/) { return std::nullopt; }
 
 void ConsoleUi::ShowErrorReport(int errorNumber, std::string_view moduleLabel, const std::string& extraInfo) {
+  if (const std::string_view step = StepBeforeReport(moduleLabel); !step.empty()) TellText(std::string(step) + "\n\n");
   TellText(WithNewLines(BuildErrorReport(errorNumber, moduleLabel, extraInfo, ExecutableFolder())));
   if (const std::string_view step = NextStepAfterReport(errorNumber, moduleLabel, extraInfo); !step.empty()) {
     TellText("\n" + std::string(step));

@@ -2,6 +2,7 @@
 
 #include <chrono>
 #include <cstdio>
+#include <initializer_list>
 #include <string>
 #include <string_view>
 
@@ -30,8 +31,8 @@ class ConsoleUi : public UserInterface {
   // A line of what was asked for.
   void Print(std::string_view line);
 
-  // Several fields of one, each escaped, with a tab between.
-  void Print(std::string_view field, std::string_view next);
+  // The fields of one, each escaped, with a tab between.
+  void Print(std::initializer_list<std::string> fields);
 
   // The lines of a text of the program's own, such as its help; the last need not end, and an empty text is none.
   void PrintText(std::string_view text);

@@ -1,8 +1,13 @@
 #include "ListCommand.h"
 
+#include <algorithm>
+#include <iterator>
+
 #include "BookTitles.h"
+#include "EncodingLists.h"
 #include "OptionTable.h"
 #include "Paths.h"
+#include "ProgramFolder.h"
 
 namespace folionet {
 namespace {
@@ -15,39 +20,61 @@ ExitStatus ListTranslations(const CommonOptions& common, const Session& session)
     if (!FolderExists(glob.ModulesPath)) throw ExitWith(common.folders.modulePath.empty() ? kExitFailed : kExitUsage);
   }
   for (std::size_t i = 0; i < glob.cboBibleName.size(); ++i) {
-    session.ui.Print(session.codePage.DecodeForDisplay(glob.BibleFiles[i]),
-                     session.codePage.DecodeForDisplay(glob.BibleNames[i]));
+    session.ui.Print(
+        {session.codePage.DecodeForDisplay(glob.BibleFiles[i]), session.codePage.DecodeForDisplay(glob.BibleNames[i])});
   }
   return glob.unreadableTexts.empty() ? kExitDone : kExitFailed;
 }
 
-void ListBooks(const Session& session) {
-  int number = 0;
-  for (const std::string& title : session.glob.cboStartBook) {
-    session.ui.Print(std::to_string(++number), session.codePage.DecodeForDisplay(title));
+ExitStatus ListBooks(Session& session) {
+  const ModGlob& glob = session.glob;
+  for (std::size_t i = 0; i < glob.cboStartBook.size(); ++i) {
+    session.ui.Print({std::to_string(i + 1), session.codePage.DecodeForDisplay(glob.cboStartBook[i]),
+                      session.codePage.DecodeForDisplay(glob.BookCodes[i + 1])});
   }
+  return kExitDone;
+}
+
+// The plain file, which needs no other beside it, comes first.
+ExitStatus ListLanguages(Session& session) {
+  const std::string plain(FindOption("cboLang")->defaultText);
+  const bool hasPlain = FileExists(SysdefsFile(session.glob, plain));
+  if (hasPlain) session.ui.Print(plain);
+  if (hasPlain && LanguageFiles(session.glob).empty()) return kExitDone;
+  if (GetLang(session.glob, session.ui) != Outcome::kDone) return kExitFailed;
+  for (const std::string& name : session.glob.cboLang) session.ui.Print(name);
+  return kExitDone;
+}
+
+ExitStatus ListCharsets(Session& session) {
+  std::vector<std::string> entries;
+  ReadEncodingList(ProgramFolderToRead(session.chosenProgramFolder) + kCharsetList, session.codePage, entries);
+  for (const std::string& entry : entries) session.ui.Print(entry);
+  return kExitDone;
+}
+
+ExitStatus ListSettings(Session& session) {
+  for (const Option& option : OptionTable()) {
+    session.ui.Print(std::string(option.key) + "=" + session.store.Text(option.key));
+  }
+  return kExitDone;
 }
 
 }  // namespace
 
+bool IsListSubject(std::string_view subject) {
+  constexpr std::string_view kSubjects[] = {"translations", "languages", "books", "charsets", "settings"};
+  return std::find(std::begin(kSubjects), std::end(kSubjects), subject) != std::end(kSubjects);
+}
+
 ExitStatus RunList(const CommonOptions& common, const std::string& subject, ConsoleUi& ui) {
   Session session(common, ui);
-  if (subject == "settings") {
-    for (const Option& option : OptionTable()) {
-      ui.Print(std::string(option.key) + "=" + session.store.Text(option.key));
-    }
-    return kExitDone;
-  }
-  if (subject == "languages") {
-    if (GetLang(session.glob, session.ui) != Outcome::kDone) return kExitFailed;
-    for (const std::string& name : session.glob.cboLang) ui.Print(name);
-    return kExitDone;
-  }
+  if (subject == "settings") return ListSettings(session);
+  if (subject == "languages") return ListLanguages(session);
   session.LoadCodePage();
+  if (subject == "charsets") return ListCharsets(session);
   session.LoadLists(subject == "translations");
-  if (subject == "translations") return ListTranslations(common, session);
-  ListBooks(session);
-  return kExitDone;
+  return subject == "translations" ? ListTranslations(common, session) : ListBooks(session);
 }
 
 }  // namespace folionet

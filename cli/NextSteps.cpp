@@ -8,7 +8,7 @@
 namespace folionet {
 namespace {
 
-constexpr std::array<std::pair<std::string_view, std::string_view>, 10> kNextSteps{{
+constexpr std::array<std::pair<std::string_view, std::string_view>, 9> kNextSteps{{
     {"No Path", "Give one with --output FOLDER."},
     {"No Bible", "Choose another with --translation NAME; \"folionet-cli list translations\" shows them."},
     {"No HTTP Root", "Give the name or address of the index page, such as --index-address index.html."},
@@ -18,10 +18,6 @@ constexpr std::array<std::pair<std::string_view, std::string_view>, 10> kNextSte
     {"8.3 filename error", "Give an address such as --index-address index.htm, or long names with --set Use83=0."},
     {"No Bible Selected",
      "No translation has a text that can be read where Versalia keeps it: see \"folionet-cli check\"."},
-    {"Path and/or file not found",
-     "Give them with --versalia-path FOLDER, which holds Sysdefs and Index, and --module-path FOLDER, which holds "
-     "Bible; where only the file of book titles is wrong, give another with --language-file NAME. \"folionet-cli "
-     "check\" names what is wrong in them."},
     {"INDEX File Not Found", "Then run this command again, or choose another translation with --translation NAME."},
     {"File not found",
      "Then run this command again; \"folionet-cli check\" names what is wrong in an index that is there."},
@@ -110,8 +106,17 @@ std::string_view NextStep(std::string_view title) {
   return {};
 }
 
+std::string_view StepBeforeReport(std::string_view moduleLabel) {
+  if (moduleLabel != "Populate Combos") return {};
+  return "Give Versalia's folders with --versalia-path FOLDER, which holds Sysdefs and Index, and --module-path "
+         "FOLDER, "
+         "which holds Bible, or other book titles with --language-file NAME; \"folionet-cli check\" names what is "
+         "wrong.";
+}
+
 std::string_view NextStepAfterReport(int errorNumber, std::string_view moduleLabel, std::string_view extraInfo) {
-  if (moduleLabel == "Populate Combos" || moduleLabel == "Load Verse Count") return {};  // a box follows, with its step
+  if (moduleLabel == "Populate Combos") return {};   // told before
+  if (moduleLabel == "Load Verse Count") return {};  // a box follows, with its step
   if (moduleLabel == "cmdCompile_Click") return NextStepOfCompile(errorNumber, extraInfo);
   if (moduleLabel == "BooksInChapters") return kCorrectIndex;
   if (moduleLabel == "GetLang") {

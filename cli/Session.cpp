@@ -1,7 +1,6 @@
 #include "Session.h"
 
 #include "Catalogue.h"
-#include "Numbers.h"
 #include "OptionLoading.h"
 #include "PageEncoding.h"
 #include "Paths.h"
@@ -115,15 +114,18 @@ std::size_t Session::FindTranslation(const std::string& nameOrStem) const {
               "\". \"folionet-cli list translations\" shows those that are installed.");
 }
 
-int Session::FindBook(const std::string& numberOrTitle) const {
-  const IntegerReading number = ReadInteger(numberOrTitle, 1, kBooks);
-  if (number.error == 0) return static_cast<int>(number.value) - 1;
-  const std::size_t found = FindText(Decoded(glob.cboStartBook, glob.cboStartBook.size(), codePage), numberOrTitle);
-  if (number.error == kOverflow || found == std::string::npos) {
-    RefuseUsage("There is no book \"" + numberOrTitle +
-                "\": a number from 1 to 66 or a title was expected. \"folionet-cli list books\" shows them.");
-  }
-  return static_cast<int>(found);
+int Session::FindBook(const std::string& text) const {
+  if (const auto place = ChooseBook(glob, codePage, text)) return *place;
+  RefuseUsage("There is no book \"" + text +
+              "\": a number from 1 to 66, a title or a code was expected. \"folionet-cli list books\" shows them.");
+}
+
+BookRange Session::FindBooks(const std::string& text) const {
+  if (const auto books = ChooseBooks(glob, codePage, text)) return *books;
+  std::string parts;
+  for (const std::string& part : BookParts()) parts += part + ", ";
+  RefuseUsage("--books: there are no books \"" + text + "\": " + parts +
+              "a book or two with \"-\" between was expected. \"folionet-cli list books\" shows them.");
 }
 
 }  // namespace folionet

@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "BookChoice.h"
 #include "CodePage.h"
 #include "CommonOptions.h"
 #include "CompileContext.h"
@@ -43,8 +44,9 @@ class Session {
   // command when there is none.
   std::size_t FindTranslation(const std::string& nameOrStem) const;
 
-  // The place in the book lists of a book, by number from 1 or by title. Ends the command when there is none.
-  int FindBook(const std::string& numberOrTitle) const;
+  // As ChooseBook and ChooseBooks; end the command where there are no such books.
+  int FindBook(const std::string& text) const;
+  BookRange FindBooks(const std::string& text) const;
 
   StoredSettings store;
   ConsoleUi& ui;

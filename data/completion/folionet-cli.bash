@@ -43,17 +43,30 @@ _folionet_cli() {
       _folionet_cli_lines "$word" < <(folionet-cli "${folders[@]}" list languages 2> /dev/null)
       return
       ;;
-    --start-book | --end-book | --index-address | --sitemap | --index)
+    Charset)
+      _folionet_cli_lines "$word" < <(folionet-cli list charsets 2> /dev/null)
+      return
+      ;;
+    --start-book | --end-book)
+      _folionet_cli_lines "$word" < <(folionet-cli "${folders[@]}" list books 2> /dev/null | cut -f 2,3 | tr '\t' '\n')
+      return
+      ;;
+    --books)
+      _folionet_cli_lines "$word" < <(printf '%s\n' OT NT Law History Poetry Prophets Gospels Letters
+        folionet-cli "${folders[@]}" list books 2> /dev/null | cut -f 2,3 | tr '\t' '\n')
+      return
+      ;;
+    --index-address | --sitemap | --index)
       return
       ;;
   esac
   local common="--versalia-path --module-path --program-folder --quiet --strict --help"
   case $command in
     compile)
-      common+=" --translation --language-file --start-book --end-book --output --index-address --set --sitemap"
+      common+=" --translation --language-file --start-book --end-book --books --output --index-address --set --sitemap"
       common+=" --list-changed --dry-run --json"
       ;;
-    list) common="translations languages books settings $common" ;;
+    list) common="translations languages books charsets settings $common" ;;
     check) common+=" --translation --set --json" ;;
     verify)
       common+=" --index"

@@ -39,11 +39,13 @@ std::string WithShortReports(std::string text) {
           "Path and/or file not found: This error has probably occured because you have an older version of Versalia\n"
           "or because Versalia is not correctly installed.\n"
           "Folionet will attempt to gather the correct information manually\n"
-          "You will need to enter the values for the following:\n1. The Versalia Path\n2. The Versalia Module Path\n"
-          "Give them with --versalia-path FOLDER, which holds Sysdefs and Index, and --module-path FOLDER, which holds "
-          "Bible; where only the file of book titles is wrong, give another with --language-file NAME. \"folionet-cli "
-          "check\" names what is wrong in them.\n",
+          "You will need to enter the values for the following:\n1. The Versalia Path\n2. The Versalia Module Path\n",
           "ASKS FOR THE FOLDERS\n");
+  Replace(text,
+          "Give Versalia's folders with --versalia-path FOLDER, which holds Sysdefs and Index, and --module-path "
+          "FOLDER, which holds Bible, or other book titles with --language-file NAME; \"folionet-cli check\" names "
+          "what is wrong.\n\n",
+          "SAYS HOW TO GIVE THE FOLDERS\n");
   return text;
 }
 

@@ -86,36 +86,35 @@ void AddCompile(CLI::App& app, Arguments& asked) {
 }
 
 void AddImport(CLI::App& app, Arguments& asked) {
-  CLI::App& import = *app.add_subcommand("import", "Makes a translation of a Bible text in a file");
+  CLI::App& command = *app.add_subcommand("import", "Makes a translation of a Bible text in a file");
   const auto arguments = std::make_shared<ImportArguments>();
-  import
+  command
       .add_option("PATH", arguments->paths,
                   "Files, folders or zip archives, or - for standard\n"
                   "input: USFM, USX, USFX, OSIS, Zefania XML, or one\nverse a line")
       ->required()
       ->type_name("");
-  import.add_option("--name", arguments->name, "Display name (default: the one in the text, or\nthe file's)")
+  command.add_option("--name", arguments->name, "Display name (default: the one in the text, or\nthe file's)")
       ->type_name("NAME");
-  import.add_option("--stem", arguments->stem, "Stem of its files (default: made of the name)")->type_name("STEM");
-  import.add_option("--into", arguments->into, "The library (default:\n~/.local/share/Folionet/library)")
+  command.add_option("--stem", arguments->stem, "Stem of its files (default: made of the name)")->type_name("STEM");
+  command.add_option("--into", arguments->into, "The library (default:\n~/.local/share/Folionet/library)")
       ->type_name("FOLDER");
-  import.add_option("--titles", arguments->titles, "A file of book titles (default: the text's own)")
+  command.add_option("--titles", arguments->titles, "A file of book titles (default: the text's own)")
       ->type_name("BOOKS_FILE");
-  import.add_option("--charset", arguments->charset, "Of the files (default: what they tell, or UTF-8)")
+  command.add_option("--charset", arguments->charset, "Of the files (default: what they tell, or UTF-8)")
       ->type_name("NAME");
-  import.add_flag("--replace", arguments->replace, "Replace the translation of this name or stem");
-  import.add_flag("--dry-run", arguments->dryRun, "Write nothing; tell what would be imported");
-  import.footer(
+  command.add_flag("--replace", arguments->replace, "Replace the translation of this name or stem");
+  CLI::Option* dryRun = command.add_flag("--dry-run", arguments->dryRun, "Write nothing; tell what would be imported");
+  AddJson(command, asked.common)->needs(dryRun)->option_text(" ");
+  command.footer(
       "The library is used without a further option when none of Versalia is known.\n"
       "Nothing is written unless the whole text could be read.\n\n"
       "Example:\n"
       "  folionet-cli import eng-web_usfm.zip --name \"World English Bible\"");
-  import.callback([&asked, arguments] {
-    asked.run = [arguments](const CommonOptions& common, ConsoleUi& ui) { return RunImport(common, *arguments, ui);
-};
-}  // namespace
-);
-}  // namespace folionet
+  command.callback([&asked, arguments] {
+    asked.run = [arguments](const CommonOptions& common, ConsoleUi& ui) { return RunImport(common, *arguments, ui); };
+  });
+}
 
 void AddList(CLI::App& app, Arguments& asked) {
   CLI::App& list = *app.add_subcommand("list", "Shows what can be chosen, or the settings");

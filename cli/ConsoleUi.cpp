@@ -68,6 +68,12 @@ void ConsoleUi::Show(const Finding& finding) {
   Print(m_common.json ? JsonLine(finding) : PlainLine(finding));
 }
 
+void ConsoleUi::Remark(const Finding& finding) {
+  if (m_common.json) return Show(finding);
+  m_hasWarned = m_hasWarned || finding.severity == Severity::kWarning;
+  Tell(PlainLine(finding));
+}
+
 void ConsoleUi::Warn(Finding finding) {
   finding.severity = Severity::kWarning;
   if (m_common.json) return Show(finding);

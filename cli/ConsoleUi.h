@@ -44,6 +44,9 @@ class ConsoleUi : public UserInterface {
   // Something that was looked for and found, on standard output, as a line or as JSON.
   void Show(const Finding& finding);
 
+  // Something that was found beside what was asked for: on standard error, or with the others as JSON.
+  void Remark(const Finding& finding);
+
   // What nobody looked for: on standard error, with the remedy, or with the others as JSON.
   void Warn(Finding finding);
 

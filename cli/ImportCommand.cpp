@@ -4,7 +4,6 @@
 #include <system_error>
 
 #include "Finding.h"
-#include "FindingLines.h"
 #include "ImportText.h"
 #include "LibraryWriter.h"
 #include "Paths.h"
@@ -28,12 +27,15 @@ ExitStatus TellError(const RunTimeError& error, ConsoleUi& ui) {
 }
 
 void TellFindings(const ImportedBible& bible, ConsoleUi& ui) {
-  for (const Finding& finding : bible.findings.Kept()) ui.Tell(PlainLine(finding));
+  for (const Finding& finding : bible.findings.Kept()) ui.Remark(finding);
   if (const std::size_t more = bible.findings.Count() - bible.findings.Kept().size(); more != 0) {
     ui.Tell("And " + std::to_string(more) + " more.");
   }
   for (const LeftOutBook& book : bible.leftOut) {
-    ui.Tell("Left out, as it is none of the 66 books: " + book.name + " (" + Counted(book.verses, "verse") + ")");
+    ui.Remark(
+        {.kind = "left-out-book",
+         .severity = Severity::kNote,
+         .what = {"Left out, as it is none of the 66 books: %1 (%2)", {book.name, Counted(book.verses, "verse")}}});
   }
 }
 
@@ -74,7 +76,7 @@ ExitStatus RunImport(const CommonOptions& common, const ImportArguments& argumen
     const ImportedBible bible = ReadBible({arguments.paths, arguments.charset});
     const LibraryPlan plan = PlanLibrary(bible, request);
     if (!arguments.dryRun) WriteLibrary(plan);
-    if (!common.quiet) TellFindings(bible, ui);
+    if (!common.quiet || common.json) TellFindings(bible, ui);
     ui.Sum(ResultLine(plan), true);
     if (arguments.dryRun) ui.Sum("Nothing was written.", true);
     if (!arguments.dryRun && !common.quiet) TellHowToChoose(common, plan, ui);

@@ -15,7 +15,7 @@ _folionet_cli() {
   [[ $before != = ]] || before=${COMP_WORDS[COMP_CWORD - 2]}
   for ((i = 1; i < COMP_CWORD; ++i)); do
     case ${COMP_WORDS[i]} in
-      compile | list | check | verify) [[ $command ]] || command=${COMP_WORDS[i]} ;;
+      compile | import | list | check | verify) [[ $command ]] || command=${COMP_WORDS[i]} ;;
       --versalia-path | --module-path)
         at=$((i + 1))
         [[ ${COMP_WORDS[at]} != = ]] || ((++at))
@@ -25,7 +25,7 @@ _folionet_cli() {
   done
   COMPREPLY=()
   case $before in
-    --output | --versalia-path | --module-path | --program-folder)
+    --output | --into | --versalia-path | --module-path | --program-folder)
       compopt -o filenames 2> /dev/null
       mapfile -t COMPREPLY < <(compgen -d -- "$word")
       return
@@ -56,7 +56,12 @@ _folionet_cli() {
         folionet-cli "${folders[@]}" list books 2> /dev/null | cut -f 2,3 | tr '\t' '\n')
       return
       ;;
-    --index-address | --sitemap | --index)
+    --titles)
+      compopt -o filenames 2> /dev/null
+      mapfile -t COMPREPLY < <(compgen -f -- "$word")
+      return
+      ;;
+    --index-address | --sitemap | --index | --name | --stem | --charset)
       return
       ;;
   esac
@@ -65,6 +70,14 @@ _folionet_cli() {
     compile)
       common+=" --translation --language-file --start-book --end-book --books --output --index-address --set --sitemap"
       common+=" --list-changed --dry-run --json"
+      ;;
+    import)
+      common+=" --name --stem --into --titles --charset --replace --dry-run --json"
+      if [[ $word != -* ]]; then
+        compopt -o filenames 2> /dev/null
+        mapfile -t COMPREPLY < <(compgen -f -- "$word")
+        return
+      fi
       ;;
     list) common="translations languages books charsets settings $common" ;;
     check) common+=" --translation --set --json" ;;
@@ -76,7 +89,7 @@ _folionet_cli() {
         return
       fi
       ;;
-    *) common="compile list check verify --version $common" ;;
+    *) common="compile import list check verify --version $common" ;;
   esac
   mapfile -t COMPREPLY < <(compgen -W "$common" -- "$word")
 }

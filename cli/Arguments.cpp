@@ -164,9 +164,14 @@ void AddVerify(CLI::App& app, Arguments& asked) {
   verify
       .add_option("--index", arguments->indexName, "File name of the index page (default: index.html,\nelse index.htm)")
       ->type_name("NAME");
+  CLI::Option* const stale =
+      verify.add_flag("--stale", arguments->stale, "Only print the pages of ours that nothing\nleads to");
+  verify.add_flag("--remove-stale", arguments->removeStale, "Delete those pages, and print their names")
+      ->excludes(stale);
+  AddJson(verify, asked.common);
   verify.footer(
-      "Also lists the pages that the index page does not lead to. Changes nothing.\n"
-      "Exit status 1 when a link is broken.\n\n"
+      "Also lists the pages that the index page does not lead to. Changes nothing but\n"
+      "what --remove-stale deletes. Exit status 1 when a link is broken.\n\n"
       "Example:\n"
       "  folionet-cli verify ~/site");
   verify.callback([&asked, arguments] {

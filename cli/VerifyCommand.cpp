@@ -2,11 +2,13 @@
 
 #include <algorithm>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "Paths.h"
 #include "RunTimeError.h"
-#include "SiteCheck.h"
+#include "SiteVerification.h"
+#include "StalePages.h"
 
 namespace folionet {
 namespace {
@@ -15,40 +17,44 @@ std::string Counted(std::size_t number, const std::string& thing) {
   return std::to_string(number) + " " + thing + (number == 1 ? "" : "s");
 }
 
-const char* StepText(SiteStep step) {
-  switch (step) {
-    case SiteStep::kPermissions:
-      return "See that what cannot be read is a file, and to its permissions.";
-    case SiteStep::kUtf8:
-      return "Save the pages in UTF-16 as UTF-8.";
-    case SiteStep::kCharset:
-      return "Compile again with the charset that the book titles are in (--set Charset=...), or with short file names "
-             "(--set Use83=1).";
-    case SiteStep::kTitles:
-      return "Compile again with short file names (--set Use83=1), or with book titles that lack these signs.";
-    case SiteStep::kPictures:
-      return "Copy the missing pictures into the folder, or choose others.";
-    case SiteStep::kCorrect:
-      break;
+// Prints the counts, after all that was found.
+void ShowReport(const SiteReport& report, ConsoleUi& ui) {
+  for (const Finding& finding : report.findings) ui.Show(finding);
+  ui.Sum(Counted(report.pages, "page") + ", " + Counted(report.links, "link") + ": " +
+             std::to_string(report.brokenLinks) + " broken, " + Counted(report.unreached.size(), "page") +
+             " not reached.",
+         report.findings.empty());
+  if (report.leadOut > 0) {
+    ui.Sum(Counted(report.leadOut, "link") +
+               (report.leadOut == 1 ? " leads out of the folder and was" : " lead out of the folder and were") +
+               " not followed.",
+           true);
   }
-  return "Compile into this folder again; then correct what is still broken in the custom header and footer and in "
-         "your "
-         "own pages and style sheets, or put the missing file there.";
+  for (const Sentence& remedy : report.remedies) ui.Tell(remedy.InEnglish());
 }
 
-void PrintFindings(const SiteReport& report, const std::string& index, ConsoleUi& ui) {
-  for (const BrokenTarget& broken : report.broken) {
-    const std::string pages = broken.pages > 1 ? " (" + std::to_string(broken.pages) + " pages, this one first)" : "";
-    ui.Print(broken.page + ":" + std::to_string(broken.line) + ": \"" + broken.target + "\" " + FaultText(broken) +
-             pages + ".");
+void ShowNames(const std::vector<std::string>& pages, const char* kind, ConsoleUi& ui) {
+  for (const std::string& page : pages) {
+    if (ui.IsJson()) {
+      ui.Show({.kind = kind, .severity = Severity::kNote, .file = page});
+    } else {
+      ui.Print(page);
+    }
   }
-  for (const UnreadFile& file : report.unread) ui.Print(file.name + ": cannot be read: " + file.why + ".");
-  for (const std::string& link : report.linkedFolders) {
-    ui.Print(link + ": a symbolic link to another folder, whose pages were not read: see that the server has it.");
+}
+
+ExitStatus RemoveStale(const std::string& folder, const SiteReport& report, ConsoleUi& ui) {
+  if (!report.isStaleCertain && !report.stale.empty()) {
+    for (const Finding& finding : report.findings) {
+      if (finding.kind != std::string_view("unreached")) ui.Warn(finding);
+    }
+    ui.Tell("Nothing was removed: what the index leads to is not certain.");
+    return kExitRefused;
   }
-  const std::string unreached =
-      ": no page that " + index + " leads to links here: left from an earlier compile, or outside the chosen books.";
-  for (const std::string& page : report.unreachable) ui.Print(page + unreached);
+  const RemovedPages pages = RemovePages(folder, report.stale);
+  ShowNames(pages.removed, "removed", ui);
+  for (const Finding& finding : pages.kept) ui.Warn(finding);
+  return pages.kept.empty() ? kExitDone : kExitFailed;
 }
 
 // Ends the command when there is no such index page in a folder.
@@ -90,20 +96,16 @@ ExitStatus RunVerify(const VerifyArguments& arguments, ConsoleUi& ui) {
   }
   try {
     if (!indexName.empty()) RefuseMissingIndex(folder, indexName);
-    const std::string index = indexName.empty() ? FoundIndex(folder) : indexName;
-    const SiteReport report = CheckSite(folder, index);
-    PrintFindings(report, index, ui);
-    ui.Print(Counted(report.pages, "page") + ", " + Counted(report.links, "link") + ": " +
-             std::to_string(report.brokenLinks) + " broken, " + Counted(report.unreachable.size(), "page") +
-             " not reached.");
-    if (report.leadOut > 0) {
-      ui.Print(Counted(report.leadOut, "link") +
-               (report.leadOut == 1 ? " leads out of the folder and was" : " lead out of the folder and were") +
-               " not followed.");
+    SiteRequest request{folder, indexName.empty() ? FoundIndex(folder) : indexName};
+    request.words = {"--set Charset=...", "--set Use83=1", " (verify --remove-stale)"};
+    const SiteReport report = VerifySite(request);
+    if (arguments.removeStale) return RemoveStale(folder, report, ui);
+    if (arguments.stale) {
+      ShowNames(report.stale, "stale", ui);
+      return kExitDone;
     }
-    if (report.IsSound()) return kExitDone;
-    for (const SiteStep step : StepsFor(report)) ui.Tell(StepText(step));
-    return kExitRefused;
+    ShowReport(report, ui);
+    return report.isSound ? ui.Done() : kExitRefused;
   } catch (const RunTimeError& error) {
     ui.Tell(error.what());
     ui.Tell("See that it may be read, or give another index page with --index NAME.");

@@ -12,7 +12,7 @@
         <translation>Es konnte kein Browser gestartet werden. Die Seite ist:</translation>
     </message>
     <message>
-        <source>Check site</source>
+        <source>Verify site</source>
         <translation>Website prüfen</translation>
     </message>
     <message>
@@ -32,46 +32,6 @@
         <translation>Computer</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is there in another letter case only, %2</source>
-        <translation>„%1“ gibt es nur in anderer Groß- und Kleinschreibung, %2</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; holds &quot;\&quot;, which no address does</source>
-        <translation>„%1“ enthält „\“, was in keiner Adresse vorkommt</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; cannot be read</source>
-        <translation>„%1“ kann nicht gelesen werden</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is a folder without an index.html</source>
-        <translation>„%1“ ist ein Ordner ohne index.html</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is a folder, and a file was expected</source>
-        <translation>„%1“ ist ein Ordner, erwartet wurde eine Datei</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is not in the page&apos;s charset, so that browsers look for another name</source>
-        <translation>„%1“ steht nicht im Zeichensatz der Seite, sodass Browser einen anderen Namen suchen</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is a file, but &quot;#&quot;, &quot;?&quot;, &quot;%&quot; and &quot;:&quot; have another meaning in an address</source>
-        <translation>„%1“ ist eine Datei, aber „#“, „?“, „%“ und „:“ bedeuten in einer Adresse etwas anderes</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is not there</source>
-        <translation>„%1“ ist nicht vorhanden</translation>
-    </message>
-    <message>
-        <source>%1 pages, first %2, line %3</source>
-        <translation>%1 Seiten, zuerst %2, Zeile %3</translation>
-    </message>
-    <message>
-        <source>%1, line %2</source>
-        <translation>%1, Zeile %2</translation>
-    </message>
-    <message>
         <source>See that what cannot be read is a file, and to its permissions.</source>
         <translation>Prüfen Sie, ob das, was nicht gelesen werden kann, eine Datei ist, und ihre Zugriffsrechte.</translation>
     </message>
@@ -80,20 +40,8 @@
         <translation>Speichern Sie die Seiten in UTF-16 als UTF-8.</translation>
     </message>
     <message>
-        <source>Compile again with the character set that the book titles are in, or with 8.3 file names.</source>
-        <translation>Kompilieren Sie erneut mit dem Zeichensatz der Buchtitel oder mit 8.3-Dateinamen.</translation>
-    </message>
-    <message>
-        <source>Compile again with 8.3 file names, or with book titles that lack these signs.</source>
-        <translation>Kompilieren Sie erneut mit 8.3-Dateinamen oder mit Buchtiteln ohne diese Zeichen.</translation>
-    </message>
-    <message>
         <source>Copy the missing pictures into the folder, or choose others.</source>
         <translation>Kopieren Sie die fehlenden Bilder in den Ordner, oder wählen Sie andere.</translation>
-    </message>
-    <message>
-        <source>Compile again; then correct what is still broken in the custom header and footer and in your own pages and style sheets, or put the missing file there.</source>
-        <translation>Kompilieren Sie erneut; berichtigen Sie dann, was noch fehlerhaft ist, in der eigenen Kopf- und Fußzeile und in Ihren eigenen Seiten und Stylesheets, oder legen Sie die fehlende Datei dort ab.</translation>
     </message>
     <message>
         <source>and %1 more</source>
@@ -108,16 +56,148 @@
         <translation>Links, die aus dem Ordner hinausführen und nicht verfolgt wurden: %1.</translation>
     </message>
     <message>
-        <source>Cannot be read: %1</source>
-        <translation>Kann nicht gelesen werden: %1</translation>
+        <source>Stopped before all pages were read.</source>
+        <translation>Angehalten, bevor alle Seiten gelesen waren.</translation>
     </message>
     <message>
-        <source>Symbolic links to other folders, whose pages were not read: %1</source>
-        <translation>Symbolische Verknüpfungen zu anderen Ordnern, deren Seiten nicht gelesen wurden: %1</translation>
+        <source>Reading the site ...</source>
+        <translation>Die Site wird gelesen …</translation>
     </message>
     <message>
-        <source>The index does not lead to: %1</source>
-        <translation>Die Indexseite führt nicht zu: %1</translation>
+        <source>Stop</source>
+        <translation>Anhalten</translation>
+    </message>
+    <message>
+        <source>Remove pages</source>
+        <translation>Seiten löschen</translation>
+    </message>
+    <message>
+        <source>Nothing leads to these %1 pages of Folionet:</source>
+        <translation>Zu diesen %1 Seiten von Folionet führt nichts:</translation>
+    </message>
+    <message>
+        <source>Delete them?</source>
+        <translation>Sollen sie gelöscht werden?</translation>
+    </message>
+    <message>
+        <source>%1 pages were deleted. Remove them from your server too.</source>
+        <translation>%1 Seiten wurden gelöscht. Entfernen Sie sie auch von Ihrem Server.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not there.</source>
+        <translation>„%1“ ist nicht da.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not there (%2 pages, this one first).</source>
+        <translation>„%1“ ist nicht da (%2 Seiten, diese zuerst).</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is there in another letter case only, %3.</source>
+        <translation>„%1“ ist nur in anderer Groß- und Kleinschreibung da: %3.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is there in another letter case only, %3 (%2 pages, this one first).</source>
+        <translation>„%1“ ist nur in anderer Groß- und Kleinschreibung da: %3 (%2 Seiten, diese zuerst).</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; holds &quot;\&quot;, which no address does.</source>
+        <translation>„%1“ enthält „\“, was in keiner Adresse steht.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; holds &quot;\&quot;, which no address does (%2 pages, this one first).</source>
+        <translation>„%1“ enthält „\“, was in keiner Adresse steht (%2 Seiten, diese zuerst).</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be read.</source>
+        <translation>„%1“ ist nicht lesbar.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be read (%2 pages, this one first).</source>
+        <translation>„%1“ ist nicht lesbar (%2 Seiten, diese zuerst).</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a folder without an index.html.</source>
+        <translation>„%1“ ist ein Ordner ohne index.html.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a folder without an index.html (%2 pages, this one first).</source>
+        <translation>„%1“ ist ein Ordner ohne index.html (%2 Seiten, diese zuerst).</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a folder, and a file was expected.</source>
+        <translation>„%1“ ist ein Ordner, erwartet wurde eine Datei.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a folder, and a file was expected (%2 pages, this one first).</source>
+        <translation>„%1“ ist ein Ordner, erwartet wurde eine Datei (%2 Seiten, diese zuerst).</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not in the page&apos;s charset, so that browsers look for another name.</source>
+        <translation>„%1“ ist nicht im Zeichensatz der Seite, so dass Browser einen anderen Namen suchen.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not in the page&apos;s charset, so that browsers look for another name (%2 pages, this one first).</source>
+        <translation>„%1“ ist nicht im Zeichensatz der Seite, so dass Browser einen anderen Namen suchen (%2 Seiten, diese zuerst).</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a file, but &quot;#&quot;, &quot;?&quot;, &quot;%&quot; and &quot;:&quot; have another meaning in an address.</source>
+        <translation>„%1“ ist eine Datei, aber „#“, „?“, „%“ und „:“ haben in einer Adresse eine andere Bedeutung.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a file, but &quot;#&quot;, &quot;?&quot;, &quot;%&quot; and &quot;:&quot; have another meaning in an address (%2 pages, this one first).</source>
+        <translation>„%1“ ist eine Datei, aber „#“, „?“, „%“ und „:“ haben in einer Adresse eine andere Bedeutung (%2 Seiten, diese zuerst).</translation>
+    </message>
+    <message>
+        <source>cannot be read: %1.</source>
+        <translation>nicht lesbar: %1.</translation>
+    </message>
+    <message>
+        <source>cannot be read: It is UTF-16.</source>
+        <translation>nicht lesbar: Es ist UTF-16.</translation>
+    </message>
+    <message>
+        <source>a symbolic link to another folder, whose pages were not read: see that the server has it.</source>
+        <translation>eine symbolische Verknüpfung zu einem anderen Ordner, dessen Seiten nicht gelesen wurden: Sorgen Sie dafür, dass der Server ihn hat.</translation>
+    </message>
+    <message>
+        <source>no page that %1 leads to links here: left from an earlier compile, or outside the chosen books.</source>
+        <translation>keine Seite, zu der %1 führt, verweist hierher: übrig von einem früheren Lauf oder außerhalb der gewählten Bücher.</translation>
+    </message>
+    <message>
+        <source>%2 pages, up to %3: no page that %1 leads to links to them: left from an earlier compile, or outside the chosen books.</source>
+        <translation>%2 Seiten, bis %3: keine Seite, zu der %1 führt, verweist auf sie: übrig von einem früheren Lauf oder außerhalb der gewählten Bücher.</translation>
+    </message>
+    <message>
+        <source>leads to no chapter.</source>
+        <translation>führt zu keinem Kapitel.</translation>
+    </message>
+    <message>
+        <source>Compile again with the charset that the book titles are in (%1), or with short file names (%2).</source>
+        <translation>Kompilieren Sie noch einmal mit dem Zeichensatz der Buchtitel (%1) oder mit kurzen Dateinamen (%2).</translation>
+    </message>
+    <message>
+        <source>Compile again with short file names (%1), or with book titles that lack these signs.</source>
+        <translation>Kompilieren Sie noch einmal mit kurzen Dateinamen (%1) oder mit Buchtiteln ohne diese Zeichen.</translation>
+    </message>
+    <message>
+        <source>See that the starting book stands before the ending book, and that this is the index page; compile again.</source>
+        <translation>Sorgen Sie dafür, dass das erste Buch vor dem letzten steht und dass dies die Indexseite ist; kompilieren Sie noch einmal.</translation>
+    </message>
+    <message>
+        <source>Choose all books and compile again, or remove the pages that nothing leads to%1.</source>
+        <translation>Wählen Sie alle Bücher und kompilieren Sie noch einmal, oder entfernen Sie die Seiten, zu denen nichts führt%1.</translation>
+    </message>
+    <message>
+        <source>Compile into this folder again; then correct what is still broken in the custom header and footer and in your own pages and style sheets, or put the missing file there.</source>
+        <translation>Kompilieren Sie noch einmal in diesen Ordner; berichtigen Sie dann, was noch fehlt, in eigener Kopf- und Fußzeile und in Ihren eigenen Seiten und Formatvorlagen, oder legen Sie die fehlende Datei dorthin.</translation>
+    </message>
+    <message>
+        <source>is no page of Folionet, and was not removed.</source>
+        <translation>ist keine Seite von Folionet und wurde nicht gelöscht.</translation>
+    </message>
+    <message>
+        <source>cannot be removed: %1.</source>
+        <translation>lässt sich nicht löschen: %1.</translation>
     </message>
 </context>
 <context>
@@ -353,7 +433,7 @@
         <translation>Indexseite öffnen</translation>
     </message>
     <message>
-        <source>Check site</source>
+        <source>Verify site</source>
         <translation>Website prüfen</translation>
     </message>
     <message>

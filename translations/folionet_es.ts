@@ -12,7 +12,7 @@
         <translation>No se pudo abrir ningún navegador. La página es:</translation>
     </message>
     <message>
-        <source>Check site</source>
+        <source>Verify site</source>
         <translation>Comprobar el sitio</translation>
     </message>
     <message>
@@ -32,46 +32,6 @@
         <translation>Equipo</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is there in another letter case only, %2</source>
-        <translation>«%1» existe solo con otras mayúsculas y minúsculas, %2</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; holds &quot;\&quot;, which no address does</source>
-        <translation>«%1» contiene «\», que no aparece en ninguna dirección</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; cannot be read</source>
-        <translation>«%1» no se puede leer</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is a folder without an index.html</source>
-        <translation>«%1» es una carpeta sin index.html</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is a folder, and a file was expected</source>
-        <translation>«%1» es una carpeta y se esperaba un archivo</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is not in the page&apos;s charset, so that browsers look for another name</source>
-        <translation>«%1» no está en el juego de caracteres de la página, por lo que los navegadores buscan otro nombre</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is a file, but &quot;#&quot;, &quot;?&quot;, &quot;%&quot; and &quot;:&quot; have another meaning in an address</source>
-        <translation>«%1» es un archivo, pero «#», «?», «%» y «:» significan otra cosa en una dirección</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is not there</source>
-        <translation>«%1» no existe</translation>
-    </message>
-    <message>
-        <source>%1 pages, first %2, line %3</source>
-        <translation>%1 páginas, la primera %2, línea %3</translation>
-    </message>
-    <message>
-        <source>%1, line %2</source>
-        <translation>%1, línea %2</translation>
-    </message>
-    <message>
         <source>See that what cannot be read is a file, and to its permissions.</source>
         <translation>Compruebe que lo que no se puede leer sea un archivo, y sus permisos.</translation>
     </message>
@@ -80,20 +40,8 @@
         <translation>Guarde como UTF-8 las páginas que están en UTF-16.</translation>
     </message>
     <message>
-        <source>Compile again with the character set that the book titles are in, or with 8.3 file names.</source>
-        <translation>Compile de nuevo con el juego de caracteres de los títulos de los libros, o con nombres de archivo 8.3.</translation>
-    </message>
-    <message>
-        <source>Compile again with 8.3 file names, or with book titles that lack these signs.</source>
-        <translation>Compile de nuevo con nombres de archivo 8.3, o con títulos de libros sin estos signos.</translation>
-    </message>
-    <message>
         <source>Copy the missing pictures into the folder, or choose others.</source>
         <translation>Copie las imágenes que faltan en la carpeta o elija otras.</translation>
-    </message>
-    <message>
-        <source>Compile again; then correct what is still broken in the custom header and footer and in your own pages and style sheets, or put the missing file there.</source>
-        <translation>Compile de nuevo; después corrija lo que siga roto en el encabezado y el pie propios y en sus propias páginas y hojas de estilo, o ponga allí el archivo que falta.</translation>
     </message>
     <message>
         <source>and %1 more</source>
@@ -108,16 +56,148 @@
         <translation>Enlaces que salen de la carpeta y no se siguieron: %1.</translation>
     </message>
     <message>
-        <source>Cannot be read: %1</source>
-        <translation>No se puede leer: %1</translation>
+        <source>Stopped before all pages were read.</source>
+        <translation>Detenido antes de leer todas las páginas.</translation>
     </message>
     <message>
-        <source>Symbolic links to other folders, whose pages were not read: %1</source>
-        <translation>Enlaces simbólicos a otras carpetas, cuyas páginas no se han leído: %1</translation>
+        <source>Reading the site ...</source>
+        <translation>Leyendo el sitio…</translation>
     </message>
     <message>
-        <source>The index does not lead to: %1</source>
-        <translation>El índice no lleva a: %1</translation>
+        <source>Stop</source>
+        <translation>Detener</translation>
+    </message>
+    <message>
+        <source>Remove pages</source>
+        <translation>Borrar páginas</translation>
+    </message>
+    <message>
+        <source>Nothing leads to these %1 pages of Folionet:</source>
+        <translation>Nada lleva a estas %1 páginas de Folionet:</translation>
+    </message>
+    <message>
+        <source>Delete them?</source>
+        <translation>¿Borrarlas?</translation>
+    </message>
+    <message>
+        <source>%1 pages were deleted. Remove them from your server too.</source>
+        <translation>Se han borrado %1 páginas. Quítelas también de su servidor.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not there.</source>
+        <translation>«%1» no está.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not there (%2 pages, this one first).</source>
+        <translation>«%1» no está (%2 páginas, esta la primera).</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is there in another letter case only, %3.</source>
+        <translation>«%1» solo está con otras mayúsculas y minúsculas: %3.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is there in another letter case only, %3 (%2 pages, this one first).</source>
+        <translation>«%1» solo está con otras mayúsculas y minúsculas: %3 (%2 páginas, esta la primera).</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; holds &quot;\&quot;, which no address does.</source>
+        <translation>«%1» contiene «\», que no va en ninguna dirección.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; holds &quot;\&quot;, which no address does (%2 pages, this one first).</source>
+        <translation>«%1» contiene «\», que no va en ninguna dirección (%2 páginas, esta la primera).</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be read.</source>
+        <translation>«%1» no se puede leer.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be read (%2 pages, this one first).</source>
+        <translation>«%1» no se puede leer (%2 páginas, esta la primera).</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a folder without an index.html.</source>
+        <translation>«%1» es una carpeta sin index.html.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a folder without an index.html (%2 pages, this one first).</source>
+        <translation>«%1» es una carpeta sin index.html (%2 páginas, esta la primera).</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a folder, and a file was expected.</source>
+        <translation>«%1» es una carpeta, y se esperaba un archivo.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a folder, and a file was expected (%2 pages, this one first).</source>
+        <translation>«%1» es una carpeta, y se esperaba un archivo (%2 páginas, esta la primera).</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not in the page&apos;s charset, so that browsers look for another name.</source>
+        <translation>«%1» no está en el juego de caracteres de la página, así que los navegadores buscan otro nombre.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not in the page&apos;s charset, so that browsers look for another name (%2 pages, this one first).</source>
+        <translation>«%1» no está en el juego de caracteres de la página, así que los navegadores buscan otro nombre (%2 páginas, esta la primera).</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a file, but &quot;#&quot;, &quot;?&quot;, &quot;%&quot; and &quot;:&quot; have another meaning in an address.</source>
+        <translation>«%1» es un archivo, pero «#», «?», «%» y «:» tienen otro significado en una dirección.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a file, but &quot;#&quot;, &quot;?&quot;, &quot;%&quot; and &quot;:&quot; have another meaning in an address (%2 pages, this one first).</source>
+        <translation>«%1» es un archivo, pero «#», «?», «%» y «:» tienen otro significado en una dirección (%2 páginas, esta la primera).</translation>
+    </message>
+    <message>
+        <source>cannot be read: %1.</source>
+        <translation>no se puede leer: %1.</translation>
+    </message>
+    <message>
+        <source>cannot be read: It is UTF-16.</source>
+        <translation>no se puede leer: está en UTF-16.</translation>
+    </message>
+    <message>
+        <source>a symbolic link to another folder, whose pages were not read: see that the server has it.</source>
+        <translation>un enlace simbólico a otra carpeta, cuyas páginas no se han leído: procure que el servidor la tenga.</translation>
+    </message>
+    <message>
+        <source>no page that %1 leads to links here: left from an earlier compile, or outside the chosen books.</source>
+        <translation>ninguna página a la que lleva %1 enlaza aquí: quedó de una compilación anterior o está fuera de los libros elegidos.</translation>
+    </message>
+    <message>
+        <source>%2 pages, up to %3: no page that %1 leads to links to them: left from an earlier compile, or outside the chosen books.</source>
+        <translation>%2 páginas, hasta %3: ninguna página a la que lleva %1 las enlaza: quedaron de una compilación anterior o están fuera de los libros elegidos.</translation>
+    </message>
+    <message>
+        <source>leads to no chapter.</source>
+        <translation>no lleva a ningún capítulo.</translation>
+    </message>
+    <message>
+        <source>Compile again with the charset that the book titles are in (%1), or with short file names (%2).</source>
+        <translation>Compile de nuevo con el juego de caracteres de los títulos de los libros (%1) o con nombres de archivo cortos (%2).</translation>
+    </message>
+    <message>
+        <source>Compile again with short file names (%1), or with book titles that lack these signs.</source>
+        <translation>Compile de nuevo con nombres de archivo cortos (%1) o con títulos de libros sin estos signos.</translation>
+    </message>
+    <message>
+        <source>See that the starting book stands before the ending book, and that this is the index page; compile again.</source>
+        <translation>Procure que el primer libro esté antes del último y que esta sea la página de índice; compile de nuevo.</translation>
+    </message>
+    <message>
+        <source>Choose all books and compile again, or remove the pages that nothing leads to%1.</source>
+        <translation>Elija todos los libros y compile de nuevo, o quite las páginas a las que nada lleva%1.</translation>
+    </message>
+    <message>
+        <source>Compile into this folder again; then correct what is still broken in the custom header and footer and in your own pages and style sheets, or put the missing file there.</source>
+        <translation>Compile de nuevo en esta carpeta; corrija después lo que aún falte en el encabezado y el pie propios y en sus propias páginas y hojas de estilo, o ponga allí el archivo que falta.</translation>
+    </message>
+    <message>
+        <source>is no page of Folionet, and was not removed.</source>
+        <translation>no es una página de Folionet y no se ha borrado.</translation>
+    </message>
+    <message>
+        <source>cannot be removed: %1.</source>
+        <translation>no se puede borrar: %1.</translation>
     </message>
 </context>
 <context>
@@ -353,7 +433,7 @@
         <translation>Abrir la página índice</translation>
     </message>
     <message>
-        <source>Check site</source>
+        <source>Verify site</source>
         <translation>Comprobar el sitio</translation>
     </message>
     <message>

@@ -2,16 +2,12 @@
 
 #include <algorithm>
 
+#include "Text.h"
+
 namespace folionet {
 namespace {
 
 constexpr std::string_view kBlanks = " \t\r\n\f";
-
-int HexDigit(char c) {
-  if (c >= '0' && c <= '9') return c - '0';
-  const char lower = static_cast<char>(c | 0x20);
-  return lower >= 'a' && lower <= 'f' ? lower - 'a' + 10 : -1;
-}
 
 std::string PercentDecoded(std::string_view text) {
   std::string decoded;
@@ -35,10 +31,7 @@ bool HasScheme(std::string_view link) {
 
 }  // namespace
 
-std::string_view TrimmedAsHtml(std::string_view text) {
-  text.remove_prefix(std::min(text.find_first_not_of(kBlanks), text.size()));
-  return text.substr(0, text.find_last_not_of(kBlanks) + 1);
-}
+std::string_view TrimmedAsHtml(std::string_view text) { return Trimmed(text, kBlanks); }
 
 std::string_view RefreshAddress(std::string_view content) {
   constexpr std::string_view kName = "url";

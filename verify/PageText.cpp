@@ -9,6 +9,7 @@
 
 #include "Addresses.h"
 #include "HtmlReader.h"
+#include "Text.h"
 
 namespace folionet {
 namespace {
@@ -21,13 +22,6 @@ constexpr std::size_t kAlwaysSearched = 1024;
 
 // The character for the byte 0 that does not decode; the others follow it. Nobody else has a use for them.
 constexpr UChar32 kFirstByte = 0x10FE00;
-
-void Append(std::string& text, UChar32 character) {
-  std::array<char, U8_MAX_LENGTH> bytes{};
-  std::size_t length = 0;
-  U8_APPEND_UNSAFE(bytes.data(), length, character);
-  text.append(bytes.data(), length);
-}
 
 // Gives each character of a text with its bytes; a byte that is no UTF-8 is one below 0.
 template <typename Take>
@@ -44,7 +38,7 @@ void ForEachCharacter(std::string_view text, const Take& take) {
 
 // What follows "charset" and "=" in a text such as "text/html; charset=utf-8".
 std::string CharsetInContent(std::string_view content) {
-  const std::string lower = FoldCase(content);
+  const std::string lower = AsciiLower(content);
   std::string_view rest = lower;
   for (std::size_t at = rest.find("charset"); at != std::string_view::npos; at = rest.find("charset")) {
     rest = TrimmedAsHtml(rest.substr(at + 7));
@@ -94,7 +88,8 @@ std::string DecodePage(std::string_view page, const CodePage& codePage) {
     if (character >= 0) {
       text += bytes;
     } else {
-      for (const char byte : bytes) Append(text, kFirstByte + static_cast<unsigned char>(byte));
+      for (const char byte : bytes)
+        AppendUtf8(text, static_cast<char32_t>(kFirstByte) + static_cast<unsigned char>(byte));
     }
   });
   return text;

@@ -82,7 +82,7 @@ _folionet_cli() {
     list) common="translations languages books charsets settings $common" ;;
     check) common+=" --translation --set --json" ;;
     verify)
-      common+=" --index"
+      common+=" --index --stale --remove-stale --json"
       if [[ $word != -* ]]; then
         compopt -o filenames 2> /dev/null
         mapfile -t COMPREPLY < <(compgen -d -- "$word")

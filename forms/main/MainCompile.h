@@ -18,7 +18,4 @@ CompileRequest GatherRequest(const AppState& state, const Ui::frmMain& controls,
 // The path of the index page that a run of this request writes.
 std::string IndexPagePath(const CompileRequest& request);
 
-// Looks through the site of that index page for links that lead nowhere, and tells what was found.
-void ShowSiteReport(const std::string& indexPage, UserInterface& ui);
-
 }  // namespace folionet

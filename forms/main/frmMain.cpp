@@ -18,6 +18,7 @@
 #include "RunGuard.h"
 #include "RunTimeError.h"
 #include "ShownBoxes.h"
+#include "SiteVerifier.h"
 #include "StatusPanels.h"
 #include "StyleOptions.h"
 #include "TrySave.h"
@@ -85,7 +86,7 @@ void frmMain::ConnectCommands() {
   });
   connect(m_ui->cmdCompile, &QPushButton::clicked, this, &frmMain::Compile);
   connect(m_ui->cmdOpenIndex, &QPushButton::clicked, this, &frmMain::OpenIndexPage);
-  connect(m_ui->cmdCheckSite, &QPushButton::clicked, this, &frmMain::CheckWrittenSite);
+  connect(m_ui->cmdVerifySite, &QPushButton::clicked, this, &frmMain::VerifyCompiledSite);
   connect(m_ui->cmdPageTitles, &QPushButton::clicked, this, [this] { Open<frmPAgeTitles>(); });
   connect(m_ui->cmdKeyWords, &QPushButton::clicked, this, [this] { Open<frmKeywords>(); });
   connect(m_ui->cmdEffects, &QPushButton::clicked, this, [this] { Open<frmEffects>(); });
@@ -97,7 +98,7 @@ void frmMain::ConnectCommands() {
   connect(new QShortcut(QKeySequence(Qt::Key_F1), this), &QShortcut::activated, this, &frmMain::ShowHelp);
   // Not the buttons' own shortcuts, which setting their translated texts clears.
   for (const auto& [key, button] : {std::pair{QKeySequence(Qt::CTRL | Qt::Key_O), m_ui->cmdOpenIndex},
-                                    std::pair{QKeySequence(Qt::Key_F8), m_ui->cmdCheckSite}}) {
+                                    std::pair{QKeySequence(Qt::Key_F8), m_ui->cmdVerifySite}}) {
     connect(new QShortcut(key, this), &QShortcut::activated, button, &QPushButton::click);
   }
   connect(m_ui->cmdRestoreAll, &QPushButton::clicked, this, &frmMain::RestoreAll);
@@ -144,15 +145,12 @@ void frmMain::Compile() {
   m_dialogs.Get<frmLinkToMAin>().SetString();
   m_indexPage = IndexPagePath(request);
   m_ui->cmdOpenIndex->setEnabled(true);
-  m_ui->cmdCheckSite->setEnabled(true);
+  m_ui->cmdVerifySite->setEnabled(true);
 }
 
 void frmMain::OpenIndexPage() { m_state.ui.ShowPage(m_indexPage); }
 
-void frmMain::CheckWrittenSite() {
-  const RunGuard guard(*this);
-  ShowSiteReport(m_indexPage, m_state.ui);
-}
+void frmMain::VerifyCompiledSite() { VerifyWrittenSite(m_indexPage, *this, m_state.ui); }
 
 void frmMain::OpenEncoding() {
   Open<frmEncoding>();

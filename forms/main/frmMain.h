@@ -66,7 +66,7 @@ class frmMain : public QMainWindow {
   void OpenEncoding();
   void OpenLinkToMain();
   void OpenIndexPage();
-  void CheckWrittenSite();
+  void VerifyCompiledSite();
   void ShowHelp();
   bool SaveDefaults();
   bool LeavesUnsaved();

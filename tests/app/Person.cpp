@@ -48,7 +48,7 @@ class Person : public QObject {
     for (const QWidget* window : QApplication::topLevelWidgets()) {
       if (m_hasSeenForm || window->objectName() != QLatin1String("frmMain") || !window->isVisible()) continue;
       m_hasSeenForm = true;
-      for (const char* name : {"txtBibleSel", "cmdCheckSite"}) {
+      for (const char* name : {"txtBibleSel", "cmdVerifySite"}) {
         Tell(name, window->findChild<QWidget*>(QLatin1String(name))->property("text").toString());
       }
       Tell("folder:", QDir::currentPath());

@@ -79,33 +79,44 @@ TEST_F(CompileFromForm, ShowsProgressAndThenTheSite) {
   Click("cmdOpenIndex");
   EXPECT_EQ(m_ui.pageShown, m_home.Path() + "site/index.html");
 
-  Click("cmdCheckSite");
-  EXPECT_EQ(m_ui.log.back(), "Check site");
+  Click("cmdVerifySite");
+  EXPECT_EQ(m_ui.log.back(), "Verify site");
   EXPECT_TRUE(m_ui.said.back().ends_with(", broken: 0, not reached: 0.")) << m_ui.said.back();
+  std::filesystem::copy(m_home.Path() + "site/index.html", m_home.Path() + "site/old_1.html");
+  m_ui.yesNo = {true};
+  Click("cmdVerifySite");
+  EXPECT_EQ(m_ui.said[m_ui.said.size() - 2],
+            "Nothing leads to these 1 pages of Folionet:\r\nold_1.html\r\nDelete them?");
+  EXPECT_EQ(m_ui.said.back(), "1 pages were deleted. Remove them from your server too.");
+  EXPECT_FALSE(std::filesystem::exists(m_home.Path() + "site/old_1.html"));
   Remove("site/default.css");
-  for (int i = 10; i < 22; ++i) {
-    m_home.Write("site/old" + std::to_string(i) + ".html", "<img src=default.css><img src=default.css>");
+  for (int i = 1; i < 13; ++i) {
+    m_home.Write("site/old_" + std::to_string(i) + ".html", "<img src=default.css><img src=default.css>");
   }
   m_home.Write("site/a.html", "\n<a href=\"none.html\"><img src=b.gif><a href=\"../x\">");
   m_home.Write("site/b.html", "\xFF\xFE");
-  Click("cmdCheckSite");
+  Click("cmdVerifySite");
   EXPECT_EQ(
       m_ui.said.back().substr(m_ui.said.back().find(", broken")),
       ", broken: 26, not reached: 14.\r\n"
       "Links that lead out of the folder and were not followed: 1.\r\n"
-      "\"default.css\" is not there (12 pages, first old10.html, line 1)\r\n"
-      "\"none.html\" is not there (a.html, line 2)\r\n"
-      "\"b.gif\" is not there (a.html, line 2)\r\n"
-      "Cannot be read: b.html (UTF-16)\r\n"
-      "The index does not lead to: a.html, b.html, old10.html, old11.html, old12.html, old13.html, old14.html, "
-      "old15.html, old16.html, old17.html, and 4 more\r\n\r\n"
+      "old_1.html:1: \"default.css\" is not there (12 pages, this one first).\r\n"
+      "a.html:2: \"none.html\" is not there.\r\n"
+      "a.html:2: \"b.gif\" is not there.\r\n"
+      "b.html: cannot be read: It is UTF-16.\r\n"
+      "a.html: no page that index.html leads to links here: left from an earlier compile, or outside the chosen "
+      "books.\r\n"
+      "b.html: no page that index.html leads to links here: left from an earlier compile, or outside the chosen "
+      "books.\r\n"
+      "old_1.html: 12 pages, up to old_12.html: no page that index.html leads to links to them: left from an earlier "
+      "compile, or outside the chosen books.\r\n\r\n"
       "Save the pages in UTF-16 as UTF-8.\r\n"
       "Copy the missing pictures into the folder, or choose others.\r\n"
-      "Compile again; then correct what is still broken in the custom header and footer and in your own pages and "
-      "style sheets, or put the missing file there.");
+      "Compile into this folder again; then correct what is still broken in the custom header and footer and in your "
+      "own pages and style sheets, or put the missing file there.");
   Remove("site/index.html");
-  Click("cmdCheckSite");
-  EXPECT_EQ(m_ui.log.back(), "53 cmdCheckSite_Click");
+  Click("cmdVerifySite");
+  EXPECT_EQ(m_ui.log.back(), "53 cmdVerifySite_Click");
 }
 
 // The keys of the two buttons, which setting their texts must not clear, do nothing before there is a site.
@@ -123,7 +134,7 @@ TEST_F(CompileFromForm, KeysShowTheSiteThatWasCompiled) {
   Click("cmdCompile");
   pressKeys();
   EXPECT_EQ(m_ui.pageShown, m_home.Path() + "site/index.html");
-  EXPECT_EQ(m_ui.log, (Log{"Compilation Complete Folionet", "Check site"}));
+  EXPECT_EQ(m_ui.log, (Log{"Compilation Complete Folionet", "Verify site"}));
 }
 
 // During a run, clicks and keys go nowhere, not even later, and the form does not close.

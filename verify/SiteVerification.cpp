@@ -1,4 +1,4 @@
-#include "SiteCheck.h"
+#include "SiteVerification.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -13,10 +13,12 @@
 #include "Addresses.h"
 #include "CodePage.h"
 #include "FolderLister.h"
+#include "GeneratorLine.h"
 #include "PageLinks.h"
 #include "PageText.h"
 #include "Paths.h"
 #include "RunTimeError.h"
+#include "SiteFindings.h"
 #include "StyleLinks.h"
 #include "WholeFile.h"
 
@@ -56,24 +58,26 @@ std::optional<std::string> PathInFolder(std::string_view target) {
   return isFolder ? path + "/" : path;
 }
 
-class SiteChecker {
+class SiteReader {
  public:
-  explicit SiteChecker(const std::string& folder) : m_folder(WithSeparator(NativePath(folder))) {
+  explicit SiteReader(const SiteRequest& request)
+      : m_request(request), m_folder(WithSeparator(NativePath(request.folder))), m_findings(request.words) {
     for (std::string& name : ListFolder(m_folder)) m_names.insert(std::move(name));
   }
 
-  SiteReport Check(const std::string& indexName) {
-    if (!m_names.contains(indexName)) {
-      throw RunTimeError(kFileNotFound, m_folder + indexName, "There is no such index page.");
-    }
-    m_indexName = indexName;
+  SiteReport Read() {
+    const std::string& index = m_request.indexName;
+    if (!m_names.contains(index)) throw RunTimeError(kFileNotFound, m_folder + index, "There is no such index page.");
     for (const std::string& name : m_names) {
       if (IsHtmlName(name) && !FolderExists(m_folder + name) && m_taken.insert(name).second) m_waiting.push_back(name);
     }
     ReadWaiting();
-    FindUnreachable();
-    std::stable_sort(m_report.broken.begin(), m_report.broken.end(),
+    std::stable_sort(m_broken.begin(), m_broken.end(),
                      [](const BrokenTarget& a, const BrokenTarget& b) { return a.pages > b.pages; });
+    for (const BrokenTarget& broken : m_broken) m_findings.AddBroken(broken);
+    TellUnread();
+    if (m_report.isWhole) FindUnreached();
+    m_findings.MoveTo(m_report);
     return std::move(m_report);
   }
 
@@ -102,7 +106,11 @@ class SiteChecker {
   };
 
   void ReadWaiting() {
-    while (m_read < m_waiting.size()) ReadFile(std::string(m_waiting[m_read++]));
+    while (m_read < m_waiting.size()) {
+      m_report.isWhole = !m_request.goOn || m_request.goOn(m_read, m_waiting.size());
+      if (!m_report.isWhole) return;
+      ReadFile(std::string(m_waiting[m_read++]));
+    }
   }
 
   void ReadFile(const std::string& path) {
@@ -110,15 +118,18 @@ class SiteChecker {
     try {
       bytes = ReadWholeFile(m_folder + path);
     } catch (const RunTimeError& error) {
-      if (path == m_indexName) throw;
-      m_report.unread.push_back({path, std::string(StandardMessage(error.Number()))});
+      if (path == m_request.indexName) throw;
+      m_unread.emplace_back(path, StandardMessage(error.Number()));
     }
     if (IsUtf16(bytes)) {
-      m_report.unread.push_back({path, "It is UTF-16", true});
+      m_unread.emplace_back(path, std::string());
       bytes.clear();
     }
     if (IsHtmlName(path)) {
       ++m_report.pages;
+      std::error_code error;
+      const bool isOurs = IsOurPage(std::string_view(bytes).substr(0, kGeneratorHead));
+      if (isOurs && !std::filesystem::is_symlink(m_folder + path, error)) m_ours.insert(path);
       FollowPage({path, m_linked[path]}, bytes);
     } else {
       const CodePage codePage(IsUtf8(bytes) ? "utf-8" : "windows-1252");
@@ -214,13 +225,13 @@ class SiteChecker {
     const std::string target = LocalTarget(address.text);
     const std::string path = source.base.value_or("") + (target.empty() ? std::string(address.text) : target);
     const auto [known, isNew] =
-        m_broken.try_emplace({PathInFolder(path).value_or(path), fault}, m_report.broken.size(), std::string());
+        m_known.try_emplace({PathInFolder(path).value_or(path), fault}, m_broken.size(), std::string());
     auto& [at, lastPage] = known->second;
     if (isNew) {
-      m_report.broken.push_back({std::string(address.text), fault, goal.otherCase, !address.isPage && !IsSheet(path),
-                                 source.path, address.line});
+      m_broken.push_back({std::string(address.text), fault, goal.otherCase, !address.isPage && !IsSheet(path),
+                          source.path, address.line});
     }
-    if (isNew || lastPage != source.path) ++m_report.broken[at].pages;
+    if (isNew || lastPage != source.path) ++m_broken[at].pages;
     lastPage = source.path;
     if (!goal.file.empty()) source.linked.insert(goal.file);
   }
@@ -263,16 +274,31 @@ class SiteChecker {
       std::error_code error;
       const std::string folder = path.substr(0, slash);
       if (!std::filesystem::is_symlink(m_folder + folder, error)) continue;
-      auto& named = m_report.linkedFolders;
-      if (std::find(named.begin(), named.end(), folder) == named.end()) named.push_back(folder);
+      if (std::find(m_linkedFolders.begin(), m_linkedFolders.end(), folder) == m_linkedFolders.end()) {
+        m_linkedFolders.push_back(folder);
+      }
       return true;
     }
     return false;
   }
 
-  void FindUnreachable() {
-    std::set<std::string> reached{m_indexName};
-    std::vector<std::string> waiting{m_indexName};
+  void TellUnread() {
+    for (const auto& [file, why] : m_unread) {
+      if (why.empty()) {
+        m_findings.AddUtf16(file);
+      } else {
+        m_findings.AddUnread(file, why);
+      }
+    }
+    for (const std::string& link : m_linkedFolders) m_findings.AddLinkedFolder(link);
+    m_report.isSound = m_broken.empty() && m_unread.empty();
+    m_report.isStaleCertain = m_unread.empty() && m_linkedFolders.empty();
+  }
+
+  void FindUnreached() {
+    const std::string& index = m_request.indexName;
+    std::set<std::string> reached{index};
+    std::vector<std::string> waiting{index};
     while (!waiting.empty()) {
       const std::string page = std::move(waiting.back());
       waiting.pop_back();
@@ -280,22 +306,40 @@ class SiteChecker {
         if (m_linked.contains(target) && reached.insert(target).second) waiting.push_back(target);
       }
     }
+    std::size_t chapters = 0;
     for (const auto& [page, links] : m_linked) {
-      if (IsHtmlName(page) && !reached.contains(page)) m_report.unreachable.push_back(page);
+      const bool isOurs = m_ours.contains(page);
+      if (reached.contains(page)) {
+        if (isOurs && page != index) ++chapters;
+      } else if (IsHtmlName(page)) {
+        m_report.unreached.push_back(page);
+        if (isOurs) m_report.stale.push_back(page);
+      }
     }
+    if (chapters == 0 && !m_report.stale.empty()) {
+      m_report.isStaleCertain = false;
+      m_findings.AddEmptyIndex(index);
+    }
+    m_findings.AddUnreached(m_report.unreached, index);
+    if (!m_report.stale.empty()) m_findings.OfferRemoval();
   }
 
+  const SiteRequest& m_request;
   std::string m_folder;
   FolderLister m_lister;
-  std::string m_indexName;
   std::set<std::string> m_names;
   std::unordered_map<std::string, Goal> m_goals;          // of each path that a link has
   std::vector<std::string> m_waiting;                     // the pages and style sheets to read, in their order
   std::size_t m_read = 0;                                 // how many of them have been read
   std::set<std::string> m_taken;                          // those that are in m_waiting
   std::map<std::string, std::set<std::string>> m_linked;  // the files of the site that each of them names
-  // Of each path and fault: its place in the report, and the last page that has it.
-  std::map<std::pair<std::string, LinkFault>, std::pair<std::size_t, std::string>> m_broken;
+  std::set<std::string> m_ours;                           // the pages that a compile has written
+  std::vector<BrokenTarget> m_broken;
+  // Of each path and fault: its place among those, and the last page that has it.
+  std::map<std::pair<std::string, LinkFault>, std::pair<std::size_t, std::string>> m_known;
+  std::vector<std::pair<std::string, std::string>> m_unread;  // files, and why; no reason for pages in UTF-16
+  std::vector<std::string> m_linkedFolders;                   // symbolic links, whose pages are not read
+  SiteFindings m_findings;
   SiteReport m_report;
 };
 
@@ -303,9 +347,7 @@ class SiteChecker {
 
 bool IsHtmlName(std::string_view name) { return HasExtension(name, ".html") || HasExtension(name, ".htm"); }
 
-SiteReport CheckSite(const std::string& folder, const std::string& indexName) {
-  return SiteChecker(folder).Check(indexName);
-}
+SiteReport VerifySite(const SiteRequest& request) { return SiteReader(request).Read(); }
 
 std::string FindIndexPage(const std::string& folder) {
   for (const char* name : {"index.html", "index.htm"}) {

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "Finding.h"
+
+namespace folionet {
+
+// What became of pages that were to be removed.
+struct RemovedPages {
+  std::vector<std::string> removed;
+  std::vector<Finding> kept;  // why the others are still there
+};
+
+// Deletes pages, given by their paths from a folder, each looked at once more: a file that is no page of a compile is
+// never deleted, nor anything behind a symbolic link. Throws RunTimeError when the folder cannot be opened, and
+// kPermissionDenied while a compile writes into it.
+RemovedPages RemovePages(const std::string& folder, const std::vector<std::string>& pages);
+
+}  // namespace folionet

@@ -1,7 +1,10 @@
 #include "CompileCommand.h"
 
+#include <csignal>
+#include <cstdio>
 #include <cstring>
 
+#include "ChangeJournal.h"
 #include "ChapterIndex.h"
 #include "Compile.h"
 #include "CustomHtml.h"
@@ -12,6 +15,7 @@
 #include "RunFacts.h"
 #include "RunTimeError.h"
 #include "Sitemap.h"
+#include "StopSignals.h"
 
 namespace folionet {
 namespace {
@@ -66,6 +70,8 @@ const char* KindText(RunFactKind kind) {
       return "removes-pages";
     case RunFactKind::kIndexTakesPage:
       return "index-takes-page";
+    case RunFactKind::kOtherTranslation:
+      return "other-translation";
     case RunFactKind::kPagesMeet:
       break;
   }
@@ -79,6 +85,8 @@ Sentence RemedyOf(const RunFact& fact) {
       return {"Give the books in their order with --start-book and --end-book."};
     case RunFactKind::kIndexTakesPage:
       return {"Give it a name of its own with --index-address."};
+    case RunFactKind::kOtherTranslation:
+      return {"Pages of the same names are written over; choose another folder with --output if that is not meant."};
     case RunFactKind::kPagesMeet:
       return {"Give other titles with --language-file, or short names: --set \"%1=%2\".",
               {fact.remedy.key, fact.remedy.value}};
@@ -112,6 +120,17 @@ void PrintPlan(const char* state, const std::vector<std::string>& names, Console
   }
 }
 
+// A person's files that were in the place of pages.
+void TellKept(const std::vector<std::string>& names, ConsoleUi& ui) {
+  constexpr std::size_t kShown = 10;
+  for (std::size_t i = 0; i < names.size() && i < kShown; ++i) {
+    ui.Tell(names[i] + " was not made by Folionet: it is kept as " + KeptName(names[i]) + ".");
+  }
+  if (names.size() > kShown) {
+    ui.Tell(std::to_string(names.size() - kShown) + " more files were kept in the same way.");
+  }
+}
+
 // What the run did, or would do, as the arguments ask for it.
 void PrintChanges(const CompileArguments& arguments, const SiteChanges& changes, ConsoleUi& ui) {
   if (arguments.dryRun) {
@@ -119,14 +138,25 @@ void PrintChanges(const CompileArguments& arguments, const SiteChanges& changes,
     PrintPlan("changed", changes.Changed(), ui);
     PrintPlan("same", changes.Same(), ui);
     PrintPlan("removed", changes.Removed(), ui);
+    for (const std::string& name : changes.Kept()) PrintPlan("kept", {KeptName(name)}, ui);
     ui.Sum(std::to_string(changes.New().size()) + " new, " + std::to_string(changes.Changed().size()) + " changed, " +
                std::to_string(changes.Same().size()) + " the same, " + std::to_string(changes.Removed().size()) +
                " removed. Nothing was written.",
            false);
-  } else if (arguments.listChanged) {
-    for (const std::string& name : changes.New()) ui.Print(name);
-    for (const std::string& name : changes.Changed()) ui.Print(name);
+    return;
   }
+  TellKept(changes.Kept(), ui);
+  if (!arguments.listChanged) return;
+  for (const std::string& name : changes.New()) ui.Print(name);
+  for (const std::string& name : changes.Changed()) ui.Print(name);
+  for (const std::string& name : changes.pending) ui.Print(name);
+  if (!changes.trouble.empty()) ui.Tell("Warning: a list that is lost cannot be told again: " + changes.trouble);
+}
+
+// The run was broken off by a person, or by a machine that is shut down.
+ExitStatus EndStopped(ConsoleUi& ui) {
+  ui.Tell("Stopped: the page at hand was finished, the others are as they were. Compile again.");
+  return StopSignal() == SIGINT ? kExitInterrupted : kExitTerminated;
 }
 
 void RefuseOtherThanFolders(const std::string& sitemap) {
@@ -180,22 +210,31 @@ ExitStatus RunCompile(const CommonOptions& common, const CompileArguments& argum
   request.texts.BodyLinkTag = effects.BodyLinkTag;
 
   SiteChanges changes;
-  if (arguments.dryRun || arguments.listChanged) request.changes = &changes;
+  request.changes = &changes;
+  request.stateFolder = UserStateFolder();
+  request.listsChanges = arguments.listChanged && !arguments.dryRun;
+  request.isStopped = [] { return StopSignal() != 0; };
   request.sitemapAddress = arguments.sitemap;
   request.dryRun = arguments.dryRun;
   if (request.cboBibleName >= 0) TellFacts(FindRunFacts(request, session.glob), arguments.dryRun, ui);
-  switch (cmdCompile_Click(request, session.glob, session.ui)) {
+  NoteStopSignals();
+  const CompileOutcome outcome = cmdCompile_Click(request, session.glob, session.ui);
+  // What has changed by the time of a failure is to be uploaded all the same: the next run finds it as it should be.
+  if (outcome == CompileOutcome::kDone || !arguments.dryRun) PrintChanges(arguments, changes, ui);
+  if (request.listsChanges && changes.knowsPending && std::fflush(stdout) == 0) {
+    ChangesDelivered(request.stateFolder, request.txtOutputPath);
+  }
+  switch (outcome) {
     case CompileOutcome::kDone:
-      PrintChanges(arguments, changes, ui);
       return ui.Done();
+    case CompileOutcome::kStopped:
+      return EndStopped(ui);
     case CompileOutcome::kRefused:
       return kExitRefused;
     case CompileOutcome::kFailed:
     case CompileOutcome::kEndProgram:
       break;
   }
-  // What has changed by then is to be uploaded all the same: the next run finds it as it should be.
-  if (!arguments.dryRun) PrintChanges(arguments, changes, ui);
   return kExitFailed;
 }
 

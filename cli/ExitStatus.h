@@ -7,7 +7,14 @@
 namespace folionet {
 
 // The exit statuses of folionet-cli.
-enum ExitStatus { kExitDone = 0, kExitRefused = 1, kExitUsage = 2, kExitFailed = 3 };
+enum ExitStatus {
+  kExitDone = 0,
+  kExitRefused = 1,
+  kExitUsage = 2,
+  kExitFailed = 3,
+  kExitInterrupted = 130,  // by SIGINT
+  kExitTerminated = 143    // by SIGTERM or SIGHUP
+};
 
 // Ends the command with an exit status; what there is to say has been said.
 class ExitWith : public std::exception {

@@ -2,8 +2,11 @@
 
 #include <algorithm>
 #include <array>
+#include <ctime>
+#include <exception>
 #include <new>
 #include <optional>
+#include <set>
 #include <string>
 #include <utility>
 #include <vector>
@@ -26,11 +29,16 @@
 namespace folionet {
 namespace {
 
+// Ends a run that a person broke off.
+class Stopped : public std::exception {};
+
 // One compile run, from the first page to the counts.
 class CompileRun {
  public:
-  CompileRun(const CompileRequest& request, const CodePage& codePage, ModGlob& glob, UserInterface& ui)
+  CompileRun(const CompileRequest& request, const CodePage& codePage, ModGlob& glob, UserInterface& ui,
+             RunFolder& folder)
       : m_request(request),
+        m_folder(folder),
         m_codePage(codePage),
         m_glob(glob),
         m_ui(ui),
@@ -45,7 +53,7 @@ class CompileRun {
   void Prepare() {
     static_cast<PageTexts&>(m_context) = EncodePageTexts(m_request.texts, m_codePage);
     m_context.OutputFolder = m_request.txtOutputPath;
-    m_context.PageFile.SetDryRun(m_request.dryRun);
+    m_context.PageFile.WriteInto(m_folder.site);
     m_context.StyleSheetLink = R"(<link rel="STYLESHEET" type="text/css" href="default.css">)";
     const auto link = SetString(m_options, m_counts, m_ui);
     if (!link) throw AlreadyReported();
@@ -94,7 +102,7 @@ class CompileRun {
   }
 
   void TellCounts() {
-    const std::int16_t removed = CleanUp(m_request, m_inputs);
+    const std::int16_t removed = CleanUp(m_request, m_inputs, m_folder);
     m_ui.ShowMessage({MessageIcon::kInformation, std::string("Compilation Complete ") + kApplicationTitle,
                       "Compilation Complete!\r\n" + std::to_string(m_context.PagesCreated) +
                           " HTML pages created.\r\n" + std::to_string(removed) + " pages removed\r\nRemaining pages " +
@@ -176,19 +184,28 @@ class CompileRun {
     Note(m_startName, m_context.PageFile.Close());
   }
 
-  void Note(const std::string& name, PageChange change) const {
-    if (m_request.changes != nullptr) m_request.changes->Written(name, change);
+  // A page that is written is whole; only between two of them a run ends before its time.
+  void Note(const std::string& name, PageChange change) {
+    NoteWritten(m_request, m_folder, name, change);
+    if (m_request.dryRun && change != PageChange::kSame) m_planned.insert(name);
+    if (m_request.isStopped && m_request.isStopped()) throw Stopped();
+  }
+
+  // Of a plan, the pages that it would write are as of now.
+  SitemapPage PageOfSitemap(std::string name) const {
+    const std::time_t change = m_planned.contains(name) ? std::time(nullptr) : m_folder.site.LastChange(name);
+    return {std::move(name), change};
   }
 
   void WriteSitemap() const {
-    std::vector<std::string> names{m_indexFileName};
+    std::vector<SitemapPage> pages{PageOfSitemap(m_indexFileName)};
     for (int book = m_request.cboStartBook + 1; book <= m_request.cboEndBook + 1; ++book) {
       for (int chapter = 1; chapter <= ChaptersOf(m_inputs, book); ++chapter) {
         std::string name = m_names.OnDisk(book, chapter);
-        if (name != m_indexFileName) names.push_back(std::move(name));
+        if (name != m_indexFileName) pages.push_back(PageOfSitemap(std::move(name)));
       }
     }
-    WriteOtherFile(m_request, "sitemap.xml", BuildSitemap(m_request.sitemapAddress, names));
+    WriteOtherFile(m_request, m_folder, "sitemap.xml", BuildSitemap(m_request.sitemapAddress, pages));
   }
 
   void OpenChapter(int book, std::int16_t chapter, std::string_view chapterText) {
@@ -204,6 +221,7 @@ class CompileRun {
   }
 
   const CompileRequest& m_request;
+  RunFolder& m_folder;
   const CodePage& m_codePage;
   ModGlob& m_glob;
   UserInterface& m_ui;
@@ -221,11 +239,13 @@ class CompileRun {
   bool m_holdsStartPage = false;
   std::optional<std::string> m_startPage;
   std::string m_startName;
-  bool m_isLeavingPage = false;  // the verse at hand is of the page that comes
+  bool m_isLeavingPage = false;     // the verse at hand is of the page that comes
+  std::set<std::string> m_planned;  // the pages that a plan would write
 };
 
-CompileOutcome Run(const CompileRequest& request, ModGlob& glob, UserInterface& ui, std::string& lastValues) {
-  if (request.options.chkCSS) CopyCSS(request);
+CompileOutcome Run(const CompileRequest& request, ModGlob& glob, UserInterface& ui, RunFolder& folder,
+                   std::string& lastValues) {
+  if (request.options.chkCSS) CopyCSS(request, folder);
   if (const auto refusal = Validate(request)) {
     ui.ShowMessage(refusal->message);
     ui.FocusControl(refusal->control);
@@ -240,12 +260,10 @@ CompileOutcome Run(const CompileRequest& request, ModGlob& glob, UserInterface& 
   if (counted != Outcome::kDone) {
     return counted == Outcome::kEndProgram ? CompileOutcome::kEndProgram : CompileOutcome::kFailed;
   }
-  CompileRun run(request, codePage, glob, ui);
-  FileHandle lock;
+  CompileRun run(request, codePage, glob, ui, folder);
   try {
     run.Prepare();
-    MakeOutputFolder(request);
-    lock = LockOutputFolder(request);
+    OpenOutputFolder(request, folder);
     run.WriteChapters();
     run.WriteIndex();
   } catch (const RunTimeError&) {
@@ -261,16 +279,21 @@ CompileOutcome Run(const CompileRequest& request, ModGlob& glob, UserInterface& 
 CompileOutcome cmdCompile_Click(const CompileRequest& request, ModGlob& glob, UserInterface& ui) {
   constexpr char kLabel[] = "cmdCompile_Click";
   std::string lastValues = "INDEX: \r\nSL: \r\nSR: ";
+  RunFolder folder;
+  CompileOutcome outcome = CompileOutcome::kFailed;
   try {
-    return Run(request, glob, ui, lastValues);
+    outcome = Run(request, glob, ui, folder, lastValues);
+  } catch (const Stopped&) {
+    outcome = CompileOutcome::kStopped;
   } catch (const RunTimeError& error) {
     ui.ShowErrorReport(error.Number(), kLabel, lastValues + "\r\n" + error.Extra());
   } catch (const AlreadyReported&) {
-    return CompileOutcome::kFailed;
+    outcome = CompileOutcome::kFailed;  // and has been told
   } catch (const std::bad_alloc&) {
     ui.ShowErrorReport(kOutOfMemory, kLabel, lastValues);
   }
-  return CompileOutcome::kFailed;
+  EndRun(request, folder, outcome == CompileOutcome::kDone);
+  return outcome;
 }
 
 }  // namespace folionet

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 
 #include "CompileContext.h"
@@ -24,6 +25,13 @@ struct CompileRequest {
   std::string sitemapAddress;      // the output folder's public address; empty for no sitemap.xml
   bool dryRun = false;             // nothing is written or deleted; the counts are told all the same
   SiteChanges* changes = nullptr;  // where what became of each file is noted, if anywhere
+
+  // Where is kept what runs change that do not come to their end (ChangeJournal); empty for nowhere. With
+  // `listsChanges` that holds for this run too, until ChangesDelivered says that its list has been told.
+  std::string stateFolder;
+  bool listsChanges = false;
+
+  std::function<bool()> isStopped;  // asked after each page: whether the run is to end there; may be empty
 };
 
 }  // namespace folionet

@@ -120,11 +120,10 @@ std::set<std::string> FilesOfSite(const CompileRequest& request, const ModGlob& 
   return files;
 }
 
-std::string TranslationOfSite(const CompileRequest& request, const ModGlob& glob, const CodePage& codePage) {
+std::string TranslationOfSite(const CompileRequest& request, const PageNames& names) {
   const FileHandle folder =
       FileHandle::Open(NativePath(request.txtOutputPath).c_str(), O_RDONLY | O_DIRECTORY | O_NONBLOCK);
   if (!folder.IsOpen()) return {};
-  const PageNames names(glob.cboStartBook, request.options.chkUse83, codePage);
   for (const std::string& name :
        {IndexFileName(request.options.txthttpRoot), names.OnDisk(request.cboStartBook + 1, 1)}) {
     if (name.empty() || name.find('/') != std::string::npos) continue;

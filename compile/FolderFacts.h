@@ -9,6 +9,7 @@
 
 #include "CodePage.h"
 #include "CompileRequest.h"
+#include "PageNames.h"
 #include "modGlob.h"
 
 namespace folionet {
@@ -34,6 +35,6 @@ std::set<std::string> FilesOfSite(const CompileRequest& request, const ModGlob& 
 
 // The translation whose pages lie in the output folder of a request, as its index page, or else the page of its start
 // book, tells it (UTF-8); empty where neither does. Takes no time to speak of.
-std::string TranslationOfSite(const CompileRequest& request, const ModGlob& glob, const CodePage& codePage);
+std::string TranslationOfSite(const CompileRequest& request, const PageNames& names);
 
 }  // namespace folionet

@@ -1,8 +1,5 @@
 #include "OutputFolder.h"
 
-#include <sys/file.h>
-#include <unistd.h>
-
 #include <cerrno>
 #include <filesystem>
 #include <string_view>
@@ -20,15 +17,14 @@ namespace {
 
 constexpr char kStyleSheet[] = "default.css";
 
-void Remove(const CompileRequest& request, const std::string& name) {
-  const std::string path = NativePath(request.txtOutputPath) + name;
-  const bool wasThere = request.dryRun ? FileExists(path) : unlink(path.c_str()) == 0;
-  if (request.changes != nullptr) request.changes->Removed(name, wasThere);
+void Remove(const CompileRequest& request, RunFolder& folder, const std::string& name) {
+  const Removal removal = folder.site.Remove(name);
+  if (request.changes == nullptr) return;
+  request.changes->Removed(name, removal);
+  if (folder.site.HasKeptOld()) request.changes->Kept(name);
 }
 
 bool IsFolderChosen(const CompileRequest& request) { return request.txtOutputPath != "txtOutputPath"; }
-
-}  // namespace
 
 void MakeOutputFolder(const CompileRequest& request) {
   if (!request.makeOutputFolder || !IsFolderChosen(request) || request.dryRun) return;
@@ -39,48 +35,59 @@ void MakeOutputFolder(const CompileRequest& request) {
   if (!FolderExists(folder)) throw RunTimeError::FromErrno(error ? error.value() : ENOTDIR, folder);
 }
 
-FileHandle LockOutputFolder(const CompileRequest& request) {
-  if (request.dryRun) return {};
-  const std::string folder = NativePath(request.txtOutputPath);
-  FileHandle handle = FileHandle::Open(folder.c_str(), O_RDONLY | O_DIRECTORY);
-  // A file system that knows no locks is let pass; so is a folder that cannot be opened, which the first page tells.
-  if (handle.IsOpen() && flock(handle.Get(), LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK) {
-    throw RunTimeError(kPermissionDenied, folder,
-                       "Another compile is writing into this folder. Wait for it to end, or choose another folder.");
-  }
-  return handle;
+}  // namespace
+
+void OpenOutputFolder(const CompileRequest& request, RunFolder& folder) {
+  if (folder.site.IsOpen()) return;
+  MakeOutputFolder(request);
+  folder.site.Open(request.txtOutputPath, request.dryRun);
+  folder.site.Lock();
+  folder.journal.emplace(request.stateFolder, folder.site.Path());
+  folder.site.SetWatch(&*folder.journal);
 }
 
-void CopyCSS(const CompileRequest& request) {
+void EndRun(const CompileRequest& request, RunFolder& folder, bool isDone) {
+  if (!folder.journal) return;
+  if (request.changes != nullptr) {
+    request.changes->knowsPending = true;
+    request.changes->trouble = folder.journal->Trouble();
+    for (const std::string& name : folder.journal->Pending()) {
+      if (!request.changes->IsTold(name) && folder.site.Has(name)) request.changes->pending.push_back(name);
+    }
+  }
+  if (isDone && !request.listsChanges) folder.journal->Forget();
+}
+
+void CopyCSS(const CompileRequest& request, RunFolder& folder) {
   if (!IsFolderChosen(request)) return;
   const std::string source = request.programFolder + kStyleSheet;
   const std::string content = ReadWholeFile(source);
-  MakeOutputFolder(request);
-  const FileHandle lock = LockOutputFolder(request);
-  const std::string target = NativePath(request.txtOutputPath) + kStyleSheet;
-  std::error_code error;
-  if (std::filesystem::equivalent(source, target, error) && !error) {
-    throw RunTimeError(kFileAlreadyOpen, target, "The output folder is the program's own folder. Choose another one.");
+  OpenOutputFolder(request, folder);
+  if (folder.site.IsSameFile(kStyleSheet, source)) {
+    throw RunTimeError(kFileAlreadyOpen, folder.site.Path() + kStyleSheet,
+                       "The output folder is the program's own folder. Choose another one.");
   }
-  WriteOtherFile(request, kStyleSheet, content + "\r\n");
+  WriteOtherFile(request, folder, kStyleSheet, content + "\r\n");
 }
 
-void WriteOtherFile(const CompileRequest& request, const std::string& name, std::string_view bytes) {
-  PageFile file;
-  file.SetDryRun(request.dryRun);
-  file.Open(request.txtOutputPath, name);
-  file.Add(bytes);
-  const PageChange change = file.Close();
-  if (request.changes != nullptr) request.changes->Written(name, change);
+void NoteWritten(const CompileRequest& request, const RunFolder& folder, const std::string& name, PageChange change) {
+  if (request.changes == nullptr) return;
+  request.changes->Written(name, change);
+  if (folder.site.HasKeptOld()) request.changes->Kept(name);
 }
 
-std::int16_t CleanUp(const CompileRequest& request, const PageInputs& inputs) {
+void WriteOtherFile(const CompileRequest& request, RunFolder& folder, const std::string& name, std::string_view bytes) {
+  const PageChange change = folder.site.Write(name, bytes);
+  NoteWritten(request, folder, name, change);
+}
+
+std::int16_t CleanUp(const CompileRequest& request, const PageInputs& inputs, RunFolder& folder) {
   int removed = 0;
   for (int book = 1; book <= request.cboStartBook; ++book) {
     const int chapters = ChaptersOf(inputs, book);
     for (int chapter = 1; chapter <= chapters; ++chapter) {
       const std::string name = inputs.names.OnDisk(book, chapter);
-      if (IsPageName(name)) Remove(request, name);
+      if (IsPageName(name)) Remove(request, folder, name);
       if (removed < kInt16Max) ++removed;
       inputs.ui.SetPanel(1, "Removing extra HTML .. " + name);
     }

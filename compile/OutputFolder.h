@@ -1,31 +1,43 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
+#include "ChangeJournal.h"
 #include "CompileContext.h"
 #include "CompileRequest.h"
-#include "FileHandle.h"
 #include "PageInputs.h"
+#include "SiteFolder.h"
 
 namespace folionet {
 
-// Makes the request's output folder, parents included, when it is missing and the request says so. Throws RunTimeError.
-void MakeOutputFolder(const CompileRequest& request);
+// The output folder of a run.
+struct RunFolder {
+  SiteFolder site;
+  std::optional<ChangeJournal> journal;  // of an open folder
+};
 
-// Holds the output folder for one run, so that no two compiles mix their pages: a second one is kPermissionDenied for
-// as long as the handle is open. Nothing is held for a dry run or for a folder that is not there. Throws RunTimeError.
-FileHandle LockOutputFolder(const CompileRequest& request);
+// Opens the request's output folder for the run, unless it is open: makes it, parents included, when it is missing and
+// the request says so, and keeps it for this run alone, so that no two compiles mix their pages. Throws RunTimeError.
+void OpenOutputFolder(const CompileRequest& request, RunFolder& folder);
 
 // Writes a copy of the program folder's default.css, with one further CR LF, into the output folder. With no folder
 // chosen yet nothing is done. Throws RunTimeError; kFileAlreadyOpen when both are the same file.
-void CopyCSS(const CompileRequest& request);
+void CopyCSS(const CompileRequest& request, RunFolder& folder);
 
-// Writes a file that is no page into the output folder, in the manner of pages. Throws RunTimeError.
-void WriteOtherFile(const CompileRequest& request, const std::string& name, std::string_view bytes);
+// Writes a file that is no page into the open folder, in the manner of pages. Throws RunTimeError.
+void WriteOtherFile(const CompileRequest& request, RunFolder& folder, const std::string& name, std::string_view bytes);
+
+// To be called when the run has ended: hands on what earlier runs left to tell, and has this one's changes told later
+// unless they need not be.
+void EndRun(const CompileRequest& request, RunFolder& folder, bool isDone);
+
+// Notes what became of a file, where the request says so.
+void NoteWritten(const CompileRequest& request, const RunFolder& folder, const std::string& name, PageChange change);
 
 // Deletes the pages of the books before the start book. Gives the number of deletions tried, which counts pages that
 // were not there; every failure is passed over.
-std::int16_t CleanUp(const CompileRequest& request, const PageInputs& inputs);
+std::int16_t CleanUp(const CompileRequest& request, const PageInputs& inputs, RunFolder& folder);
 
 }  // namespace folionet

@@ -4,6 +4,7 @@
 #include <map>
 
 #include "CodePage.h"
+#include "FolderFacts.h"
 #include "PageFile.h"
 #include "PageNames.h"
 #include "Paths.h"
@@ -38,6 +39,15 @@ class FactFinder {
     for (RunFact& fact : facts) {
       if (fact.kind == RunFactKind::kRemovesPages) fact.isWarning = fact.isWarning || ArePagesThere();
     }
+  }
+
+  void FindOtherTranslation(std::vector<RunFact>& facts) const {
+    const CodePage codePage(m_request.texts.PageCharset);
+    const std::string there = TranslationOfSite(m_request, m_names);
+    if (there.empty() || there == codePage.DecodeForDisplay(m_request.options.txtBibleSel)) return;
+    facts.push_back({RunFactKind::kOtherTranslation,
+                     true,
+                     {Translatable("Notice", "The folder holds pages of another translation: %1."), {there}}});
   }
 
   void FindNames(std::vector<RunFact>& facts) const {
@@ -126,6 +136,7 @@ std::vector<RunFact> FindRunFacts(const CompileRequest& request, const ModGlob& 
   std::vector<RunFact> facts = FindRangeFacts(glob, request.cboStartBook, request.cboEndBook);
   const FactFinder finder(request, glob);
   finder.WarnOfRemoval(facts);
+  finder.FindOtherTranslation(facts);
   finder.FindNames(facts);
   return facts;
 }

@@ -15,14 +15,20 @@ void SiteChanges::Written(const std::string& name, PageChange change) {
   if (entry->second == State::kSame && state == State::kChanged) entry->second = state;
 }
 
-void SiteChanges::Removed(const std::string& name, bool wasThere) {
-  const auto [entry, isFirst] = m_states.emplace(name, wasThere ? State::kRemoved : State::kNothing);
+void SiteChanges::Removed(const std::string& name, Removal removal) {
+  const auto [entry, isFirst] =
+      m_states.emplace(name, removal == Removal::kRemoved ? State::kRemoved : State::kNothing);
   if (isFirst) {
     m_order.push_back(name);
-    return;
+  } else if (removal != Removal::kFailed) {
+    // A page that the run itself made was not there before it.
+    entry->second = entry->second == State::kNew ? State::kNothing : State::kRemoved;
   }
-  // A page that the run itself made was not there before it.
-  entry->second = entry->second == State::kNew ? State::kNothing : State::kRemoved;
+}
+
+bool SiteChanges::IsTold(const std::string& name) const {
+  const auto entry = m_states.find(name);
+  return entry != m_states.end() && entry->second != State::kSame && entry->second != State::kNothing;
 }
 
 std::vector<std::string> SiteChanges::Names(State state) const {

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "PageFile.h"
+#include "SiteFolder.h"
 
 namespace folionet {
 
@@ -13,14 +13,28 @@ class SiteChanges {
  public:
   void Written(const std::string& name, PageChange change);
 
-  // `wasThere` says whether the file was there when it was to be deleted.
-  void Removed(const std::string& name, bool wasThere);
+  void Removed(const std::string& name, Removal removal);
+
+  // A person's file was in the place of that one, and is kept beside it.
+  void Kept(const std::string& name) { m_kept.push_back(name); }
 
   // Names in the order in which the run came to them.
   std::vector<std::string> New() const { return Names(State::kNew); }
   std::vector<std::string> Changed() const { return Names(State::kChanged); }
   std::vector<std::string> Same() const { return Names(State::kSame); }
   std::vector<std::string> Removed() const { return Names(State::kRemoved); }
+  // Whether the file is a new, a changed or a removed one.
+  bool IsTold(const std::string& name) const;
+  const std::vector<std::string>& Kept() const { return m_kept; }
+
+  // Files that earlier runs changed, and that no list has told yet: none of those above, and all of them are there.
+  std::vector<std::string> pending;
+
+  // Whether `pending` is known: a run that ends before it has come to the output folder tells of no other.
+  bool knowsPending = false;
+
+  // Why a list of this run could be lost if it were broken off; empty where it could not.
+  std::string trouble;
 
  private:
   enum class State { kNew, kChanged, kSame, kRemoved, kNothing };
@@ -28,6 +42,7 @@ class SiteChanges {
 
   std::map<std::string, State> m_states;
   std::vector<std::string> m_order;
+  std::vector<std::string> m_kept;
 };
 
 }  // namespace folionet

@@ -1,6 +1,7 @@
 #include "Sitemap.h"
 
 #include <algorithm>
+#include <array>
 #include <string_view>
 
 #include "CodePage.h"
@@ -55,6 +56,14 @@ std::string_view BehindScheme(std::string_view address) {
   return {};
 }
 
+// 2026-11-22
+std::string DateText(std::time_t time) {
+  std::tm day{};
+  std::array<char, 16> text{};
+  const std::size_t length = gmtime_r(&time, &day) == nullptr ? 0 : std::strftime(text.data(), text.size(), "%F", &day);
+  return {text.data(), length};
+}
+
 }  // namespace
 
 bool IsPublicAddress(const std::string& address) {
@@ -74,15 +83,16 @@ bool NamesAPage(const std::string& address) {
   return EqualIgnoringCase(rest.substr(dot), ".html") || EqualIgnoringCase(rest.substr(dot), ".htm");
 }
 
-std::string BuildSitemap(const std::string& address, const std::vector<std::string>& names) {
+std::string BuildSitemap(const std::string& address, const std::vector<SitemapPage>& pages) {
   // What a person gives as an address may be encoded already.
   std::string folder = PercentEncoded(address, ":/@!$&'()*+,;=%[]");
   if (!folder.ends_with('/')) folder += '/';
   std::string text =
       "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\r\n"
       "<urlset xmlns=\"http://www.sitemaps.org/schemas/sitemap/0.9\">\r\n";
-  for (const std::string& name : names) {
-    text += "<url><loc>" + XmlEscaped(folder + PercentEncoded(name, "!$&'()*+,;=:@")) + "</loc></url>\r\n";
+  for (const auto& [name, lastChange] : pages) {
+    text += "<url><loc>" + XmlEscaped(folder + PercentEncoded(name, "!$&'()*+,;=:@")) + "</loc><lastmod>" +
+            DateText(lastChange) + "</lastmod></url>\r\n";
   }
   return text + "</urlset>\r\n";
 }

@@ -1,27 +1,23 @@
 #pragma once
 
-#include <sys/stat.h>
-
 #include <algorithm>
 #include <memory>
 #include <string>
 #include <string_view>
 
-#include "FileHandle.h"
+#include "SiteFolder.h"
 
 namespace folionet {
 
-// What writing a page does to its file.
-enum class PageChange { kNew, kChanged, kSame };
-
-// The page that is being written. Its lines are gathered in memory and written by Close in one go: a file that holds
-// the same bytes already is left alone with its time stamp, one that differs is overwritten in place and cut to length,
-// or made anew where it has other names too (hard links, as a copy of the site may be made of), a missing one is made.
-// A page that is not closed leaves nothing behind.
+// The page that is being written. Its lines are gathered in memory, and Close gives them to the folder in one go. A
+// page that is not closed leaves nothing behind.
 class PageFile {
  public:
-  // Starts the page `name` (UTF-8, without a folder) in `folder` (ending in the separator). Throws RunTimeError
-  // (kBadFileName) for a name that IsPageName refuses.
+  // Where pages are written from now on; `site` outlives this.
+  void WriteInto(SiteFolder& site) { m_site = &site; }
+
+  // Starts the page `name` (UTF-8, without a folder) of the folder; `folder` is its path, ending in the separator.
+  // Throws RunTimeError (kBadFileName) for a name that IsPageName refuses.
   void Open(const std::string& folder, const std::string& name);
 
   // A page may not be longer, nor may a part of one that is put together before it is added; it is kOutOfMemory.
@@ -39,17 +35,11 @@ class PageFile {
     AddAll(std::string_view(texts)...);
   }
 
-  // Writes the page, or with SetDryRun only finds out what that would do. Throws RunTimeError naming the file; what has
-  // reached it by then stays.
+  // Writes the page, as SiteFolder::Write does. Throws RunTimeError naming the file.
   PageChange Close();
 
   // Ends the page without writing it and gives its text.
   std::string Take();
-
-  // From now on nothing is written, and a folder that is not there is as good as an empty one.
-  void SetDryRun(bool dryRun) { m_dryRun = dryRun; }
-
-  bool IsOpen() const { return m_isOpen; }
 
   // The name of the page that was opened last.
   const std::string& Name() const { return m_name; }
@@ -75,25 +65,12 @@ class PageFile {
   void Grow(std::size_t size);
   std::string_view Text() const { return {m_text.get(), m_size}; }
 
-  FileHandle OpenForWriting(bool& isNew) const;
-  FileHandle OpenNew() const;
-  FileHandle OpenExisting() const;
-  struct stat StatusOfRegular(const FileHandle& file) const;
-  bool HasText(const FileHandle& file);
-  PageChange Compare();
-  [[noreturn]] void Fail(int systemError) const;
-
   std::string m_folder;
   std::string m_name;
   std::unique_ptr<char[]> m_text;  // m_room bytes, the first m_size of them the page; the others have no value
   std::size_t m_room = 0;
   std::size_t m_size = 0;
-  std::string m_old;
-  FileHandle m_folderHandle;
-  bool m_isOpen = false;
-  // What the page before was: the pages of a site are mostly all new, all changed or all the same.
-  PageChange m_expected = PageChange::kNew;
-  bool m_dryRun = false;
+  SiteFolder* m_site = nullptr;
 };
 
 // Whether a page may have this name (UTF-8): not empty, no folder separator, no control character, not "." or "..".

@@ -55,7 +55,8 @@ bool LockFile(int descriptor, std::chrono::milliseconds patience) {
   constexpr std::chrono::milliseconds kBetween(5);
   const auto end = std::chrono::steady_clock::now() + patience;
   while (flock(descriptor, LOCK_EX | LOCK_NB) != 0) {
-    if (errno != EWOULDBLOCK && errno != EINTR) return true;
+    if (errno == EINTR) continue;
+    if (errno != EWOULDBLOCK) return true;
     if (std::chrono::steady_clock::now() >= end) return false;
     std::this_thread::sleep_for(kBetween);
   }

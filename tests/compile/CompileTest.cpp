@@ -51,12 +51,15 @@ TEST(SiteChangesTest, TellsEachFileOnceAsItWasBeforeTheRun) {
   changes.Written("same then changed", PageChange::kChanged);
   changes.Written("same", PageChange::kSame);
   changes.Written("new then removed", PageChange::kNew);
-  changes.Removed("new then removed", true);
+  changes.Removed("new then removed", Removal::kRemoved);
+  changes.Written("new then kept", PageChange::kNew);
+  changes.Removed("new then kept", Removal::kFailed);
   changes.Written("same then removed", PageChange::kSame);
-  changes.Removed("same then removed", true);
-  changes.Removed("never there", false);
-  changes.Removed("removed", true);
-  EXPECT_EQ(changes.New(), Texts{"new then same"});
+  changes.Removed("same then removed", Removal::kRemoved);
+  changes.Removed("never there", Removal::kNotThere);
+  changes.Removed("cannot be removed", Removal::kFailed);
+  changes.Removed("removed", Removal::kRemoved);
+  EXPECT_EQ(changes.New(), (Texts{"new then same", "new then kept"}));
   EXPECT_EQ(changes.Changed(), (Texts{"changed then changed", "same then changed"}));
   EXPECT_EQ(changes.Same(), Texts{"same"});
   EXPECT_EQ(changes.Removed(), (Texts{"same then removed", "removed"}));
@@ -95,7 +98,7 @@ TEST(FolderFactsTest, TellWhatLiesInAFolder) {
       {{}, {}, {}, 0, {}},
       {{}, {"index.html", "genesis_1.html", "own.html"}, {"genesis_1.html", "index.html"}, 1, {}},
       {{"defaults"}, {}, {}, 0, {"King James Version"}},
-      {{"style-sheet"}, {}, {}, 2, {"King James Version"}},
+      {{"style-sheet"}, {}, {}, 3, {"King James Version"}},
       {{"russian"}, {"picture.png"}, {}, 1, {"Синодальный перевод"}},
       {{"defaults"}, {"index.html"}, {"index.html"}, 0, {"King James Version"}},
   };

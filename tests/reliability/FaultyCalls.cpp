@@ -193,6 +193,12 @@ int renameat(int fromFolder, const char* from, int toFolder, const char* to) noe
   return static_cast<int>(syscall(SYS_renameat2, fromFolder, from, toFolder, to, 0));
 }
 
+// A file that gets its name: by its descriptor, or by the path that /proc has for it.
+int linkat(int fromFolder, const char* from, int toFolder, const char* to, int flags) noexcept {
+  if (Fails("link", PathAt(toFolder, to))) return -1;
+  return static_cast<int>(syscall(SYS_linkat, fromFolder, from, toFolder, to, flags));
+}
+
 int fstat(int descriptor, struct stat* status) noexcept {
   if (Fails("stat", PathOf(descriptor))) return -1;
   return static_cast<int>(syscall(SYS_newfstatat, descriptor, "", status, AT_EMPTY_PATH));

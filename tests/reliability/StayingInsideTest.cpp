@@ -55,8 +55,13 @@ const Place kPlaces[] = {
 // Whether a file that was opened is one of Versalia's, of the program's or of the site. To open a folder tells only
 // that it is there.
 bool IsInside(const std::string& opened, const std::string& home) {
-  static const std::set<std::filesystem::path> folders{
-      "installation/Sysdefs", "installation/Index", "installation/Modules/Bible", "program", "config", "a/b/out"};
+  static const std::set<std::filesystem::path> folders{"installation/Sysdefs",
+                                                       "installation/Index",
+                                                       "installation/Modules/Bible",
+                                                       "program",
+                                                       "config",
+                                                       "state/Folionet",
+                                                       "a/b/out"};
   const std::filesystem::path path = std::filesystem::path(opened).lexically_normal();
   std::error_code ignored;
   return std::filesystem::is_directory(path, ignored) || folders.contains(path.lexically_relative(home).parent_path());
@@ -77,7 +82,9 @@ TEST_P(NamesOf, DoNotLeadOut) {
     home.Write("a/b/out/kept.txt", "not ours");
     const auto outside = [&] {
       FolderContent content = ReadFolder(home.Path());
-      std::erase_if(content, [](const auto& file) { return file.first.starts_with("a/b/out/"); });
+      std::erase_if(content, [](const auto& file) {
+        return file.first.starts_with("a/b/out/") || file.first.starts_with("state/");
+      });
       return content;
     };
     Command command = CompileCommand({"--output=a/b/out", "--index-address=index.html"});

@@ -6,7 +6,8 @@
 //   library sixty-six                     another library than the small one: 66 books, or "none"
 //   write FILE TEXT [N TEXT]...           the text, then others N times each; "append" leaves what the file holds
 //   replace FILE OLD NEW                  also: remove PATH..., rename PATH PATH, folder PATH, pipe PATH,
-//                                         link PATH TARGET, hardlink PATH TARGET
+//                                         link PATH TARGET, hardlink PATH TARGET,
+//                                         dated FILE 2001-02-03, which was its last change
 //   $ site --start-book=2                 compiles the library into out/, "compile" to what is given; "cli",
 //                                         "make_library" and "folionet" are the programs; before one, "bounded"
 //                                         bounds its memory and time, "limited" the size of its files, "terminal"
@@ -28,9 +29,9 @@
 //   shows =BodyLinkTag <body ...          a control's text; after "=", a text that the pages are made with
 //
 // A text in double quotes may hold \n, \r, \t, \\, \" and \xE9, and so may what follows a control's name. A line that
-// ends in "..." holds for all that begin with it. "@/" is the case's folder. An error report is given by its label,
-// number and text. FOLIONET_REWRITE_EXPECTED=1, with runs_test or forms_test run by themselves, writes what comes out
-// into the files, for a person to review the difference.
+// ends in "..." holds for all that begin with it. "@/" is the case's folder, "@today" the date. An error report is
+// given by its label, number and text. FOLIONET_REWRITE_EXPECTED=1, with runs_test or forms_test run by themselves,
+// writes what comes out into the files, for a person to review the difference.
 
 #include <gtest/gtest.h>
 

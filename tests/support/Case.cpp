@@ -3,7 +3,10 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <ctime>
 #include <filesystem>
+#include <iomanip>
+#include <sstream>
 
 #include "FolderContent.h"
 #include "Library.h"
@@ -151,7 +154,8 @@ Case::Stamps Case::Outside() const {
   Stamps stamps;
   for (const auto& entry : fs::recursive_directory_iterator(m_home.Path())) {
     const std::string name = entry.path().lexically_relative(m_home.Path()).string();
-    if (name.starts_with("out/") || !fs::is_regular_file(entry.symlink_status())) continue;
+    if (name.starts_with("out/") || name.starts_with("state/") || !fs::is_regular_file(entry.symlink_status()))
+      continue;
     stamps[name] = {entry.file_size(), entry.last_write_time()};
   }
   return stamps;
@@ -166,6 +170,13 @@ void Case::TakeLibrary(const std::string& name) const {
 std::string Case::Named(std::string text) const {
   Replace(text, fs::path(FOLIONET_CLI).parent_path().string(), "@bin");
   Replace(text, m_home.Path(), "@/");
+  constexpr std::time_t kDay = 24 * 60 * 60;  // which may end meanwhile
+  for (const std::time_t time : {std::time(nullptr), std::time(nullptr) - kDay}) {
+    std::ostringstream today;
+    std::tm day{};
+    today << std::put_time(gmtime_r(&time, &day), "%F");
+    Replace(text, today.str(), "@today");
+  }
   return text;
 }
 

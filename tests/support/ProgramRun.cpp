@@ -36,6 +36,7 @@ bool Redirect(int descriptor, const std::string& path) {
   setenv("HOME", folder.c_str(), 1);
   setenv("XDG_CONFIG_HOME", (folder + "config").c_str(), 1);
   setenv("XDG_DATA_HOME", (folder + "data").c_str(), 1);
+  setenv("XDG_STATE_HOME", (folder + "state").c_str(), 1);
   const bool ready = Redirect(STDOUT_FILENO, caught + "output") && Redirect(STDERR_FILENO, caught + "errors");
   if (ready && chdir(folder.c_str()) == 0) execv(arguments.front(), arguments.data());
   _exit(kCannotRun);

@@ -12,9 +12,9 @@ struct ProgramResult {
   std::string errors;
 };
 
-// Runs a program to its end in a folder, which is its home as well: settings and data that it keeps go to config/ and
-// data/ there. One that runs for five minutes is ended by SIGALRM, and no file that it writes, or what it prints, grows
-// over 512 MiB.
+// Runs a program to its end in a folder, which is its home as well: what it keeps goes to config/, data/ and state/
+// there. One that runs for five minutes is ended by SIGALRM, and no file that it writes, or what it prints, grows over
+// 512 MiB.
 ProgramResult RunProgram(const std::vector<std::string>& command, const std::string& folder);
 
 // folionet-cli with these arguments.

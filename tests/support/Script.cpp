@@ -1,5 +1,6 @@
 #include "Script.h"
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
@@ -7,8 +8,10 @@
 #include <array>
 #include <cstdio>
 #include <cstdlib>
+#include <ctime>
 #include <filesystem>
 #include <fstream>
+#include <iomanip>
 #include <regex>
 #include <sstream>
 #include <stdexcept>
@@ -221,6 +224,11 @@ bool Arrange(const std::string& home, const std::vector<std::string>& words) {
   } else if (verb == "folder") {
     fs::remove_all(path);
     fs::create_directory(path);
+  } else if (verb == "dated") {
+    std::tm day{};
+    std::istringstream(words.at(2)) >> std::get_time(&day, "%Y-%m-%d");
+    const struct timespec times[] = {{timegm(&day), 0}, {timegm(&day), 0}};
+    EXPECT_EQ(utimensat(AT_FDCWD, path.c_str(), times, 0), 0);
   } else if (verb == "hardlink") {
     fs::create_hard_link(home + words.at(2), path);
   } else if (verb == "pipe" || verb == "link") {

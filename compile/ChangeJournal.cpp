@@ -1,0 +1,115 @@
+#include "ChangeJournal.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <memory>
+#include <string_view>
+#include <system_error>
+
+#include "BuildInfo.h"
+#include "Paths.h"
+#include "RunTimeError.h"
+#include "WholeFile.h"
+
+namespace folionet {
+namespace {
+
+constexpr char kDoubtful = '!';
+constexpr std::size_t kLongest = std::size_t{16} << 20;
+
+// One number for each folder, whatever way leads to it (FNV-1a of its real path).
+std::string JournalPath(const std::string& stateFolder, const std::string& outputFolder) {
+  const std::unique_ptr<char, decltype(&std::free)> real(realpath(NativePath(outputFolder).c_str(), nullptr),
+                                                         &std::free);
+  if (stateFolder.empty() || real == nullptr) return {};
+  std::uint64_t number = 0xCBF29CE484222325U;
+  for (const char c : std::string_view(real.get())) {
+    number = (number ^ static_cast<unsigned char>(c)) * 0x100000001B3U;
+  }
+  return WithSeparator(stateFolder) + std::to_string(number) + ".changes";
+}
+
+}  // namespace
+
+ChangeJournal::ChangeJournal(const std::string& stateFolder, const std::string& outputFolder)
+    : m_path(JournalPath(stateFolder, outputFolder)) {
+  if (m_path.empty()) return;
+  std::string text;
+  try {
+    text = ReadIfThere(m_path, kLongest).value_or("");
+  } catch (const RunTimeError&) {
+    return;  // a journal that cannot be read is told by what it was for: nothing is pending
+  }
+  // A line without an end was on its way when the program was killed, before its file was changed.
+  std::string_view rest = text;
+  for (std::size_t end = rest.find('\n'); end != std::string_view::npos; end = rest.find('\n')) {
+    const bool isDoubtful = rest.starts_with(kDoubtful);
+    const std::string name(rest.substr(isDoubtful ? 1 : 0, end - (isDoubtful ? 1 : 0)));
+    rest.remove_prefix(end + 1);
+    if (m_doubtful.insert_or_assign(name, isDoubtful).second) m_pending.push_back(name);
+  }
+}
+
+bool ChangeJournal::IsDoubtful(const std::string& name) const {
+  const auto known = m_doubtful.find(name);
+  return known != m_doubtful.end() && known->second;
+}
+
+void ChangeJournal::Add(const std::string& line) {
+  if (m_path.empty() || !m_trouble.empty()) return;
+  if (!m_file.IsOpen()) {
+    std::error_code ignored;
+    std::filesystem::create_directories(std::filesystem::path(m_path).parent_path(), ignored);
+    m_file = FileHandle::Open(m_path.c_str(), O_WRONLY | O_CREAT | O_APPEND | O_NOFOLLOW | O_NONBLOCK, 0600);
+  }
+  ssize_t written = -1;
+  if (m_file.IsOpen()) {
+    do {
+      written = write(m_file.Get(), line.data(), line.size());
+    } while (written < 0 && errno == EINTR);
+  }
+  if (written != static_cast<ssize_t>(line.size())) m_trouble = RunTimeError::FromErrno(errno, m_path).what();
+}
+
+void ChangeJournal::WillChange(const std::string& name) {
+  const auto [known, isFirst] = m_doubtful.try_emplace(name, false);
+  if (isFirst || known->second) Add(name + "\n");
+}
+
+void ChangeJournal::CouldNotClose(const std::string& name) { Add(kDoubtful + name + "\n"); }
+
+void ChangeJournal::Forget() {
+  if (!m_file.IsOpen()) return;
+  try {
+    std::string text;
+    for (const std::string& name : m_pending) text += name + "\n";
+    if (text.empty()) {
+      unlink(m_path.c_str());
+    } else {
+      ReplaceWholeFile(m_path, text);
+    }
+  } catch (const RunTimeError&) {
+    // What is not forgotten comes in the next list, once too often.
+  }
+}
+
+std::string UserStateFolder() {
+  const char* state = std::getenv("XDG_STATE_HOME");
+  if (state != nullptr && state[0] == '/') return WithSeparator(state) + kApplicationTitle;
+  const char* home = std::getenv("HOME");
+  return home != nullptr && home[0] == '/' ? WithSeparator(home) + ".local/state/" + kApplicationTitle : std::string();
+}
+
+void ChangesDelivered(const std::string& stateFolder, const std::string& outputFolder) {
+  const std::string path = JournalPath(stateFolder, outputFolder);
+  if (!path.empty()) unlink(path.c_str());
+}
+
+}  // namespace folionet

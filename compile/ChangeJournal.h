@@ -1,0 +1,50 @@
+#pragma once
+
+#include <map>
+#include <string>
+#include <vector>
+
+#include "FileHandle.h"
+#include "SiteFolder.h"
+
+namespace folionet {
+
+// Which files of a site were changed by runs that did not come to their end, or whose list was not delivered: a file of
+// its own for each output folder, "<state folder>/<number>.changes", with a name a line in the order of the changes;
+// one that could not be closed has "!" before it. A name is there before its file is changed, so that nothing is
+// missing when the program is killed.
+class ChangeJournal : public ChangeWatch {
+ public:
+  // Reads what earlier runs left for an output folder. With an empty `stateFolder` nothing is kept.
+  ChangeJournal(const std::string& stateFolder, const std::string& outputFolder);
+
+  void WillChange(const std::string& name) override;
+  void CouldNotClose(const std::string& name) override;
+  bool IsDoubtful(const std::string& name) const override;
+
+  // What earlier runs left, in the order of the changes.
+  const std::vector<std::string>& Pending() const { return m_pending; }
+
+  // Why changes cannot be kept; empty while they can.
+  const std::string& Trouble() const { return m_trouble; }
+
+  // The run came to its end, and nobody wants a list of what it changed: that is forgotten, what was pending is not.
+  void Forget();
+
+ private:
+  void Add(const std::string& line);
+
+  std::string m_path;  // empty when nothing is kept
+  std::vector<std::string> m_pending;
+  std::map<std::string, bool> m_doubtful;  // of each name that the journal holds
+  FileHandle m_file;
+  std::string m_trouble;
+};
+
+// The list of all that had changed has reached whoever wanted it: nothing is pending any more.
+void ChangesDelivered(const std::string& stateFolder, const std::string& outputFolder);
+
+// $XDG_STATE_HOME/Folionet, or ~/.local/state/Folionet; empty where neither is a whole path.
+std::string UserStateFolder();
+
+}  // namespace folionet

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <csignal>
 #include <functional>
@@ -200,6 +201,42 @@ TEST_F(Compiles, OverAnOlderSite) {
               },
               {"close", "create", "ftruncate", "lock", "mkdir", "open", "opendir", "read", "readdir", "rename", "stat",
                "unlink", "write"}});
+}
+
+// With the names of the pages that it has changed by then, and no page in part.
+TEST_F(Compiles, EndBetweenTwoPagesOnceTheyAreStopped) {
+  const Job job{"stopped",
+                [](const TemporaryFolder& home) {
+                  ArrangeLibrary(home);
+                  home.Write("site/exodus_1.html", std::string(5000, 'x'));
+                },
+                [](const TemporaryFolder&) {
+                  return Compile({"--output=site", "--list-changed"});
+                },
+                {}};
+  const TemporaryFolder first;
+  job.arrange(first);
+  const std::vector<Call> calls = job.Run(first).calls;
+  int stopped = 0;
+  for (std::size_t at = 1; at <= calls.size(); ++at) {
+    if (calls[at - 1].name != "write" || IsNote(calls[at - 1])) continue;
+    const TemporaryFolder home;
+    job.arrange(home);
+    const FaultyRun run = job.Run(home, {at, "stop"});
+    EXPECT_EQ(run.result.status, 128 + SIGTERM);
+    std::size_t listed = 0;
+    for (const auto& [name, bytes] : ReadFolder(home.Path() + "site")) {
+      if (name.ends_with(".before-folionet")) continue;
+      if (bytes == std::string(5000, 'x')) continue;
+      EXPECT_TRUE(name == "default.css" || bytes.ends_with("</html>\r\n")) << name;
+      EXPECT_NE(("\n" + run.result.output).find("\n" + name + "\n"), std::string::npos) << name << " is not listed";
+      ++listed;
+    }
+    EXPECT_EQ(std::count(run.result.output.begin(), run.result.output.end(), '\n'),
+              static_cast<std::ptrdiff_t>(listed));
+    ++stopped;
+  }
+  EXPECT_GT(stopped, 5);
 }
 
 Job Save(const std::string& what, const std::string& file, const std::string& before) {

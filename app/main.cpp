@@ -114,6 +114,11 @@ void SpeakDesktopLanguage(QTranslator& ours, QTranslator& qts) {
 int OpenForm(QApplication& app, const Arguments& arguments) {
   SettingsStore store(SettingsStore::DefaultFolder());
   FormUi ui;
+  try {
+    store.FinishChange();
+  } catch (const RunTimeError& error) {
+    ui.ShowErrorReport(error.Number(), "Form Load - MAIN", error.Extra());
+  }
   AppState state{store, ui, ProgramFolderOf(arguments.programFolder, ui), arguments.folders};
   QDir::setCurrent(ToQt(state.programFolder));
   frmMain form(state);

@@ -203,7 +203,7 @@ ExitStatus RunCompile(const CommonOptions& common, const CompileArguments& argum
   request.texts = session.texts;
   for (const auto& [kind, text] : {std::pair{&kCustomHeader, &request.texts.CustomHeader},
                                    std::pair{&kCustomFooter, &request.texts.CustomFooter}}) {
-    EndUnless(LoadCustomHtml(request.programFolder, *kind, session.codePage, *text, session.ui));
+    EndUnless(LoadCustomHtml({request.programFolder, session.codePage}, *kind, *text, session.ui));
   }
   const LinkEffects effects = Effects(request.options.frmEffects);
   request.texts.RolloverStyle = effects.RolloverStyle;

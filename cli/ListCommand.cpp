@@ -48,7 +48,7 @@ ExitStatus ListLanguages(Session& session) {
 
 ExitStatus ListCharsets(Session& session) {
   std::vector<std::string> entries;
-  ReadEncodingList(ProgramFolderToRead(session.chosenProgramFolder) + kCharsetList, session.codePage, entries);
+  ReadEncodingList({ProgramFolderToRead(session.chosenProgramFolder), session.codePage}, kCharsetList, entries);
   for (const std::string& entry : entries) session.ui.Print(entry);
   return kExitDone;
 }

@@ -33,6 +33,7 @@ std::vector<std::string> Decoded(const std::vector<std::string>& texts, std::siz
 Session::Session(const CommonOptions& common, ConsoleUi& console)
     : store(StoredSettings::DefaultFolder()), ui(console), chosenProgramFolder(common.programFolder) {
   try {
+    store.FinishChange();
     LocateInstallation(store, common.folders, glob);
   } catch (const RunTimeError& error) {
     ui.ShowErrorReport(error.Number(), "Form Load - MAIN", error.Extra());

@@ -1,10 +1,9 @@
 #include "CustomHtml.h"
 
 #include <optional>
+#include <utility>
 
-#include "LineReader.h"
 #include "RunTimeError.h"
-#include "WholeFile.h"
 
 namespace folionet {
 namespace {
@@ -15,14 +14,9 @@ void Report(const RunTimeError& error, const CustomHtmlKind& kind, std::string_v
 
 }  // namespace
 
-bool LoadCustomHtml(const std::string& programFolder, const CustomHtmlKind& kind, const CodePage& codePage,
-                    std::string& text, UserInterface& ui) {
-  const std::string path = programFolder + std::string(kind.fileName);
+bool LoadCustomHtml(const OwnFolder& folder, const CustomHtmlKind& kind, std::string& text, UserInterface& ui) {
   try {
-    std::optional<std::string> bytes = ReadIfThere(path);
-    if (!bytes) return true;
-    if (bytes->starts_with(kByteOrderMark)) bytes->erase(0, kByteOrderMark.size());
-    text = codePage.Decode(*bytes);
+    if (std::optional<std::string> read = ReadOwnText(folder, kind.fileName)) text = std::move(*read);
     return true;
   } catch (const RunTimeError& error) {
     Report(error, kind, kind.loadLabel, ui);
@@ -30,27 +24,13 @@ bool LoadCustomHtml(const std::string& programFolder, const CustomHtmlKind& kind
   }
 }
 
-bool SaveCustomHtml(const std::string& programFolder, const CustomHtmlKind& kind, const CodePage& codePage,
-                    std::string_view text, UserInterface& ui) {
+bool SaveCustomHtml(const OwnFolder& folder, const CustomHtmlKind& kind, std::string_view text, UserInterface& ui) {
   try {
-    ReplaceWholeFile(programFolder + std::string(kind.fileName), codePage.Encode(text) + "\r\n");
+    SaveOwnText(folder, kind.fileName, std::string(text) + "\r\n");
     return true;
   } catch (const RunTimeError& error) {
     Report(error, kind, "Unload_Form", ui);
     return false;
-  }
-}
-
-void RecodeCustomHtml(const std::string& programFolder, const CustomHtmlKind& kind, const CodePage& from,
-                      const CodePage& to, UserInterface& ui) {
-  const std::string path = programFolder + std::string(kind.fileName);
-  try {
-    const std::optional<std::string> bytes = ReadIfThere(path);
-    if (!bytes) return;
-    const std::string recoded = to.Encode(from.Decode(*bytes));
-    if (recoded != *bytes) ReplaceWholeFile(path, recoded);
-  } catch (const RunTimeError& error) {
-    Report(error, kind, kind.loadLabel, ui);
   }
 }
 

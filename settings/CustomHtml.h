@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-#include "CodePage.h"
+#include "OwnText.h"
 #include "UserInterface.h"
 
 namespace folionet {
@@ -19,17 +19,10 @@ inline constexpr CustomHtmlKind kCustomFooter{"CustomFooter.txt", "Load_Custom_F
 
 // Reads the custom HTML from its file, whole, into `text` as UTF-8; a missing file is no failure and leaves `text` as
 // it was. A failure is reported under the load label. False when it was.
-bool LoadCustomHtml(const std::string& programFolder, const CustomHtmlKind& kind, const CodePage& codePage,
-                    std::string& text, UserInterface& ui);
+bool LoadCustomHtml(const OwnFolder& folder, const CustomHtmlKind& kind, std::string& text, UserInterface& ui);
 
 // Writes the text and one further CR LF, in the code page; the old file stays whole until the new one is. A failure is
 // reported under "Unload_Form". False when it was.
-bool SaveCustomHtml(const std::string& programFolder, const CustomHtmlKind& kind, const CodePage& codePage,
-                    std::string_view text, UserInterface& ui);
-
-// Rewrites the file, when it is there, from one code page into another, so that a charset chosen later finds the same
-// text in it. A failure is reported under the load label, and the file stays as it was.
-void RecodeCustomHtml(const std::string& programFolder, const CustomHtmlKind& kind, const CodePage& from,
-                      const CodePage& to, UserInterface& ui);
+bool SaveCustomHtml(const OwnFolder& folder, const CustomHtmlKind& kind, std::string_view text, UserInterface& ui);
 
 }  // namespace folionet

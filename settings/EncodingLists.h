@@ -1,9 +1,10 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
-#include "CodePage.h"
+#include "OwnText.h"
 
 namespace folionet {
 
@@ -16,21 +17,17 @@ namespace folionet {
 inline constexpr char kLanguageList[] = "lang.txt";
 inline constexpr char kCharsetList[] = "enc.txt";
 
-// Adds every record of the file to `entries`, in the file's order, as its two fields joined by a blank (UTF-8). Throws
+// Adds every record of the list to `entries`, in the file's order, as its two fields joined by a blank (UTF-8). Throws
 // RunTimeError for a missing file or a bad record; the entries before it are there.
-void ReadEncodingList(const std::string& path, const CodePage& codePage, std::vector<std::string>& entries);
+void ReadEncodingList(const OwnFolder& folder, std::string_view name, std::vector<std::string>& entries);
 
 struct EncodingRecord {
   std::string code;
   std::string description;
 };
 
-// Adds a record at the file's end, on a line of its own; the file is made when missing. After a failure, which throws
+// Adds a record at the list's end, on a line of its own; the file is made when missing. After a failure, which throws
 // RunTimeError, the old content stands.
-void AppendEncodingRecord(const std::string& path, const CodePage& codePage, const EncodingRecord& record);
-
-// Rewrites a list, when it is there, from one code page into another, so that its entries stay the same. Throws
-// RunTimeError, and the old content stands.
-void RecodeEncodingList(const std::string& path, const CodePage& from, const CodePage& to);
+void AppendEncodingRecord(const OwnFolder& folder, std::string_view name, const EncodingRecord& record);
 
 }  // namespace folionet

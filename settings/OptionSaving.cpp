@@ -1,14 +1,16 @@
 #include "OptionSaving.h"
 
+#include "JointChange.h"
 #include "OptionLoading.h"
 
 namespace folionet {
 namespace {
 
-template <typename Wanted>
-void SaveWhere(SettingsStore& store, PageOptions& options, const Wanted& wanted) {
+// Stores the options for which `wanted` holds by `together`, which calls what it is given.
+template <typename Wanted, typename Together>
+void SaveWhere(SettingsStore& store, PageOptions& options, const Wanted& wanted, const Together& together) {
   auto saved = options.maySave;
-  store.SaveTogether([&] {
+  together([&] {
     for (const Option& option : OptionTable()) {
       if (!wanted(option)) continue;
       const std::string text = OptionText(option, options);
@@ -20,6 +22,10 @@ void SaveWhere(SettingsStore& store, PageOptions& options, const Wanted& wanted)
   options.maySave = saved;
 }
 
+auto IsOfDialog(OptionPart part) {
+  return [part](const Option& option) { return option.part == part && option.saving == OptionSaving::kWithDialog; };
+}
+
 }  // namespace
 
 void SaveOption(SettingsStore& store, std::string_view key, const PageOptions& options) {
@@ -27,15 +33,19 @@ void SaveOption(SettingsStore& store, std::string_view key, const PageOptions& o
 }
 
 void SaveOptions(SettingsStore& store, OptionPart part, PageOptions& options) {
-  SaveWhere(store, options,
-            [part](const Option& option) { return option.part == part && option.saving == OptionSaving::kWithDialog; });
+  SaveWhere(store, options, IsOfDialog(part), [&](const auto& saves) { store.SaveTogether(saves); });
+}
+
+void SaveOptions(SettingsStore& store, OptionPart part, PageOptions& options, JointChange& change) {
+  SaveWhere(store, options, IsOfDialog(part), [&](const auto& saves) { store.SaveTogether(saves, change); });
 }
 
 void SaveDefaults(SettingsStore& store, PageOptions& options) {
-  SaveWhere(store, options, [&](const Option& option) {
+  const auto isOfExit = [&](const Option& option) {
     return option.saving == OptionSaving::kAtExit &&
            (option.key != "alignmentLR" || IsKnownAlignment(options.main.alignment));
-  });
+  };
+  SaveWhere(store, options, isOfExit, [&](const auto& saves) { store.SaveTogether(saves); });
 }
 
 }  // namespace folionet

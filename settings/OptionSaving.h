@@ -7,6 +7,8 @@
 
 namespace folionet {
 
+class JointChange;
+
 // A routine stores all that it is to store or, when it throws RunTimeError, nothing.
 
 // Stores one option, whatever was stored for it before: a person has just chosen it.
@@ -14,6 +16,9 @@ void SaveOption(SettingsStore& store, std::string_view key, const PageOptions& o
 
 // Stores the options of a part that are saved together, but what could not be read and was not changed since.
 void SaveOptions(SettingsStore& store, OptionPart part, PageOptions& options);
+
+// The same as a part of a change of several files, which it makes.
+void SaveOptions(SettingsStore& store, OptionPart part, PageOptions& options, JointChange& change);
 
 // In the same way the twelve options that are stored at exit.
 void SaveDefaults(SettingsStore& store, PageOptions& options);

@@ -2,7 +2,11 @@
 
 #include <optional>
 
+#include "CustomHtml.h"
+#include "EncodingLists.h"
+#include "JointChange.h"
 #include "OptionLoading.h"
+#include "OptionSaving.h"
 #include "RunTimeError.h"
 
 namespace folionet {
@@ -16,12 +20,40 @@ std::string EncodingCode(std::string_view entry, std::string_view what) {
   return std::string(entry.substr(0, blank));
 }
 
-CodePage StoredCodePage(const StoredSettings& store) {
+namespace {
+
+CodePage CodePageOf(const std::string& entry) {
   try {
-    return CodePage(EncodingCode(store.Text("Charset"), "Charset"));
+    return CodePage(EncodingCode(entry, "Charset"));
   } catch (const RunTimeError&) {
     return CodePage();
   }
+}
+
+}  // namespace
+
+CodePage StoredCodePage(const StoredSettings& store) {
+  try {
+    return CodePageOf(store.Text("Charset"));
+  } catch (const RunTimeError&) {
+    return CodePage();
+  }
+}
+
+OwnFolder StoredOwnFolder(const StoredSettings& store, const std::string& programFolder) {
+  return {programFolder, StoredCodePage(store), store.UnfinishedNote()};
+}
+
+void SaveEncoding(SettingsStore& store, const std::string& programFolder, PageOptions& options) {
+  const OwnFolder own = StoredOwnFolder(store, programFolder);
+  const CodePage chosen = CodePageOf(options.frmEncoding.cboCharset);
+  if (own.codePage.Name() == chosen.Name()) return SaveOptions(store, OptionPart::kEncoding, options);
+  JointChange change(own.note);
+  for (const std::string_view name : {kCustomHeader.fileName, kCustomFooter.fileName, std::string_view(kCharsetList),
+                                      std::string_view(kLanguageList)}) {
+    RecodeOwnText(own, name, chosen, change);
+  }
+  SaveOptions(store, OptionPart::kEncoding, options, change);
 }
 
 void LoadPageEncoding(const StoredSettings& store, PageOptions& options, PageEncoding& encoding, UserInterface& ui) {

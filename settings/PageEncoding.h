@@ -4,8 +4,9 @@
 #include <string_view>
 
 #include "CodePage.h"
+#include "OwnText.h"
 #include "PageOptions.h"
-#include "StoredSettings.h"
+#include "SettingsStore.h"
 #include "UserInterface.h"
 
 namespace folionet {
@@ -23,6 +24,13 @@ std::string EncodingCode(std::string_view entry, std::string_view what);
 // The code page that the stored charset names, windows-1252 when it cannot be read. The custom header and footer are
 // kept in it.
 CodePage StoredCodePage(const StoredSettings& store);
+
+// The texts of a person's own as the stored charset has them.
+OwnFolder StoredOwnFolder(const StoredSettings& store, const std::string& programFolder);
+
+// Stores the entries of `options.frmEncoding` and, when that changes the code page, brings the custom header and footer
+// and the lists of encodings over to it: one change, of which all is made or nothing. Throws RunTimeError.
+void SaveEncoding(SettingsStore& store, const std::string& programFolder, PageOptions& options);
 
 // Reads both entries and shows their codes in panels 3 and 2 of the status bar. Throws RunTimeError for the first that
 // cannot be read; what comes before it is set and shown.

@@ -7,10 +7,22 @@
 #include <utility>
 
 #include "BuildInfo.h"
+#include "JointChange.h"
 #include "RunTimeError.h"
 #include "WholeFile.h"
 
 namespace folionet {
+namespace {
+
+// The text of a settings file with changed values; `values` gets all of them.
+std::string Merged(std::string_view content, const IniValues& changes, IniValues& values) {
+  values = ParseIni(content);
+  for (const auto& [name, value] : changes) values.insert_or_assign(name, value);
+  return BuildIni(values);
+}
+
+}  // namespace
+
 SettingsStore::SettingsStore(const std::string& folder) : StoredSettings(folder) {}
 
 std::optional<std::string> SettingsStore::Stored(std::string_view application, const std::string& name) const {
@@ -24,25 +36,26 @@ void SettingsStore::SaveSetting(std::string_view application, std::string_view s
   if (!m_savesTogether) Sync(application);
 }
 
-void SettingsStore::Sync(std::string_view application) {
-  // A refused value must not be tried again by every later one, nor be read as if it were stored.
-  const IniValues changes = std::exchange(m_unsaved, {});
+void SettingsStore::MakeFolder() const {
   if (Folder().empty()) {
-    throw RunTimeError(kPathNotFound, FilePath(application), "HOME does not name a folder to save it in.");
+    throw RunTimeError(kPathNotFound, FilePath(kApplicationTitle), "HOME does not name a folder to save it in.");
   }
   std::error_code ignored;
   std::filesystem::create_directories(Folder(), ignored);
+}
+
+void SettingsStore::Sync(std::string_view application) {
+  // A refused value must not be tried again by every later one, nor be read as if it were stored.
+  const IniValues changes = std::exchange(m_unsaved, {});
+  MakeFolder();
   // Another program may have saved since the file was read: what it changed is kept.
   IniValues values;
-  EditWholeFile(FilePath(application), kLongestFile, [&](const std::string& content) {
-    values = ParseIni(content);
-    for (const auto& [name, value] : changes) values.insert_or_assign(name, value);
-    return BuildIni(values);
-  });
+  EditWholeFile(FilePath(application), kLongestFile,
+                [&](const std::string& content) { return Merged(content, changes, values); });
   Take(application, std::move(values));
 }
 
-void SettingsStore::SaveTogether(const std::function<void()>& saves) {
+void SettingsStore::Gather(const std::function<void()>& saves) {
   m_savesTogether = true;
   try {
     saves();
@@ -52,7 +65,22 @@ void SettingsStore::SaveTogether(const std::function<void()>& saves) {
     throw;
   }
   m_savesTogether = false;
+}
+
+void SettingsStore::SaveTogether(const std::function<void()>& saves) {
+  Gather(saves);
   Sync(kApplicationTitle);
+}
+
+void SettingsStore::SaveTogether(const std::function<void()>& saves, JointChange& change) {
+  Gather(saves);
+  const IniValues changes = std::exchange(m_unsaved, {});
+  MakeFolder();
+  IniValues values;
+  change.Edit(FilePath(kApplicationTitle), kLongestFile,
+              [&](const std::string& content) { return Merged(content, changes, values); });
+  change.Commit();
+  Take(kApplicationTitle, std::move(values));
 }
 
 void SettingsStore::DeleteSetting(std::string_view application) {

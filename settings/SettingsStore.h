@@ -9,6 +9,8 @@
 
 namespace folionet {
 
+class JointChange;
+
 // The per-user store of option texts, to be read and written.
 class SettingsStore : public StoredSettings {
  public:
@@ -22,6 +24,9 @@ class SettingsStore : public StoredSettings {
   // Calls `saves`, whose savings of our own keys reach the file all together at its end, or none of them does.
   void SaveTogether(const std::function<void()>& saves);
 
+  // The same as a part of a change of several files: the settings are the last of them to be replaced.
+  void SaveTogether(const std::function<void()>& saves, JointChange& change);
+
   // Removes an application's whole area; its file is kept beside as "<file>.before-restore". Throws RunTimeError when
   // that fails, and everything is as it was.
   void DeleteSetting(std::string_view application);
@@ -33,6 +38,8 @@ class SettingsStore : public StoredSettings {
   std::optional<std::string> Stored(std::string_view application, const std::string& name) const override;
 
  private:
+  void Gather(const std::function<void()>& saves);
+  void MakeFolder() const;
   void Sync(std::string_view application);
 
   IniValues m_unsaved;  // the keys that were set since the last saving

@@ -1,6 +1,7 @@
 #include "StoredSettings.h"
 
 #include "BuildInfo.h"
+#include "JointChange.h"
 #include "OptionTable.h"
 #include "Paths.h"
 #include "WholeFile.h"
@@ -13,6 +14,12 @@ std::string StoredSettings::DefaultFolder() { return UserFolder("XDG_CONFIG_HOME
 
 std::string StoredSettings::FilePath(std::string_view application) const {
   return m_folder + std::string(application) + ".ini";
+}
+
+std::string StoredSettings::UnfinishedNote() const { return m_folder + "." + kApplicationTitle + ".unfinished"; }
+
+void StoredSettings::FinishChange() const {
+  if (!m_folder.empty()) FinishJointChange(UnfinishedNote());
 }
 
 std::string StoredSettings::GetSetting(std::string_view application, std::string_view section, std::string_view key,

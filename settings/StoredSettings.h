@@ -33,6 +33,12 @@ class StoredSettings {
 
   std::string FilePath(std::string_view application) const;
 
+  // The path of the note of a change of several files that is not finished; see JointChange.h.
+  std::string UnfinishedNote() const;
+
+  // Completes such a change, which a program that was killed has left. Throws RunTimeError.
+  void FinishChange() const;
+
   // Gives a key of our own a value for this run only: it is read as if stored and never written.
   void Override(std::string_view key, std::string value);
 

@@ -22,7 +22,7 @@ CustomHtmlDialog::~CustomHtmlDialog() = default;
 
 void CustomHtmlDialog::Load() {
   std::string text = m_ui->Text1->Text();
-  m_isUnread = !LoadCustomHtml(m_state.programFolder, m_kind.file, m_state.codePage, text, m_state.ui);
+  m_isUnread = !LoadCustomHtml(StoredOwnFolder(m_state.store, m_state.programFolder), m_kind.file, text, m_state.ui);
   if (m_isUnread) return;
   m_ui->Text1->SetText(text);
   m_state.texts.*m_kind.sharedText = text;
@@ -34,7 +34,7 @@ bool CustomHtmlDialog::Save() {
   const std::string text = m_ui->Text1->Text();
   if (m_isUnread && text.empty()) return true;
   const bool isSaved =
-      SaveCustomHtml(m_state.programFolder, m_kind.file, StoredCodePage(m_state.store), text, m_state.ui);
+      SaveCustomHtml(StoredOwnFolder(m_state.store, m_state.programFolder), m_kind.file, text, m_state.ui);
   m_unsaved = isSaved ? std::nullopt : std::optional(text);
   return isSaved;
 }

@@ -6,11 +6,14 @@
 namespace folionet {
 
 std::optional<QString> PreviewTitle(const AppState& state, const std::string& pattern) {
-  const VerseCounts counts(state.glob);
-  const auto text = BuildTitles(state.codePage.Encode(pattern), {state.options.txtBibleSel, state.startBookText, "1"},
-                                counts, state.ui);
+  // In letters, not in the code page's bytes: one that it lacks would be shown as its reference.
+  const auto shown = [&state](const std::string& bytes) { return state.codePage.DecodeForDisplay(bytes); };
+  ModGlob glob = state.glob;
+  for (std::string& title : glob.cboStartBook) title = shown(title);
+  const auto text = BuildTitles(pattern, {shown(state.options.txtBibleSel), shown(state.startBookText), "1"},
+                                VerseCounts(glob), state.ui);
   if (!text) return std::nullopt;
-  return QString::fromStdString(state.codePage.DecodeForDisplay(*text));
+  return QString::fromStdString(CodePage("utf-8").DecodeForDisplay(*text));
 }
 
 }  // namespace folionet

@@ -4,6 +4,8 @@
 #include <utility>
 
 #include "EncodingLists.h"
+#include "OneLine.h"
+#include "PageEncoding.h"
 #include "QtText.h"
 #include "RunTimeError.h"
 #include "ui_frmAddnew.h"
@@ -44,13 +46,14 @@ void frmAddnew::reject() {
 
 void frmAddnew::AddRecord(const char* fileName, const char* label, const QLineEdit& abbreviation,
                           const QLineEdit& language) {
-  if (abbreviation.text().isEmpty() || language.text().isEmpty()) {
+  const EncodingRecord record{FromQt(InOneLine(abbreviation.text()).trimmed()),
+                              FromQt(InOneLine(language.text()).trimmed())};
+  if (record.code.empty() || record.description.empty()) {
     m_state.ui.ShowMessage({MessageIcon::kWarning, "Blank Field(s)", "Both fields must have text in them"});
     return;
   }
   try {
-    AppendEncodingRecord(m_state.programFolder + fileName, m_state.codePage,
-                         {FromQt(abbreviation.text()), FromQt(language.text())});
+    AppendEncodingRecord(StoredOwnFolder(m_state.store, m_state.programFolder), fileName, record);
     m_hasAdded = true;
     m_state.ui.ShowMessage({MessageIcon::kInformation, "Record Added", "Record Added"});
   } catch (const RunTimeError& error) {

@@ -3,7 +3,6 @@
 #include <utility>
 #include <vector>
 
-#include "CustomHtml.h"
 #include "EncodingLists.h"
 #include "PageEncoding.h"
 #include "QtText.h"
@@ -49,7 +48,7 @@ void frmEncoding::Fill(const char* fileName, const char* key, TextCombo& list, Q
     for (const std::string& entry : entries) list.addItem(ToQt(entry));
   };
   try {
-    ReadEncodingList(m_state.programFolder + fileName, m_state.codePage, entries);
+    ReadEncodingList(StoredOwnFolder(m_state.store, m_state.programFolder), fileName, entries);
   } catch (const RunTimeError&) {
     show();
     throw;
@@ -66,7 +65,7 @@ void frmEncoding::ShowListsAnew() {
        {std::pair{kCharsetList, m_ui->cboCharset}, std::pair{kLanguageList, m_ui->cboLang}}) {
     std::vector<std::string> entries;
     try {
-      ReadEncodingList(m_state.programFolder + fileName, m_state.codePage, entries);
+      ReadEncodingList(StoredOwnFolder(m_state.store, m_state.programFolder), fileName, entries);
     } catch (const RunTimeError&) {
       continue;  // was told when the lists were filled; the old entries serve
     }
@@ -86,35 +85,24 @@ void frmEncoding::AddNew() {
   openModal(*m_addNew);
 }
 
-// A list that could not be filled shows nothing, and nothing is stored from it.
+// A list that could not be filled shows nothing, and what is stored stays as it is.
 void frmEncoding::SaveLists() {
-  TrySave(m_state, "UnloadEncoding", [this](SettingsStore& store) {
-    for (const auto& [key, list] : {std::pair{"Lang", m_ui->cboLang}, std::pair{"Charset", m_ui->cboCharset}}) {
-      const std::string entry = FromQt(list->Text());
-      if (!entry.empty()) store.SaveText(key, entry);
-    }
+  EncodingOptions& entries = m_state.options.frmEncoding;
+  const EncodingOptions before = entries;
+  const auto take = [](const TextCombo& list, std::string& entry) {
+    if (const std::string text = FromQt(list.Text()); !text.empty()) entry = text;
+  };
+  take(*m_ui->cboLang, entries.cboLang);
+  take(*m_ui->cboCharset, entries.cboCharset);
+  const bool isSaved = TrySave(m_state, "UnloadEncoding", [this](SettingsStore& store) {
+    SaveEncoding(store, m_state.programFolder, m_state.options);
   });
-}
-
-// What the program folder has in the pages' code page stays the same text.
-void frmEncoding::RecodeFiles(const CodePage& from, const CodePage& to) {
-  for (const CustomHtmlKind& kind : {kCustomHeader, kCustomFooter}) {
-    RecodeCustomHtml(m_state.programFolder, kind, from, to, m_state.ui);
-  }
-  for (const char* list : {kCharsetList, kLanguageList}) {
-    try {
-      RecodeEncodingList(m_state.programFolder + list, from, to);
-    } catch (const RunTimeError& error) {
-      m_state.ui.ShowErrorReport(error.Number(), "PopulateCharset", error.Extra());
-    }
-  }
+  if (!isSaved) entries = before;
 }
 
 bool frmEncoding::SaveAndUse() {
-  const CodePage before = StoredCodePage(m_state.store);
+  const std::string shownIn = StoredCodePage(m_state.store).Name();
   SaveLists();
-  const CodePage after = StoredCodePage(m_state.store);
-  if (before.Name() != after.Name()) RecodeFiles(before, after);
   const std::string typedLanguage = FromQt(m_ui->txtLang->text());
   const std::string typedCharset = FromQt(m_ui->txtCharset->text());
   PageEncoding encoding{m_state.texts.PageLanguage, m_state.texts.PageCharset};
@@ -130,9 +118,8 @@ bool frmEncoding::SaveAndUse() {
   }
   m_state.texts.PageLanguage = encoding.PageLanguage;
   m_state.texts.PageCharset = encoding.PageCharset;
-  const std::string shownIn = m_state.codePage.Name();
   m_state.codePage = CodePage(encoding.PageCharset);
-  if (m_state.codePage.Name() != shownIn) ShowListsAnew();
+  if (StoredCodePage(m_state.store).Name() != shownIn) ShowListsAnew();
   return isDone;
 }
 

@@ -41,7 +41,6 @@ class frmEncoding : public LoadedDialog {
   void ShowListsAnew();
   void AddNew();
   void SaveLists();
-  void RecodeFiles(const CodePage& from, const CodePage& to);
   bool SaveAndUse();
 
   AppState& m_state;

@@ -280,15 +280,20 @@ INSTANTIATE_TEST_SUITE_P(Every, SavesOf,
 
 class SavesTogether : public EveryCall {};
 
+// A letter that the new charset lacks is kept in a file of its own.
 TEST_F(SavesTogether, GiveAllFilesTheirNewContentOrNone) {
   const auto arrange = [](const TemporaryFolder& home) {
-    for (const char* file : {"lang.txt", "Folionet.ini"}) home.Write(file, "old");
+    home.Write("Folionet.ini", "[Keys]\nCharset=windows-1252 x\n");
+    home.Write("CustomHeader.txt", "caf\xE9\r\n");
+    home.Write("lang.txt",
+               "\"fr\",\"Fran\xE7"
+               "ais\"\r\n");
   };
   const auto command = [](const TemporaryFolder& home) {
-    return Command{SAVE_PROGRAM, "together", home.Path(), "new"};
+    return Command{SAVE_PROGRAM, "encoding", home.Path(), "koi8-r (Cyrillic)"};
   };
   const Job job{
-      "together",
+      "encoding",
       arrange,
       command,
       {"chmod", "close", "create", "fsync", "ftruncate", "lock", "open", "read", "rename", "stat", "unlink", "write"}};
@@ -300,7 +305,7 @@ TEST_F(SavesTogether, GiveAllFilesTheirNewContentOrNone) {
       return content;
     };
     // A killed program's change is finished by the next start; so is one whose note could not be opened by this one.
-    const bool isNote = struck.path.ends_with("/.unfinished");
+    const bool isNote = struck.path.ends_with("/.Folionet.unfinished");
     if (m_isKilled || isNote) RunProgram({SAVE_PROGRAM, "finish", home.Path(), ""}, home.Path());
     const FolderContent content = now();
     EXPECT_TRUE(content == m_after || (content == m_before && run.result.status != 0))

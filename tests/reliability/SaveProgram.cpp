@@ -3,7 +3,8 @@
 //   save_program settings FOLDER TEXT     stores the exit settings, TEXT among them, in FOLDER/Folionet.ini
 //   save_program header FOLDER TEXT       writes TEXT into FOLDER/CustomHeader.txt
 //   save_program record FOLDER TEXT       adds a language with the description TEXT to FOLDER/lang.txt
-//   save_program together FOLDER TEXT     gives two files the content TEXT as one change, finishing one begun before
+//   save_program encoding FOLDER TEXT     chooses the charset TEXT for the settings, the header and the lists there, as
+//                                         one change, finishing one begun before
 //   save_program finish FOLDER ""         only finishes what was begun before
 //
 // Ends with 3 and a line on standard error when that fails.
@@ -13,9 +14,9 @@
 
 #include "CustomHtml.h"
 #include "EncodingLists.h"
-#include "JointChange.h"
 #include "OptionLoading.h"
 #include "OptionSaving.h"
+#include "PageEncoding.h"
 #include "RunTimeError.h"
 #include "ScriptedUi.h"
 #include "SettingsStore.h"
@@ -32,18 +33,19 @@ bool Save(const std::string& what, const std::string& folder, const std::string&
     options.main.Dir1 = text;
     SaveDefaults(store, options);
   } else if (what == "header") {
-    const bool isSaved = SaveCustomHtml(folder + "/", kCustomHeader, CodePage(), text, ui);
+    const bool isSaved = SaveCustomHtml({folder + "/"}, kCustomHeader, text, ui);
     for (const std::string& report : ui.Boxes()) std::cerr << report << '\n';
     return isSaved;
   } else if (what == "record") {
-    AppendEncodingRecord(folder + "/" + kLanguageList, CodePage(), {"xx", text});
-  } else if (what == "together" || what == "finish") {
-    const std::string note = folder + "/.unfinished";
-    FinishJointChange(note);
+    AppendEncodingRecord({folder + "/"}, kLanguageList, {"xx", text});
+  } else if (what == "encoding" || what == "finish") {
+    SettingsStore store(folder);
+    store.FinishChange();
     if (what == "finish") return true;
-    JointChange change(note);
-    for (const char* file : {"/lang.txt", "/Folionet.ini"}) change.Replace(folder + file, text);
-    change.Commit();
+    PageOptions options;
+    LoadAllOptions(store, options);
+    options.frmEncoding.cboCharset = text;
+    SaveEncoding(store, folder + "/", options);
   } else {
     return false;
   }

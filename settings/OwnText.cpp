@@ -1,0 +1,86 @@
+#include "OwnText.h"
+
+#include <unistd.h>
+
+#include <filesystem>
+#include <system_error>
+
+#include "LineReader.h"
+#include "WholeFile.h"
+
+namespace folionet {
+namespace {
+
+std::string PathOf(const OwnFolder& folder, std::string_view name) { return folder.path + std::string(name); }
+
+std::string LettersPath(const OwnFolder& folder, std::string_view name) {
+  return folder.path + "." + std::string(name) + ".utf-8";
+}
+
+// The file's bytes without a mark that would become part of its text.
+std::optional<std::string> Bytes(const OwnFolder& folder, std::string_view name) {
+  std::optional<std::string> bytes = ReadIfThere(PathOf(folder, name));
+  if (bytes && bytes->starts_with(kByteOrderMark)) bytes->erase(0, kByteOrderMark.size());
+  return bytes;
+}
+
+// The text beside the file, when it counts.
+std::optional<std::string> Letters(const OwnFolder& folder, std::string_view name, const std::string& bytes) {
+  std::optional<std::string> text = ReadIfThere(LettersPath(folder, name));
+  return text && folder.codePage.Encode(*text) == bytes ? text : std::nullopt;
+}
+
+bool HoldsAllLetters(const CodePage& codePage, std::string_view text) {
+  return codePage.Decode(codePage.Encode(text)) == text;
+}
+
+bool HasLettersFile(const OwnFolder& folder, std::string_view name) {
+  return ReadIfThere(LettersPath(folder, name)).has_value();
+}
+
+}  // namespace
+
+OwnTextSource FindOwnText(const OwnFolder& folder, std::string_view name) {
+  const std::optional<std::string> bytes = Bytes(folder, name);
+  if (bytes && Letters(folder, name, *bytes)) return {LettersPath(folder, name), CodePage("utf-8")};
+  return {PathOf(folder, name), folder.codePage};
+}
+
+std::optional<std::string> ReadOwnText(const OwnFolder& folder, std::string_view name) {
+  const std::optional<std::string> bytes = Bytes(folder, name);
+  if (!bytes) return std::nullopt;
+  const std::optional<std::string> letters = Letters(folder, name, *bytes);
+  return letters ? letters : folder.codePage.Decode(*bytes);
+}
+
+void SaveOwnText(const OwnFolder& folder, std::string_view name, std::string_view text) {
+  const std::string bytes = folder.codePage.Encode(text);
+  const bool isWhole = HoldsAllLetters(folder.codePage, text);
+  if (isWhole && !HasLettersFile(folder, name)) return ReplaceWholeFile(PathOf(folder, name), bytes);
+  std::error_code ignored;
+  std::filesystem::create_directories(std::filesystem::path(folder.note).parent_path(), ignored);
+  JointChange change(folder.note);
+  change.Replace(LettersPath(folder, name), text);
+  change.Replace(PathOf(folder, name), bytes);
+  change.Commit();
+  if (isWhole) unlink(LettersPath(folder, name).c_str());  // one that stays says the same as the file
+}
+
+void AddToOwnText(const OwnFolder& folder, std::string_view name, std::string_view line) {
+  if (HoldsAllLetters(folder.codePage, line) && !HasLettersFile(folder, name)) {
+    return AppendToFile(PathOf(folder, name), folder.codePage.Encode(line));
+  }
+  std::string text = ReadOwnText(folder, name).value_or("");
+  if (!text.empty() && text.back() != '\n') text += "\r\n";
+  SaveOwnText(folder, name, text.append(line));
+}
+
+void RecodeOwnText(const OwnFolder& folder, std::string_view name, const CodePage& to, JointChange& change) {
+  const std::optional<std::string> text = ReadOwnText(folder, name);
+  if (!text) return;
+  if (!HoldsAllLetters(to, *text) || HasLettersFile(folder, name)) change.Replace(LettersPath(folder, name), *text);
+  const std::string bytes = to.Encode(*text);
+  if (bytes != ReadIfThere(PathOf(folder, name))) change.Replace(PathOf(folder, name), bytes);
+}
+
+}  // namespace folionet

@@ -7,9 +7,15 @@
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QTranslator>
+#include <algorithm>
+#include <array>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
 
 #include "AppState.h"
 #include "BuildInfo.h"
@@ -31,6 +37,29 @@ struct Arguments {
   GivenFolders folders;
   std::string programFolder;
 };
+
+// The arguments without those that every Qt program takes, with one or two hyphens: the application reads them itself.
+std::vector<std::string> WithoutThoseOfQt(int argc, char** argv) {
+  constexpr std::array kWithValue{"style",           "stylesheet",  "platform",     "platformpluginpath",
+                                  "platformtheme",   "plugin",      "display",      "geometry",
+                                  "qwindowgeometry", "qwindowicon", "qwindowtitle", "session"};
+  constexpr std::string_view kReverse = "reverse";
+  std::vector<std::string> own;
+  for (int i = 1; i < argc; ++i) {
+    const std::string_view argument = argv[i];
+    const bool isOption = argument.starts_with('-');
+    const std::string_view name = argument.substr(std::min(argument.find_first_not_of('-'), argument.size()));
+    if (isOption && name == kReverse) continue;
+    if (isOption && std::any_of(kWithValue.begin(), kWithValue.end(), [&](std::string_view taken) {
+          return name == taken || (name.starts_with(taken) && name.substr(taken.size()).starts_with('='));
+        })) {
+      if (name.find('=') == std::string_view::npos) ++i;
+      continue;
+    }
+    own.emplace_back(argument);
+  }
+  return own;
+}
 
 // True when the form is to be opened; otherwise `status` holds.
 bool Parse(int argc, char** argv, Arguments& arguments, int& status) {
@@ -65,8 +94,10 @@ bool Parse(int argc, char** argv, Arguments& arguments, int& status) {
       return false;
     }
   }
+  std::vector<std::string> own = WithoutThoseOfQt(argc, argv);
+  std::reverse(own.begin(), own.end());  // as the parser wants them
   try {
-    app.parse(argc, argv);
+    app.parse(std::move(own));
     return true;
   } catch (const CLI::ParseError& error) {
     status = app.exit(error) == 0 ? kExitDone : kExitUsage;

@@ -23,6 +23,7 @@ struct InputBox {
   std::string prompt;
   std::string title;
   std::string defaultText;
+  bool asksForFolder = false;  // of Versalia's
 };
 
 // The one way to the person who uses the program. The form shows boxes, the command line prints the same words, tests

@@ -41,10 +41,11 @@ void WarnOfWrongPaths(UserInterface& ui) {
 
 // False where nobody can be asked.
 bool AskForPaths(ModGlob& glob, UserInterface& ui) {
-  const auto install = ui.AskText({"Enter the Versalia Path", "Enter Versalia Path", "C:\\Program Files\\Versalia\\"});
+  const auto install =
+      ui.AskText({"Enter the Versalia Path", "Enter Versalia Path", "C:\\Program Files\\Versalia\\", true});
   if (!install) return false;
-  const auto modules =
-      ui.AskText({"Enter the Versalia Module Path", "Enter Module Path", "C:\\Program Files\\Versalia\\Modules\\"});
+  const auto modules = ui.AskText(
+      {"Enter the Versalia Module Path", "Enter Module Path", "C:\\Program Files\\Versalia\\Modules\\", true});
   if (!modules) return false;
   SetInstallation(glob, *install, *modules, "SysDefs");
   return true;

@@ -199,12 +199,94 @@
         <source>cannot be removed: %1.</source>
         <translation>lässt sich nicht löschen: %1.</translation>
     </message>
+    <message>
+        <source>&amp;Browse...</source>
+        <translation>&amp;Durchsuchen...</translation>
+    </message>
+    <message>
+        <source>Versalia is the program that installs the translations which Folionet turns into sites. Without it, make a library of your own with make_library and give its folders here.</source>
+        <translation>Versalia ist das Programm, das die Übersetzungen installiert, aus denen Folionet Websites macht. Ohne es machen Sie mit make_library eine eigene Bibliothek und geben hier deren Ordner an.</translation>
+    </message>
+    <message>
+        <source>Preview page</source>
+        <translation>Seite ansehen</translation>
+    </message>
+    <message>
+        <source>The translation has no chapter 1 of the starting book.</source>
+        <translation>Die Übersetzung hat kein Kapitel 1 des ersten Buches.</translation>
+    </message>
 </context>
 <context>
     <name>folionet::CustomHtmlDialog</name>
     <message>
         <source>HTML code</source>
         <translation>HTML-Code</translation>
+    </message>
+</context>
+<context>
+    <name>folionet::FactLines</name>
+    <message>
+        <source>1 page of an earlier compile</source>
+        <translation>1 Seite eines früheren Kompilierens</translation>
+    </message>
+    <message>
+        <source>%1 pages of an earlier compile</source>
+        <translation>%1 Seiten eines früheren Kompilierens</translation>
+    </message>
+    <message>
+        <source>%1 pages of an earlier compile of %2</source>
+        <translation>%1 Seiten eines früheren Kompilierens von %2</translation>
+    </message>
+    <message>
+        <source>%1 there is not of Folionet and will be replaced.</source>
+        <translation>%1 dort ist nicht von Folionet und wird ersetzt.</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more there are not of Folionet and will be replaced.</source>
+        <translation>%1 und %2 weitere dort sind nicht von Folionet und werden ersetzt.</translation>
+    </message>
+    <message>
+        <source>The folder cannot be read.</source>
+        <translation>Der Ordner kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>1 other file stays untouched</source>
+        <translation>1 andere Datei bleibt unberührt</translation>
+    </message>
+    <message>
+        <source>%1 other files stay untouched</source>
+        <translation>%1 andere Dateien bleiben unberührt</translation>
+    </message>
+    <message>
+        <source>Empty folder.</source>
+        <translation>Leerer Ordner.</translation>
+    </message>
+    <message>
+        <source>No translation is there: &quot;%1&quot; lists none whose text is in &quot;%2&quot;.</source>
+        <translation>Keine Übersetzung ist da: „%1“ nennt keine, deren Text in „%2“ liegt.</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1 bis %2</translation>
+    </message>
+    <message>
+        <source>The pages of %1 will be deleted: %2.</source>
+        <translation>Die Seiten von %1 werden gelöscht: %2.</translation>
+    </message>
+    <message>
+        <source>The pages of %1 are written too; the index does not lead to them.</source>
+        <translation>Auch die Seiten von %1 werden geschrieben; der Index führt nicht zu ihnen.</translation>
+    </message>
+    <message>
+        <source>Looking at the folder...</source>
+        <translation>Der Ordner wird angesehen...</translation>
+    </message>
+</context>
+<context>
+    <name>folionet::FolderTree</name>
+    <message>
+        <source>Folder</source>
+        <translation>Ordner</translation>
     </message>
 </context>
 <context>
@@ -227,6 +309,13 @@
     </message>
 </context>
 <context>
+    <name>folionet::HistoryBox</name>
+    <message>
+        <source>Last addresses</source>
+        <translation>Letzte Adressen</translation>
+    </message>
+</context>
+<context>
     <name>folionet::LibraryLists</name>
     <message>
         <source>Translation not found</source>
@@ -235,13 +324,6 @@
     <message>
         <source>&quot;%1&quot; can no longer be read. Its text would be:</source>
         <translation>„%1“ kann nicht mehr gelesen werden. Ihr Text wäre:</translation>
-    </message>
-</context>
-<context>
-    <name>folionet::StatusPanels</name>
-    <message>
-        <source>Progress</source>
-        <translation>Fortschritt</translation>
     </message>
 </context>
 <context>
@@ -338,12 +420,36 @@
         <source>META Description Index page</source>
         <translation>META-Beschreibung der Indexseite</translation>
     </message>
+    <message>
+        <source>META Keywords of the index page</source>
+        <translation>META-Stichwörter der Indexseite</translation>
+    </message>
+    <message>
+        <source>META Keywords of all other pages</source>
+        <translation>META-Stichwörter aller anderen Seiten</translation>
+    </message>
+    <message>
+        <source>META Description of the index page</source>
+        <translation>META-Beschreibung der Indexseite</translation>
+    </message>
+    <message>
+        <source>META Description of all other pages</source>
+        <translation>META-Beschreibung aller anderen Seiten</translation>
+    </message>
+    <message>
+        <source>Type above, or press Refresh</source>
+        <translation>Oben schreiben oder „Refresh“ drücken</translation>
+    </message>
 </context>
 <context>
     <name>folionet::frmLinkToMAin</name>
     <message>
         <source>&amp;HTML of the link</source>
         <translation>&amp;HTML des Links</translation>
+    </message>
+    <message>
+        <source>Press Refresh to see the link</source>
+        <translation>„Refresh“ zeigt den Link</translation>
     </message>
 </context>
 <context>
@@ -405,10 +511,6 @@
         <translation>HTTP-Wurzel: die Adresse der Indexseite</translation>
     </message>
     <message>
-        <source>The address of the index page, such as index.html or http://www.example.org/index.html.</source>
-        <translation>Die Adresse der Indexseite, etwa index.html oder http://www.example.org/index.html.</translation>
-    </message>
-    <message>
         <source>Page text</source>
         <translation>Text der Seiten</translation>
     </message>
@@ -468,6 +570,34 @@ Return all settings to default now?</source>
 „Restore ALL Defaults“ oder ein anderer Name für cboLang in %2 lässt das Programm wieder starten.
 Jetzt alle Einstellungen zurücksetzen?</translation>
     </message>
+    <message>
+        <source>Book titles</source>
+        <translation>Buchtitel</translation>
+    </message>
+    <message>
+        <source>Recent folders</source>
+        <translation>Letzte Ordner</translation>
+    </message>
+    <message>
+        <source>Choose one of the folders that were compiled into last.</source>
+        <translation>Einen der Ordner wählen, in die zuletzt kompiliert wurde.</translation>
+    </message>
+    <message>
+        <source>The address of the index page, such as index.html or http://www.example.org/index.html. The Down key offers index.html and the last addresses; Return compiles.</source>
+        <translation>Die Adresse der Indexseite, wie index.html oder http://www.example.org/index.html. Die Taste „Pfeil ab“ bietet index.html und die letzten Adressen an; die Eingabetaste kompiliert.</translation>
+    </message>
+    <message>
+        <source>Preview page</source>
+        <translation>Seite ansehen</translation>
+    </message>
+    <message>
+        <source>Show chapter 1 of the starting book in your browser as it would be made now (F7).</source>
+        <translation>Kapitel 1 des ersten Buches so im Browser zeigen, wie es jetzt gemacht würde (F7).</translation>
+    </message>
+    <message>
+        <source>%1 pages in %2, %3</source>
+        <translation>%1 Seiten in %2, %3</translation>
+    </message>
 </context>
 <context>
     <name>folionet::frmPAgeTitles</name>
@@ -498,6 +628,18 @@ Jetzt alle Einstellungen zurücksetzen?</translation>
     <message>
         <source>&amp;Close</source>
         <translation>&amp;Schließen</translation>
+    </message>
+    <message>
+        <source>Preview of the title of the index page</source>
+        <translation>Vorschau des Titels der Indexseite</translation>
+    </message>
+    <message>
+        <source>Type above, or press Preview</source>
+        <translation>Oben schreiben oder „Vorschau“ drücken</translation>
+    </message>
+    <message>
+        <source>Preview of the title of all other pages</source>
+        <translation>Vorschau des Titels aller anderen Seiten</translation>
     </message>
 </context>
 </TS>

@@ -199,12 +199,94 @@
         <source>cannot be removed: %1.</source>
         <translation>no se puede borrar: %1.</translation>
     </message>
+    <message>
+        <source>&amp;Browse...</source>
+        <translation>E&amp;xaminar...</translation>
+    </message>
+    <message>
+        <source>Versalia is the program that installs the translations which Folionet turns into sites. Without it, make a library of your own with make_library and give its folders here.</source>
+        <translation>Versalia es el programa que instala las traducciones que Folionet convierte en sitios. Sin él, haga una biblioteca propia con make_library e indique aquí sus carpetas.</translation>
+    </message>
+    <message>
+        <source>Preview page</source>
+        <translation>Ver página</translation>
+    </message>
+    <message>
+        <source>The translation has no chapter 1 of the starting book.</source>
+        <translation>La traducción no tiene el capítulo 1 del libro inicial.</translation>
+    </message>
 </context>
 <context>
     <name>folionet::CustomHtmlDialog</name>
     <message>
         <source>HTML code</source>
         <translation>Código HTML</translation>
+    </message>
+</context>
+<context>
+    <name>folionet::FactLines</name>
+    <message>
+        <source>1 page of an earlier compile</source>
+        <translation>1 página de una compilación anterior</translation>
+    </message>
+    <message>
+        <source>%1 pages of an earlier compile</source>
+        <translation>%1 páginas de una compilación anterior</translation>
+    </message>
+    <message>
+        <source>%1 pages of an earlier compile of %2</source>
+        <translation>%1 páginas de una compilación anterior de %2</translation>
+    </message>
+    <message>
+        <source>%1 there is not of Folionet and will be replaced.</source>
+        <translation>%1 de allí no es de Folionet y se reemplazará.</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more there are not of Folionet and will be replaced.</source>
+        <translation>%1 y %2 más de allí no son de Folionet y se reemplazarán.</translation>
+    </message>
+    <message>
+        <source>The folder cannot be read.</source>
+        <translation>No se puede leer la carpeta.</translation>
+    </message>
+    <message>
+        <source>1 other file stays untouched</source>
+        <translation>1 otro archivo queda intacto</translation>
+    </message>
+    <message>
+        <source>%1 other files stay untouched</source>
+        <translation>%1 otros archivos quedan intactos</translation>
+    </message>
+    <message>
+        <source>Empty folder.</source>
+        <translation>Carpeta vacía.</translation>
+    </message>
+    <message>
+        <source>No translation is there: &quot;%1&quot; lists none whose text is in &quot;%2&quot;.</source>
+        <translation>No hay ninguna traducción: «%1» no nombra ninguna cuyo texto esté en «%2».</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1 a %2</translation>
+    </message>
+    <message>
+        <source>The pages of %1 will be deleted: %2.</source>
+        <translation>Se borrarán las páginas de %1: %2.</translation>
+    </message>
+    <message>
+        <source>The pages of %1 are written too; the index does not lead to them.</source>
+        <translation>También se escriben las páginas de %1; el índice no lleva a ellas.</translation>
+    </message>
+    <message>
+        <source>Looking at the folder...</source>
+        <translation>Examinando la carpeta...</translation>
+    </message>
+</context>
+<context>
+    <name>folionet::FolderTree</name>
+    <message>
+        <source>Folder</source>
+        <translation>Carpeta</translation>
     </message>
 </context>
 <context>
@@ -227,6 +309,13 @@
     </message>
 </context>
 <context>
+    <name>folionet::HistoryBox</name>
+    <message>
+        <source>Last addresses</source>
+        <translation>Últimas direcciones</translation>
+    </message>
+</context>
+<context>
     <name>folionet::LibraryLists</name>
     <message>
         <source>Translation not found</source>
@@ -235,13 +324,6 @@
     <message>
         <source>&quot;%1&quot; can no longer be read. Its text would be:</source>
         <translation>«%1» ya no se puede leer. Su texto sería:</translation>
-    </message>
-</context>
-<context>
-    <name>folionet::StatusPanels</name>
-    <message>
-        <source>Progress</source>
-        <translation>Progreso</translation>
     </message>
 </context>
 <context>
@@ -338,12 +420,36 @@
         <source>META Description Index page</source>
         <translation>Descripción META de la página índice</translation>
     </message>
+    <message>
+        <source>META Keywords of the index page</source>
+        <translation>Palabras clave META de la página índice</translation>
+    </message>
+    <message>
+        <source>META Keywords of all other pages</source>
+        <translation>Palabras clave META de las demás páginas</translation>
+    </message>
+    <message>
+        <source>META Description of the index page</source>
+        <translation>Descripción META de la página índice</translation>
+    </message>
+    <message>
+        <source>META Description of all other pages</source>
+        <translation>Descripción META de las demás páginas</translation>
+    </message>
+    <message>
+        <source>Type above, or press Refresh</source>
+        <translation>Escriba arriba o pulse «Refresh»</translation>
+    </message>
 </context>
 <context>
     <name>folionet::frmLinkToMAin</name>
     <message>
         <source>&amp;HTML of the link</source>
         <translation>&amp;HTML del enlace</translation>
+    </message>
+    <message>
+        <source>Press Refresh to see the link</source>
+        <translation>Pulse «Refresh» para ver el enlace</translation>
     </message>
 </context>
 <context>
@@ -405,10 +511,6 @@
         <translation>Raíz HTTP: la dirección de la página índice</translation>
     </message>
     <message>
-        <source>The address of the index page, such as index.html or http://www.example.org/index.html.</source>
-        <translation>La dirección de la página índice, como index.html o http://www.example.org/index.html.</translation>
-    </message>
-    <message>
         <source>Page text</source>
         <translation>Texto de las páginas</translation>
     </message>
@@ -468,6 +570,34 @@ Return all settings to default now?</source>
 «Restore ALL Defaults», u otro nombre para cboLang en %2, permite que el programa vuelva a arrancar.
 ¿Restablecer ahora todos los ajustes?</translation>
     </message>
+    <message>
+        <source>Book titles</source>
+        <translation>Títulos</translation>
+    </message>
+    <message>
+        <source>Recent folders</source>
+        <translation>Carpetas recientes</translation>
+    </message>
+    <message>
+        <source>Choose one of the folders that were compiled into last.</source>
+        <translation>Elegir una de las últimas carpetas en las que se compiló.</translation>
+    </message>
+    <message>
+        <source>The address of the index page, such as index.html or http://www.example.org/index.html. The Down key offers index.html and the last addresses; Return compiles.</source>
+        <translation>La dirección de la página índice, como index.html o http://www.example.org/index.html. La tecla Abajo ofrece index.html y las últimas direcciones; Intro compila.</translation>
+    </message>
+    <message>
+        <source>Preview page</source>
+        <translation>Ver página</translation>
+    </message>
+    <message>
+        <source>Show chapter 1 of the starting book in your browser as it would be made now (F7).</source>
+        <translation>Mostrar en el navegador el capítulo 1 del libro inicial como se haría ahora (F7).</translation>
+    </message>
+    <message>
+        <source>%1 pages in %2, %3</source>
+        <translation>%1 páginas en %2, %3</translation>
+    </message>
 </context>
 <context>
     <name>folionet::frmPAgeTitles</name>
@@ -498,6 +628,18 @@ Return all settings to default now?</source>
     <message>
         <source>&amp;Close</source>
         <translation>&amp;Cerrar</translation>
+    </message>
+    <message>
+        <source>Preview of the title of the index page</source>
+        <translation>Vista previa del título de la página índice</translation>
+    </message>
+    <message>
+        <source>Type above, or press Preview</source>
+        <translation>Escriba arriba o pulse «Vista previa»</translation>
+    </message>
+    <message>
+        <source>Preview of the title of all other pages</source>
+        <translation>Vista previa del título de las demás páginas</translation>
     </message>
 </context>
 </TS>

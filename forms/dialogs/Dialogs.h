@@ -24,7 +24,10 @@ class Dialogs {
   template <typename Dialog>
   Dialog& Get() {
     auto& dialog = std::get<std::unique_ptr<Dialog>>(m_dialogs);
-    if (!dialog) dialog = std::make_unique<Dialog>(m_state, m_owner);
+    if (!dialog) {
+      dialog = std::make_unique<Dialog>(m_state, m_owner);
+      if (whenMade) whenMade(*dialog);
+    }
     return *dialog;
   }
 
@@ -47,6 +50,7 @@ class Dialogs {
     openModal(Get<Dialog>());
   }
 
+  std::function<void(QDialog&)> whenMade;
   std::function<void(QDialog&)> openModal = [](QDialog& dialog) { dialog.exec(); };
 
  private:

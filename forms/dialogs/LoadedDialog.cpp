@@ -42,7 +42,7 @@ void LoadedDialog::keyPressEvent(QKeyEvent* event) {
     return;
   }
   if (m_help == nullptr) m_help = new HelpWindow(this);
-  m_help->ShowContents();
+  m_help->ShowTopicOf(this);
 }
 
 }  // namespace folionet

@@ -2,6 +2,7 @@
 
 #include <exception>
 
+#include "ContentScroll.h"
 #include "Follow.h"
 #include "OptionLoading.h"
 #include "OptionSaving.h"
@@ -24,6 +25,7 @@ frmBackground::frmBackground(AppState& state, QWidget* parent)
       m_record(state.options.frmBackground),
       m_ui(std::make_unique<Ui::frmBackground>()) {
   m_ui->setupUi(this);
+  ScrollAllButButtons(*this);
   Follow(m_ui->txtImagepath, m_record.txtImagepath);
   Follow(m_ui->chkWaterMark, m_record.chkWaterMark);
   connect(m_ui->chkWaterMark, &QCheckBox::clicked, this, [this] {

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "ContentScroll.h"
 #include "Effects.h"
 #include "Follow.h"
 #include "OptionLoading.h"
@@ -31,6 +32,7 @@ frmEffects::frmEffects(AppState& state, QWidget* parent)
       m_ui(std::make_unique<Ui::frmEffects>()) {
   m_record = PageOptions().frmEffects;
   m_ui->setupUi(this);
+  ScrollAllButButtons(*this);
   ConnectRecord();
   const auto pick = [this](const QPushButton* button, const char* key, Swatch& swatch) {
     connect(button, &QPushButton::clicked, this, [this, key, &swatch] {
@@ -134,6 +136,9 @@ void frmEffects::ShowLooks() {
   const auto show = [&](const Swatch& swatch, QLabel& label, QLabel& ratio) {
     ShowSwatch(swatch, label);
     ratio.setText(ContrastAdvice(swatch.colour, page.BackColor));
+    QStringList heard{ToQt(swatch.colour).name()};
+    if (swatch.isDefault) heard << label.text();
+    label.setAccessibleName((heard << ratio.text()).join(QStringLiteral(", ")));
   };
   show(m_record.lblHyperlink, *m_ui->lblHyperlink, *m_ui->lblHyperlinkRatio);
   show(m_record.lblActive, *m_ui->lblActive, *m_ui->lblActiveRatio);

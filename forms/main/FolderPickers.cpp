@@ -133,14 +133,22 @@ void FolderPickers::Dir1_Change(const QString& path) {
   main.Dir1 = FromQt(path);
   m_state.glob.OutputFolder = main.Dir1.ends_with('/') ? main.Dir1 : main.Dir1 + '/';
   m_controls.txtOutputPath->setText(ToQt(m_state.glob.OutputFolder));
+  m_controls.txtOutputPath->setPlaceholderText({});
   m_controls.txtOutputPath->setToolTip(m_controls.txtOutputPath->text());
+  emit Chosen();
 }
 
 void FolderPickers::Browse() {
   const std::string chosen = m_state.ui.ChooseFolder(m_state.glob.OutputFolder);
   if (chosen.empty()) return;  // none was chosen before and none is now
-  const QString folder = CleanPath(chosen);
-  if (ShowFolder(folder)) Dir1_Change(folder);
+  Choose(chosen);
+}
+
+bool FolderPickers::Choose(const std::string& path) {
+  const QString folder = CleanPath(path);
+  if (!ShowFolder(folder)) return false;
+  Dir1_Change(folder);
+  return true;
 }
 
 }  // namespace folionet

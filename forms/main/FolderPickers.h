@@ -29,10 +29,16 @@ class FolderPickers : public QObject {
   // folder that is gone is reported.
   void Restore();
 
+  // Chooses a folder, of whatever volume. False when there is none of that path.
+  bool Choose(const std::string& path);
+
   // What a compile takes as its output path.
   std::string OutputPath() const;
 
   std::function<std::vector<Volume>()> volumes = MountedVolumes;
+
+ signals:
+  void Chosen();
 
  private:
   void RestoreDrive();

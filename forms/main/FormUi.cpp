@@ -4,6 +4,7 @@
 #include <QCheckBox>
 #include <QColorDialog>
 #include <QDesktopServices>
+#include <QDialogButtonBox>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -15,8 +16,10 @@
 #include <QInputDialog>
 #include <QLabel>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QStandardPaths>
 #include <QUrl>
+#include <QVBoxLayout>
 #include <algorithm>
 #include <climits>
 #include <cstdlib>
@@ -61,6 +64,26 @@ void PrepareBox(QMessageBox& box, const std::string& title, const std::string& t
     const int width = std::min(kWidest, label->fontMetrics().horizontalAdvance(box.windowTitle()) + kButtons);
     grid->addItem(new QSpacerItem(width, 0), grid->rowCount(), 0, 1, grid->columnCount());
   }
+}
+
+// A folder may be chosen, and is entered with the separator that it must end in. Who has no Versalia learns what to do.
+void OfferFolder(QInputDialog& dialog) {
+  auto* buttons = dialog.findChild<QDialogButtonBox*>();
+  if (buttons == nullptr) return;
+  QPushButton* browse = buttons->addButton(QObject::tr("&Browse..."), QDialogButtonBox::ActionRole);
+  browse->setObjectName(QStringLiteral("cmdBrowse"));
+  QObject::connect(browse, &QPushButton::clicked, &dialog, [&dialog] {
+    const QString folder = QFileDialog::getExistingDirectory(&dialog, dialog.windowTitle(), QDir::homePath());
+    if (!folder.isEmpty()) dialog.setTextValue(folder.endsWith(QLatin1Char('/')) ? folder : folder + QLatin1Char('/'));
+  });
+  auto* about =
+      new QLabel(QObject::tr("Versalia is the program that installs the translations which Folionet turns into "
+                             "sites. Without it, make a library of your own with make_library and give its "
+                             "folders here."),
+                 &dialog);
+  about->setObjectName(QStringLiteral("lblAbout"));
+  about->setWordWrap(true);
+  if (auto* layout = qobject_cast<QVBoxLayout*>(dialog.layout())) layout->insertWidget(layout->count() - 1, about);
 }
 
 // A page's text is neither struck out nor underlined. Only Qt's own chooser lets them be left out.
@@ -142,6 +165,7 @@ std::optional<std::string> FormUi::AskText(const InputBox& box) {
   dialog.setTextValue(ToQt(box.defaultText));
   // Wide enough for the default, its frame and some typing.
   const QString room = ToQt(box.defaultText) + QString(12, QLatin1Char('M'));
+  if (box.asksForFolder) OfferFolder(dialog);
   dialog.resize(dialog.fontMetrics().horizontalAdvance(room), dialog.sizeHint().height());
   return dialog.exec() == QDialog::Accepted ? FromQt(dialog.textValue()) : std::string();
 }

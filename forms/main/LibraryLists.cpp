@@ -1,5 +1,7 @@
 #include "LibraryLists.h"
 
+#include <QCoreApplication>
+
 #include "BookTitles.h"
 #include "Catalogue.h"
 #include "ChapterIndex.h"
@@ -109,6 +111,7 @@ void LibraryLists::ChooseBible() {
   m_chosen = item;
   TakeTranslation(static_cast<std::size_t>(place));
   if (LoadVerses() == Outcome::kEndProgram) emit EndProgram();
+  emit Chosen();
 }
 
 // An item that was listed from other folders than those that were entered later.
@@ -130,6 +133,7 @@ void LibraryLists::ChooseLanguage() {
     return;
   }
   ShowBooks();
+  emit Chosen();
 }
 
 void LibraryLists::ShowTranslations() {
@@ -150,6 +154,9 @@ void LibraryLists::TakeTranslation(std::size_t place) {
   m_state.options.txtBibleSel = glob.BibleNames[place];
   if (glob.cboBibleName.empty()) m_state.options.txtBibleSel.clear();
   m_controls.txtBibleSel->setText(ToQt(m_state.codePage.DecodeForDisplay(m_state.options.txtBibleSel)));
+  // What stands for nothing is not told beside something.
+  m_controls.txtBibleSel->setPlaceholderText(
+      m_state.options.txtBibleSel.empty() ? QCoreApplication::translate("folionet::frmMain", "None") : QString());
   m_controls.txtFilename->setText(ToQt(VerseFile(glob, m_state.codePage, glob.BibleFiles[place])));
   m_controls.txtFilename->setToolTip(m_controls.txtFilename->text());
 }

@@ -40,6 +40,9 @@ class LibraryLists : public QObject {
   int SelectedTranslation() const;
 
  signals:
+  // A translation or a language was chosen.
+  void Chosen();
+
   // A failure was told after which the program must end.
   void EndProgram();
 

@@ -1,5 +1,6 @@
 #include "SampleTextBox.h"
 
+#include <QApplication>
 #include <QPalette>
 #include <algorithm>
 
@@ -36,6 +37,7 @@ std::string MakeSampleText(const SampleText& sample) {
 SampleTextBox::SampleTextBox(QWidget* parent) : QPlainTextEdit(parent) {
   setReadOnly(true);
   setTabChangesFocus(true);
+  setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
 }
 
 void SampleTextBox::ShowSample(const SampleText& sample) {
@@ -54,6 +56,26 @@ void SampleTextBox::ShowSample(const SampleText& sample) {
   }
   setPalette(colours);
   setPlainText(ToQtLines(MakeSampleText(sample)));
+  constexpr int kMostLines = 6;
+  setMaximumHeight(
+      std::max(sizeHint().height(), std::min(kMostLines * fontMetrics().lineSpacing(), 2 * sizeHint().height())));
+  updateGeometry();
+}
+
+QSize SampleTextBox::sizeHint() const {
+  constexpr int kColumns = 34;
+  constexpr int kLines = 4;
+  constexpr int kMostLines = 10;  // of the form's font, however large the page's is
+  const QFontMetrics form(QApplication::font());
+  const int frame = 2 * frameWidth() + static_cast<int>(2 * document()->documentMargin()) + 2;
+  const int text = std::min(kLines * fontMetrics().lineSpacing(), kMostLines * form.lineSpacing());
+  return {kColumns * form.averageCharWidth(), text + frame};
+}
+
+QSize SampleTextBox::minimumSizeHint() const {
+  constexpr int kLines = 3;
+  const QFontMetrics form(QApplication::font());
+  return {sizeHint().width(), std::min(sizeHint().height(), kLines * form.lineSpacing())};
 }
 
 }  // namespace folionet

@@ -18,6 +18,9 @@ class SampleTextBox : public QPlainTextEdit {
   explicit SampleTextBox(QWidget* parent = nullptr);
 
   void ShowSample(const SampleText& sample);
+
+  QSize sizeHint() const override;  // of the four lines
+  QSize minimumSizeHint() const override;
 };
 
 }  // namespace folionet

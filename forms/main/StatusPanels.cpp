@@ -29,7 +29,6 @@ StatusPanels::StatusPanels(QStatusBar& bar, QProgressBar& progress, QObject* par
   QSizePolicy room = m_progress.sizePolicy();
   room.setRetainSizeWhenHidden(true);  // else the window would grow as a run begins
   m_progress.setSizePolicy(room);
-  m_panels[0]->setAccessibleName(tr("Progress"));
   m_late.setSingleShot(true);
   m_late.setInterval(kInterval);
   connect(&m_late, &QTimer::timeout, this, &StatusPanels::ShowProgress);

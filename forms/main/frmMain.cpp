@@ -1,19 +1,29 @@
 #include "frmMain.h"
 
 #include <QCloseEvent>
+#include <QDropEvent>
+#include <QFileInfo>
 #include <QKeyEvent>
+#include <QLocale>
+#include <QMenu>
+#include <QMimeData>
 #include <QShortcut>
+#include <QTime>
 #include <utility>
 
 #include "BuildInfo.h"
 #include "Compile.h"
 #include "Contrast.h"
+#include "FactLines.h"
 #include "FolderPickers.h"
+#include "FormMemory.h"
 #include "HelpWindow.h"
 #include "LibraryLists.h"
 #include "MainCompile.h"
 #include "OneLine.h"
 #include "OptionSaving.h"
+#include "PageNames.h"
+#include "PagePreview.h"
 #include "QtText.h"
 #include "RunGuard.h"
 #include "RunTimeError.h"
@@ -39,6 +49,13 @@ QColor ReadableGround(QColor ground, const QColor& text) {
   return ground;
 }
 
+// The folder that is dragged; empty for anything else.
+QString DraggedFolder(const QMimeData* data) {
+  const QList<QUrl> urls = data->urls();
+  const QString path = urls.size() == 1 ? urls[0].toLocalFile() : QString();
+  return QFileInfo(path).isDir() ? path : QString();
+}
+
 }  // namespace
 
 frmMain::frmMain(AppState& state, QWidget* parent)
@@ -48,10 +65,20 @@ frmMain::frmMain(AppState& state, QWidget* parent)
   m_lists = new LibraryLists(state, *m_ui, this);
   m_folders = new FolderPickers(state, *m_ui, this);
   m_style = new StyleOptions(state, *m_ui, this);
+  m_facts = new FactLines(state, *m_ui, *m_lists, *m_folders, this);
+  m_memory = new FormMemory(state.store, this);
+  m_preview = std::make_unique<PagePreview>();
+  m_memory->KeepPlace(*this);
+  m_dialogs.whenMade = [this](QDialog& dialog) { m_memory->KeepPlace(dialog); };
   KeepBoxesToOneLine(*m_ui->centralwidget);
   DressControls();
   ConnectOptions();
   ConnectCommands();
+  ConnectFacts();
+  OfferAddresses();
+  OfferFolders();
+  connect(m_ui->cmdRecentFolders, &QToolButton::clicked, this, &frmMain::ListFolders);
+  setAcceptDrops(true);
 }
 
 frmMain::~frmMain() = default;
@@ -85,6 +112,8 @@ void frmMain::ConnectCommands() {
     if (!m_hasEnded) End();
   });
   connect(m_ui->cmdCompile, &QPushButton::clicked, this, &frmMain::Compile);
+  connect(m_ui->txthttpRoot, &QLineEdit::returnPressed, m_ui->cmdCompile, &QPushButton::click);
+  connect(m_ui->cmdPreviewPage, &QPushButton::clicked, this, &frmMain::PreviewPage);
   connect(m_ui->cmdOpenIndex, &QPushButton::clicked, this, &frmMain::OpenIndexPage);
   connect(m_ui->cmdVerifySite, &QPushButton::clicked, this, &frmMain::VerifyCompiledSite);
   connect(m_ui->cmdPageTitles, &QPushButton::clicked, this, [this] { Open<frmPAgeTitles>(); });
@@ -94,15 +123,23 @@ void frmMain::ConnectCommands() {
   connect(m_ui->cmdCustomHeader, &QPushButton::clicked, this, [this] { Open<frmCustomHeader>(); });
   connect(m_ui->cmdCustomFooter, &QPushButton::clicked, this, [this] { Open<frmCustomizeFooter>(); });
   connect(m_ui->cmdPageEncoding, &QPushButton::clicked, this, &frmMain::OpenEncoding);
-  connect(m_ui->cmdHelp, &QPushButton::clicked, this, &frmMain::ShowHelp);
-  connect(new QShortcut(QKeySequence(Qt::Key_F1), this), &QShortcut::activated, this, &frmMain::ShowHelp);
+  connect(m_ui->cmdHelp, &QPushButton::clicked, this, [this] { ShowHelp(nullptr); });
+  connect(new QShortcut(QKeySequence(Qt::Key_F1), this), &QShortcut::activated, this,
+          [this] { ShowHelp(focusWidget()); });
   // Not the buttons' own shortcuts, which setting their translated texts clears.
   for (const auto& [key, button] : {std::pair{QKeySequence(Qt::CTRL | Qt::Key_O), m_ui->cmdOpenIndex},
+                                    std::pair{QKeySequence(Qt::Key_F7), m_ui->cmdPreviewPage},
                                     std::pair{QKeySequence(Qt::Key_F8), m_ui->cmdVerifySite}}) {
     connect(new QShortcut(key, this), &QShortcut::activated, button, &QPushButton::click);
   }
   connect(m_ui->cmdRestoreAll, &QPushButton::clicked, this, &frmMain::RestoreAll);
   connect(m_ui->cmdClose, &QPushButton::clicked, this, &QWidget::close);
+}
+
+// Wider than it must be, so that paths and names have room.
+QSize frmMain::sizeHint() const {
+  constexpr int kColumns = 136;
+  return QMainWindow::sizeHint().expandedTo({kColumns * fontMetrics().averageCharWidth(), 0});
 }
 
 void frmMain::ShowPanel(int panel, std::string_view text) { m_panels->Set(panel, text); }
@@ -132,7 +169,9 @@ void frmMain::CSSCheck() {
 void frmMain::Compile() {
   m_startFailure.clear();  // is told again
   if (!IsStarted()) return;
-  const CompileRequest request = GatherRequest(m_state, *m_ui, *m_lists, *m_folders);
+  CompileRequest request = GatherRequest(m_state, *m_ui, *m_lists, *m_folders);
+  SiteChanges changes;
+  request.changes = &changes;
   CompileOutcome outcome = CompileOutcome::kFailed;
   {
     const RunGuard guard(*this);
@@ -143,19 +182,90 @@ void frmMain::Compile() {
   if (outcome == CompileOutcome::kEndProgram) End();
   if (outcome != CompileOutcome::kDone) return;
   m_dialogs.Get<frmLinkToMAin>().SetString();
+  m_memory->Add(FormMemory::kAddresses, ToQt(request.options.txthttpRoot));
+  m_memory->Add(FormMemory::kFolders, ToQt(request.txtOutputPath));
+  m_memory->Save();
+  OfferAddresses();
+  OfferFolders();
+  m_facts->LookAtFolder();
   m_indexPage = IndexPagePath(request);
   m_ui->cmdOpenIndex->setEnabled(true);
   m_ui->cmdVerifySite->setEnabled(true);
+  m_ui->cmdOpenIndex->setFocus();
+  ShowResult(changes.New().size() + changes.Changed().size() + changes.Same().size());
+}
+
+// What panel 1 is left with: the pages that a run made, where they are and since when.
+void frmMain::ShowResult(std::size_t pages) {
+  QStringList parts = ToQt(m_state.glob.OutputFolder).split(QLatin1Char('/'), Qt::SkipEmptyParts);
+  constexpr qsizetype kShown = 2;
+  QString folder = QLatin1Char('/') + parts.join(QLatin1Char('/'));
+  if (parts.size() > kShown) {
+    folder = QStringLiteral(".../") + parts.mid(parts.size() - kShown).join(QLatin1Char('/'));
+  }
+  const QString count = QLocale().toString(static_cast<qulonglong>(pages));
+  const QString time = QLocale().toString(QTime::currentTime(), QLocale::ShortFormat);
+  ShowPanel(1, FromQt(tr("%1 pages in %2, %3").arg(count, folder, time)));
+}
+
+void frmMain::ConnectFacts() {
+  connect(m_folders, &FolderPickers::Chosen, m_facts, &FactLines::LookAtFolder);
+  connect(m_facts, &FactLines::Shown, this, &frmMain::ShowFacts);
+  for (QComboBox* list : {m_ui->cboStartBook, m_ui->cboEndBook}) {
+    connect(list, &QComboBox::activated, m_facts, &FactLines::Show);
+  }
+  connect(m_lists, &LibraryLists::Chosen, m_facts, &FactLines::Show);
+  connect(m_ui->txthttpRoot, &QLineEdit::textChanged, m_facts, &FactLines::Show);
+  connect(m_ui->chkUse83, &QCheckBox::clicked, m_facts, &FactLines::Show);
+  connect(m_ui->chkCSS, &QCheckBox::clicked, m_facts, &FactLines::Show);
+}
+
+// An index page that is there can be opened and its site checked, also when it was made by an earlier run.
+void frmMain::ShowFacts() {
+  if (m_facts->IsLooking()) return;
+  const std::string found = m_facts->IndexPage();
+  m_indexPage = found;
+  m_ui->cmdOpenIndex->setEnabled(!found.empty());
+  m_ui->cmdVerifySite->setEnabled(!found.empty());
+}
+
+void frmMain::OfferAddresses() {
+  QStringList addresses = m_memory->Recent(FormMemory::kAddresses);
+  const QString plain = QStringLiteral("index.html");
+  if (!addresses.contains(plain)) addresses << plain;
+  m_ui->txthttpRoot->Offer(addresses);
+}
+
+void frmMain::OfferFolders() { m_ui->cmdRecentFolders->setEnabled(!m_memory->Recent(FormMemory::kFolders).isEmpty()); }
+
+void frmMain::ListFolders() {
+  auto* menu = new QMenu(this);
+  menu->setAttribute(Qt::WA_DeleteOnClose);
+  for (const QString& folder : m_memory->Recent(FormMemory::kFolders)) {
+    QAction* action = menu->addAction(QString(folder).replace(QLatin1Char('&'), QStringLiteral("&&")));
+    connect(action, &QAction::triggered, this, [this, folder] { m_folders->Choose(FromQt(folder)); });
+  }
+  menu->popup(m_ui->cmdRecentFolders->mapToGlobal(m_ui->cmdRecentFolders->rect().bottomLeft()));
+}
+
+void frmMain::PreviewPage() {
+  if (!IsStarted()) return;
+  const RunGuard guard(*this);
+  m_preview->Show(GatherRequest(m_state, *m_ui, *m_lists, *m_folders), m_state.glob, m_state.ui);
 }
 
 void frmMain::OpenIndexPage() { m_state.ui.ShowPage(m_indexPage); }
 
-void frmMain::VerifyCompiledSite() { VerifyWrittenSite(m_indexPage, *this, m_state.ui); }
+void frmMain::VerifyCompiledSite() {
+  VerifyWrittenSite(m_indexPage, *this, m_state.ui);
+  m_facts->LookAtFolder();  // pages may have been removed
+}
 
 void frmMain::OpenEncoding() {
   Open<frmEncoding>();
   m_state.codePage = CodePage(m_state.texts.PageCharset);
   m_lists->ShowNames();
+  m_facts->Show();
 }
 
 void frmMain::OpenLinkToMain() {
@@ -163,9 +273,9 @@ void frmMain::OpenLinkToMain() {
   Open<frmLinkToMAin>();
 }
 
-void frmMain::ShowHelp() {
+void frmMain::ShowHelp(const QWidget* control) {
   if (m_help == nullptr) m_help = new HelpWindow(this);
-  m_help->ShowContents();
+  m_help->ShowTopicOf(control);
 }
 
 bool frmMain::SaveDefaults() {
@@ -201,6 +311,7 @@ void frmMain::OfferRestore() {
 void frmMain::Restore() {
   try {
     m_state.store.DeleteSetting(kApplicationTitle);
+    m_memory->Forget();
     m_dialogs.Renew<frmEffects>();
     m_dialogs.Renew<frmPAgeTitles>();
   } catch (const RunTimeError& error) {
@@ -235,6 +346,7 @@ void frmMain::closeEvent(QCloseEvent* event) {
       event->ignore();
       return;
     }
+    m_memory->Save();
     End();
   }
   event->accept();
@@ -252,7 +364,17 @@ void frmMain::keyPressEvent(QKeyEvent* event) {
 
 void frmMain::changeEvent(QEvent* event) {
   QMainWindow::changeEvent(event);
-  if (event->type() == QEvent::PaletteChange && m_ui->cmdCompile != nullptr) DressControls();
+  if (m_ui->cmdCompile == nullptr) return;
+  if (event->type() == QEvent::PaletteChange || event->type() == QEvent::FontChange) DressControls();
+}
+
+void frmMain::dragEnterEvent(QDragEnterEvent* event) {
+  if (!DraggedFolder(event->mimeData()).isEmpty()) event->acceptProposedAction();
+}
+
+void frmMain::dropEvent(QDropEvent* event) {
+  const QString folder = DraggedFolder(event->mimeData());
+  if (!folder.isEmpty() && m_folders->Choose(FromQt(folder))) event->acceptProposedAction();
 }
 
 // Gives the one button that everything leads to the desktop's accent.
@@ -267,6 +389,17 @@ void frmMain::DressControls() {
   }
   m_ui->cmdCompile->setPalette(button);
   DressBoxes(*this);
+  AlignLabels();
+}
+
+// One column of labels through all groups of the left side.
+void frmMain::AlignLabels() {
+  const std::initializer_list<QLabel*> labels{
+      m_ui->lblBibleName, m_ui->lblBibleSel, m_ui->lblFilename, m_ui->lblStartBook,  m_ui->lblEndBook,
+      m_ui->lblLang,      m_ui->lblDrive,    m_ui->lblDir1,     m_ui->lblOutputPath, m_ui->lblhttpRoot};
+  int widest = 0;
+  for (const QLabel* label : labels) widest = std::max(widest, label->sizeHint().width());
+  for (QLabel* label : labels) label->setMinimumWidth(widest);
 }
 
 }  // namespace folionet

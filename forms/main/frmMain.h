@@ -15,9 +15,12 @@ namespace folionet {
 namespace Ui {
 class frmMain;
 }
+class FactLines;
 class FolderPickers;
+class FormMemory;
 class HelpWindow;
 class LibraryLists;
+class PagePreview;
 class StatusPanels;
 class StyleOptions;
 
@@ -39,8 +42,11 @@ class frmMain : public QMainWindow {
   void ShowPanel(int panel, std::string_view text);
   void FocusControl(std::string_view name);
 
+  QSize sizeHint() const override;
+
   Dialogs& OptionDialogs() { return m_dialogs; }
   FolderPickers& Folders() { return *m_folders; }
+  const FactLines& Facts() const { return *m_facts; }
 
  signals:
   // The program must end now. Nothing more is asked or saved.
@@ -48,6 +54,8 @@ class frmMain : public QMainWindow {
 
  protected:
   void closeEvent(QCloseEvent* event) override;
+  void dragEnterEvent(QDragEnterEvent* event) override;
+  void dropEvent(QDropEvent* event) override;  // a folder that is dropped is chosen
   void changeEvent(QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;  // Return presses the button that has the focus
 
@@ -67,7 +75,7 @@ class frmMain : public QMainWindow {
   void OpenLinkToMain();
   void OpenIndexPage();
   void VerifyCompiledSite();
-  void ShowHelp();
+  void ShowHelp(const QWidget* control);
   bool SaveDefaults();
   bool LeavesUnsaved();
   void RestoreAll();
@@ -75,6 +83,14 @@ class frmMain : public QMainWindow {
   void OfferRestore();
   void End();
   void DressControls();
+  void AlignLabels();
+  void ConnectFacts();
+  void ShowFacts();
+  void ShowResult(std::size_t pages);
+  void PreviewPage();
+  void OfferAddresses();
+  void OfferFolders();
+  void ListFolders();
 
   AppState& m_state;
   std::unique_ptr<Ui::frmMain> m_ui;
@@ -83,8 +99,11 @@ class frmMain : public QMainWindow {
   FolderPickers* m_folders;
   StyleOptions* m_style;
   Dialogs m_dialogs;
+  FactLines* m_facts;
+  FormMemory* m_memory;
+  std::unique_ptr<PagePreview> m_preview;
   HelpWindow* m_help = nullptr;  // made when first opened
-  std::string m_indexPage;       // of the last run that was completed
+  std::string m_indexPage;       // that folder and address name, when it is there
   std::size_t m_nextStep = 0;    // of StartSteps; those before it are done
   bool m_hasStopped = false;     // at a failure, since when the person may have changed what was read
   std::string m_startFailure;    // what stopped the start-up, as it was told; empty when nothing did

@@ -2,6 +2,7 @@
 
 #include "BuildInfo.h"
 #include "ChapterIndex.h"
+#include "FactLines.h"
 #include "FolderPickers.h"
 #include "LibraryLists.h"
 #include "OptionLoading.h"
@@ -27,7 +28,11 @@ QString Caption() {
 bool frmMain::LoadForm() {
   setWindowTitle(Caption());
   m_folders->ListVolumes();
-  return GoOnWithStart();
+  const bool goesOn = GoOnWithStart();
+  m_facts->Show();
+  // What is still to be said, when the rest is as it was.
+  if (!m_state.glob.OutputFolder.empty()) m_ui->txthttpRoot->setFocus();
+  return goesOn;
 }
 
 // A failure that was told is not told again. False when the program must end.

@@ -6,6 +6,7 @@
 #include <QKeyEvent>
 #include <QSignalBlocker>
 #include <QStyle>
+#include <algorithm>
 
 namespace folionet {
 namespace {
@@ -27,6 +28,7 @@ QTreeWidgetItem* MakeItem(const QString& name, const QString& path, const QIcon&
 
 FolderTree::FolderTree(QWidget* parent) : QTreeWidget(parent) {
   setHeaderHidden(true);
+  setHeaderLabel(tr("Folder"));
   setUniformRowHeights(true);
   connect(this, &QTreeWidget::itemExpanded, this, &FolderTree::Fill);
   connect(this, &QTreeWidget::currentItemChanged, this, &FolderTree::Choose);
@@ -61,6 +63,18 @@ bool FolderTree::SetPath(const QString& path) {
   setCurrentItem(item);
   scrollToItem(item, QAbstractItemView::PositionAtCenter);
   return true;
+}
+
+QSize FolderTree::sizeHint() const { return SizeFor(6); }
+
+QSize FolderTree::minimumSizeHint() const { return SizeFor(4); }
+
+QSize FolderTree::SizeFor(int lines) const {
+  constexpr int kColumns = 20;
+  constexpr int kBetween = 2;
+  const int icon = style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, this);
+  const int line = std::max(fontMetrics().height(), icon) + kBetween;
+  return {kColumns * fontMetrics().averageCharWidth(), lines * line + 2 * frameWidth()};
 }
 
 QString FolderTree::RootPath() const { return topLevelItemCount() == 0 ? QString() : PathOf(topLevelItem(0)); }

@@ -19,6 +19,9 @@ class FolderTree : public QTreeWidget {
   // Makes a folder under the root current, without a signal. False when there is no such folder.
   bool SetPath(const QString& path);
 
+  QSize sizeHint() const override;
+  QSize minimumSizeHint() const override;
+
   QString RootPath() const;
   QString Path() const;
 
@@ -30,6 +33,7 @@ class FolderTree : public QTreeWidget {
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
+  QSize SizeFor(int lines) const;
   void Fill(QTreeWidgetItem* item);
   void FillOpened(QTreeWidgetItem* item);
   bool HoldsCurrent(const QTreeWidgetItem* item) const;

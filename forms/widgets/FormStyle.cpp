@@ -1,5 +1,6 @@
 #include "FormStyle.h"
 
+#include <QAbstractScrollArea>
 #include <QApplication>
 #include <QPainter>
 #include <QProxyStyle>
@@ -25,9 +26,11 @@ class OutlineStyle : public QProxyStyle {
   void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                      const QWidget* widget) const override {
     const bool drawsOutline = option != nullptr && IsDark(option->palette);
-    if (drawsOutline && (element == PE_IndicatorCheckBox || element == PE_IndicatorRadioButton)) {
+    // Marks are to be clicked: on a light window too the style's outline is hard to see.
+    if (element == PE_IndicatorCheckBox || element == PE_IndicatorRadioButton) {
       if (const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option)) {
-        const QStyleOptionButton copy = WithOutline(*button, kMarkOutline);
+        const bool isEnabled = (button->state & State_Enabled) != 0;
+        const QStyleOptionButton copy = WithOutline(*button, isEnabled ? kMarkOutline : kFrameOutline);
         return QProxyStyle::drawPrimitive(element, &copy, painter, widget);
       }
     }
@@ -50,9 +53,30 @@ class OutlineStyle : public QProxyStyle {
     } else {
       QProxyStyle::drawControl(element, option, painter, widget);
     }
+    if (option != nullptr && (option->state & State_HasFocus) != 0) DrawFocus(element, *option, *painter, widget);
   }
 
  private:
+  // The style draws no focus around what scrolls, and one that cannot be seen on a button in another colour.
+  static void DrawFocus(ControlElement element, const QStyleOption& option, QPainter& painter, const QWidget* widget) {
+    constexpr qreal kWidth = 2;
+    constexpr qreal kInside = 3.5;
+    const QPalette& palette = option.palette;
+    const bool isButton = element == CE_PushButton &&
+                          palette.color(QPalette::ButtonText).lightness() > palette.color(QPalette::Button).lightness();
+    const bool isFrame = element == CE_ShapedFrame && qobject_cast<const QAbstractScrollArea*>(widget) != nullptr;
+    if (!isButton && !isFrame) return;
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QColor ring = isButton
+                            ? palette.color(QPalette::ButtonText)
+                            : Between(palette.color(QPalette::Highlight), palette.color(QPalette::WindowText), 0.2F);
+    painter.setPen(QPen(ring, isButton ? 1 : kWidth));
+    const qreal inside = isButton ? kInside : kWidth / 2;
+    painter.drawRoundedRect(QRectF(option.rect).adjusted(inside, inside, -inside, -inside), 2, 2);
+    painter.restore();
+  }
+
   // How far outlines are from the window's colour to the text's: of what is to be clicked, and of what only frames.
   static constexpr float kMarkOutline = 0.55F;
   static constexpr float kFrameOutline = 0.3F;
@@ -88,7 +112,14 @@ class OutlineStyle : public QProxyStyle {
 }  // namespace
 
 void DressApplication() {
-  if (QApplication::style()->name() == QLatin1String(kStyledHere)) QApplication::setStyle(new OutlineStyle(qApp));
+  if (QApplication::style()->name() != QLatin1String(kStyledHere)) return;
+  QApplication::setStyle(new OutlineStyle(qApp));
+  // A frame is not painted again for its focus.
+  QObject::connect(qApp, &QApplication::focusChanged, qApp, [](QWidget* old, QWidget* now) {
+    for (QWidget* widget : {old, now}) {
+      if (qobject_cast<QAbstractScrollArea*>(widget) != nullptr) widget->update();
+    }
+  });
 }
 
 }  // namespace folionet

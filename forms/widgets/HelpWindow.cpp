@@ -4,6 +4,7 @@
 #include <QPushButton>
 #include <QTextBrowser>
 #include <QVBoxLayout>
+#include <map>
 
 // Outside of every namespace, as Qt needs it for resources of a library.
 static void InitHelpResource() { Q_INIT_RESOURCE(help); }
@@ -14,7 +15,8 @@ HelpWindow::HelpWindow(QWidget* parent) : QDialog(parent), m_page(new QTextBrows
   InitHelpResource();
   setObjectName(QStringLiteral("HelpWindow"));
   setWindowTitle(tr("Folionet Help"));
-  resize(720, 560);
+  setMinimumSize(200, 150);
+  resize(720, 460);
   m_page->setObjectName(QStringLiteral("helpPage"));
   m_page->setAccessibleName(tr("Help"));
   m_page->setOpenExternalLinks(true);
@@ -29,13 +31,33 @@ HelpWindow::HelpWindow(QWidget* parent) : QDialog(parent), m_page(new QTextBrows
   layout->addWidget(buttons);
 }
 
-void HelpWindow::ShowContents() {
+void HelpWindow::ShowTopicOf(const QWidget* control) {
+  static const std::map<QString, QString> topics{
+      {"frmBible", "bible"},           {"frmLanguage", "language"},   {"frmOutput", "output"},
+      {"frmSample", "text"},           {"frmAlignment", "alignment"}, {"frmOptions", "options"},
+      {"frmDialogs", "details"},       {"frmPAgeTitles", "titles"},   {"frmKeywords", "meta"},
+      {"frmEffects", "effects"},       {"frmCustomHeader", "header"}, {"frmCustomizeFooter", "header"},
+      {"frmEncoding", "encoding"},     {"frmAddnew", "encoding"},     {"frmLinkToMAin", "link"},
+      {"frmBackground", "background"}, {"cmdCompile", "compile"},     {"cmdOpenIndex", "compile"},
+      {"cmdVerifySite", "compile"},    {"cmdRestoreAll", "buttons"},  {"cmdClose", "buttons"}};
+  for (; control != nullptr; control = control->parentWidget()) {
+    const auto topic = topics.find(control->objectName());
+    if (topic != topics.end()) return ShowTopic(topic->second);
+  }
+  ShowTopic({});
+}
+
+void HelpWindow::ShowTopic(const QString& anchor) {
   m_page->setSource(QUrl(QStringLiteral("qrc:/help/index.html")));
-  m_page->moveCursor(QTextCursor::Start);
   m_page->setFocus();
   show();
   raise();
   activateWindow();
+  if (anchor.isEmpty()) {
+    m_page->moveCursor(QTextCursor::Start);
+  } else {
+    m_page->scrollToAnchor(anchor);
+  }
 }
 
 }  // namespace folionet

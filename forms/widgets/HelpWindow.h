@@ -14,9 +14,14 @@ class HelpWindow : public QDialog {
   explicit HelpWindow(QWidget* parent = nullptr);
 
   // Shows the window at the contents.
-  void ShowContents();
+  void ShowContents() { ShowTopic({}); }
+
+  // Opens the help at what is told about the control, or the window that it is in; at the contents for one that
+  // nothing is told about.
+  void ShowTopicOf(const QWidget* control);
 
  private:
+  void ShowTopic(const QString& anchor);
   QTextBrowser* m_page;
 };
 

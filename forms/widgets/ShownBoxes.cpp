@@ -7,6 +7,17 @@
 namespace folionet {
 namespace {
 
+// For a hint to be read as a whole.
+void GiveRoom(QLineEdit& box) {
+  constexpr int kMargin = 4;  // on either side, beside the frame
+  const int frame = box.sizeHint().height() - box.fontMetrics().height() + 2 * kMargin;
+  const int button = box.actions().isEmpty() ? 0 : box.sizeHint().height();
+  const int text = box.fontMetrics().horizontalAdvance(box.placeholderText());
+  if (text > 0) box.setMinimumWidth(text + frame + button);
+}
+
+void GiveRoom(TextBox& /*box*/) {}
+
 template <typename Box>
 void Dress(const QWidget& form) {
   for (Box* box : form.findChildren<Box*>()) {
@@ -19,6 +30,7 @@ void Dress(const QWidget& form) {
     }
     if (box->isReadOnly()) colours.setColor(QPalette::Base, form.palette().color(QPalette::Active, QPalette::Window));
     box->setPalette(colours);
+    GiveRoom(*box);
   }
 }
 

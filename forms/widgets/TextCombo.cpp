@@ -11,6 +11,7 @@ TextCombo::TextCombo(QWidget* parent) : QComboBox(parent) { setPlaceholderText(Q
 void TextCombo::SetText(const QString& text) {
   m_ownText = text;
   setCurrentIndex(findText(text, Qt::MatchExactly | Qt::MatchCaseSensitive));
+  setAccessibleDescription(currentIndex() < 0 ? text : QString());  // a list's value is one of its items
   update();
 }
 

@@ -1,11 +1,13 @@
 #include "FormRunsTest.h"
 
+#include <QTest>
 #include <functional>
 #include <map>
 #include <utility>
 
 #include "Case.h"
 #include "Escapes.h"
+#include "FactLines.h"
 #include "FormTest.h"
 #include "Script.h"
 #include "frmMain.h"
@@ -105,6 +107,7 @@ class FormRuns : public FormTest {
         {"=PageLanguage", texts.PageLanguage},
         {"=PageCharset", texts.PageCharset},
         {"=CodePage", std::string(m_state->codePage.Name())},
+        {"=page", m_ui.pageShown.substr(m_ui.pageShown.rfind('/') + 1)},
         {"=startBook", m_state->startBookText},
         {"=txtBibleSel", m_state->options.txtBibleSel},
         {"=chapters", std::to_string(m_state->glob.ChapterIndex.size() - 1)}};
@@ -136,6 +139,8 @@ const std::map<std::string, FormRuns::Act>& FormRuns::Actions() {
       {"breakchooser", [](Test& t, const Line&) { t.m_ui.isChooserBroken = true; }},
       {"store", [](Test& t, const Line& l) { t.Store(l.name, l.text); }},
       {"output", [](Test& t, const Line&) { t.ChooseOutput(); }},
+      {"scanned",  // the chosen folder
+       [](Test& t, const Line&) { EXPECT_TRUE(QTest::qWaitFor([&] { return !t.m_form->Facts().IsLooking(); })); }},
       {"startbook", [](Test& t, const Line& l) { t.m_state->startBookText = l.name; }},
   };
   return actions;

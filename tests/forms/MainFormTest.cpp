@@ -1,9 +1,13 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QDialog>
+#include <QDropEvent>
 #include <QFocusEvent>
+#include <QMenu>
+#include <QMimeData>
 #include <QShortcut>
 #include <QTest>
+#include <QUrl>
 
 #include "FolderPickers.h"
 #include "FolderTree.h"
@@ -174,6 +178,48 @@ TEST_F(MainForm, FoldersAreReadAnewWhenAskedFor) {
   root->setExpanded(true);
   EXPECT_EQ(names(), "config library program zoo");
   EXPECT_EQ(Shown("txtOutputPath"), m_home.Path() + "zoo/");
+}
+
+TEST_F(MainForm, RemembersAddressesFoldersAndPlaces) {
+  constexpr QSize kSize(780, 500);
+  ASSERT_TRUE(Start());
+  ChooseOutput("http://a/index.html");
+  Click("cmdCompile");
+  m_form->resize(kSize);
+  Exit();
+  ASSERT_TRUE(Start());
+  EXPECT_EQ(m_form->size(), kSize);
+  EXPECT_EQ(m_form->focusWidget(), &Get("txthttpRoot")) << "the folder is as it was";
+  auto& address = Get("txthttpRoot");
+  std::string walked;
+  for (const Qt::Key key : {Qt::Key_Down, Qt::Key_Down, Qt::Key_Down, Qt::Key_Up}) {
+    QTest::keyClick(&address, key);
+    walked += Shown("txthttpRoot") + " ";
+  }
+  EXPECT_EQ(walked, "http://a/index.html index.html index.html http://a/index.html ");
+  QTest::keyClick(&address, Qt::Key_Return);
+  EXPECT_EQ(m_ui.log.back(), "Compilation Complete Folionet");
+  Click("cmdRecentFolders");
+  auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+  ASSERT_NE(menu, nullptr);
+  ASSERT_EQ(menu->actions().size(), 1);
+  Give("cmdBrowse", m_home.Path());
+  menu->actions()[0]->trigger();
+  EXPECT_EQ(Shown("txtOutputPath"), m_home.Path() + "site/");
+  menu->close();
+}
+
+TEST_F(MainForm, AFolderThatIsDroppedIsChosen) {
+  ASSERT_TRUE(Start());
+  for (const char* name : {"library", "config/Versalia.ini"}) {
+    QMimeData data;
+    data.setUrls({QUrl::fromLocalFile(ToQt(m_home.Path() + name))});
+    QDragEnterEvent enter(QPoint(1, 1), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(m_form.get(), &enter);
+    QDropEvent drop(QPointF(1, 1), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(m_form.get(), &drop);
+    EXPECT_EQ(Shown("txtOutputPath"), m_home.Path() + "library/");
+  }
 }
 
 }  // namespace

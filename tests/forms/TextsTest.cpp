@@ -1,9 +1,12 @@
+#include <QAccessible>
 #include <QApplication>
 #include <QDialog>
 #include <QLabel>
 #include <QLayout>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QTreeWidget>
+#include <cstdlib>
 #include <fstream>
 #include <map>
 #include <set>
@@ -75,31 +78,84 @@ TEST_F(Texts, NameEveryControlAndGiveItsOwnKey) {
   }
 }
 
-// On a small screen with a large font, no text is cut off.
+// On a small screen with a large font, whatever it is, no text is cut off, and nothing scrolls sideways.
 TEST_F(Texts, HaveTheirRoom) {
-  constexpr QSize kRoom(1366, 768 - 60);  // a panel and a title bar take the rest
-  for (const int points : {9, 11, 13}) {
-    SCOPED_TRACE(points);
-    QFont font = QApplication::font();
-    font.setPointSize(points);
-    ASSERT_TRUE(Start());
-    m_form->setFont(font);
-    const QSize least = m_form->minimumSizeHint();
-    EXPECT_LE(least.width(), kRoom.width());
-    EXPECT_LE(least.height(), kRoom.height());
-    m_form->resize(least);
-    m_form->layout()->activate();
-    for (const QWidget* control : m_form->centralWidget()->findChildren<QWidget*>()) {
-      const bool hasText = !control->property("text").toString().isEmpty() && control->isVisible();
-      if (const auto* box = qobject_cast<const QLineEdit*>(control)) {
-        EXPECT_GE(box->width(), box->fontMetrics().horizontalAdvance(box->placeholderText()))
-            << FromQt(box->objectName());
-        continue;
+  constexpr int kRoom = 1366;
+  ASSERT_TRUE(Start());
+  for (const char* family : {"DejaVu Sans", "Liberation Sans", "Noto Sans"}) {
+    for (const int points : {9, 11, 13}) {
+      SCOPED_TRACE(family + std::to_string(points));
+      QFont font = QApplication::font();
+      font.setFamilies({QString::fromLatin1(family)});
+      font.setPointSize(points);
+      m_form->setFont(font);
+      const QWidget& content = Get("columnsContent");
+      constexpr int kMarginsAndBar = 40;
+      QApplication::processEvents();
+      m_form->resize(content.minimumSizeHint().width() + kMarginsAndBar, 1);
+      QApplication::processEvents();
+      EXPECT_LE(content.minimumSizeHint().width(), kRoom);
+      EXPECT_LE(content.width(), content.parentWidget()->width());
+      for (const QWidget* control : m_form->centralWidget()->findChildren<QWidget*>()) {
+        const bool hasText = !control->property("text").toString().isEmpty() && control->isVisible();
+        if (const auto* box = qobject_cast<const QLineEdit*>(control)) {
+          const int text = box->fontMetrics().horizontalAdvance(box->placeholderText());
+          EXPECT_GE(box->width(), text) << FromQt(box->objectName());
+        } else if (hasText && qobject_cast<const QLineEdit*>(control->parentWidget()) == nullptr) {
+          EXPECT_GE(control->width(), control->minimumSizeHint().width()) << FromQt(control->objectName());
+          EXPECT_GE(control->height(), control->minimumSizeHint().height()) << FromQt(control->objectName());
+        }
       }
-      if (!hasText) continue;
-      EXPECT_GE(control->width(), control->minimumSizeHint().width()) << FromQt(control->objectName());
-      EXPECT_GE(control->height(), control->minimumSizeHint().height()) << FromQt(control->objectName());
     }
+  }
+}
+
+// What a screen reader has to say: where a text is shown, and what a colour or a list without a choice among its items
+// is.
+TEST_F(Texts, AreHeardAsTheyAreSeen) {
+  ASSERT_TRUE(Start());
+  Get("frmEffects.").show();
+  m_form->ShowPanel(1, "Compiling file 3 Book1");
+  const struct {
+    const char* control;
+    QAccessible::Text what;
+    const char* text;
+  } cases[] = {
+      {"frmMain.StatusBar1_Panel1", QAccessible::Name, "Compiling file 3 Book1"},
+      {"cboLang", QAccessible::Description, "BOOKS.TXT"},
+      {"frmEffects.lblActive", QAccessible::Name, "#ff0000, Default, 3.99 : 1, hard to read: choose a darker color"},
+      {"frmKeywords.txtKeywordsI", QAccessible::Name, "META Keywords of the index page"},
+      {"frmKeywords.txtDescription", QAccessible::Name, "META Description of all other pages"},
+      {"frmPAgeTitles.txtPrevOther", QAccessible::Name, "Preview of the title of all other pages"},
+      {"txtBibleSel", QAccessible::Value, "Small Bible"},
+      {"txtBibleSel", QAccessible::Description, ""},
+  };
+  const bool isTranslated = std::getenv("FOLIONET_TEST_TRANSLATION") != nullptr;
+  for (const auto& c : cases) {
+    QAccessibleInterface* heard = QAccessible::queryAccessibleInterface(&Get(c.control));
+    ASSERT_NE(heard, nullptr) << c.control;
+    EXPECT_TRUE(isTranslated || FromQt(heard->text(c.what)) == c.text) << c.control << FromQt(heard->text(c.what));
+  }
+  EXPECT_NE(FromQt(Get<QTreeWidget>("Dir1").headerItem()->text(0)), "1");
+}
+
+// A screen of 1366 x 768 at 125 %, and one of 1920 x 1080 at 200 %, has room for every window.
+TEST_F(Texts, OpenWithinTheScreen) {
+  ASSERT_TRUE(Start());
+  Click("cmdPageEncoding");
+  constexpr QSize kSmallest(960, 540);
+  constexpr QSize kAround(8, 60);  // of a frame and a title bar
+  EXPECT_TRUE(m_form->minimumSizeHint().boundedTo(kSmallest - kAround) == m_form->minimumSizeHint())
+      << m_form->minimumSizeHint().width() << " x " << m_form->minimumSizeHint().height();
+  for (QDialog* dialog : m_form->findChildren<QDialog*>()) {
+    const QSize least = dialog->minimumSizeHint();
+    EXPECT_EQ(least.boundedTo(kSmallest - kAround), least) << FromQt(dialog->objectName());
+  }
+  m_form->resize(kSmallest - kAround);
+  QApplication::processEvents();
+  for (const char* control : {"cmdCompile", "cmdHelp", "frmMain.StatusBar1"}) {
+    const QWidget& widget = Get(control);
+    EXPECT_LE(widget.mapTo(m_form.get(), widget.rect().bottomRight()).y(), m_form->height()) << control;
   }
 }
 

@@ -1,0 +1,154 @@
+#include "FactLines.h"
+
+#include <QCoreApplication>
+#include <QLocale>
+#include <QStringList>
+#include <algorithm>
+
+#include "FolderFacts.h"
+#include "FolderPickers.h"
+#include "LibraryLists.h"
+#include "MainCompile.h"
+#include "PageNames.h"
+#include "QtText.h"
+#include "RunFacts.h"
+#include "ui_frmMain.h"
+
+namespace folionet {
+namespace {
+
+QString InDesktopLanguage(const Notice& notice) {
+  QString text = QCoreApplication::translate("Notice", notice.pattern);
+  for (const std::string& value : notice.arguments) text = text.arg(ToQt(value));
+  return text;
+}
+
+// A line that is empty takes no room.
+void ShowLine(QLabel& line, const QString& text) {
+  line.setText(text);
+  line.setVisible(!text.isEmpty());
+}
+
+bool HasAllBooks(const ModGlob& glob) { return glob.cboStartBook.size() >= static_cast<std::size_t>(kBooks); }
+
+QString Number(std::size_t number) { return QLocale().toString(static_cast<qulonglong>(number)); }
+
+QString PagesText(const FolderFacts& facts) {
+  QStringList names;
+  for (const std::string& name : facts.translations) names << ToQt(name);
+  const QString count = Number(facts.pages);
+  if (names.isEmpty() || facts.pages == 1) {
+    return facts.pages == 1 ? FactLines::tr("1 page of an earlier compile")
+                            : FactLines::tr("%1 pages of an earlier compile").arg(count);
+  }
+  return FactLines::tr("%1 pages of an earlier compile of %2").arg(count, names.join(QStringLiteral(", ")));
+}
+
+QString ReplacedText(const FolderFacts& facts) {
+  if (facts.replaced.empty()) return {};
+  const QString first = ToQt(*std::ranges::min_element(facts.replaced));
+  if (facts.replaced.size() == 1) return FactLines::tr("%1 there is not of Folionet and will be replaced.").arg(first);
+  return FactLines::tr("%1 and %2 more there are not of Folionet and will be replaced.")
+      .arg(first, Number(facts.replaced.size() - 1));
+}
+
+QString FolderText(const FolderFacts& facts) {
+  if (!facts.isThere) return FactLines::tr("The folder cannot be read.");
+  QStringList kept;
+  if (facts.pages > 0) kept << PagesText(facts);
+  if (facts.others == 1) kept << FactLines::tr("1 other file stays untouched");
+  if (facts.others > 1) kept << FactLines::tr("%1 other files stay untouched").arg(Number(facts.others));
+  QStringList sentences;
+  if (!kept.isEmpty()) sentences << kept.join(QStringLiteral("; ")) + QLatin1Char('.');
+  if (!facts.replaced.empty()) sentences << ReplacedText(facts);
+  return sentences.isEmpty() ? FactLines::tr("Empty folder.") : sentences.join(QLatin1Char('\n'));
+}
+
+}  // namespace
+
+FactLines::FactLines(AppState& state, Ui::frmMain& controls, const LibraryLists& lists, const FolderPickers& folders,
+                     QObject* parent)
+    : QObject(parent), m_state(state), m_controls(controls), m_lists(lists), m_folders(folders) {
+  connect(&m_scan, &FolderScan::Done, this, &FactLines::ShowFolder);
+}
+
+void FactLines::LookAtFolder() {
+  m_folderText.clear();
+  m_scan.Start({});
+  Show();
+}
+
+void FactLines::Show() {
+  ShowTranslations();
+  ShowRange();
+  AskOfFolder();
+  ShowFolder();
+}
+
+std::string FactLines::IndexPage() const {
+  const FolderAnswer* answer = m_scan.Found();
+  return answer != nullptr && answer->hasIndex ? m_scan.Question().folder + m_scan.Question().index : std::string();
+}
+
+void FactLines::ShowTranslations() {
+  const ModGlob& glob = m_state.glob;
+  const bool isEmpty = glob.cboBibleName.empty() && !glob.InstallPath.empty();
+  ShowLine(*m_controls.lblTranslationFacts,
+           !isEmpty ? QString()
+                    : tr("No translation is there: \"%1\" lists none whose text is in \"%2\".")
+                          .arg(ToQt(SysdefsFile(glob, "Translations.txt")), ToQt(glob.ModulesPath + "Bible")));
+}
+
+QString FactLines::BooksText(int first, int last) const {
+  const QString from = m_controls.cboStartBook->itemText(first);
+  return first == last ? from : tr("%1 to %2").arg(from, m_controls.cboStartBook->itemText(last));
+}
+
+void FactLines::ShowRange() {
+  const ModGlob& glob = m_state.glob;
+  CompileRequest request = GatherRequest(m_state, m_controls, m_lists, m_folders);
+  QStringList lines;
+  if (request.cboBibleName >= 0 && HasAllBooks(glob)) {
+    request.txtOutputPath.clear();  // what is on the disk is found beside the form
+    for (const RunFact& fact : FindRunFacts(request, glob)) {
+      if (fact.kind == RunFactKind::kRemovesPages) {
+        lines << tr("The pages of %1 will be deleted: %2.")
+                     .arg(BooksText(0, request.cboStartBook - 1), ToQt(fact.notice.arguments.at(0)));
+      } else {
+        lines << InDesktopLanguage(fact.notice);
+      }
+    }
+    const auto isAfter = [&](const ChapterEntry& entry) { return entry.Book > request.cboEndBook + 1; };
+    if (request.cboEndBook >= request.cboStartBook && std::ranges::any_of(glob.ChapterIndex, isAfter)) {
+      lines << tr("The pages of %1 are written too; the index does not lead to them.")
+                   .arg(BooksText(request.cboEndBook + 1, kBooks - 1));
+    }
+  }
+  ShowLine(*m_controls.lblRangeFacts, lines.join(QLatin1Char('\n')));
+}
+
+// The folder is looked at again when a compile would write other files.
+void FactLines::AskOfFolder() {
+  const ModGlob& glob = m_state.glob;
+  if (glob.OutputFolder.empty()) return;
+  const CompileRequest request = GatherRequest(m_state, m_controls, m_lists, m_folders);
+  FolderQuestion question{glob.OutputFolder, {}, {}};
+  if (HasAllBooks(glob)) question.written = FilesOfSite(request, glob, CodePage(request.texts.PageCharset));
+  const QString typed = m_controls.txthttpRoot->text();
+  question.index = IndexFileName(FromQt(typed.isEmpty() ? m_controls.txthttpRoot->Offered().value(0) : typed));
+  if (!(question == m_scan.Question())) m_scan.Start(std::move(question));
+}
+
+// What was found last stands until more is known. The same words describe what chooses the folder and what writes into
+// it.
+void FactLines::ShowFolder() {
+  if (m_scan.Found() != nullptr) m_folderText = FolderText(m_scan.Found()->facts);
+  const bool isUnknown = !m_state.glob.OutputFolder.empty() && m_folderText.isEmpty();
+  const QString text = isUnknown ? tr("Looking at the folder...") : m_folderText;
+  ShowLine(*m_controls.lblFolderFacts, text);
+  m_controls.Dir1->setAccessibleDescription(text);
+  m_controls.cmdCompile->setAccessibleDescription(text);
+  emit Shown();
+}
+
+}  // namespace folionet

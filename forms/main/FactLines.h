@@ -1,0 +1,57 @@
+#pragma once
+
+#include <QObject>
+#include <QString>
+#include <string>
+
+#include "AppState.h"
+#include "FolderScan.h"
+
+namespace folionet {
+
+namespace Ui {
+class frmMain;
+}
+class FolderPickers;
+class LibraryLists;
+
+// The lines of the main form that tell before a compile what it will do: of the translations, of the range of books, of
+// the output folder.
+class FactLines : public QObject {
+  Q_OBJECT
+
+ public:
+  FactLines(AppState& state, Ui::frmMain& controls, const LibraryLists& lists, const FolderPickers& folders,
+            QObject* parent);
+
+  // Looks at the chosen folder anew, beside the form.
+  void LookAtFolder();
+
+  // Shows the facts of what the form holds now.
+  void Show();
+
+  // The index page that folder and address name, when it is there; else empty. Without an address, that of the one that
+  // was used last.
+  std::string IndexPage() const;
+
+  bool IsLooking() const { return m_scan.IsLooking(); }
+
+ signals:
+  void Shown();
+
+ private:
+  void ShowTranslations();
+  void ShowRange();
+  void AskOfFolder();
+  void ShowFolder();
+  QString BooksText(int first, int last) const;
+
+  AppState& m_state;
+  Ui::frmMain& m_controls;
+  const LibraryLists& m_lists;
+  const FolderPickers& m_folders;
+  FolderScan m_scan;
+  QString m_folderText;
+};
+
+}  // namespace folionet

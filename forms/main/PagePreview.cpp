@@ -1,0 +1,99 @@
+#include "PagePreview.h"
+
+#include <QObject>
+#include <QTemporaryDir>
+#include <filesystem>
+#include <fstream>
+
+#include "Compile.h"
+#include "PageNames.h"
+#include "QtText.h"
+#include "RunTimeError.h"
+#include "Validation.h"
+#include "VerseFileReader.h"
+
+namespace folionet {
+namespace {
+
+// Tells what goes wrong in a run, and nothing else.
+class OnlyFailures : public UserInterface {
+ public:
+  explicit OnlyFailures(UserInterface& ui) : m_ui(ui) {}
+
+  void ShowMessage(const Message& message) override {
+    if (!message.isResult) m_ui.ShowMessage(message);
+  }
+  bool AskYesNo(const std::string& title, const std::string& text) override { return m_ui.AskYesNo(title, text); }
+  std::optional<std::string> AskText(const InputBox& box) override { return m_ui.AskText(box); }
+  void ShowErrorReport(int errorNumber, std::string_view moduleLabel, const std::string& extraInfo) override {
+    m_ui.ShowErrorReport(errorNumber, moduleLabel, extraInfo);
+  }
+  void SetPanel(int /*panel*/, std::string_view /*text*/) override {}
+  void FocusControl(std::string_view name) override { m_ui.FocusControl(name); }
+
+ private:
+  UserInterface& m_ui;
+};
+
+// Writes the verses of a book's chapter 1 alone. False when the text has none.
+bool WriteChapter(const std::string& from, int book, const std::string& to) {
+  std::ofstream chapter(to, std::ios::binary);
+  bool isFound = false;
+  VerseFileReader verses(from);
+  while (verses.Next()) {
+    const Verse& verse = verses.Current();
+    if (verse.book != book || verse.chapter != 1) {
+      if (isFound) break;
+      continue;
+    }
+    isFound = true;
+    chapter << '\t' << verse.bookField << '\t' << verse.chapterField << '\t' << verse.verse << '\t' << verse.text
+            << "\r\n";
+  }
+  return isFound;
+}
+
+// The picture lies beside the pages, if anywhere.
+void CopyPicture(const CompileRequest& request, const std::string& folder) {
+  const std::string& name = request.options.frmBackground.txtImagepath;
+  std::error_code ignored;
+  if (!request.options.chkBack || name.empty() || name.find('/') != std::string::npos) return;
+  std::filesystem::copy_file(request.txtOutputPath + name, folder + name,
+                             std::filesystem::copy_options::overwrite_existing, ignored);
+}
+
+}  // namespace
+
+PagePreview::PagePreview() = default;
+PagePreview::~PagePreview() = default;
+
+void PagePreview::Show(CompileRequest request, const ModGlob& glob, UserInterface& ui) {
+  if (!m_folder) m_folder = std::make_unique<QTemporaryDir>();
+  const std::string folder = FromQt(m_folder->path()) + "/";
+  const int book = request.cboStartBook + 1;
+  try {
+    if (request.cboBibleName >= 0) {
+      const std::string chapter = folder + "verses";
+      if (!WriteChapter(request.txtFilename, book, chapter)) {
+        ui.ShowMessage({MessageIcon::kInformation, FromQt(QObject::tr("Preview page")),
+                        FromQt(QObject::tr("The translation has no chapter 1 of the starting book."))});
+        return;
+      }
+      request.txtFilename = chapter;
+    }
+    CopyPicture(request, folder);
+  } catch (const RunTimeError& error) {
+    ui.ShowErrorReport(error.Number(), "cmdPreviewPage_Click", error.Extra());
+    return;
+  }
+  request.txtOutputPath = folder;
+  request.options.txthttpRoot = request.options.chkUse83 ? "index.htm" : "index.html";
+  request.cboEndBook = request.cboStartBook;
+  ModGlob own = glob;  // a compile counts chapters anew
+  OnlyFailures quiet(ui);
+  if (cmdCompile_Click(request, own, quiet) != CompileOutcome::kDone) return;
+  const PageNames names(own.cboStartBook, request.options.chkUse83, CodePage(request.texts.PageCharset));
+  ui.ShowPage(folder + names.OnDisk(book, 1));
+}
+
+}  // namespace folionet

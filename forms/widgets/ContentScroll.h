@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QDialog>
+#include <QScrollArea>
+
+namespace folionet {
+
+// Content that scrolls where there is not room enough for it, and takes up all of what there is. It asks for the size
+// of its content, frameless, and on its ground.
+class ContentScroll : public QScrollArea {
+  Q_OBJECT
+
+ public:
+  explicit ContentScroll(QWidget* parent = nullptr);
+
+  QSize sizeHint() const override;
+  QSize minimumSizeHint() const override;
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;  // the content's size hint is this one's
+};
+
+// Makes all of a dialog scroll but the last row of its layout, which holds its buttons.
+void ScrollAllButButtons(QDialog& dialog);
+
+}  // namespace folionet

@@ -155,7 +155,9 @@ void ForEachEntry(const std::string& file, ByteSource& bytes, const std::functio
   while (reader.Next(name)) {
     // A file that is only compressed has no name of its own.
     const bool isAlone = name == "data";
-    take({isAlone ? file : file + ": " + name, isAlone, &reader});
+    std::string shown = file;
+    if (!isAlone) shown.append(": ").append(name);
+    take({shown, isAlone, &reader});
   }
 }
 

@@ -244,7 +244,7 @@ void BibleBuilder::UseNamesInOrder() {
   }
   for (std::size_t i = 0; i < m_order.size(); ++i) {
     const auto old = static_cast<std::size_t>(m_order[i]);
-    if (old > 2 * kBooks) continue;
+    if (old > std::size_t{2} * kBooks) continue;
     numbers[old] = isInOrder ? static_cast<std::uint8_t>(i + 1) : static_cast<std::uint8_t>(old <= kBooks ? old : 0);
     if (isInOrder && old > kBooks) m_bible.titles[i + 1] = m_outside[old - kBooks - 1].name;
   }

@@ -108,7 +108,7 @@ std::map<std::string, int> MakeKeys() {
 const Book& BookAt(int number) { return kTable.at(static_cast<std::size_t>(number) - 1); }
 
 std::string BookLabel(int number) {
-  std::string label(BookAt(number).code);
+  const std::string label(BookAt(number).code);
   const std::size_t letter = label.find_first_not_of("123") + 1;
   return label.substr(0, letter) + CodePage("utf-8").ToLower(label.substr(letter));
 }

@@ -147,7 +147,7 @@ void MakeTexts(const ImportedBible& bible, LibraryPlan& plan, std::string& verse
 }
 
 std::string TitlesContent(const LibraryPlan& plan, const BookTitleList& titles) {
-  std::vector<std::string_view> list(titles.begin() + 1, titles.end());
+  const std::vector<std::string_view> list(titles.begin() + 1, titles.end());
   return Bytes(plan, TitleFileText(list));
 }
 
@@ -156,7 +156,7 @@ void AddDeliveredTitles(LibraryPlan& plan) {
   const auto add = [&](const std::string& name, const TitleLanguage& language) {
     const std::string path = LocateIgnoringCase(plan.folder, "Sysdefs/" + name);
     if (FileExists(path)) return;
-    std::vector<std::string_view> titles(language.titles.begin(), language.titles.end());
+    const std::vector<std::string_view> titles(language.titles.begin(), language.titles.end());
     plan.files.emplace_back(path, ToWindows1252(TitleFileText(titles)));
   };
   for (const TitleLanguage& language : TitleLanguages()) {

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "Catalogue.h"
+#include "ImportedText.h"
 #include "Installation.h"
 #include "LineReader.h"
 #include "Paths.h"
@@ -34,10 +35,12 @@ void CheckRecord(const RecordReader& records, const CatalogueRecord& record, Che
   ModGlob& glob = library.glob;
   const std::string& path = records.Lines().Path();
   const std::size_t line = records.Lines().LineNumber();
-  library.CheckBytes(path, line, record.name);
+  const std::string text = record.isListed ? VerseFile(glob, library.codePage, record.stem) : std::string();
+  const ImportedText imported = record.isListed ? ReadImportedText(text).value_or(ImportedText()) : ImportedText();
+  // The name of an imported translation is in UTF-8 where windows-1252 lacks its characters.
+  if (!imported.IsThere()) library.CheckBytes(path, line, record.name);
   library.CheckBytes(path, line, record.stem);
   if (!record.isListed) return;
-  const std::string text = VerseFile(glob, library.codePage, record.stem);
   if (!CheckVerseFile(records, record.name, text, library)) return;
   if (std::find(glob.BibleFiles.begin(), glob.BibleFiles.end(), record.stem) != glob.BibleFiles.end()) {
     library.Add("doubled-stem", path, line, {"The file stem is listed twice: %1", {Quoted(record.stem)}});
@@ -46,6 +49,7 @@ void CheckRecord(const RecordReader& records, const CatalogueRecord& record, Che
   library.CheckLetterCase(text, glob.ModulesPath + "Bible/" + library.codePage.Decode(record.stem) + ".TXT");
   glob.BibleNames.push_back(record.name);
   glob.BibleFiles.push_back(record.stem);
+  glob.BibleImports.push_back(imported);
 }
 
 }  // namespace
@@ -54,6 +58,7 @@ void CheckCatalogue(CheckedLibrary& library) {
   ModGlob& glob = library.glob;
   glob.BibleNames.clear();
   glob.BibleFiles.clear();
+  glob.BibleImports.clear();
   try {
     const std::string path = SysdefsFile(glob, "Translations.txt");
     RecordReader records(path);

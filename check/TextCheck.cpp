@@ -5,6 +5,7 @@
 #include <system_error>
 
 #include "ChapterOrder.h"
+#include "ImportedText.h"
 #include "LineReader.h"
 #include "Numbers.h"
 #include "Paths.h"
@@ -157,6 +158,7 @@ void CheckText(CheckedLibrary& library, const TranslationFiles& files) {
   } else {
     library.CheckLetterCase(files.index, files.properIndex);
   }
+  library.glob.Imported = ReadImportedText(files.text).value_or(ImportedText());
   try {
     TextReader text(files.text, library);
     const ChapterTable index = hasIndex ? CheckIndex(files.index, library) : ChapterTable();

@@ -45,8 +45,18 @@ class PageNameCheck {
   std::map<std::string, int> m_bookOfName;
 };
 
-void CheckTitleFile(const std::string& fileName, CheckedLibrary& library) {
-  const ModGlob& glob = library.glob;
+// The charset of a file of titles: that of the imported translation that it belongs to, or the declared one.
+CodePage CodePageOf(const std::string& fileName, const CheckedLibrary& library) {
+  for (const ImportedText& text : library.glob.BibleImports) {
+    if (text.IsThere() && EqualIgnoringCase(text.titles, fileName)) return CodePage(text.charset);
+  }
+  return library.codePage;
+}
+
+void CheckTitleFile(const std::string& fileName, CheckedLibrary& whole) {
+  const ModGlob& glob = whole.glob;
+  const CodePage codePage = CodePageOf(fileName, whole);
+  CheckedLibrary library{whole.glob, codePage, whole.titlesFile, whole.findings};
   try {
     const std::string path = SysdefsFile(glob, fileName);
     LineReader lines(path, LineReader::kLongestEntry);

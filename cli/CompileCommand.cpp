@@ -9,6 +9,7 @@
 #include "Compile.h"
 #include "CustomHtml.h"
 #include "Effects.h"
+#include "ImportedText.h"
 #include "Installation.h"
 #include "Paths.h"
 #include "ProgramFolder.h"
@@ -54,12 +55,17 @@ void SelectTranslation(const CompileArguments& arguments, Session& session, Comp
     request.cboBibleName = 0;
   }
   const std::size_t place = static_cast<std::size_t>(std::max(request.cboBibleName, 0));
-  request.options.txtBibleSel = request.cboBibleName < 0 ? "" : glob.BibleNames[place];
+  session.Choose(place);
+  request.options.txtBibleSel = request.cboBibleName < 0 ? "" : PageName(glob, place, session.codePage);
   request.txtFilename = VerseFile(glob, session.codePage, glob.BibleFiles[place]);
   if (request.cboBibleName < 0) return;
   EndUnless(BooksInChapters(session.glob, place, session.codePage, session.ui) == Outcome::kDone);
   EndUnless(LoadVerseCount(session.glob, IndexFile(glob, session.codePage, glob.BibleFiles[place]), session.ui) ==
             Outcome::kDone);
+  if (!glob.Imported.IsThere()) return;
+  const auto [first, last] = BooksOfText(glob);
+  request.cboStartBook = first;
+  request.cboEndBook = last;
 }
 
 const char* KindText(RunFactKind kind) {
@@ -198,7 +204,7 @@ ExitStatus RunCompile(const CommonOptions& common, const CompileArguments& argum
   if (arguments.indexAddress) request.options.txthttpRoot = *arguments.indexAddress;
   request.txtOutputPath = OutputPath(arguments, session);
   request.makeOutputFolder = true;
-  request.cboLang = session.store.Text("cboLang");
+  request.cboLang = BookTitlesFile(session.store, session.glob);
   request.programFolder = ProgramFolderOf(session, arguments.dryRun);
   request.texts = session.texts;
   for (const auto& [kind, text] : {std::pair{&kCustomHeader, &request.texts.CustomHeader},

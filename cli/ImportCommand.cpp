@@ -52,6 +52,10 @@ void TellHowToChoose(const CommonOptions& common, const LibraryPlan& plan, Conso
   const std::string known = session.glob.InstallPath;
   std::error_code ignored;
   if (std::filesystem::equivalent(known, plan.folder, ignored)) return;
+  if (known.empty()) {
+    ui.Tell("Choose this library with --versalia-path " + plan.folder);
+    return;
+  }
   ui.Tell("Another library is known, " + known + "; choose this one with --versalia-path " + plan.folder);
 }
 

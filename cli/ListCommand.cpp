@@ -5,6 +5,7 @@
 
 #include "BookTitles.h"
 #include "EncodingLists.h"
+#include "ImportedText.h"
 #include "OptionTable.h"
 #include "Paths.h"
 #include "ProgramFolder.h"
@@ -20,8 +21,7 @@ ExitStatus ListTranslations(const CommonOptions& common, const Session& session)
     if (!FolderExists(glob.ModulesPath)) throw ExitWith(common.folders.modulePath.empty() ? kExitFailed : kExitUsage);
   }
   for (std::size_t i = 0; i < glob.cboBibleName.size(); ++i) {
-    session.ui.Print(
-        {session.codePage.DecodeForDisplay(glob.BibleFiles[i]), session.codePage.DecodeForDisplay(glob.BibleNames[i])});
+    session.ui.Print({session.codePage.DecodeForDisplay(glob.BibleFiles[i]), ShownName(glob, i, session.codePage)});
   }
   return glob.unreadableTexts.empty() ? kExitDone : kExitFailed;
 }
@@ -53,9 +53,18 @@ ExitStatus ListCharsets(Session& session) {
   return kExitDone;
 }
 
+// A setting as a compile of the first translation finds it.
+std::string SettingOf(const Session& session, std::string_view key) {
+  const ImportedText& text = session.glob.Imported;
+  if (key == "cboLang") return BookTitlesFile(session.store, session.glob);
+  const std::string code = key == "Charset" ? text.charset : key == "Lang" ? text.language : std::string();
+  return code.empty() || session.store.Has(key) ? session.store.Text(key) : code + " (of the text)";
+}
+
 ExitStatus ListSettings(Session& session) {
+  session.ChooseFirst();
   for (const Option& option : OptionTable()) {
-    session.ui.Print(std::string(option.key) + "=" + session.store.Text(option.key));
+    session.ui.Print(std::string(option.key) + "=" + SettingOf(session, option.key));
   }
   return kExitDone;
 }
@@ -71,6 +80,7 @@ ExitStatus RunList(const CommonOptions& common, const std::string& subject, Cons
   Session session(common, ui);
   if (subject == "settings") return ListSettings(session);
   if (subject == "languages") return ListLanguages(session);
+  if (subject == "books") session.ChooseFirst();
   session.LoadCodePage();
   if (subject == "charsets") return ListCharsets(session);
   session.LoadLists(subject == "translations");

@@ -1,6 +1,7 @@
 #include "Session.h"
 
 #include "Catalogue.h"
+#include "ImportedText.h"
 #include "OptionLoading.h"
 #include "PageEncoding.h"
 #include "Paths.h"
@@ -77,6 +78,7 @@ void Session::LoadCodePage() {
   try {
     PageEncoding encoding;
     LoadPageEncoding(store, options, encoding, ui);
+    TakeEncodingOf(glob.Imported, store, encoding, ui);
     texts.PageCharset = encoding.PageCharset;
     texts.PageLanguage = encoding.PageLanguage;
     codePage = CodePage(encoding.PageCharset);
@@ -86,8 +88,24 @@ void Session::LoadCodePage() {
   }
 }
 
+void Session::Choose(std::size_t place) {
+  ChooseImported(glob, place);
+  if (!glob.Imported.IsThere()) return;
+  LoadCodePage();
+  LoadLists(false);
+}
+
+void Session::ChooseFirst() {
+  try {
+    ReadCatalogue(glob, codePage);
+  } catch (const RunTimeError&) {
+    return;
+  }
+  ChooseImported(glob, 0);
+}
+
 void Session::LoadLists(bool withCatalogue) {
-  if (PopulateCombos(withCatalogue ? 1 : 0, store.Text("cboLang"), glob, codePage, ui) != Outcome::kDone) {
+  if (PopulateCombos(withCatalogue ? 1 : 0, BookTitlesFile(store, glob), glob, codePage, ui) != Outcome::kDone) {
     throw ExitWith(kExitFailed);
   }
   if (const auto why = withCatalogue ? WhyNoTranslation(glob) : std::nullopt) {
@@ -107,8 +125,10 @@ void Session::CheckLanguageFile(const std::string& option, const std::string& na
 
 std::size_t Session::FindTranslation(const std::string& nameOrStem) const {
   const std::size_t count = glob.cboBibleName.size();
-  for (const auto* list : {&glob.BibleNames, &glob.BibleFiles}) {
-    const std::size_t found = FindText(Decoded(*list, count, codePage), nameOrStem);
+  std::vector<std::string> names;
+  for (std::size_t i = 0; i < count; ++i) names.push_back(ShownName(glob, i, codePage));
+  for (const auto& list : {names, Decoded(glob.BibleFiles, count, codePage)}) {
+    const std::size_t found = FindText(list, nameOrStem);
     if (found != std::string::npos) return found;
   }
   RefuseUsage("--translation: there is no translation \"" + nameOrStem +

@@ -32,6 +32,14 @@ class Session {
   // As LoadOptions, but the charset only.
   void LoadCodePage();
 
+  // Chooses the translation at a place of BibleNames: one that was imported brings its charset, its language and its
+  // book titles, where the person has set no others. The lists have been loaded before.
+  void Choose(std::size_t place);
+
+  // As Choose, of the first translation, for what is told of none in particular; a library that cannot be read is let
+  // pass.
+  void ChooseFirst();
+
   // Fills the lists from the catalogue, when `withCatalogue`, and from the book-title file of the setting "cboLang".
   // Ends the command when that fails.
   void LoadLists(bool withCatalogue);

@@ -54,6 +54,9 @@ class CompileRun {
     static_cast<PageTexts&>(m_context) = EncodePageTexts(m_request.texts, m_codePage);
     m_context.OutputFolder = m_request.txtOutputPath;
     m_context.PageFile.WriteInto(m_folder.site);
+    if (m_glob.Imported.IsThere() && !EqualIgnoringCase(m_glob.Imported.charset, m_request.texts.PageCharset)) {
+      m_textPage.emplace(m_glob.Imported.charset);
+    }
     m_context.StyleSheetLink = R"(<link rel="STYLESHEET" type="text/css" href="default.css">)";
     const auto link = SetString(m_options, m_counts, m_ui);
     if (!link) throw AlreadyReported();
@@ -119,8 +122,17 @@ class CompileRun {
   }
 
  private:
+  // A verse's text in the page's code page: an imported one may be in another.
+  std::string_view PageBytes(std::string_view text) {
+    if (!m_textPage) return text;
+    m_pageText = m_codePage.Encode(m_textPage->Decode(text));
+    return m_pageText;
+  }
+
   void WriteAllChapters() {
-    OpenChapter(m_request.cboStartBook + 1, 1, "1");
+    // A text that was imported may lack that page.
+    const bool isImported = m_glob.Imported.IsThere();
+    if (!isImported) OpenChapter(m_request.cboStartBook + 1, 1, "1");
     m_startName = m_context.PageFile.Name();
     m_verses.emplace(m_request.txtFilename);
     bool isFirst = true;
@@ -129,7 +141,9 @@ class CompileRun {
     const Verse& verse = m_verses->Current();
     while (m_verses->Next()) {
       if (isFirst || verse.chapter != lastChapter || verse.book != lastBook) {
-        if (isFirst) {
+        if (isFirst && isImported) {
+          OpenChapter(verse.book, verse.chapter, verse.chapterField);
+        } else if (isFirst) {
           m_holdsStartPage = !IsStartPage(verse.book, verse.chapter);
         } else {
           TurnPage(verse);
@@ -138,8 +152,9 @@ class CompileRun {
         lastBook = verse.book;
         lastChapter = verse.chapter;
       }
-      BuildVerseLine({m_labels[static_cast<std::size_t>(verse.book)], verse.chapterField, verse.verse, verse.text},
-                     m_options, m_context);
+      BuildVerseLine(
+          {m_labels[static_cast<std::size_t>(verse.book)], verse.chapterField, verse.verse, PageBytes(verse.text)},
+          m_options, m_context);
     }
     ClosePage();
     WriteStartPage();
@@ -201,6 +216,7 @@ class CompileRun {
     std::vector<SitemapPage> pages{PageOfSitemap(m_indexFileName)};
     for (int book = m_request.cboStartBook + 1; book <= m_request.cboEndBook + 1; ++book) {
       for (int chapter = 1; chapter <= ChaptersOf(m_inputs, book); ++chapter) {
+        if (!HasChapter(m_glob, book, chapter)) continue;
         std::string name = m_names.OnDisk(book, chapter);
         if (name != m_indexFileName) pages.push_back(PageOfSitemap(std::move(name)));
       }
@@ -234,6 +250,8 @@ class CompileRun {
   PageInputs m_inputs;
   CompileContext m_context;
   std::array<std::string, kBooks + 1> m_labels;
+  std::optional<CodePage> m_textPage;  // of a text that is not in the page's
+  std::string m_pageText;
   std::string m_shownBook;                  // the title of the page's book, as the status bar shows it
   std::optional<VerseFileReader> m_verses;  // outlives a failure, whose report shows the verse at hand
   bool m_holdsStartPage = false;

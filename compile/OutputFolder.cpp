@@ -86,6 +86,7 @@ std::int16_t CleanUp(const CompileRequest& request, const PageInputs& inputs, Ru
   for (int book = 1; book <= request.cboStartBook; ++book) {
     const int chapters = ChaptersOf(inputs, book);
     for (int chapter = 1; chapter <= chapters; ++chapter) {
+      if (!HasChapter(inputs.glob, book, chapter)) continue;
       const std::string name = inputs.names.OnDisk(book, chapter);
       if (IsPageName(name)) Remove(request, folder, name);
       if (removed < kInt16Max) ++removed;

@@ -1,5 +1,6 @@
 #include "RunFacts.h"
 
+#include <algorithm>
 #include <array>
 #include <map>
 
@@ -17,6 +18,10 @@ using ChapterCounts = std::array<int, kBooks + 1>;
 // As BooksInChapters counts them: books are numbered by order of appearance.
 ChapterCounts CountChapters(const ModGlob& glob) {
   ChapterCounts counts{};
+  if (glob.Imported.IsThere()) {
+    std::copy(glob.ChaptersInBook.begin(), glob.ChaptersInBook.end(), counts.begin());
+    return counts;
+  }
   std::size_t book = 0;
   for (std::size_t i = 0; i + 1 < glob.ChapterIndex.size(); ++i) {
     if (i == 0 || glob.ChapterIndex[i].Book != glob.ChapterIndex[i - 1].Book) ++book;
@@ -121,7 +126,8 @@ std::vector<RunFact> FindRangeFacts(const ModGlob& glob, int cboStartBook, int c
           {}}});
   }
   const ChapterCounts counts = CountChapters(glob);
-  int removed = 0;
+  int removed = -static_cast<int>(std::count_if(glob.missingChapters.begin(), glob.missingChapters.end(),
+                                                [&](const auto& missing) { return missing.first <= cboStartBook; }));
   for (int book = 1; book <= cboStartBook && book <= kBooks; ++book) removed += counts[static_cast<std::size_t>(book)];
   if (removed > 0) {
     facts.push_back({RunFactKind::kRemovesPages,

@@ -51,6 +51,13 @@ std::string LanguageCode(const std::string& code) {
   std::array<char, ULOC_LANG_CAPACITY> main{};
   UErrorCode status = U_ZERO_ERROR;
   const std::size_t end = std::min(code.find('-'), code.size());
+  // Three letters that a bibliographer uses are in no table of ICU.
+  for (const TitleLanguage& language : TitleLanguages()) {
+    const std::string codes = " " + std::string(language.codes) + " ";
+    if (end != 0 && codes.find(" " + code.substr(0, end) + " ") != std::string::npos) {
+      return std::string(language.codes.substr(0, 2)) + code.substr(end);
+    }
+  }
   uloc_getLanguage(code.substr(0, end).c_str(), main.data(), static_cast<int32_t>(main.size()), &status);
   return U_FAILURE(status) || main[0] == '\0' ? code : main.data() + code.substr(end);
 }

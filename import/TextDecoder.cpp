@@ -187,6 +187,11 @@ void TextDecoder::DecodeUtf8() {
     if (!IsUtf8(std::string_view(m_text).substr(good, end + 1 - good))) break;
     good = end + 1;
   }
+  for (std::size_t length = 1; length != 0 && good < m_text.size(); good += length) {
+    const auto byte = static_cast<unsigned char>(m_text[good]);
+    length = byte < 0x80 ? 1 : byte >= 0xF0 ? 4 : byte >= 0xE0 ? 3 : 2;
+    if (!IsUtf8(std::string_view(m_text).substr(good, length))) length = 0;
+  }
   m_raw.clear();
   NoteFault(good);
 }

@@ -28,6 +28,7 @@ std::string BuildChapterNav(const PageInputs& inputs, const CompileContext& cont
   if (!inputs.options.chkCSS) block = "<p align=" + InQuotes(context.LinkAlignment) + ">";
   const int chapters = ChaptersOf(inputs, book);
   for (int chapter = 1; chapter <= chapters; ++chapter) {
+    if (!HasChapter(inputs.glob, book, chapter)) continue;
     AddChapterLink(block, inputs, book, chapter);
     block += "\r\n";
     CheckLength(block, "The links to the chapters");

@@ -17,9 +17,11 @@ void PrintListing(const IndexPage& index, const PageInputs& inputs, const CodePa
   }
   std::string link;
   for (int book = index.firstBook; book <= index.lastBook; ++book) {
-    page.Print(codePage.ToUpper(BookName(inputs, book)), " ");
     const int chapters = ChaptersOf(inputs, book);
+    if (chapters == 0 && inputs.glob.Imported.IsThere()) continue;
+    page.Print(codePage.ToUpper(BookName(inputs, book)), " ");
     for (int chapter = 1; chapter <= chapters; ++chapter) {
+      if (!HasChapter(inputs.glob, book, chapter)) continue;
       link.clear();
       AddChapterLink(link, inputs, book, chapter);
       page.Add(link, inputs.names.Use83() ? "\r\n" : "");

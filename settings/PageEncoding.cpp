@@ -73,4 +73,15 @@ void LoadPageEncoding(const StoredSettings& store, PageOptions& options, PageEnc
   ui.SetPanel(2, "Language: " + encoding.PageLanguage);
 }
 
+void TakeEncodingOf(const ImportedText& text, const StoredSettings& store, PageEncoding& encoding, UserInterface& ui) {
+  if (!text.charset.empty() && !store.Has("Charset")) {
+    encoding.PageCharset = text.charset;
+    ui.SetPanel(3, "Charset: " + encoding.PageCharset);
+  }
+  if (!text.language.empty() && !store.Has("Lang")) {
+    encoding.PageLanguage = text.language;
+    ui.SetPanel(2, "Language: " + encoding.PageLanguage);
+  }
+}
+
 }  // namespace folionet

@@ -8,6 +8,7 @@
 #include "PageOptions.h"
 #include "SettingsStore.h"
 #include "UserInterface.h"
+#include "modGlob.h"
 
 namespace folionet {
 
@@ -35,5 +36,8 @@ void SaveEncoding(SettingsStore& store, const std::string& programFolder, PageOp
 // Reads both entries and shows their codes in panels 3 and 2 of the status bar. Throws RunTimeError for the first that
 // cannot be read; what comes before it is set and shown.
 void LoadPageEncoding(const StoredSettings& store, PageOptions& options, PageEncoding& encoding, UserInterface& ui);
+
+// Takes and shows the codes of an imported translation in the place of those that the person has not set.
+void TakeEncodingOf(const ImportedText& text, const StoredSettings& store, PageEncoding& encoding, UserInterface& ui);
 
 }  // namespace folionet

@@ -42,6 +42,9 @@ class StoredSettings {
   // Gives a key of our own a value for this run only: it is read as if stored and never written.
   void Override(std::string_view key, std::string value);
 
+  // Whether a key of our own has a value for this run only.
+  bool IsOverridden(std::string_view key) const { return m_overrides.find(key) != m_overrides.end(); }
+
   // Whether a key of our own is stored or overridden.
   bool Has(std::string_view key) const;
 

@@ -2,7 +2,9 @@
 
 #include <array>
 #include <cstdint>
+#include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace folionet {
@@ -22,6 +24,9 @@ struct ImportedText {
   std::string language;  // code, such as "en"; empty when the text did not tell
   std::string charset;   // that its text and its file of book titles are in: "windows-1252" or "utf-8"
   std::string titles;    // name of its file of book titles
+
+  // Whether there is such a translation: Versalia's own are none.
+  bool IsThere() const { return !charset.empty(); }
 };
 
 // The values that the whole program shares, made in main and handed down by reference. Names and titles are the bytes
@@ -31,12 +36,18 @@ struct ModGlob {
   std::string ModulesPath;  // holds "Bible"
   std::string SysdefsPath;  // holds the catalogue and the book titles
 
-  std::vector<std::string> BibleNames;  // display names; one spare element at the end
-  std::vector<std::string> BibleFiles;  // file stems, parallel to BibleNames
+  std::vector<std::string> BibleNames;     // display names; one spare element at the end
+  std::vector<std::string> BibleFiles;     // file stems, parallel to BibleNames
+  std::vector<ImportedText> BibleImports;  // parallel to BibleNames
 
   std::array<std::string, kBooks + 1> BookCodes;              // element 0 is unused
   std::array<std::int16_t, kBooks + 1> ChaptersInBook{};      // by order of appearance; element 0 is unused
   std::vector<ChapterEntry> ChapterIndex{1, ChapterEntry{}};  // the last element is all zero
+
+  // Of the chosen translation, when it was imported: its books have their own numbers in ChaptersInBook, which then
+  // tells the last chapter, and of the chapters (book, chapter) before that some may be missing.
+  ImportedText Imported;
+  std::set<std::pair<int, int>> missingChapters;
 
   int listedTranslations = 0;                // records of the catalogue that count, whether their text is there or not
   std::string firstText;                     // where the text of the first of them was looked for, when it is not there
@@ -52,5 +63,10 @@ struct ModGlob {
 
   std::string OutputFolder;  // ends in the folder separator
 };
+
+// Whether a chapter up to the last one of its book has a page.
+inline bool HasChapter(const ModGlob& glob, int book, int chapter) {
+  return glob.missingChapters.empty() || !glob.missingChapters.contains({book, chapter});
+}
 
 }  // namespace folionet

@@ -7,6 +7,7 @@
 #include "BookTitles.h"
 #include "BuildInfo.h"
 #include "FolderLister.h"
+#include "ImportedText.h"
 #include "Numbers.h"
 #include "Paths.h"
 #include "RunTimeError.h"
@@ -89,6 +90,7 @@ void ReadCatalogue(ModGlob& glob, const CodePage& codePage) {
   RecordReader records(SysdefsFile(glob, kCatalogueName));
   glob.BibleNames.assign(1, {});
   glob.BibleFiles.assign(1, {});
+  glob.BibleImports.assign(1, {});
   glob.unreadableTexts.clear();
   glob.listedTranslations = 0;
   glob.firstText.clear();
@@ -107,9 +109,11 @@ void ReadCatalogue(ModGlob& glob, const CodePage& codePage) {
       if (listed == 1) glob.firstText = text;
       continue;
     }
+    glob.BibleImports[counter] = ReadImportedText(text).value_or(ImportedText());
     ++counter;
     glob.BibleNames.resize(counter + 1);
     glob.BibleFiles.resize(counter + 1);
+    glob.BibleImports.resize(counter + 1);
   }
   for (std::size_t i = 0; i < counter; ++i) {
     glob.cboBibleName.push_back(glob.BibleNames[i]);
@@ -124,6 +128,7 @@ Outcome PopulateCombos(int which, const std::string& cboLang, ModGlob& glob, con
     try {
       if (which != 0) ReadCatalogue(glob, codePage);
       ReadBookTitles(glob, cboLang);
+      if (glob.Imported.IsThere()) EncodeTitles(glob, codePage);
       return Outcome::kDone;
     } catch (const RunTimeError& error) {
       ui.ShowErrorReport(error.Number(), "Populate Combos", error.Extra());

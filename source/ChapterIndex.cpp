@@ -1,6 +1,9 @@
 #include "ChapterIndex.h"
 
+#include <algorithm>
 #include <array>
+#include <set>
+#include <utility>
 
 #include "BuildInfo.h"
 #include "Numbers.h"
@@ -18,6 +21,25 @@ constexpr std::size_t kChapterField = 3;
 constexpr std::size_t kVersesField = 4;
 constexpr std::int64_t kByteMax = 255;
 constexpr std::size_t kByteValues = 256;
+
+// Of an imported translation: by the books' own numbers, with the chapters that are missing.
+void CountImported(ModGlob& glob, const std::string& path) {
+  RecordReader records(path);
+  std::array<std::string_view, kFields> fields;
+  std::set<std::pair<int, int>> there;
+  while (records.Next(fields)) {
+    const auto book = static_cast<int>(records.Integer(fields[kBookField], 1, kBooks));
+    const auto chapter = static_cast<int>(records.Integer(fields[kChapterField], 1, kByteMax));
+    there.insert({book, chapter});
+    std::int16_t& last = glob.ChaptersInBook[static_cast<std::size_t>(book)];
+    last = std::max(last, static_cast<std::int16_t>(chapter));
+  }
+  for (int book = 1; book <= kBooks; ++book) {
+    for (int chapter = 1; chapter < glob.ChaptersInBook[static_cast<std::size_t>(book)]; ++chapter) {
+      if (!there.contains({book, chapter})) glob.missingChapters.insert({book, chapter});
+    }
+  }
+}
 
 void CountChapters(ModGlob& glob, const std::string& path) {
   RecordReader records(path);
@@ -91,7 +113,12 @@ Outcome BooksInChapters(ModGlob& glob, std::size_t translation, const CodePage& 
       return Outcome::kEndProgram;
     }
     glob.ChaptersInBook.fill(0);
-    CountChapters(glob, path);
+    glob.missingChapters.clear();
+    if (glob.Imported.IsThere()) {
+      CountImported(glob, path);
+    } else {
+      CountChapters(glob, path);
+    }
     return Outcome::kDone;
   } catch (const RunTimeError& error) {
     ui.ShowErrorReport(error.Number(), "BooksInChapters", error.Extra());

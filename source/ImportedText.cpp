@@ -1,8 +1,10 @@
 #include "ImportedText.h"
 
+#include <algorithm>
 #include <array>
 #include <utility>
 
+#include "StoredSettings.h"
 #include "WholeFile.h"
 
 namespace folionet {
@@ -43,6 +45,63 @@ std::string WriteImportedText(const ImportedText& text) {
     content.append(key).append("=").append(text.*field).append("\r\n");
   }
   return content;
+}
+
+void ChooseImported(ModGlob& glob, std::size_t place) {
+  glob.Imported = place < glob.BibleImports.size() ? glob.BibleImports[place] : ImportedText();
+}
+
+std::string BookTitlesFile(const StoredSettings& store, const ModGlob& glob) {
+  std::string stored = store.Text("cboLang");
+  if (!glob.Imported.IsThere() || glob.Imported.titles.empty() || store.IsOverridden("cboLang")) return stored;
+  const bool isOfText = std::any_of(glob.BibleImports.begin(), glob.BibleImports.end(), [&](const ImportedText& text) {
+    return text.IsThere() && EqualIgnoringCase(text.titles, stored);
+  });
+  const bool isChosen = store.Has("cboLang") && !isOfText && !EqualIgnoringCase(stored, "BOOKS.TXT");
+  return isChosen ? stored : glob.Imported.titles;
+}
+
+void EncodeTitles(ModGlob& glob, const CodePage& codePage) {
+  for (std::size_t i = 0; i < glob.cboStartBook.size(); ++i) {
+    const std::string& bytes = glob.cboStartBook[i];
+    const std::string title = IsUtf8(bytes) ? bytes : CodePage().Decode(bytes);
+    std::string encoded = codePage.Encode(title);
+    if (codePage.Decode(encoded) != title) encoded = glob.BookCodes[i + 1];
+    glob.cboStartBook[i] = encoded;
+    glob.cboEndBook[i] = std::move(encoded);
+  }
+}
+
+std::pair<int, int> BooksOfText(const ModGlob& glob) {
+  int first = kBooks - 1;
+  int last = 0;
+  for (int book = 1; book <= kBooks; ++book) {
+    if (glob.ChaptersInBook[static_cast<std::size_t>(book)] == 0) continue;
+    first = std::min(first, book - 1);
+    last = book - 1;
+  }
+  return {std::min(first, last), last};
+}
+
+std::string ShownName(const ModGlob& glob, std::size_t place, const CodePage& codePage) {
+  const bool isImported = place < glob.BibleImports.size() && glob.BibleImports[place].IsThere();
+  return isImported ? glob.BibleImports[place].name : codePage.DecodeForDisplay(glob.BibleNames[place]);
+}
+
+std::string PageName(const ModGlob& glob, std::size_t place, const CodePage& codePage) {
+  const bool isImported = place < glob.BibleImports.size() && glob.BibleImports[place].IsThere();
+  if (!isImported) return glob.BibleNames[place];
+  std::string name;
+  for (const char c : glob.BibleImports[place].name) {
+    if (c == '&') {
+      name += "&amp;";
+    } else if (c == '<' || c == '>') {
+      name += c == '<' ? "&lt;" : "&gt;";
+    } else {
+      name += c;
+    }
+  }
+  return codePage.Encode(name);
 }
 
 }  // namespace folionet

@@ -3,10 +3,14 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 
+#include "CodePage.h"
 #include "modGlob.h"
 
 namespace folionet {
+
+class StoredSettings;
 
 // What the forms of Versalia's files cannot say of a translation that was imported, in a small file beside its text:
 // Modules/Bible/<STEM>.TXT.folionet. UTF-8, one KEY=VALUE a line; other lines are passed over. That it is there means,
@@ -25,5 +29,24 @@ std::optional<ImportedText> ReadImportedText(const std::string& verseFile);
 
 // The content of the small file.
 std::string WriteImportedText(const ImportedText& text);
+
+// Chooses the translation at a place of BibleNames: fills Imported from BibleImports.
+void ChooseImported(ModGlob& glob, std::size_t place);
+
+// The file of book titles to read: that of the chosen translation, when it was imported and the person has chosen no
+// other. The default, and a file that belongs to a translation, are no choice of theirs unless given for this run.
+std::string BookTitlesFile(const StoredSettings& store, const ModGlob& glob);
+
+// The titles of an imported translation's book lists, which may come from a delivered file in windows-1252 or from one
+// in UTF-8, in the page's code page. One that the code page cannot hold would break the links to its pages: its book's
+// code stands for it.
+void EncodeTitles(ModGlob& glob, const CodePage& codePage);
+
+// The places in the book lists of the first and the last book that an imported text holds, by ChaptersInBook.
+std::pair<int, int> BooksOfText(const ModGlob& glob);
+
+// The name of the translation at a place of BibleNames, in UTF-8 to be shown, and as pages have it in their bytes.
+std::string ShownName(const ModGlob& glob, std::size_t place, const CodePage& codePage);
+std::string PageName(const ModGlob& glob, std::size_t place, const CodePage& codePage);
 
 }  // namespace folionet

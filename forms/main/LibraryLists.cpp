@@ -5,8 +5,10 @@
 #include "BookTitles.h"
 #include "Catalogue.h"
 #include "ChapterIndex.h"
+#include "ImportedText.h"
 #include "OptionLoading.h"
 #include "OptionSaving.h"
+#include "PageEncoding.h"
 #include "QtText.h"
 #include "TrySave.h"
 #include "ui_frmMain.h"
@@ -70,7 +72,40 @@ Outcome LibraryLists::SelectFirst() {
   m_controls.cboBibleName->setCurrentIndex(m_chosen);
   const int place = SelectedTranslation();
   if (place < 0) return Outcome::kDone;
-  return BooksInChapters(m_state.glob, static_cast<std::size_t>(place), m_state.codePage, m_state.ui);
+  if (TakeImported(static_cast<std::size_t>(place)) != Outcome::kDone) return Outcome::kEndProgram;
+  const Outcome outcome = BooksInChapters(m_state.glob, static_cast<std::size_t>(place), m_state.codePage, m_state.ui);
+  SelectBooksOfText();
+  return outcome;
+}
+
+// A translation that was imported brings its charset, its language and its book titles; the next one may have others.
+Outcome LibraryLists::TakeImported(std::size_t place) {
+  ModGlob& glob = m_state.glob;
+  const bool wasImported = glob.Imported.IsThere();
+  ChooseImported(glob, place);
+  if (!wasImported && !glob.Imported.IsThere()) return Outcome::kDone;
+  PageEncoding encoding;
+  LoadPageEncoding(m_state.store, m_state.options, encoding, m_state.ui);
+  TakeEncodingOf(glob.Imported, m_state.store, encoding, m_state.ui);
+  m_state.texts.PageCharset = encoding.PageCharset;
+  m_state.texts.PageLanguage = encoding.PageLanguage;
+  m_state.codePage = CodePage(encoding.PageCharset);
+  m_state.options.main.cboLang = BookTitlesFile(m_state.store, glob);
+  m_controls.cboLang->SetText(ToQt(m_state.options.main.cboLang));
+  if (PopulateCombos(0, m_state.options.main.cboLang, glob, m_state.codePage, m_state.ui) == Outcome::kEndProgram) {
+    return Outcome::kEndProgram;
+  }
+  ShowBooks();
+  TakeTranslation(place);
+  return Outcome::kDone;
+}
+
+// An imported text may hold some of the books only.
+void LibraryLists::SelectBooksOfText() {
+  if (!m_state.glob.Imported.IsThere()) return;
+  const auto [first, last] = BooksOfText(m_state.glob);
+  m_controls.cboStartBook->setCurrentIndex(first);
+  m_controls.cboEndBook->setCurrentIndex(last);
 }
 
 Outcome LibraryLists::LoadVerses() {
@@ -85,6 +120,10 @@ void LibraryLists::ShowNames() {
   const int start = m_controls.cboStartBook->currentIndex();
   const int end = m_controls.cboEndBook->currentIndex();
   ShowTranslations();
+  // The titles of an imported translation are in the page's code page.
+  if (m_state.glob.Imported.IsThere()) {
+    PopulateCombos(0, m_state.options.main.cboLang, m_state.glob, m_state.codePage, m_state.ui);
+  }
   ShowBooks();
   m_controls.cboBibleName->setCurrentIndex(translation);
   m_controls.cboStartBook->setCurrentIndex(start);
@@ -109,7 +148,15 @@ void LibraryLists::ChooseBible() {
     return;
   }
   m_chosen = item;
+  if (TakeImported(static_cast<std::size_t>(place)) == Outcome::kEndProgram) return emit EndProgram();
   TakeTranslation(static_cast<std::size_t>(place));
+  if (m_state.glob.Imported.IsThere()) {
+    if (BooksInChapters(m_state.glob, static_cast<std::size_t>(place), m_state.codePage, m_state.ui) ==
+        Outcome::kEndProgram) {
+      return emit EndProgram();
+    }
+    SelectBooksOfText();
+  }
   if (LoadVerses() == Outcome::kEndProgram) emit EndProgram();
   emit Chosen();
 }
@@ -133,11 +180,19 @@ void LibraryLists::ChooseLanguage() {
     return;
   }
   ShowBooks();
+  SelectBooksOfText();
   emit Chosen();
 }
 
 void LibraryLists::ShowTranslations() {
-  folionet::Fill(*m_controls.cboBibleName, m_state.glob.cboBibleName, m_state.codePage);
+  const ModGlob& glob = m_state.glob;
+  folionet::Fill(*m_controls.cboBibleName, glob.cboBibleName, m_state.codePage);
+  for (int item = 0; item < m_controls.cboBibleName->count(); ++item) {
+    const auto place = TranslationAt(glob, static_cast<std::size_t>(item));
+    if (place && glob.BibleImports[*place].IsThere()) {
+      m_controls.cboBibleName->setItemText(item, ToQt(glob.BibleImports[*place].name));
+    }
+  }
   m_controls.cboBibleName->setCurrentIndex(-1);
 }
 
@@ -151,9 +206,10 @@ void LibraryLists::ShowBooks() {
 
 void LibraryLists::TakeTranslation(std::size_t place) {
   const ModGlob& glob = m_state.glob;
-  m_state.options.txtBibleSel = glob.BibleNames[place];
+  m_state.options.txtBibleSel = PageName(glob, place, m_state.codePage);
   if (glob.cboBibleName.empty()) m_state.options.txtBibleSel.clear();
-  m_controls.txtBibleSel->setText(ToQt(m_state.codePage.DecodeForDisplay(m_state.options.txtBibleSel)));
+  m_controls.txtBibleSel->setText(glob.cboBibleName.empty() ? QString()
+                                                            : ToQt(ShownName(glob, place, m_state.codePage)));
   // What stands for nothing is not told beside something.
   m_controls.txtBibleSel->setPlaceholderText(
       m_state.options.txtBibleSel.empty() ? QCoreApplication::translate("folionet::frmMain", "None") : QString());

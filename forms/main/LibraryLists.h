@@ -52,6 +52,8 @@ class LibraryLists : public QObject {
   void ShowTranslations();
   void ShowBooks();
   void TakeTranslation(std::size_t place);
+  Outcome TakeImported(std::size_t place);
+  void SelectBooksOfText();
   void TellUnread(int item) const;
   Outcome ReadLists(int which);
 

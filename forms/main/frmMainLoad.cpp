@@ -125,6 +125,7 @@ std::vector<std::function<bool()>> frmMain::StartSteps() {
 void frmMain::ReadEncoding() {
   PageEncoding encoding;
   LoadPageEncoding(m_state.store, m_state.options, encoding, m_state.ui);
+  TakeEncodingOf(m_state.glob.Imported, m_state.store, encoding, m_state.ui);
   m_state.texts.PageCharset = encoding.PageCharset;
   m_state.texts.PageLanguage = encoding.PageLanguage;
   m_state.codePage = CodePage(encoding.PageCharset);

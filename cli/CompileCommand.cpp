@@ -11,6 +11,7 @@
 #include "Effects.h"
 #include "ImportedText.h"
 #include "Installation.h"
+#include "PageEncoding.h"
 #include "Paths.h"
 #include "ProgramFolder.h"
 #include "RunFacts.h"
@@ -209,7 +210,7 @@ ExitStatus RunCompile(const CommonOptions& common, const CompileArguments& argum
   request.texts = session.texts;
   for (const auto& [kind, text] : {std::pair{&kCustomHeader, &request.texts.CustomHeader},
                                    std::pair{&kCustomFooter, &request.texts.CustomFooter}}) {
-    EndUnless(LoadCustomHtml({request.programFolder, session.codePage}, *kind, *text, session.ui));
+    EndUnless(LoadCustomHtml(OwnFolderOfRun(session.store, request.programFolder), *kind, *text, session.ui));
   }
   const LinkEffects effects = Effects(request.options.frmEffects);
   request.texts.RolloverStyle = effects.RolloverStyle;

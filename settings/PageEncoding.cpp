@@ -44,6 +44,12 @@ OwnFolder StoredOwnFolder(const StoredSettings& store, const std::string& progra
   return {programFolder, StoredCodePage(store), store.UnfinishedNote()};
 }
 
+OwnFolder OwnFolderOfRun(const StoredSettings& store, const std::string& programFolder) {
+  OwnFolder own = StoredOwnFolder(store, programFolder);
+  if (const auto stored = store.StoredText("Charset"); stored) own.codePage = CodePageOf(*stored);
+  return own;
+}
+
 void SaveEncoding(SettingsStore& store, const std::string& programFolder, PageOptions& options) {
   const OwnFolder own = StoredOwnFolder(store, programFolder);
   const CodePage chosen = CodePageOf(options.frmEncoding.cboCharset);

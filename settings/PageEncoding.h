@@ -29,6 +29,9 @@ CodePage StoredCodePage(const StoredSettings& store);
 // The texts of a person's own as the stored charset has them.
 OwnFolder StoredOwnFolder(const StoredSettings& store, const std::string& programFolder);
 
+// The same for a run that may have another charset than the stored one, which a person's texts stay in.
+OwnFolder OwnFolderOfRun(const StoredSettings& store, const std::string& programFolder);
+
 // Stores the entries of `options.frmEncoding` and, when that changes the code page, brings the custom header and footer
 // and the lists of encodings over to it: one change, of which all is made or nothing. Throws RunTimeError.
 void SaveEncoding(SettingsStore& store, const std::string& programFolder, PageOptions& options);

@@ -53,8 +53,12 @@ void StoredSettings::Override(std::string_view key, std::string value) {
   m_overrides.insert_or_assign(std::string(key), std::move(value));
 }
 
+std::optional<std::string> StoredSettings::StoredText(std::string_view key) const {
+  return Stored(kApplicationTitle, NameOf(kSettingsSection, key));
+}
+
 bool StoredSettings::Has(std::string_view key) const {
-  return m_overrides.contains(key) || Stored(kApplicationTitle, NameOf(kSettingsSection, key)).has_value();
+  return m_overrides.contains(key) || StoredText(key).has_value();
 }
 
 std::string StoredSettings::Text(std::string_view key) const {

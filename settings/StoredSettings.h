@@ -45,6 +45,9 @@ class StoredSettings {
   // Whether a key of our own has a value for this run only.
   bool IsOverridden(std::string_view key) const { return m_overrides.find(key) != m_overrides.end(); }
 
+  // The stored text of a key of our own, whatever the run has in its place; nothing when none is stored.
+  std::optional<std::string> StoredText(std::string_view key) const;
+
   // Whether a key of our own is stored or overridden.
   bool Has(std::string_view key) const;
 

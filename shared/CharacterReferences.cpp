@@ -96,12 +96,21 @@ std::optional<UChar32> ReferredCharacter(std::string_view reference) {
   return kFirstOfLatin1 + static_cast<UChar32>(found - kLatin1Names.begin());
 }
 
+// Where the reference that begins at `at` ends, its ";" not counted. A number needs none in browsers: what is no digit
+// ends it.
+std::size_t ReferenceEnd(std::string_view text, std::size_t at) {
+  if (!text.substr(at).starts_with("&#")) return text.find(';', at);
+  const bool hex = text.substr(at).starts_with("&#x") || text.substr(at).starts_with("&#X");
+  const std::size_t digits = at + (hex ? 3 : 2);
+  return std::min(text.find_first_not_of(hex ? "0123456789abcdefABCDEF" : "0123456789", digits), text.size());
+}
+
 }  // namespace
 
 std::string WithoutCharacterReferences(std::string_view text) {
   std::string resolved;
   for (std::size_t at = 0; at < text.size(); ++at) {
-    const std::size_t end = text[at] == '&' ? text.find(';', at) : std::string_view::npos;
+    const std::size_t end = text[at] == '&' ? ReferenceEnd(text, at) : std::string_view::npos;
     const auto character =
         end == std::string_view::npos ? std::nullopt : ReferredCharacter(text.substr(at + 1, end - at - 1));
     if (!character) {
@@ -109,7 +118,7 @@ std::string WithoutCharacterReferences(std::string_view text) {
       continue;
     }
     AppendUtf8(resolved, static_cast<char32_t>(*character));
-    at = end;
+    at = text.substr(end).starts_with(';') ? end : end - 1;
   }
   return resolved;
 }

@@ -38,6 +38,7 @@ TEST(PageNamesTest, ReferencesNameTheirLettersOnDisk) {
   } cases[] = {{"G&#233;n&#xC9;se", "g&#233;n&#xc9;se_1.html", "génÉse_1.html"},
                {"&Eacute;xode &amp; Co", "&eacute;xode_&amp;_co_1.html", "éxode_&_co_1.html"},
                {"&Psi;alm&#146;s", "&psi;alm&#146;s_1.html", "ψalm’s_1.html"},
+               {"n&#233mero &#xE9", "n&#233mero_&#xe9_1.html", "némero_é_1.html"},
                {"A&B &none; &#9999999;", "a&b_&none;_&#9999999;_1.html", "a&b_&none;_&#9999999;_1.html"}};
   for (const auto& c : cases) {
     const PageNames names({c.title}, false, CodePage());

@@ -58,6 +58,9 @@ void Session::Override(const std::vector<std::string>& assignments) {
       RefuseUsage(std::string("--set: ").append(name).append(" must be ").append(Describe(option->form)) + ": \"" +
                   value + "\"." + kShowSettings);
     }
+    if (value.find_first_of("\r\n") != std::string::npos) {
+      RefuseUsage("--set: " + name + " must be one line: \"" + value + "\"." + kShowSettings);
+    }
     if (name == "cboLang") CheckLanguageFile("--set cboLang", value);
     store.Override(name, std::move(value));
   }

@@ -9,6 +9,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTimer>
+#include <utility>
 
 #include "FormUi.h"
 #include "QtText.h"
@@ -123,13 +124,13 @@ TEST(FormUiTest, AFontThatIsNotTouchedStays) {
   names << "Verdana"
         << "No Such Font";
   for (const QString& name : names) {
-    for (const bool isBold : {false, true}) {
+    for (const auto& [isBold, isItalic] : {std::pair{false, false}, {false, true}, {true, false}, {true, true}}) {
       WhenShown<QFontDialog>([](QFontDialog& box) { box.accept(); });
-      const SampleText chosen = ui.ChooseFont({FromQt(name), 10.5, isBold, !isBold, 0, 0});
+      const SampleText chosen = ui.ChooseFont({FromQt(name), 10.5, isBold, isItalic, 0, 0});
       EXPECT_EQ(chosen.FontName, FromQt(name));
       EXPECT_EQ(chosen.FontSize, 10.5) << chosen.FontName;
       EXPECT_EQ(chosen.FontBold, isBold) << chosen.FontName;
-      EXPECT_EQ(chosen.FontItalic, !isBold) << chosen.FontName;
+      EXPECT_EQ(chosen.FontItalic, isItalic) << chosen.FontName;
     }
   }
 }

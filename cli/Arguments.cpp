@@ -71,6 +71,7 @@ void AddCompile(CLI::App& app, Arguments& asked) {
   AddSettings(compile, arguments->settings);
   compile.add_option("--sitemap", arguments->sitemap, "Write sitemap.xml for this address (default: none)")
       ->type_name("ADDRESS");
+  compile.add_flag("--only-chosen", arguments->onlyChosen, "Leave no page of the books after the end book");
   compile.add_flag("--list-changed", arguments->listChanged, "Print the names of the pages whose bytes changed");
   CLI::Option* dryRun =
       compile.add_flag("--dry-run", arguments->dryRun, "Write nothing; print what each page would become");

@@ -14,10 +14,10 @@
 #include "PageEncoding.h"
 #include "Paths.h"
 #include "ProgramFolder.h"
-#include "RunFacts.h"
 #include "RunTimeError.h"
 #include "Sitemap.h"
 #include "StopSignals.h"
+#include "TellFacts.h"
 
 namespace folionet {
 namespace {
@@ -67,53 +67,6 @@ void SelectTranslation(const CompileArguments& arguments, Session& session, Comp
   const auto [first, last] = BooksOfText(glob);
   request.cboStartBook = first;
   request.cboEndBook = last;
-}
-
-const char* KindText(RunFactKind kind) {
-  switch (kind) {
-    case RunFactKind::kEndsBeforeStart:
-      return "ends-before-start";
-    case RunFactKind::kRemovesPages:
-      return "removes-pages";
-    case RunFactKind::kIndexTakesPage:
-      return "index-takes-page";
-    case RunFactKind::kOtherTranslation:
-      return "other-translation";
-    case RunFactKind::kPagesMeet:
-      break;
-  }
-  return "pages-meet";
-}
-
-// What a person does about a fact at the command line.
-Sentence RemedyOf(const RunFact& fact) {
-  switch (fact.kind) {
-    case RunFactKind::kEndsBeforeStart:
-      return {"Give the books in their order with --start-book and --end-book."};
-    case RunFactKind::kIndexTakesPage:
-      return {"Give it a name of its own with --index-address."};
-    case RunFactKind::kOtherTranslation:
-      return {"Pages of the same names are written over; choose another folder with --output if that is not meant."};
-    case RunFactKind::kPagesMeet:
-      return {"Give other titles with --language-file, or short names: --set \"%1=%2\".",
-              {fact.remedy.key, fact.remedy.value}};
-    case RunFactKind::kRemovesPages:
-      break;
-  }
-  return {};
-}
-
-// Warnings are told before the run; a plan tells beforehand what is removed in any case.
-void TellFacts(const std::vector<RunFact>& facts, bool dryRun, ConsoleUi& ui) {
-  for (const RunFact& fact : facts) {
-    Finding finding{.kind = KindText(fact.kind), .what = fact.notice, .remedy = RemedyOf(fact)};
-    if (dryRun && fact.kind == RunFactKind::kRemovesPages) {
-      finding.severity = Severity::kNote;
-      ui.Show(finding);
-    } else if (fact.isWarning) {
-      ui.Warn(std::move(finding));
-    }
-  }
 }
 
 // What would become of files, for one who asked.
@@ -205,6 +158,8 @@ ExitStatus RunCompile(const CommonOptions& common, const CompileArguments& argum
   if (arguments.indexAddress) request.options.txthttpRoot = *arguments.indexAddress;
   request.txtOutputPath = OutputPath(arguments, session);
   request.makeOutputFolder = true;
+  request.onlyChosen = arguments.onlyChosen;
+  request.isTranslationNamed = !arguments.translation.empty();
   request.cboLang = BookTitlesFile(session.store, session.glob);
   request.programFolder = ProgramFolderOf(session, arguments.dryRun);
   request.texts = session.texts;

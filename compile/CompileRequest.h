@@ -18,11 +18,13 @@ struct CompileRequest {
   std::string txtFilename;                      // the verse file
   std::string cboLang;                          // the file name of the book titles; "Default" stands for none
   int cboBibleName = -1;                        // the chosen translation's place in BibleNames; -1 for none
+  bool isTranslationNamed = true;               // by the person, or else it is the first of all
   int cboStartBook = 0;                         // places in the book lists
   int cboEndBook = 65;
   std::string programFolder;       // where default.css is; ends in the folder separator
   bool makeOutputFolder = false;   // whether a missing output folder is made
   std::string sitemapAddress;      // the output folder's public address; empty for no sitemap.xml
+  bool onlyChosen = false;         // whether the pages of the books after the ending one are deleted too
   bool dryRun = false;             // nothing is written or deleted; the counts are told all the same
   SiteChanges* changes = nullptr;  // where what became of each file is noted, if anywhere
 

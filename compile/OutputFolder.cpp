@@ -1,7 +1,9 @@
 #include "OutputFolder.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <filesystem>
+#include <set>
 #include <string_view>
 #include <system_error>
 
@@ -81,9 +83,24 @@ void WriteOtherFile(const CompileRequest& request, RunFolder& folder, const std:
   NoteWritten(request, folder, name, change);
 }
 
+std::vector<int> BooksRemovedAfter(const CompileRequest& request, const PageNames& names) {
+  std::vector<int> books;
+  if (!request.onlyChosen) return books;
+  std::set<std::string> chosen;
+  for (int book = request.cboStartBook + 1; book <= request.cboEndBook + 1; ++book) {
+    chosen.insert(names.BookOnDisk(book));
+  }
+  const std::string index = IndexFileName(request.options.txthttpRoot);
+  for (int book = std::max(request.cboStartBook, request.cboEndBook + 1) + 1; book <= kBooks; ++book) {
+    const std::string& name = names.BookOnDisk(book);
+    if (!chosen.contains(name) && !index.starts_with(name)) books.push_back(book);
+  }
+  return books;
+}
+
 std::int16_t CleanUp(const CompileRequest& request, const PageInputs& inputs, RunFolder& folder) {
-  int removed = 0;
-  for (int book = 1; book <= request.cboStartBook; ++book) {
+  std::int16_t removed = 0;
+  const auto removeBook = [&](int book) {
     const int chapters = ChaptersOf(inputs, book);
     for (int chapter = 1; chapter <= chapters; ++chapter) {
       if (!HasChapter(inputs.glob, book, chapter)) continue;
@@ -92,8 +109,10 @@ std::int16_t CleanUp(const CompileRequest& request, const PageInputs& inputs, Ru
       if (removed < kInt16Max) ++removed;
       inputs.ui.SetPanel(1, "Removing extra HTML .. " + name);
     }
-  }
-  return static_cast<std::int16_t>(removed);
+  };
+  for (int book = 1; book <= request.cboStartBook; ++book) removeBook(book);
+  for (const int book : BooksRemovedAfter(request, inputs.names)) removeBook(book);
+  return removed;
 }
 
 }  // namespace folionet

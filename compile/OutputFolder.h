@@ -3,6 +3,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "ChangeJournal.h"
 #include "CompileContext.h"
@@ -36,8 +37,12 @@ void EndRun(const CompileRequest& request, RunFolder& folder, bool isDone);
 // Notes what became of a file, where the request says so.
 void NoteWritten(const CompileRequest& request, const RunFolder& folder, const std::string& name, PageChange change);
 
-// Deletes the pages of the books before the start book. Gives the number of deletions tried, which counts pages that
-// were not there; every failure is passed over.
+// The books after the ending one whose pages are deleted, where only chosen books are to stay: not those whose names a
+// chosen book or the index page has too.
+std::vector<int> BooksRemovedAfter(const CompileRequest& request, const PageNames& names);
+
+// Deletes the pages of the books before the start book, and of BooksRemovedAfter. Gives the number of deletions tried,
+// which counts pages that were not there; every failure is passed over.
 std::int16_t CleanUp(const CompileRequest& request, const PageInputs& inputs, RunFolder& folder);
 
 }  // namespace folionet

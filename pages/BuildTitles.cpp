@@ -13,6 +13,8 @@ constexpr int kMostReplacements = 10000;
 constexpr std::size_t kLongestText = std::size_t{1} << 20;
 constexpr std::size_t kLongestNumbers = 8;  // what a word of a chapter's number stands for, at most
 
+constexpr std::string_view kBibleWord = "%bible%";
+constexpr std::string_view kBookWord = "%bk%";
 constexpr std::string_view kChapterWord = "%ch%";
 constexpr std::string_view kVersesWord = "%vs%";
 
@@ -96,12 +98,12 @@ std::optional<std::string> PageTitles::Build(std::string_view book, std::string_
     if (!m_withBible) {
       CheckTextLength(m_pattern.size());
       Stage stage{std::string(m_pattern)};
-      ReplaceAll(stage.text, "%bible%", m_bible, stage.replacements);
+      ReplaceAll(stage.text, kBibleWord, m_bible, stage.replacements);
       m_withBible = std::move(stage);
     }
     if (!m_withBook || m_book != book) {
       Stage stage = *m_withBible;
-      ReplaceAll(stage.text, "%bk%", book, stage.replacements);
+      ReplaceAll(stage.text, kBookWord, book, stage.replacements);
       m_withBook = std::move(stage);
       m_book = book;
       m_bookNumber = counts.BookOf(book);
@@ -120,6 +122,30 @@ std::optional<std::string> PageTitles::Build(std::string_view book, std::string_
     ui.ShowErrorReport(error.Number(), "Build Titles", Quoted(m_pattern) + "\r\n" + error.Extra());
     return std::nullopt;
   }
+}
+
+std::string_view FindWord(std::string_view text) {
+  const auto isLetter = [](char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); };
+  const auto isHexDigit = [](char c) { return (c >= 'a' && c <= 'f') || (c >= 'A' && c <= 'F'); };
+  for (std::size_t at = text.find('%'); at != std::string_view::npos; at = text.find('%', at + 1)) {
+    const std::string_view rest = text.substr(at + 1);
+    const auto end = std::find_if_not(rest.begin(), rest.end(), isLetter);
+    const auto length = static_cast<std::size_t>(end - rest.begin());
+    if (length == 0 || end == rest.end() || *end != '%') continue;
+    // "%C3%A9" is an address.
+    if (length == 2 && std::all_of(rest.begin(), end, isHexDigit)) continue;
+    return text.substr(at, length + 2);
+  }
+  return {};
+}
+
+std::string_view FindUnknownWord(std::string_view text) {
+  for (std::string_view word = FindWord(text); !word.empty(); word = FindWord(text)) {
+    const bool isKnown = word == kBibleWord || word == kBookWord || word == kChapterWord || word == kVersesWord;
+    if (!isKnown) return word;
+    text.remove_prefix(static_cast<std::size_t>(word.data() - text.data()) + word.size());
+  }
+  return {};
 }
 
 std::optional<std::string> BuildTitles(std::string_view pattern, const TitleWords& words, const VerseCounts& counts,

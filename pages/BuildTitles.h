@@ -23,6 +23,12 @@ struct TitleWords {
 std::optional<std::string> BuildTitles(std::string_view pattern, const TitleWords& words, const VerseCounts& counts,
                                        UserInterface& ui);
 
+// The first thing in a text that looks like a dynamic word, "%verse%", and is none; empty for none. Letter case counts.
+std::string_view FindUnknownWord(std::string_view text);
+
+// The first thing in a text that looks like a dynamic word, known or not; empty for none.
+std::string_view FindWord(std::string_view text);
+
 // BuildTitles for the many pages of one translation: what pages, or the pages of a book, have in common is put in once.
 // (A plain number cannot bring a word with it: for chapters that are one, what is left is cut up once a book.)
 class PageTitles {

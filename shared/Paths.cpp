@@ -60,7 +60,7 @@ std::string UserFolder(const char* variable, std::string_view belowHome) {
   return WithSeparator(WithSeparator(home).append(belowHome));
 }
 
-std::vector<std::string> ListFolder(const std::string& folder) {
+std::vector<std::string> FolderEntries(const std::string& folder) {
   const std::string path = NativePath(folder);
   const std::unique_ptr<DIR, CloseFolder> handle(opendir(path.empty() ? "." : path.c_str()));
   if (handle == nullptr) throw RunTimeError::FromErrno(errno, path);
@@ -72,6 +72,11 @@ std::vector<std::string> ListFolder(const std::string& folder) {
     errno = 0;
   }
   if (errno != 0) throw RunTimeError::FromErrno(errno, path);
+  return names;
+}
+
+std::vector<std::string> ListFolder(const std::string& folder) {
+  std::vector<std::string> names = FolderEntries(folder);
   // The names and what they are sorted by, made once for each.
   std::vector<std::pair<std::string, std::string>> keys;
   const CodePage utf8("utf-8");

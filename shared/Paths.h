@@ -35,6 +35,10 @@ std::string LocateIgnoringCase(const std::string& folder, std::string_view name)
 // its end; empty when neither is known: a relative path in the environment is none.
 std::string UserFolder(const char* variable, std::string_view belowHome);
 
+// The names of a folder's entries, in the order in which the system gives them. Throws RunTimeError when the folder
+// cannot be read.
+std::vector<std::string> FolderEntries(const std::string& folder);
+
 // The names of a folder's entries, sorted ignoring case. Throws RunTimeError when the folder cannot be read.
 std::vector<std::string> ListFolder(const std::string& folder);
 

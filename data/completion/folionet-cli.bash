@@ -69,7 +69,7 @@ _folionet_cli() {
   case $command in
     compile)
       common+=" --translation --language-file --start-book --end-book --books --output --index-address --set --sitemap"
-      common+=" --list-changed --dry-run --json"
+      common+=" --only-chosen --list-changed --dry-run --json"
       ;;
     import)
       common+=" --name --stem --into --titles --charset --replace --dry-run --json"

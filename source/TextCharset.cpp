@@ -1,0 +1,127 @@
+#include "TextCharset.h"
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+#include "FileHandle.h"
+#include "LineReader.h"
+#include "WholeFile.h"
+
+namespace folionet {
+namespace {
+
+// The charset of texts in a language that are not in UTF-8, by how its code begins.
+constexpr std::array<std::pair<std::string_view, const char*>, 40> kCharsetsOfLanguages{{
+    {"ar", "windows-1256 (ANSI Arabic)"},
+    {"be", "windows-1251 (ANSI Cyrillic)"},
+    {"bg", "windows-1251 (ANSI Cyrillic)"},
+    {"bs", "windows-1250 (ANSI Central European)"},
+    {"cs", "windows-1250 (ANSI Central European)"},
+    {"el", "windows-1253 (ANSI Greek)"},
+    {"et", "windows-1257 (ANSI Baltic)"},
+    {"fa", "windows-1256 (ANSI Arabic)"},
+    {"he", "windows-1255 (ANSI Hebrew)"},
+    {"hr", "windows-1250 (ANSI Central European)"},
+    {"hu", "windows-1250 (ANSI Central European)"},
+    {"iw", "windows-1255 (ANSI Hebrew)"},
+    {"ja", "shift_jis (Japanese - Shift JIS)"},
+    {"kk", "windows-1251 (ANSI Cyrillic)"},
+    {"ko", "euc-kr (Korean - EUC)"},
+    {"ky", "windows-1251 (ANSI Cyrillic)"},
+    {"lt", "windows-1257 (ANSI Baltic)"},
+    {"lv", "windows-1257 (ANSI Baltic)"},
+    {"mk", "windows-1251 (ANSI Cyrillic)"},
+    {"mn", "windows-1251 (ANSI Cyrillic)"},
+    {"pl", "windows-1250 (ANSI Central European)"},
+    {"ro", "windows-1250 (ANSI Central European)"},
+    {"ru", "windows-1251 (ANSI Cyrillic)"},
+    {"sk", "windows-1250 (ANSI Central European)"},
+    {"sl", "windows-1250 (ANSI Central European)"},
+    {"sq", "windows-1250 (ANSI Central European)"},
+    {"sr", "windows-1251 (ANSI Cyrillic)"},
+    {"tg", "windows-1251 (ANSI Cyrillic)"},
+    {"th", "windows-874 (ANSI Thai)"},
+    {"tr", "windows-1254 (ANSI Turkish)"},
+    {"tt", "windows-1251 (ANSI Cyrillic)"},
+    {"uk", "windows-1251 (ANSI Cyrillic)"},
+    {"ur", "windows-1256 (ANSI Arabic)"},
+    {"uz", "windows-1251 (ANSI Cyrillic)"},
+    {"vi", "windows-1258 (ANSI Vietnamese)"},
+    {"yi", "windows-1255 (ANSI Hebrew)"},
+    {"zh-hk", "big5 (Traditional Chinese - Big 5)"},
+    {"zh-mo", "big5 (Traditional Chinese - Big 5)"},
+    {"zh-tw", "big5 (Traditional Chinese - Big 5)"},
+    {"zh", "gbk (Simplified Chinese - GBK)"},
+}};
+
+bool IsHigh(char c) { return (static_cast<unsigned char>(c) & 0x80) != 0; }
+
+// One pass without a branch for each byte: nearly every text is looked at to its end.
+bool IsAscii(std::string_view text) {
+  unsigned char all = 0;
+  for (const char c : text) all |= static_cast<unsigned char>(c);
+  return all < 0x80;
+}
+
+// Whether the letters of a text are mostly beyond ASCII, as those of no Latin alphabet are.
+bool IsInOtherScript(std::string_view bytes) {
+  const auto high = std::count_if(bytes.begin(), bytes.end(), IsHigh);
+  const auto letters = std::count_if(bytes.begin(), bytes.end(),
+                                     [](char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); });
+  return high > letters;
+}
+
+// The entry that a text fits which is not in UTF-8.
+std::string EntryFor(std::string_view bytes, std::string_view pageLanguage) {
+  const char* entry = "windows-1252 (ANSI Latin 1)";
+  bool isLatin = true;
+  for (const auto& [language, charset] : kCharsetsOfLanguages) {
+    if (!EqualIgnoringCase(pageLanguage.substr(0, language.size()), language)) continue;
+    entry = charset;
+    const std::string_view name = charset;
+    isLatin = name.find("European") != std::string_view::npos || name.find("Baltic") != std::string_view::npos ||
+              name.find("Turkish") != std::string_view::npos || name.find("Vietnamese") != std::string_view::npos;
+    break;
+  }
+  if (isLatin && IsInOtherScript(bytes)) return {};
+  const std::string_view name = entry;
+  const CodePage codePage(name.substr(0, name.find(' ')));
+  return codePage.FindUndecodable(bytes) == std::string_view::npos ? entry : std::string();
+}
+
+}  // namespace
+
+TextSample SampleOf(std::string_view text) {
+  if (IsAscii(text)) return {};
+  return {IsUtf8(text) ? TextKind::kUtf8 : TextKind::kOther, std::string(text)};
+}
+
+TextSample SampleOfFile(const std::string& path) {
+  constexpr std::size_t kChunk = std::size_t{256} << 10;
+  const FileHandle file = FileHandle::Open(path.c_str(), O_RDONLY | O_NONBLOCK);
+  std::string bytes;
+  for (std::size_t at = 0; file.IsOpen(); at += bytes.size()) {
+    if (!ReadAll(file.Get(), bytes, kChunk, at) || bytes.empty()) break;
+    if (at == 0 && bytes.starts_with(kByteOrderMark)) std::fill_n(bytes.begin(), kByteOrderMark.size(), ' ');
+    if (IsAscii(bytes)) continue;
+    // A character that the part cuts in two shows nothing: whole lines do.
+    const bool isLast = bytes.size() < kChunk;
+    const std::size_t end = isLast ? bytes.size() : bytes.find_last_of("\r\n");
+    if (end == std::string::npos) break;
+    TextSample sample = SampleOf(std::string_view(bytes).substr(0, end));
+    if (sample.kind != TextKind::kAscii) return sample;
+    if (!isLast) bytes.resize(end);
+  }
+  return {};
+}
+
+std::optional<CharsetMismatch> FindMismatch(const TextSample& sample, const CodePage& codePage,
+                                            std::string_view pageLanguage) {
+  const bool isUtf8Page = codePage.Name() == "utf-8";
+  if (sample.kind == TextKind::kUtf8 && !isUtf8Page) return CharsetMismatch{TextKind::kUtf8, kUtf8Entry};
+  if (sample.kind != TextKind::kOther || !isUtf8Page) return std::nullopt;
+  return CharsetMismatch{TextKind::kOther, EntryFor(sample.bytes, pageLanguage)};
+}
+
+}  // namespace folionet

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstdint>
+#include <memory>
 #include <set>
 #include <string>
 #include <utility>
@@ -29,6 +30,8 @@ struct ImportedText {
   bool IsThere() const { return !charset.empty(); }
 };
 
+class IndexReading;
+
 // The values that the whole program shares, made in main and handed down by reference. Names and titles are the bytes
 // of Versalia's files; folders are paths.
 struct ModGlob {
@@ -48,6 +51,8 @@ struct ModGlob {
   // tells the last chapter, and of the chapters (book, chapter) before that some may be missing.
   ImportedText Imported;
   std::set<std::pair<int, int>> missingChapters;
+
+  std::shared_ptr<const IndexReading> indexReading;  // the index file read last, which both tables come from
 
   int listedTranslations = 0;                // records of the catalogue that count, whether their text is there or not
   std::string firstText;                     // where the text of the first of them was looked for, when it is not there

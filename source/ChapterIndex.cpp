@@ -1,7 +1,11 @@
 #include "ChapterIndex.h"
 
+#include <sys/stat.h>
+
 #include <algorithm>
 #include <array>
+#include <memory>
+#include <optional>
 #include <set>
 #include <utility>
 
@@ -41,29 +45,27 @@ void CountImported(ModGlob& glob, const std::string& path) {
   }
 }
 
-void CountChapters(ModGlob& glob, const std::string& path) {
-  RecordReader records(path);
-  std::array<std::string_view, kFields> fields;
-  std::int64_t lastBook = kInt32Min;  // stands for none
-  std::size_t bookCount = 0;
-  std::int16_t chapterCount = 0;
-  while (records.Next(fields)) {
-    const std::int64_t book = records.Integer(fields[kBookField], kInt32Min + 1, kInt32Max);
-    if (book != lastBook) {
-      lastBook = book;
-      chapterCount = 0;
-      ++bookCount;
-    }
-    if (bookCount > kBooks) {
-      records.Lines().Fail(kSubscriptOutOfRange, "The index has more than 66 books; the 67th is " + Quoted(fields[2]));
-    }
-    if (chapterCount == kInt16Max) records.Lines().Fail(kOverflow, "The book has more than 32767 chapters.");
-    glob.ChaptersInBook[bookCount] = ++chapterCount;
-  }
-}
+// Tells whether a file is the one that was read: it is replaced or written anew in another state.
+struct FileStamp {
+  dev_t device = 0;
+  ino_t number = 0;
+  off_t size = 0;
+  timespec written{};
+  timespec changed{};
 
-std::uint8_t ByteOf(const RecordReader& records, std::string_view field) {
-  return static_cast<std::uint8_t>(records.Integer(field, 0, kByteMax));
+  friend bool operator==(const FileStamp& left, const FileStamp& right) {
+    const auto isSame = [](const timespec& one, const timespec& other) {
+      return one.tv_sec == other.tv_sec && one.tv_nsec == other.tv_nsec;
+    };
+    return left.device == right.device && left.number == right.number && left.size == right.size &&
+           isSame(left.written, right.written) && isSame(left.changed, right.changed);
+  }
+};
+
+std::optional<FileStamp> StampOf(const std::string& path) {
+  struct stat status {};
+  if (stat(path.c_str(), &status) != 0) return std::nullopt;
+  return FileStamp{status.st_dev, status.st_ino, status.st_size, status.st_mtim, status.st_ctim};
 }
 
 std::string LastInput(const std::array<std::string_view, kFields>& fields) {
@@ -77,21 +79,98 @@ std::string LastInput(const std::array<std::string_view, kFields>& fields) {
   return text;
 }
 
-// `lastInput` tells, after a failure, the fields that were read last.
-void ReadEntries(ModGlob& glob, const std::string& path, std::string& lastInput) {
-  std::array<std::string_view, kFields> fields;
-  lastInput = LastInput(fields);
-  RecordReader records(path);
-  try {
-    while (records.Next(fields)) {
-      glob.ChapterIndex.back() = {ByteOf(records, fields[kBookField]), ByteOf(records, fields[kChapterField]),
-                                  ByteOf(records, fields[kVersesField])};
-      glob.ChapterIndex.push_back({});
+std::uint8_t ByteOf(const RecordReader& records, std::string_view field) {
+  return static_cast<std::uint8_t>(records.Integer(field, 0, kByteMax));
+}
+
+}  // namespace
+
+// Both tables of an index, read in one pass. Each has a failure of its own: what is no number of a verse count does not
+// keep chapters from being counted.
+class IndexReading {
+ public:
+  explicit IndexReading(const std::string& path) : m_path(path), m_stamp(StampOf(path)), lastInput(LastInput({})) {
+    try {
+      RecordReader records(path);
+      Fields fields;
+      while (ReadOn(records, fields)) {
+      }
+    } catch (const RunTimeError& error) {
+      if (!countFailure) countFailure = error;
+      if (!entryFailure) entryFailure = error;
     }
-  } catch (const RunTimeError&) {
-    lastInput = LastInput(fields);
-    throw;
   }
+
+  bool IsOf(const std::string& path) const { return path == m_path && m_stamp && m_stamp == StampOf(path); }
+
+ private:
+  using Fields = std::array<std::string_view, kFields>;
+
+  std::string m_path;
+  std::optional<FileStamp> m_stamp;
+  std::int64_t m_lastBook = kInt32Min;  // stands for none
+  std::size_t m_bookCount = 0;
+
+ public:
+  std::array<std::int16_t, kBooks + 1> chapters{};
+  std::vector<ChapterEntry> entries{1, ChapterEntry{}};
+  std::optional<RunTimeError> countFailure;
+  std::optional<RunTimeError> entryFailure;
+  std::string lastInput;  // the fields at which entries failed
+
+ private:
+  bool ReadOn(RecordReader& records, Fields& fields) {
+    try {
+      if (!records.Next(fields)) return false;
+    } catch (const RunTimeError&) {
+      if (!entryFailure) lastInput = LastInput(fields);
+      throw;
+    }
+    if (!countFailure) Try(countFailure, [&] { Count(records, fields); });
+    if (!entryFailure) {
+      Try(entryFailure, [&] { Enter(records, fields); });
+      if (entryFailure) lastInput = LastInput(fields);
+    }
+    return !countFailure || !entryFailure;
+  }
+
+  template <typename Step>
+  static void Try(std::optional<RunTimeError>& failure, const Step& step) {
+    try {
+      step();
+    } catch (const RunTimeError& error) {
+      failure = error;
+    }
+  }
+
+  void Count(const RecordReader& records, const Fields& fields) {
+    const std::int64_t book = records.Integer(fields[kBookField], kInt32Min + 1, kInt32Max);
+    if (book != m_lastBook) {
+      m_lastBook = book;
+      ++m_bookCount;
+    }
+    if (m_bookCount > kBooks) {
+      records.Lines().Fail(kSubscriptOutOfRange, "The index has more than 66 books; the 67th is " + Quoted(fields[2]));
+    }
+    std::int16_t& count = chapters[m_bookCount];
+    if (count == kInt16Max) records.Lines().Fail(kOverflow, "The book has more than 32767 chapters.");
+    ++count;
+  }
+
+  void Enter(const RecordReader& records, const Fields& fields) {
+    entries.back() = {ByteOf(records, fields[kBookField]), ByteOf(records, fields[kChapterField]),
+                      ByteOf(records, fields[kVersesField])};
+    entries.push_back({});
+  }
+};
+
+namespace {
+
+const IndexReading& ReadingOf(ModGlob& glob, const std::string& path) {
+  if (glob.indexReading == nullptr || !glob.indexReading->IsOf(path)) {
+    glob.indexReading = std::make_shared<const IndexReading>(path);
+  }
+  return *glob.indexReading;
 }
 
 }  // namespace
@@ -112,13 +191,15 @@ Outcome BooksInChapters(ModGlob& glob, std::size_t translation, const CodePage& 
                           " will now close."});
       return Outcome::kEndProgram;
     }
-    glob.ChaptersInBook.fill(0);
     glob.missingChapters.clear();
     if (glob.Imported.IsThere()) {
+      glob.ChaptersInBook.fill(0);
       CountImported(glob, path);
-    } else {
-      CountChapters(glob, path);
+      return Outcome::kDone;
     }
+    const IndexReading& reading = ReadingOf(glob, path);
+    glob.ChaptersInBook = reading.chapters;
+    if (reading.countFailure) throw RunTimeError(*reading.countFailure);
     return Outcome::kDone;
   } catch (const RunTimeError& error) {
     ui.ShowErrorReport(error.Number(), "BooksInChapters", error.Extra());
@@ -127,14 +208,11 @@ Outcome BooksInChapters(ModGlob& glob, std::size_t translation, const CodePage& 
 }
 
 Outcome LoadVerseCount(ModGlob& glob, const std::string& path, UserInterface& ui) {
-  std::string lastInput;
-  glob.ChapterIndex.assign(1, {});
-  try {
-    ReadEntries(glob, path, lastInput);
-    return Outcome::kDone;
-  } catch (const RunTimeError& error) {
-    ui.ShowErrorReport(error.Number(), "Load Verse Count", lastInput + "\r\n" + error.Extra());
-  }
+  const IndexReading& reading = ReadingOf(glob, path);
+  glob.ChapterIndex = reading.entries;
+  if (!reading.entryFailure) return Outcome::kDone;
+  const RunTimeError& error = *reading.entryFailure;
+  ui.ShowErrorReport(error.Number(), "Load Verse Count", reading.lastInput + "\r\n" + error.Extra());
   ui.ShowMessage({MessageIcon::kCritical, "File not found",
                   std::string(kApplicationTitle) + " could not find the file\r\n" + path +
                       "\r\nThis file is created automatically by Versalia.\r\n"

@@ -17,6 +17,8 @@ namespace folionet {
 // fields; the third is the book, the fourth the chapter, the fifth the number of verses, the others are Versalia's own:
 //
 //   1,0,1,1,31,4521,"Gen"
+//
+// BooksInChapters and LoadVerseCount share one reading of the file, for as long as it stays as it is.
 
 // Counts the chapters of each book of the translation at place `translation` of BibleFiles into ChaptersInBook, which
 // it clears first. Books are numbered by order of appearance: a change of the third field starts the next book. A

@@ -98,7 +98,7 @@ TextSample SampleOf(std::string_view text) {
 }
 
 TextSample SampleOfFile(const std::string& path) {
-  constexpr std::size_t kChunk = std::size_t{256} << 10;
+  constexpr std::size_t kChunk = std::size_t{64} << 10;
   const FileHandle file = FileHandle::Open(path.c_str(), O_RDONLY | O_NONBLOCK);
   std::string bytes;
   for (std::size_t at = 0; file.IsOpen(); at += bytes.size()) {

@@ -11,7 +11,7 @@
 namespace folionet {
 namespace {
 
-constexpr std::size_t kLongestPlain = 4;
+constexpr std::size_t kLongestPlain = 16;
 
 std::size_t FindLastTab(std::string_view line) {
   const void* found = line.empty() ? nullptr : memrchr(line.data(), '\t', line.size());

@@ -77,8 +77,7 @@ void AddCompile(CLI::App& app, Arguments& asked) {
       compile.add_flag("--dry-run", arguments->dryRun, "Write nothing; print what each page would become");
   AddJson(compile, asked.common)->needs(dryRun)->option_text(" ");
   compile.footer(
-      "Pages that are there are overwritten, those of books before the start book\n"
-      "deleted. \"folionet-cli list settings\" shows the settings and their values.\n\n"
+      "Overwrites pages that are there, deletes those of books before the start book.\n\n"
       "Example:\n"
       "  folionet-cli compile --books NT --output ~/site --index-address index.html");
   compile.callback([&asked, arguments] {

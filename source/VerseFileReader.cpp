@@ -11,7 +11,8 @@
 namespace folionet {
 namespace {
 
-constexpr std::size_t kLongestPlain = 16;
+constexpr std::size_t kLongestVerse = 4;
+constexpr std::size_t kLongestFirst = 16;  // often a running number
 
 std::size_t FindLastTab(std::string_view line) {
   const void* found = line.empty() ? nullptr : memrchr(line.data(), '\t', line.size());
@@ -103,8 +104,8 @@ bool VerseFileReader::Next() {
   m_verse.verse = rest.substr(placeEnd, last - placeEnd);
   m_verse.text = rest.substr(last + 1);
   // Where several lines were taken for one, the first field or the verse holds the ends of the others.
-  if (m_verse.verse.size() > kLongestPlain) m_lines.RefuseLineEnds(m_verse.verse);
-  if (first > kLongestPlain) m_lines.RefuseLineEnds(line.substr(0, first));
+  if (m_verse.verse.size() > kLongestVerse) m_lines.RefuseLineEnds(m_verse.verse);
+  if (first > kLongestFirst) m_lines.RefuseLineEnds(line.substr(0, first));
   if (!isSamePlace) TakePlace(rest.substr(0, placeEnd));
   return true;
 }

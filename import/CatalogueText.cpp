@@ -98,8 +98,9 @@ CatalogueLine TakeLine(std::string_view& content, const std::string& file, std::
   const std::string_view record = line.whole.substr(0, line.whole.find_last_not_of("\r\n") + 1);
   if (TrimBlanks(record).empty()) return line;
   auto fields = SplitRecord(record);
-  const auto number = fields && fields->size() == kFieldCount ? ReadNumber((*fields)[0]) : std::nullopt;
-  if (!number || !ReadNumber((*fields)[1])) {
+  std::optional<int> number;
+  if (fields && fields->size() == kFieldCount && ReadNumber((*fields)[1])) number = ReadNumber((*fields)[0]);
+  if (!fields || !number) {
     throw RunTimeError(kInvalidProcedureCall, file,
                        "A record number,integer,\"name\",\"stem\" was expected: " + Quoted(record), lineNumber);
   }

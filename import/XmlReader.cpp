@@ -83,6 +83,8 @@ void XmlReader::Guarded(Call call) {
   }
 }
 
+// libxml2 calls it with all of these.
+// NOLINTNEXTLINE(readability-function-size)
 void XmlReader::OnStart(void* self, const xmlChar* name, const xmlChar* /*prefix*/, const xmlChar* /*uri*/,
                         int /*namespaceCount*/, const xmlChar** /*namespaces*/, int count, int /*defaulted*/,
                         const xmlChar** attributes) {

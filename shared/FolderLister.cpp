@@ -23,10 +23,7 @@ const FolderLister::Entries& FolderLister::EntriesOf(const std::string& folder) 
   Entries& entries = place->second;
   if (!isNew) return entries;
   try {
-    for (std::string& name : ListFolder(folder)) {
-      std::string folded = FoldCase(name);
-      entries.try_emplace(std::move(folded), std::move(name));
-    }
+    for (const std::string& name : ListFolder(folder)) entries.try_emplace(FoldCase(name), name);
   } catch (const RunTimeError&) {
     // A folder that cannot be listed holds no other name; opening the exact one tells why.
   }

@@ -79,6 +79,7 @@ std::vector<std::string> ListFolder(const std::string& folder) {
   std::vector<std::string> names = FolderEntries(folder);
   // The names and what they are sorted by, made once for each.
   std::vector<std::pair<std::string, std::string>> keys;
+  keys.reserve(names.size());
   const CodePage utf8("utf-8");
   for (std::string& name : names) keys.emplace_back(utf8.ToLower(name), std::move(name));
   std::sort(keys.begin(), keys.end());

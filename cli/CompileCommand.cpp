@@ -131,6 +131,16 @@ void RefuseOtherThanFolders(const std::string& sitemap) {
   }
 }
 
+void SelectBooks(const CompileArguments& arguments, const Session& session, CompileRequest& request) {
+  if (!arguments.books.empty()) {
+    const BookRange books = session.FindBooks(arguments.books);
+    request.cboStartBook = books.first;
+    request.cboEndBook = books.last;
+  }
+  if (!arguments.startBook.empty()) request.cboStartBook = session.FindBook(arguments.startBook);
+  if (!arguments.endBook.empty()) request.cboEndBook = session.FindBook(arguments.endBook);
+}
+
 }  // namespace
 
 ExitStatus RunCompile(const CommonOptions& common, const CompileArguments& arguments, ConsoleUi& ui) {
@@ -148,13 +158,7 @@ ExitStatus RunCompile(const CommonOptions& common, const CompileArguments& argum
   CompileRequest request;
   request.options = session.options;
   SelectTranslation(arguments, session, request);
-  if (!arguments.books.empty()) {
-    const BookRange books = session.FindBooks(arguments.books);
-    request.cboStartBook = books.first;
-    request.cboEndBook = books.last;
-  }
-  if (!arguments.startBook.empty()) request.cboStartBook = session.FindBook(arguments.startBook);
-  if (!arguments.endBook.empty()) request.cboEndBook = session.FindBook(arguments.endBook);
+  SelectBooks(arguments, session, request);
   if (arguments.indexAddress) request.options.txthttpRoot = *arguments.indexAddress;
   request.txtOutputPath = OutputPath(arguments, session);
   request.makeOutputFolder = true;

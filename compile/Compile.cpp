@@ -195,7 +195,8 @@ class CompileRun {
   void WriteStartPage() {
     if (!m_startPage) return;
     m_context.PageFile.Open(m_context.OutputFolder, m_startName);
-    m_context.PageFile.Add(*std::exchange(m_startPage, std::nullopt));
+    m_context.PageFile.Add(*m_startPage);
+    m_startPage.reset();
     Note(m_startName, m_context.PageFile.Close());
   }
 

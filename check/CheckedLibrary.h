@@ -13,7 +13,8 @@ namespace folionet {
 struct CheckedLibrary {
   ModGlob& glob;
   const CodePage& codePage;
-  std::string titlesFile;  // the chosen file of book titles
+  std::string titlesFile;    // the chosen file of book titles
+  std::string pageLanguage;  // that the pages declare, such as "en-us"
   Findings& findings;
 
   // `line` is counted from 1; 0 is a fault of the file as a whole.

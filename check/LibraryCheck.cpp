@@ -1,6 +1,7 @@
 #include "LibraryCheck.h"
 
 #include "CatalogueCheck.h"
+#include "CharsetCheck.h"
 #include "Installation.h"
 #include "TextCheck.h"
 #include "TitlesCheck.h"
@@ -9,9 +10,9 @@ namespace folionet {
 namespace {
 
 // In the order in which they run: the catalogue tells which translations there are.
-constexpr void (*kListChecks[])(CheckedLibrary&) = {CheckCatalogue, CheckTitles};
+constexpr void (*kListChecks[])(CheckedLibrary&) = {CheckCatalogue, CheckTitlesCharset, CheckTitles};
 
-constexpr void (*kTranslationChecks[])(CheckedLibrary&, const TranslationFiles&) = {CheckText};
+constexpr void (*kTranslationChecks[])(CheckedLibrary&, const TranslationFiles&) = {CheckTextCharset, CheckText};
 
 }  // namespace
 

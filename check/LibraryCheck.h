@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <utility>
 
 #include "CheckedLibrary.h"
 
@@ -10,9 +11,7 @@ namespace folionet {
 // tables of LibraryCheck.cpp.
 class LibraryCheck {
  public:
-  // `titlesFile` is the chosen file of book titles.
-  LibraryCheck(ModGlob& glob, const CodePage& codePage, std::string titlesFile, Findings& findings)
-      : m_library{glob, codePage, std::move(titlesFile), findings} {}
+  explicit LibraryCheck(CheckedLibrary library) : m_library(std::move(library)) {}
 
   // The catalogue and the book titles. Fills BibleNames, BibleFiles and cboBibleName with the translations whose text
   // is there, whatever else is wrong.

@@ -15,7 +15,11 @@ std::string Counted(std::size_t number, const char* thing) {
 
 void ShowAll(const Findings& findings, ConsoleUi& ui) {
   for (Finding finding : findings.Kept()) {
-    if (finding.remedy.IsEmpty()) finding.remedy = {kCorrectPlace};
+    if (finding.remedy.IsEmpty()) {
+      finding.remedy = {kCorrectPlace};
+    } else if (!ui.IsJson()) {
+      finding.what = {"%1 %2", {finding.what.InEnglish(), finding.remedy.InEnglish()}};
+    }
     ui.Show(finding);
   }
   const std::size_t unlisted = findings.Count() - findings.Kept().size();
@@ -33,7 +37,8 @@ ExitStatus RunCheck(const CommonOptions& common, const CheckArguments& arguments
   session.Override(arguments.settings);
   session.LoadCodePage();
   Findings findings;
-  LibraryCheck check(session.glob, session.codePage, session.store.Text("cboLang"), findings);
+  LibraryCheck check(
+      {session.glob, session.codePage, session.store.Text("cboLang"), session.texts.PageLanguage, findings});
   check.ExamineLists();
   const std::size_t count = session.glob.cboBibleName.size();
   if (arguments.translation.empty()) {

@@ -1,0 +1,31 @@
+#include "CharsetCheck.h"
+
+#include "Installation.h"
+#include "TextCharset.h"
+
+namespace folionet {
+namespace {
+
+void CheckCharset(CheckedLibrary& library, const std::string& path) {
+  const auto mismatch = FindMismatch(SampleOfFile(path), library.codePage, library.pageLanguage);
+  if (!mismatch) return;
+  Finding finding{.kind = "other-charset", .file = path};
+  if (mismatch->kind == TextKind::kUtf8) {
+    finding.what = {"The file is in UTF-8, and the pages are in %1.", {library.codePage.Name()}};
+  } else {
+    finding.what = {"The file is not in UTF-8, and the pages are."};
+  }
+  finding.remedy = {"Give the charset that it is in: --set \"Charset=%1\".",
+                    {mismatch->charsetEntry.empty() ? "NAME DESCRIPTION" : mismatch->charsetEntry}};
+  library.findings.Add(std::move(finding));
+}
+
+}  // namespace
+
+void CheckTitlesCharset(CheckedLibrary& library) {
+  CheckCharset(library, SysdefsFile(library.glob, library.titlesFile));
+}
+
+void CheckTextCharset(CheckedLibrary& library, const TranslationFiles& files) { CheckCharset(library, files.text); }
+
+}  // namespace folionet

@@ -1,0 +1,11 @@
+#pragma once
+
+#include "CheckedLibrary.h"
+
+namespace folionet {
+
+// Name a chosen file of book titles, and a verse file, whose bytes are in another charset than the pages.
+void CheckTitlesCharset(CheckedLibrary& library);
+void CheckTextCharset(CheckedLibrary& library, const TranslationFiles& files);
+
+}  // namespace folionet

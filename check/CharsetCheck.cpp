@@ -1,6 +1,12 @@
 #include "CharsetCheck.h"
 
+#include <algorithm>
+#include <vector>
+
+#include "ImportedText.h"
 #include "Installation.h"
+#include "Paths.h"
+#include "Text.h"
 #include "TextCharset.h"
 
 namespace folionet {
@@ -22,10 +28,17 @@ void CheckCharset(CheckedLibrary& library, const std::string& path) {
 
 }  // namespace
 
+// An imported translation says itself which charset it is in, and is brought into that of the pages.
 void CheckTitlesCharset(CheckedLibrary& library) {
-  CheckCharset(library, SysdefsFile(library.glob, library.titlesFile));
+  const std::vector<ImportedText>& imported = library.glob.BibleImports;
+  const bool isImported = std::any_of(imported.begin(), imported.end(), [&](const ImportedText& text) {
+    return text.IsThere() && EqualIgnoringCase(text.titles, library.titlesFile);
+  });
+  if (!isImported) CheckCharset(library, SysdefsFile(library.glob, library.titlesFile));
 }
 
-void CheckTextCharset(CheckedLibrary& library, const TranslationFiles& files) { CheckCharset(library, files.text); }
+void CheckTextCharset(CheckedLibrary& library, const TranslationFiles& files) {
+  if (!FileExists(ImportedTextFile(files.text))) CheckCharset(library, files.text);
+}
 
 }  // namespace folionet

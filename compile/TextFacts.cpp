@@ -99,7 +99,8 @@ std::vector<RunFact> FindCharsetFacts(const CompileRequest& request, const ModGl
   for (const std::string& title : glob.cboStartBook) titles += title + "\n";
   for (const std::string& code : glob.BookCodes) titles += code + "\n";
   const TextSample ofTitles = SampleOf(titles);
-  const TextSample ofVerses = SampleOfFile(request.txtFilename);
+  // An imported text says itself which charset it is in, and is brought into that of the pages.
+  const TextSample ofVerses = glob.Imported.IsThere() ? TextSample() : SampleOfFile(request.txtFilename);
   const std::string& charset = request.texts.PageCharset;
   const std::string& language = request.texts.PageLanguage;
   const auto otherwise = FindMismatch(ofVerses, CodePage("utf-8"), language);

@@ -59,7 +59,8 @@ void Session::Override(const std::vector<std::string>& assignments) {
                   value + "\"." + kShowSettings);
     }
     if (value.find_first_of("\r\n") != std::string::npos) {
-      RefuseUsage("--set: " + name + " must be one line: \"" + value + "\"." + kShowSettings);
+      RefuseUsage(std::string("--set: ").append(name).append(" must be one line: \"").append(value).append("\".") +
+                  kShowSettings);
     }
     if (name == "cboLang") CheckLanguageFile("--set cboLang", value);
     store.Override(name, std::move(value));

@@ -81,7 +81,7 @@ class FactFinder {
   void FindOldPages(std::vector<RunFact>& facts) const {
     const std::string folder = NativePath(m_request.txtOutputPath);
     if (folder.empty() || !FolderExists(folder)) return;
-    std::unordered_set<std::string> known = NamesOfRun();
+    const std::unordered_set<std::string> known = NamesOfRun();
     std::set<std::string> old;
     for (std::string& name : FolderEntries(folder)) {
       if (IsPageByName(name) && !known.contains(name) && IsPageOfOurs(folder + name)) old.insert(std::move(name));

@@ -16,7 +16,7 @@
 namespace folionet {
 namespace {
 
-void Fill(QComboBox& list, const std::vector<std::string>& names, const CodePage& codePage) {
+void FillWithNames(QComboBox& list, const std::vector<std::string>& names, const CodePage& codePage) {
   list.clear();
   QStringList items;
   items.reserve(static_cast<qsizetype>(names.size()));
@@ -186,7 +186,7 @@ void LibraryLists::ChooseLanguage() {
 
 void LibraryLists::ShowTranslations() {
   const ModGlob& glob = m_state.glob;
-  folionet::Fill(*m_controls.cboBibleName, glob.cboBibleName, m_state.codePage);
+  FillWithNames(*m_controls.cboBibleName, glob.cboBibleName, m_state.codePage);
   for (int item = 0; item < m_controls.cboBibleName->count(); ++item) {
     const auto place = TranslationAt(glob, static_cast<std::size_t>(item));
     if (place && glob.BibleImports[*place].IsThere()) {
@@ -198,8 +198,8 @@ void LibraryLists::ShowTranslations() {
 
 // Shows the titles with the whole Bible selected.
 void LibraryLists::ShowBooks() {
-  folionet::Fill(*m_controls.cboStartBook, m_state.glob.cboStartBook, m_state.codePage);
-  folionet::Fill(*m_controls.cboEndBook, m_state.glob.cboEndBook, m_state.codePage);
+  FillWithNames(*m_controls.cboStartBook, m_state.glob.cboStartBook, m_state.codePage);
+  FillWithNames(*m_controls.cboEndBook, m_state.glob.cboEndBook, m_state.codePage);
   m_controls.cboStartBook->setCurrentIndex(0);
   m_controls.cboEndBook->setCurrentIndex(m_controls.cboEndBook->count() - 1);
 }

@@ -197,7 +197,7 @@ void frmMain::Compile() {
 
 // What panel 1 is left with: the pages that a run made, where they are and since when.
 void frmMain::ShowResult(std::size_t pages) {
-  QStringList parts = ToQt(m_state.glob.OutputFolder).split(QLatin1Char('/'), Qt::SkipEmptyParts);
+  const QStringList parts = ToQt(m_state.glob.OutputFolder).split(QLatin1Char('/'), Qt::SkipEmptyParts);
   constexpr qsizetype kShown = 2;
   QString folder = QLatin1Char('/') + parts.join(QLatin1Char('/'));
   if (parts.size() > kShown) {

@@ -22,6 +22,7 @@ struct XmlLibrary {
     library.Find(stopParser, "xmlStopParser");
     library.Find(lineNumber, "xmlSAX2GetLineNumber");
     library.Find(freeParser, "xmlFreeParserCtxt");
+    library.Find(freeDocument, "xmlFreeDoc");
   }
 
   decltype(xmlCreatePushParserCtxt)* createPushParser = nullptr;
@@ -30,6 +31,7 @@ struct XmlLibrary {
   decltype(xmlStopParser)* stopParser = nullptr;
   decltype(xmlSAX2GetLineNumber)* lineNumber = nullptr;
   decltype(xmlFreeParserCtxt)* freeParser = nullptr;
+  decltype(xmlFreeDoc)* freeDocument = nullptr;
 };
 
 const XmlLibrary& Library() {
@@ -68,7 +70,11 @@ XmlReader::XmlReader(XmlHandler& handler) : m_handler(handler) {
                                       XML_PARSE_NOERROR | XML_PARSE_NOWARNING);
 }
 
-XmlReader::~XmlReader() { Library().freeParser(m_context); }
+XmlReader::~XmlReader() {
+  // Of the entities that a file declares the library makes a document, and leaves it behind.
+  if (m_context->myDoc != nullptr) Library().freeDocument(m_context->myDoc);
+  Library().freeParser(m_context);
+}
 
 std::size_t XmlReader::Line() const { return static_cast<std::size_t>(std::max(0, Library().lineNumber(m_context))); }
 

@@ -126,7 +126,7 @@ void TextDecoder::OpenConverter(const std::string& charset) {
   }
   m_encoding = charset;
   // What calls itself iso-8859-1 is windows-1252, as browsers read it.
-  if (const std::string& name = CodePage(charset).Name(); EqualIgnoringCase(name, "windows-1252")) {
+  if (const std::string name = CodePage(charset).Name(); EqualIgnoringCase(name, "windows-1252")) {
     const bool isLatin = EqualIgnoringCase(charset, "iso-8859-1") || EqualIgnoringCase(charset, "us-ascii");
     if (isLatin) m_from.reset(ucnv_open(name.c_str(), &status));
   }

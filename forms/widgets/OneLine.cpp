@@ -31,9 +31,8 @@ QString InOneLine(QString text) {
 }
 
 void KeepBoxesToOneLine(QWidget& form) {
-  auto* validator = new OneLineValidator(&form);
   for (QLineEdit* box : form.findChildren<QLineEdit*>()) {
-    if (!box->isReadOnly()) box->setValidator(validator);
+    if (!box->isReadOnly()) box->setValidator(new OneLineValidator(box));
   }
 }
 

@@ -152,7 +152,9 @@ class TagReader {
     AddAttributes(tag, attributes, m_page.substr(start, m_lastEnd - start));
     tag.line = LineAt(m_lastEnd);
     if (std::find(kRawElements.begin(), kRawElements.end(), element) != kRawElements.end()) {
-      const std::size_t content = std::min(m_lastEnd + 1, m_page.size());
+      std::size_t content = std::min(m_lastEnd + 1, m_page.size());
+      // A tag without its end may be cut within a character.
+      while (content < m_page.size() && (static_cast<unsigned char>(m_page[content]) & 0xC0U) == 0x80U) ++content;
       const std::string_view passed = m_page.substr(content, EndTag(tag.element, content) - content);
       if (element == "style") tag.style = passed;
       Skip(content + passed.size() - m_lastEnd);

@@ -65,7 +65,7 @@ class PersonPlugin : public QGenericPlugin {
   Q_PLUGIN_METADATA(IID QGenericPluginFactoryInterface_iid FILE "Person.json")
 
  public:
-  QObject* create(const QString& /*name*/, const QString& /*specification*/) override { return new Person; }
+  QObject* create(const QString& /*name*/, const QString& /*arguments*/) override { return new Person; }
 };
 
 #include "Person.moc"

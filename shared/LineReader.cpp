@@ -85,7 +85,9 @@ bool LineReader::NextFromFile(std::string_view& line) {
       return true;
     }
     Fill();
-    if (const void* found = std::memchr(m_buffer.data() + pending, m_lineEnd, m_end - pending)) {
+    // What was cut off at the end of the file may reach back into what was searched.
+    const std::size_t searched = std::min(pending, m_end);
+    if (const void* found = std::memchr(m_buffer.data() + searched, m_lineEnd, m_end - searched)) {
       Take(line, static_cast<std::size_t>(static_cast<const char*>(found) - m_buffer.data()), 1);
       return true;
     }

@@ -13,9 +13,9 @@
 
 #include "BuildInfo.h"
 #include "Compile.h"
-#include "Contrast.h"
 #include "FactLines.h"
 #include "FolderPickers.h"
+#include "FormLooks.h"
 #include "FormMemory.h"
 #include "HelpWindow.h"
 #include "LibraryLists.h"
@@ -27,7 +27,6 @@
 #include "QtText.h"
 #include "RunGuard.h"
 #include "RunTimeError.h"
-#include "ShownBoxes.h"
 #include "SiteVerifier.h"
 #include "StatusPanels.h"
 #include "StyleOptions.h"
@@ -36,18 +35,6 @@
 
 namespace folionet {
 namespace {
-
-// `ground`, made darker until light text can be read on it.
-QColor ReadableGround(QColor ground, const QColor& text) {
-  constexpr double kEnough =
-      11;                     // styles make a button's upper half much lighter than its colour, under the mouse more so
-  constexpr int kStep = 105;  // percent
-  while (text.lightness() > ground.lightness() && ground.lightness() > 0 &&
-         ContrastRatio(FromQt(ground), FromQt(text)) < kEnough) {
-    ground = ground.darker(kStep);
-  }
-  return ground;
-}
 
 // The folder that is dragged; empty for anything else.
 QString DraggedFolder(const QMimeData* data) {
@@ -71,7 +58,7 @@ frmMain::frmMain(AppState& state, QWidget* parent)
   m_memory->KeepPlace(*this);
   m_dialogs.whenMade = [this](QDialog& dialog) { m_memory->KeepPlace(dialog); };
   KeepBoxesToOneLine(*m_ui->centralwidget);
-  DressControls();
+  DressForm(*this, *m_ui);
   ConnectOptions();
   ConnectCommands();
   ConnectFacts();
@@ -365,7 +352,7 @@ void frmMain::keyPressEvent(QKeyEvent* event) {
 void frmMain::changeEvent(QEvent* event) {
   QMainWindow::changeEvent(event);
   if (m_ui->cmdCompile == nullptr) return;
-  if (event->type() == QEvent::PaletteChange || event->type() == QEvent::FontChange) DressControls();
+  if (event->type() == QEvent::PaletteChange || event->type() == QEvent::FontChange) DressForm(*this, *m_ui);
 }
 
 void frmMain::dragEnterEvent(QDragEnterEvent* event) {
@@ -375,31 +362,6 @@ void frmMain::dragEnterEvent(QDragEnterEvent* event) {
 void frmMain::dropEvent(QDropEvent* event) {
   const QString folder = DraggedFolder(event->mimeData());
   if (!folder.isEmpty() && m_folders->Choose(FromQt(folder))) event->acceptProposedAction();
-}
-
-// Gives the one button that everything leads to the desktop's accent.
-void frmMain::DressControls() {
-  const QPalette desktop = palette();
-  const QColor text = desktop.color(QPalette::Active, QPalette::HighlightedText);
-  const QColor accent = ReadableGround(desktop.color(QPalette::Active, QPalette::Highlight), text);
-  QPalette button = desktop;
-  for (const auto group : {QPalette::Active, QPalette::Inactive}) {
-    button.setColor(group, QPalette::Button, accent);
-    button.setColor(group, QPalette::ButtonText, text);
-  }
-  m_ui->cmdCompile->setPalette(button);
-  DressBoxes(*this);
-  AlignLabels();
-}
-
-// One column of labels through all groups of the left side.
-void frmMain::AlignLabels() {
-  const std::initializer_list<QLabel*> labels{
-      m_ui->lblBibleName, m_ui->lblBibleSel, m_ui->lblFilename, m_ui->lblStartBook,  m_ui->lblEndBook,
-      m_ui->lblLang,      m_ui->lblDrive,    m_ui->lblDir1,     m_ui->lblOutputPath, m_ui->lblhttpRoot};
-  int widest = 0;
-  for (const QLabel* label : labels) widest = std::max(widest, label->sizeHint().width());
-  for (QLabel* label : labels) label->setMinimumWidth(widest);
 }
 
 }  // namespace folionet

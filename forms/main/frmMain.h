@@ -82,8 +82,6 @@ class frmMain : public QMainWindow {
   void Restore();
   void OfferRestore();
   void End();
-  void DressControls();
-  void AlignLabels();
   void ConnectFacts();
   void ShowFacts();
   void ShowResult(std::size_t pages);

@@ -1,0 +1,58 @@
+#include "FormLooks.h"
+
+#include <QLabel>
+#include <QPushButton>
+#include <algorithm>
+#include <initializer_list>
+
+#include "Contrast.h"
+#include "QtText.h"
+#include "ShownBoxes.h"
+#include "ui_frmMain.h"
+
+namespace folionet {
+namespace {
+
+// `ground`, made darker until light text can be read on it.
+QColor ReadableGround(QColor ground, const QColor& text) {
+  // Styles make a button's upper half much lighter than its colour, under the mouse more so.
+  constexpr double kEnough = 11;
+  constexpr int kStep = 105;  // percent
+  while (text.lightness() > ground.lightness() && ground.lightness() > 0 &&
+         ContrastRatio(FromQt(ground), FromQt(text)) < kEnough) {
+    ground = ground.darker(kStep);
+  }
+  return ground;
+}
+
+// The desktop's accent.
+void DressCompile(const QPalette& desktop, QPushButton& compile) {
+  const QColor text = desktop.color(QPalette::Active, QPalette::HighlightedText);
+  const QColor accent = ReadableGround(desktop.color(QPalette::Active, QPalette::Highlight), text);
+  QPalette button = desktop;
+  for (const auto group : {QPalette::Active, QPalette::Inactive}) {
+    button.setColor(group, QPalette::Button, accent);
+    button.setColor(group, QPalette::ButtonText, text);
+  }
+  compile.setPalette(button);
+}
+
+// One column of labels through all groups of the left side.
+void AlignLabels(const Ui::frmMain& controls) {
+  const std::initializer_list<QLabel*> labels{
+      controls.lblBibleName, controls.lblBibleSel, controls.lblFilename, controls.lblStartBook,  controls.lblEndBook,
+      controls.lblLang,      controls.lblDrive,    controls.lblDir1,     controls.lblOutputPath, controls.lblhttpRoot};
+  int widest = 0;
+  for (const QLabel* label : labels) widest = std::max(widest, label->sizeHint().width());
+  for (QLabel* label : labels) label->setMinimumWidth(widest);
+}
+
+}  // namespace
+
+void DressForm(QWidget& form, const Ui::frmMain& controls) {
+  DressCompile(form.palette(), *controls.cmdCompile);
+  DressBoxes(form);
+  AlignLabels(controls);
+}
+
+}  // namespace folionet

@@ -12,7 +12,8 @@
 //                                         "make_library" and "folionet" are the programs; before one, "bounded"
 //                                         bounds its memory and time, "limited" the size of its files, "terminal"
 //                                         gives it one, LANG=de sets its environment
-//   | a line of standard output           ! a line of standard error      ? the exit status, when it is not 0
+//   $3 site                               with the exit status, when it is not 0
+//   | a line of standard output           ! a line of standard error
 //   + a file made outside out/            ~ a file changed there          - a file that is gone
 //   show FILE                             prints a file; find FILE TEXT the lines with a text; list FOLDER the files
 //   absent FILE                           that is not there
@@ -30,8 +31,9 @@
 //
 // A text in double quotes may hold \n, \r, \t, \\, \" and \xE9, and so may what follows a control's name. A line that
 // ends in "..." holds for all that begin with it. "@/" is the case's folder, "@today" the date. An error report is
-// given by its label, number and text. FOLIONET_REWRITE_EXPECTED=1, with runs_test or forms_test run by themselves,
-// writes what comes out into the files, for a person to review the difference.
+// given by its label, number and text, and what to do next stands behind it. FOLIONET_REWRITE_EXPECTED=1, with
+// runs_test or forms_test run by themselves, writes what comes out into the files, for a person to review the
+// difference.
 
 #include <gtest/gtest.h>
 

@@ -37,6 +37,8 @@ std::string WithShortReports(std::string text) {
     Replace(report, "\nExtra Info   : \n", "\n");
     Replace(report, "\n", " / ");
     text.replace(from, to + end.size() - from, report + "\n");
+    const std::size_t next = from + report.size();
+    if (text.compare(next, 2, "\n\n") == 0) text.replace(next, 2, " => ");
   }
   Replace(text,
           "Path and/or file not found: This error has probably occured because you have an older version of Versalia\n"
@@ -111,14 +113,15 @@ void Append(std::vector<std::string>& lines, const std::vector<std::string>& mor
 }  // namespace
 
 std::vector<std::string> Case::Do(const std::string& line) const {
+  const Lines words = SplitWords(line);
+  if (words.at(0).starts_with("$")) return Run(line, {words.begin() + 1, words.end()});
   Lines lines{line};
-  Append(lines, Outcome(SplitWords(line)));
+  Append(lines, Outcome(words));
   return lines;
 }
 
 std::vector<std::string> Case::Outcome(const Lines& words) const {
   const std::string& verb = words.at(0);
-  if (verb == "$") return Run({words.begin() + 1, words.end()});
   if (verb == "show") return MarkLines("| ", Named(m_home.Read(words.at(1))));
   if (verb == "find") return MarkLines("| ", LinesWith(m_home.Read(words.at(1)), words.at(2)));
   if (verb == "list") return MarkLines("| ", FileNames(m_home.Path() + words.at(1)));
@@ -131,14 +134,14 @@ std::vector<std::string> Case::Outcome(const Lines& words) const {
   return {};
 }
 
-std::vector<std::string> Case::Run(const Lines& words) const {
+std::vector<std::string> Case::Run(const std::string& line, const Lines& words) const {
   const Stamps before = Outside();
   const ProgramResult result = RunProgram(CommandOf(words), m_home.Path());
   std::string errors = Named(result.errors);
   Replace(errors, "This plugin does not support propagateSizeHints()\n", "");  // of Qt, off-screen
-  Lines lines = MarkLines("| ", Named(result.output));
+  Lines lines{"$" + (result.status == 0 ? "" : std::to_string(result.status)) + line.substr(line.find(' '))};
+  Append(lines, MarkLines("| ", Named(result.output)));
   Append(lines, MarkLines("! ", WithShortReports(errors)));
-  if (result.status != 0) lines.push_back("? " + std::to_string(result.status));
   const Stamps after = Outside();
   for (const auto& [name, stamp] : after) {
     const auto old = before.find(name);

@@ -27,7 +27,7 @@ class Case {
   using Stamps = std::map<std::string, std::pair<std::uintmax_t, std::filesystem::file_time_type>>;
 
   Lines Outcome(const Lines& words) const;
-  Lines Run(const Lines& words) const;
+  Lines Run(const std::string& line, const Lines& words) const;
   Stamps Outside() const;
   void TakeLibrary(const std::string& name) const;
 

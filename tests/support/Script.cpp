@@ -29,7 +29,7 @@ namespace fs = std::filesystem;
 using Lines = std::vector<std::string>;
 
 constexpr std::string_view kAndSoOn = "...";
-constexpr std::string_view kMarks = "|!?+~->";
+constexpr std::string_view kMarks = "|!+~->";
 
 std::vector<ScriptCase> ReadScript(const fs::path& path) {
   std::ifstream file(path, std::ios::binary);

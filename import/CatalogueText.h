@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -18,14 +19,38 @@ struct CatalogueEntry {
   std::string stem;
 };
 
-// The translations in `content`, the bytes of the catalogue `file`. Throws RunTimeError for a record that cannot be
-// read.
-std::vector<CatalogueEntry> CatalogueEntries(std::string_view content, const std::string& file);
+class CatalogueText {
+ public:
+  // Reads the catalogue, which is empty when there is none. Throws RunTimeError for a record that cannot be read, so
+  // that nothing is lost of a catalogue that is not understood.
+  explicit CatalogueText(const std::string& path);
 
-// `content`, which is empty when there is no catalogue yet, with a record for the translation. The record of the same
-// stem, in any case, keeps its place and its numbers; a new one comes last, under the lowest free number. Every other
-// record stays byte for byte. Throws RunTimeError for a record that cannot be read, so that nothing is lost of a
-// catalogue that is not understood, and when every number below 1000 is taken.
-std::string WithTranslation(std::string_view content, const std::string& file, const CatalogueEntry& entry);
+  // Its bytes.
+  const std::string& Content() const { return m_content; }
+
+  // The first translation with a stem, in any case, and with a name; nullptr when there is none.
+  const CatalogueEntry* WithStem(std::string_view stem) const;
+  const CatalogueEntry* WithName(std::string_view name) const;
+
+  // The bytes with a record for the translation. The record of the same stem keeps its place and its numbers; a new one
+  // comes last, under the lowest free number. Every other record stays byte for byte. Throws RunTimeError when every
+  // number below 1000 is taken.
+  std::string With(const CatalogueEntry& entry) const;
+
+ private:
+  struct Record {
+    double number = 0;
+    std::string numbers;  // the first two fields, with the comma behind each
+    CatalogueEntry entry;
+    std::size_t end = 0;  // of its line in the content
+  };
+
+  static bool IsTranslation(const Record& record);
+  int LowestFree() const;
+
+  std::string m_path;
+  std::string m_content;
+  std::vector<Record> m_records;
+};
 
 }  // namespace folionet

@@ -58,7 +58,7 @@ BookTitleList ReadTitlesFile(const std::string& path) {
   BookTitleList titles;
   for (std::size_t book = 1; book <= kBooks; ++book) {
     std::string_view line;
-    if (!lines.NextNotBlank(line)) {
+    if (!NextTitleLine(lines, line)) {
       throw RunTimeError(kInputPastEnd, path,
                          "The titles of 66 books were expected, " + std::to_string(book - 1) + " found.");
     }

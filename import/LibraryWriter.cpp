@@ -24,7 +24,6 @@
 #include "Text.h"
 #include "TitleLanguages.h"
 #include "WholeFile.h"
-#include "Windows1252.h"
 
 namespace folionet {
 namespace {
@@ -40,6 +39,11 @@ bool IsOfStem(char c) {
 
 bool HasControl(std::string_view text) {
   return std::any_of(text.begin(), text.end(), [](unsigned char c) { return c < 0x20 || c == 0x7F; });
+}
+
+// Where a file of the library is or goes: beside those that are there, in whatever case their folder is written.
+std::string FileOf(const LibraryPlan& plan, std::string_view below, const std::string& name) {
+  return LocateIgnoringCase(WithSeparator(LocateIgnoringCase(plan.folder, below)), name);
 }
 
 std::string AbsoluteFolder(const std::string& folder) {
@@ -81,42 +85,33 @@ std::string StemOf(std::string_view name) {
   return initials.size() > kFewestWords ? initials : all.substr(0, kLongestStem / 3);
 }
 
-// What is there already, and where.
-struct Existing {
-  std::string content;
-  std::vector<CatalogueEntry> entries;
+const CodePage& Windows1252() {
+  static const CodePage page;
+  return page;
+}
 
-  const CatalogueEntry* WithStem(std::string_view stem) const {
-    const auto found = std::find_if(entries.begin(), entries.end(),
-                                    [&](const CatalogueEntry& entry) { return EqualIgnoringCase(entry.stem, stem); });
-    return found == entries.end() ? nullptr : &*found;
-  }
+// The name as the catalogue holds it: one that windows-1252 lacks a character of, in UTF-8.
+std::string CatalogueName(const std::string& name) {
+  return Windows1252().Holds(name) ? Windows1252().Encode(name) : name;
+}
 
-  const CatalogueEntry* WithName(const std::string& name) const {
-    const std::string bytes = FitsWindows1252(name) ? ToWindows1252(name) : name;
-    const auto found = std::find_if(entries.begin(), entries.end(), [&](const CatalogueEntry& entry) {
-      return entry.name == bytes || entry.name == name;
-    });
-    return found == entries.end() ? nullptr : &*found;
-  }
-};
-
-std::string FreeStem(const std::string& wanted, const Existing& existing) {
+std::string FreeStem(const std::string& wanted, const CatalogueText& catalogue) {
   const std::string base = wanted.empty() ? "TEXT" : wanted;
   std::string stem = base;
-  for (int number = 2; existing.WithStem(stem) != nullptr; ++number) stem = base + "-" + std::to_string(number);
+  for (int number = 2; catalogue.WithStem(stem) != nullptr; ++number) stem = base + "-" + std::to_string(number);
   return stem;
 }
 
 // Chooses the stem, and refuses to take the place of a translation that is not to be replaced.
-void ChooseStem(const LibraryRequest& request, const Existing& existing, LibraryPlan& plan) {
-  const CatalogueEntry* const sameName = existing.WithName(plan.text.name);
+void ChooseStem(const LibraryRequest& request, const CatalogueText& catalogue, LibraryPlan& plan) {
+  const CatalogueEntry* sameName = catalogue.WithName(CatalogueName(plan.text.name));
+  if (sameName == nullptr) sameName = catalogue.WithName(plan.text.name);
   if (request.stem.empty()) {
-    plan.stem = sameName != nullptr ? sameName->stem : FreeStem(StemOf(plan.text.name), existing);
+    plan.stem = sameName != nullptr ? sameName->stem : FreeStem(StemOf(plan.text.name), catalogue);
   } else {
     plan.stem = request.stem;
   }
-  const CatalogueEntry* const sameStem = existing.WithStem(plan.stem);
+  const CatalogueEntry* const sameStem = catalogue.WithStem(plan.stem);
   plan.replaces = sameStem != nullptr;
   if (sameStem == nullptr || request.replace) return;
   throw RunTimeError(kFileAlreadyOpen, plan.folder,
@@ -125,7 +120,7 @@ void ChooseStem(const LibraryRequest& request, const Existing& existing, Library
 }
 
 std::string Bytes(const LibraryPlan& plan, std::string_view utf8) {
-  return plan.text.charset == "utf-8" ? std::string(utf8) : ToWindows1252(utf8);
+  return plan.text.charset == "utf-8" ? std::string(utf8) : Windows1252().Encode(utf8);
 }
 
 // The verse file and its index.
@@ -161,10 +156,10 @@ std::string TitlesContent(const LibraryPlan& plan, const BookTitleList& titles) 
 // The delivered files of titles that the library lacks.
 void AddDeliveredTitles(LibraryPlan& plan) {
   const auto add = [&](const std::string& name, const TitleLanguage& language) {
-    const std::string path = LocateIgnoringCase(plan.folder, "Sysdefs/" + name);
+    const std::string path = FileOf(plan, "Sysdefs", name);
     if (FileExists(path)) return;
     const std::vector<std::string_view> titles(language.titles.begin(), language.titles.end());
-    plan.files.emplace_back(path, ToWindows1252(TitleFileText(titles)));
+    plan.files.emplace_back(path, Windows1252().Encode(TitleFileText(titles)));
   };
   for (const TitleLanguage& language : TitleLanguages()) {
     add("BOOKS_" + std::string(language.name) + ".TXT", language);
@@ -208,31 +203,28 @@ LibraryPlan PlanLibrary(const ImportedBible& bible, const LibraryRequest& reques
   plan.folder = AbsoluteFolder(request.folder.empty() ? OwnLibraryFolder() : request.folder);
   plan.text.name = NameFor(bible, request);
   plan.text.language = LanguageCode(bible.language);
-  plan.catalogue = LocateIgnoringCase(plan.folder, "Sysdefs/Translations.txt");
-  Existing existing;
-  existing.content = ReadIfThere(plan.catalogue).value_or("");
-  existing.entries = CatalogueEntries(existing.content, plan.catalogue);
-  ChooseStem(request, existing, plan);
+  plan.catalogue = FileOf(plan, "Sysdefs", "Translations.txt");
+  const CatalogueText catalogue(plan.catalogue);
+  ChooseStem(request, catalogue, plan);
 
   const BookTitleList titles = MakePageTitles(
       request.titlesFile.empty() ? bible.titles : ReadTitlesFile(request.titlesFile), plan.text.language);
-  bool fits = FitsWindows1252(bible.AllText()) && FitsWindows1252(plan.text.name);
-  for (const std::string& title : titles) fits = fits && FitsWindows1252(title);
+  bool fits = Windows1252().Holds(bible.AllText()) && Windows1252().Holds(plan.text.name);
+  for (const std::string& title : titles) fits = fits && Windows1252().Holds(title);
   plan.text.charset = fits ? "windows-1252" : "utf-8";
   plan.text.titles = "BOOKS_" + plan.stem + ".TXT";
 
   std::string verses;
   std::string index;
   MakeTexts(bible, plan, verses, index);
-  const std::string verseFile = LocateIgnoringCase(plan.folder, "Modules/Bible/" + plan.stem + ".TXT");
+  const std::string verseFile = FileOf(plan, "Modules/Bible", plan.stem + ".TXT");
   plan.files.emplace_back(verseFile, std::move(verses));
-  plan.files.emplace_back(LocateIgnoringCase(plan.folder, "Index/" + plan.stem + ".TXT.INDEX"), std::move(index));
+  plan.files.emplace_back(FileOf(plan, "Index", plan.stem + ".TXT.INDEX"), std::move(index));
   plan.files.emplace_back(ImportedTextFile(verseFile), WriteImportedText(plan.text));
-  plan.files.emplace_back(LocateIgnoringCase(plan.folder, "Sysdefs/" + plan.text.titles), TitlesContent(plan, titles));
+  plan.files.emplace_back(FileOf(plan, "Sysdefs", plan.text.titles), TitlesContent(plan, titles));
   AddDeliveredTitles(plan);
-  plan.catalogueBefore = existing.content;
-  const std::string name = FitsWindows1252(plan.text.name) ? ToWindows1252(plan.text.name) : plan.text.name;
-  plan.files.emplace_back(plan.catalogue, WithTranslation(existing.content, plan.catalogue, {name, plan.stem}));
+  plan.catalogueBefore = catalogue.Content();
+  plan.files.emplace_back(plan.catalogue, catalogue.With({CatalogueName(plan.text.name), plan.stem}));
   return plan;
 }
 

@@ -223,6 +223,21 @@ std::string CodePage::Encode(std::string_view utf8) const {
   return bytes;
 }
 
+bool CodePage::Holds(std::string_view utf8) const {
+  const auto isAscii = [](char c) { return static_cast<unsigned char>(c) < 0x80; };
+  std::string bytes;
+  while (!m_converter->IsUtf8()) {
+    utf8.remove_prefix(static_cast<std::size_t>(std::find_if_not(utf8.begin(), utf8.end(), isAscii) - utf8.begin()));
+    if (utf8.empty()) break;
+    int32_t length = 0;
+    const UChar32 character = FirstUtf8(utf8.substr(0, U8_MAX_LENGTH), length);
+    bytes.clear();
+    if (character >= 0 && !m_converter->Append(bytes, character)) return false;
+    utf8.remove_prefix(character < 0 ? 1 : static_cast<std::size_t>(length));
+  }
+  return true;
+}
+
 std::string CodePage::Decode(std::string_view bytes) const {
   if (m_converter->IsUtf8() || IsAscii(bytes)) return std::string(bytes);
   std::string text;

@@ -32,6 +32,9 @@ class CodePage {
   // are not UTF-8 are kept as they are.
   std::string Encode(std::string_view utf8) const;
 
+  // Whether the code page has all characters of a UTF-8 text, so that Encode writes none of them as a reference.
+  bool Holds(std::string_view utf8) const;
+
   // Bytes to UTF-8. Bytes that do not decode are kept as they are, so that Encode gives them back.
   std::string Decode(std::string_view bytes) const;
 

@@ -62,7 +62,10 @@ void LineReader::Fill() {
     if (count < 0) throw RunTimeError::FromErrno(errno, m_path);
     if (count == 0) {
       m_atEnd = true;
-      while (m_end > m_begin && m_buffer[m_end - 1] == kCtrlZ) --m_end;
+      while (m_end > m_begin && m_buffer[m_end - 1] == kCtrlZ) {
+        --m_end;
+        --m_bytesRead;
+      }
       break;
     }
     m_end += static_cast<std::size_t>(count);
@@ -129,7 +132,7 @@ void LineReader::RefuseLineEnds(std::string_view part) const {
 
 bool LineReader::IsRestBlank() {
   // What was found the last time holds until it is reached: many blank lines are not looked through again for each.
-  if (m_bytesRead - (m_end - m_begin) < m_knownText) return false;
+  if (NextStart() < m_knownText) return false;
   for (;;) {
     const std::string_view rest(m_buffer.data() + m_begin, m_end - m_begin);
     const std::size_t text = std::min(rest.find_first_not_of(" \t\r\n"), rest.size());

@@ -49,6 +49,9 @@ class LineReader {
   const std::string& Path() const { return m_path; }
   std::size_t LineNumber() const { return m_lineNumber; }  // of the line last given, from 1
 
+  // How many bytes of the file stand before the line that comes next.
+  std::size_t NextStart() const { return m_bytesRead - (m_end - m_begin); }
+
   // Throws the error `number` for the line last given.
   [[noreturn]] void Fail(int number, const std::string& detail) const;
 
@@ -77,7 +80,7 @@ class LineReader {
   std::size_t m_begin = 0;
   std::size_t m_end = 0;
   std::size_t m_lineNumber = 0;
-  std::size_t m_bytesRead = 0;  // of the file; the last of them stand in the buffer
+  std::size_t m_bytesRead = 0;  // of the text; the last of them stand in the buffer
   std::size_t m_knownText = 0;  // where in the file the rest is known to be more than blanks
   bool m_atEnd = false;
   char m_lineEnd = '\n';

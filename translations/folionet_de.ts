@@ -204,8 +204,8 @@
         <translation>&amp;Durchsuchen...</translation>
     </message>
     <message>
-        <source>Versalia is the program that installs the translations which Folionet turns into sites. Without it, make a library of your own with make_library and give its folders here.</source>
-        <translation>Versalia ist das Programm, das die Übersetzungen installiert, aus denen Folionet Websites macht. Ohne es machen Sie mit make_library eine eigene Bibliothek und geben hier deren Ordner an.</translation>
+        <source>Versalia is the program that installs the translations which Folionet turns into sites. Without it, import a Bible text with folionet-cli import and start again.</source>
+        <translation>Versalia ist das Programm, das die Übersetzungen installiert, aus denen Folionet Websites macht. Ohne es importieren Sie einen Bibeltext mit folionet-cli import und starten neu.</translation>
     </message>
     <message>
         <source>Preview page</source>

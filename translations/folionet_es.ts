@@ -204,8 +204,8 @@
         <translation>E&amp;xaminar...</translation>
     </message>
     <message>
-        <source>Versalia is the program that installs the translations which Folionet turns into sites. Without it, make a library of your own with make_library and give its folders here.</source>
-        <translation>Versalia es el programa que instala las traducciones que Folionet convierte en sitios. Sin él, haga una biblioteca propia con make_library e indique aquí sus carpetas.</translation>
+        <source>Versalia is the program that installs the translations which Folionet turns into sites. Without it, import a Bible text with folionet-cli import and start again.</source>
+        <translation>Versalia es el programa que instala las traducciones que Folionet convierte en sitios. Sin él, importe un texto bíblico con folionet-cli import y vuelva a iniciar.</translation>
     </message>
     <message>
         <source>Preview page</source>

@@ -78,8 +78,7 @@ void OfferFolder(QInputDialog& dialog) {
   });
   auto* about =
       new QLabel(QObject::tr("Versalia is the program that installs the translations which Folionet turns into "
-                             "sites. Without it, make a library of your own with make_library and give its "
-                             "folders here."),
+                             "sites. Without it, import a Bible text with folionet-cli import and start again."),
                  &dialog);
   about->setObjectName(QStringLiteral("lblAbout"));
   about->setWordWrap(true);

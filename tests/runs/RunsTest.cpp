@@ -8,9 +8,9 @@
 //   replace FILE OLD NEW                  also: remove PATH..., rename PATH PATH, folder PATH, pipe PATH,
 //                                         link PATH TARGET, hardlink PATH TARGET,
 //                                         dated FILE 2001-02-03, which was its last change
-//   $ site --start-book=2                 compiles the library into out/, "compile" to what is given; "cli",
-//                                         "make_library" and "folionet" are the programs; before one, "bounded"
-//                                         bounds its memory and time, "limited" the size of its files, "terminal"
+//   $ site --start-book=2                 compiles the library into out/, "compile" to what is given; "cli"
+//                                         and "folionet" are the programs; before one, "bounded" bounds its
+//                                         memory and time, "limited" the size of its files, "terminal"
 //                                         gives it one, LANG=de sets its environment
 //   $3 site                               with the exit status, when it is not 0
 //   | a line of standard output           ! a line of standard error

@@ -71,7 +71,6 @@ Command CommandOf(const Command& words) {
   if (word == "site") return CompileSmall(rest);
   if (word == "compile") return CompileCommand(rest);
   if (word == "cli") return With({FOLIONET_CLI}, rest);
-  if (word == "make_library") return With({MAKE_LIBRARY_PROGRAM}, rest);
   if (word == "folionet") {
     // With a person who answers: tests/app/Person.cpp.
     return With({"/usr/bin/env", "-u", "DISPLAY", "-u", "WAYLAND_DISPLAY", "QT_QPA_GENERIC_PLUGINS=person",

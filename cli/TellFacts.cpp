@@ -24,15 +24,11 @@ Telling TellingOf(RunFactKind kind) {
       return {"removes-later-pages", ""};
     case RunFactKind::kIndexTakesPage:
       return {"index-takes-page", "Give it a name of its own with --index-address."};
-    case RunFactKind::kIndexRemoved:
-      return {"index-removed", "Give it a name of its own with --index-address."};
     case RunFactKind::kOtherTranslation:
       return {"other-translation",
               "Pages of the same names are written over; choose another folder with --output if that is not meant."};
     case RunFactKind::kPagesMeet:
       return {"pages-meet", "Give other titles with --language-file, or short names: --set \"%1\"."};
-    case RunFactKind::kMeetingRemoved:
-      return {"meeting-pages-removed", "Give other titles with --language-file, or short names: --set \"%1\"."};
     case RunFactKind::kOldPages:
       return {"old-pages", "\"folionet-cli verify FOLDER\" names them: delete them where nobody needs them."};
     case RunFactKind::kCharsetNotKnown:

@@ -101,11 +101,12 @@ class CompileRun {
          static_cast<std::int16_t>(m_request.cboStartBook + 1), static_cast<std::int16_t>(m_request.cboEndBook + 1)},
         m_inputs, m_codePage, m_context);
     Note(m_indexFileName, WritePageFoot(m_options, m_context));
+    m_kept.insert(m_indexFileName);
     if (!m_request.sitemapAddress.empty()) WriteSitemap();
   }
 
   void TellCounts() {
-    const std::int16_t removed = CleanUp(m_request, m_inputs, m_folder);
+    const std::int16_t removed = CleanUp(m_request, m_inputs, m_kept, m_folder);
     m_ui.ShowMessage({MessageIcon::kInformation, std::string("Compilation Complete ") + kApplicationTitle,
                       "Compilation Complete!\r\n" + std::to_string(m_context.PagesCreated) +
                           " HTML pages created.\r\n" + std::to_string(removed) + " pages removed\r\nRemaining pages " +
@@ -188,6 +189,7 @@ class CompileRun {
       m_startPage = m_context.PageFile.Take();
       return;
     }
+    KeepPage(m_context.BookNumber, m_context.PageFile.Name());
     Note(m_context.PageFile.Name(), m_context.PageFile.Close());
     if (m_startPage && m_context.PageFile.Name() == m_startName) m_startPage.reset();
   }
@@ -197,7 +199,14 @@ class CompileRun {
     m_context.PageFile.Open(m_context.OutputFolder, m_startName);
     m_context.PageFile.Add(*m_startPage);
     m_startPage.reset();
+    KeepPage(m_request.cboStartBook + 1, m_startName);
     Note(m_startName, m_context.PageFile.Close());
+  }
+
+  // The pages of a book that stays are not deleted, whatever other book has their names too.
+  void KeepPage(int book, const std::string& name) {
+    const bool stays = book > m_request.cboStartBook && (!m_request.onlyChosen || book <= m_request.cboEndBook + 1);
+    if (stays) m_kept.insert(name);
   }
 
   // A page that is written is whole; only between two of them a run ends before its time.
@@ -260,6 +269,7 @@ class CompileRun {
   std::string m_startName;
   bool m_isLeavingPage = false;     // the verse at hand is of the page that comes
   std::set<std::string> m_planned;  // the pages that a plan would write
+  std::set<std::string> m_kept;     // what the clean-up leaves
 };
 
 CompileOutcome Run(const CompileRequest& request, ModGlob& glob, UserInterface& ui, RunFolder& folder,

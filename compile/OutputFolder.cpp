@@ -6,6 +6,7 @@
 #include <set>
 #include <string_view>
 #include <system_error>
+#include <unordered_map>
 
 #include "ChapterNav.h"
 #include "Numbers.h"
@@ -90,22 +91,31 @@ std::vector<int> BooksRemovedAfter(const CompileRequest& request, const PageName
   for (int book = request.cboStartBook + 1; book <= request.cboEndBook + 1; ++book) {
     chosen.insert(names.BookOnDisk(book));
   }
-  const std::string index = IndexFileName(request.options.txthttpRoot);
   for (int book = std::max(request.cboStartBook, request.cboEndBook + 1) + 1; book <= kBooks; ++book) {
-    const std::string& name = names.BookOnDisk(book);
-    if (!chosen.contains(name) && !index.starts_with(name)) books.push_back(book);
+    if (!chosen.contains(names.BookOnDisk(book))) books.push_back(book);
   }
   return books;
 }
 
-std::int16_t CleanUp(const CompileRequest& request, const PageInputs& inputs, RunFolder& folder) {
+std::int16_t CleanUp(const CompileRequest& request, const PageInputs& inputs, const std::set<std::string>& kept,
+                     RunFolder& folder) {
+  std::unordered_multimap<std::string, std::string> keptNames;
+  if (request.cboStartBook > 0 || request.onlyChosen) {
+    for (const std::string& name : kept) keptNames.emplace(FoldCase(name), name);
+  }
+  // A file system may take names that differ in letter case for one.
+  const auto isKept = [&](const std::string& name) {
+    const auto [begin, end] = keptNames.equal_range(FoldCase(name));
+    return std::any_of(begin, end,
+                       [&](const auto& row) { return row.second == name || folder.site.IsOneFile(row.second, name); });
+  };
   std::int16_t removed = 0;
   const auto removeBook = [&](int book) {
     const int chapters = ChaptersOf(inputs, book);
     for (int chapter = 1; chapter <= chapters; ++chapter) {
       if (!HasChapter(inputs.glob, book, chapter)) continue;
       const std::string name = inputs.names.OnDisk(book, chapter);
-      if (IsPageName(name)) Remove(request, folder, name);
+      if (IsPageName(name) && !isKept(name)) Remove(request, folder, name);
       if (removed < kInt16Max) ++removed;
       inputs.ui.SetPanel(1, "Removing extra HTML .. " + name);
     }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <optional>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -38,11 +39,13 @@ void EndRun(const CompileRequest& request, RunFolder& folder, bool isDone);
 void NoteWritten(const CompileRequest& request, const RunFolder& folder, const std::string& name, PageChange change);
 
 // The books after the ending one whose pages are deleted, where only chosen books are to stay: not those whose names a
-// chosen book or the index page has too.
+// chosen book has too.
 std::vector<int> BooksRemovedAfter(const CompileRequest& request, const PageNames& names);
 
-// Deletes the pages of the books before the start book, and of BooksRemovedAfter. Gives the number of deletions tried,
-// which counts pages that were not there; every failure is passed over.
-std::int16_t CleanUp(const CompileRequest& request, const PageInputs& inputs, RunFolder& folder);
+// Deletes the pages of the books before the start book, and of BooksRemovedAfter, but no file that one of the names of
+// `kept` leads to. Gives the number of these pages, which counts those that are kept or were not there; every failure
+// is passed over.
+std::int16_t CleanUp(const CompileRequest& request, const PageInputs& inputs, const std::set<std::string>& kept,
+                     RunFolder& folder);
 
 }  // namespace folionet

@@ -100,10 +100,6 @@ class FactFinder {
   int Books() const { return static_cast<int>(m_glob.cboStartBook.size()); }
   int ChaptersOf(int book) const { return m_chapters[static_cast<std::size_t>(book)]; }
 
-  bool IsRemoved(int book) const {
-    return book <= m_request.cboStartBook || (m_request.onlyChosen && book > m_request.cboEndBook + 1);
-  }
-
   // By the numbers of the index and by the order of its books: the one that the text has may be either.
   std::unordered_set<std::string> NamesOfRun() const {
     std::unordered_set<std::string> names{m_index};
@@ -128,24 +124,16 @@ class FactFinder {
     return false;
   }
 
+  // The pages of the books before the starting one are deleted in any case, and those that stay are not.
   void FindSharedIndex(std::vector<RunFact>& facts) const {
-    for (int book = 1; book <= Books(); ++book) {
+    for (int book = m_request.cboStartBook + 1; book <= Books(); ++book) {
       if (!m_index.starts_with(m_names.BookOnDisk(book))) continue;
       for (int chapter = 1; chapter <= ChaptersOf(book); ++chapter) {
         if (m_names.OnDisk(book, chapter) != m_index) continue;
-        if (book <= m_request.cboStartBook) {
-          facts.push_back({RunFactKind::kIndexRemoved,
-                           true,
-                           {Translatable("Notice",
-                                         "The index page %1 has the name of a chapter's page before the starting book, "
-                                         "and is removed with it."),
-                            {m_index}}});
-        } else {
-          facts.push_back(
-              {RunFactKind::kIndexTakesPage,
-               true,
-               {Translatable("Notice", "The index page %1 takes the place of a chapter's page."), {m_index}}});
-        }
+        facts.push_back(
+            {RunFactKind::kIndexTakesPage,
+             true,
+             {Translatable("Notice", "The index page %1 takes the place of a chapter's page."), {m_index}}});
         return;
       }
     }
@@ -153,23 +141,18 @@ class FactFinder {
 
   void FindMeetingBooks(std::vector<RunFact>& facts) const {
     std::map<std::string, std::vector<int>> booksOfName;
-    for (int book = 1; book <= Books(); ++book) {
+    for (int book = m_request.cboStartBook + 1; book <= Books(); ++book) {
       if (ChaptersOf(book) > 0) booksOfName[m_names.OnDisk(book, 1)].push_back(book);
     }
     for (const auto& [name, books] : booksOfName) {
       if (books.size() < 2) continue;
       std::string numbers;
       for (const int book : books) numbers += (numbers.empty() ? "" : ", ") + std::to_string(book);
-      const bool isRemoved = books.front() <= m_request.cboStartBook;
-      if (isRemoved && books.back() <= m_request.cboStartBook) continue;
-      facts.push_back({isRemoved ? RunFactKind::kMeetingRemoved : RunFactKind::kPagesMeet,
+      facts.push_back({RunFactKind::kPagesMeet,
                        true,
-                       {isRemoved ? Translatable("Notice",
-                                                 "The books %2 have the same page names, such as %1: they are removed "
-                                                 "with those before the starting book.")
-                                  : Translatable("Notice",
-                                                 "The books %2 have the same page names, such as %1: only the pages of "
-                                                 "the last one are kept."),
+                       {Translatable("Notice",
+                                     "The books %2 have the same page names, such as %1: only the pages of "
+                                     "the last one are kept."),
                         {name, numbers}},
                        {"Use83", "1"}});
     }

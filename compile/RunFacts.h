@@ -16,10 +16,8 @@ enum class RunFactKind {
   kRemovesPages,       // %1 pages of the books before the starting one are deleted; a warning where some are there now
   kRemovesLaterPages,  // the same of the books after the ending one, where only chosen books are to stay
   kIndexTakesPage,     // the index page %1 takes the place of a chapter's page
-  kIndexRemoved,       // it even has the name of a page that is deleted after the run
   kOtherTranslation,   // the output folder holds pages of the translation %1, which is another one
   kPagesMeet,          // the books %2 have the same page names, such as %1: the last one's pages are kept
-  kMeetingRemoved,     // the same, and those names are deleted after the run
   kOldPages,           // %1 pages of earlier compiles, such as %2, lie in the folder, which this one does not write
   kCharsetNotKnown,    // no browser knows the charset %1
   kCharsetNotFit,      // pages cannot be in the charset %1

@@ -172,6 +172,15 @@ bool SiteFolder::Has(const std::string& name) const {
   return m_folder.IsOpen() && fstatat(m_folder.Get(), name.c_str(), &status, AT_SYMLINK_NOFOLLOW) == 0;
 }
 
+bool SiteFolder::IsOneFile(const std::string& name, const std::string& other) const {
+  struct stat one {};
+  struct stat two {};
+  constexpr int kFlags = AT_SYMLINK_NOFOLLOW;
+  return m_folder.IsOpen() && fstatat(m_folder.Get(), name.c_str(), &one, kFlags) == 0 &&
+         fstatat(m_folder.Get(), other.c_str(), &two, kFlags) == 0 && one.st_dev == two.st_dev &&
+         one.st_ino == two.st_ino;
+}
+
 // Once is enough: what a person puts there later was put over a page of ours.
 void SiteFolder::Keep(const std::string& name, const FileHandle& file, const struct stat& status) {
   constexpr std::size_t kLongest = std::size_t{64} << 20;

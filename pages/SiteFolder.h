@@ -68,6 +68,9 @@ class SiteFolder {
   // When the file was last changed; now for one that is not there.
   std::time_t LastChange(const std::string& name) const;
 
+  // Whether both names are of one file, as where letter case makes no difference to the file system.
+  bool IsOneFile(const std::string& name, const std::string& other) const;
+
   // Whether the file of that name is the one at `path`.
   bool IsSameFile(const std::string& name, const std::string& path) const;
 

@@ -38,6 +38,7 @@ TEST(LineReaderTest, SplitsAtTheEndsOfTheFirstLine) {
       {"a\rb\r\nc\r\n", {"a", "b", "c"}},
       {"a\rb", {"a", "b"}},
       {"a\n\x1A\x1A", {"a"}},
+      {"a\n" + std::string(70000, '\x1A'), {"a"}},
       {std::string("a\0b\n", 4), {std::string("a\0b", 3)}},
       {"x\n" + longLine + "\r\ny", {"x", longLine, "y"}},
   };

@@ -18,6 +18,7 @@
 #include "Sitemap.h"
 #include "StopSignals.h"
 #include "TellFacts.h"
+#include "Text.h"
 
 namespace folionet {
 namespace {
@@ -131,6 +132,11 @@ void RefuseOtherThanFolders(const std::string& sitemap) {
   }
 }
 
+void RefuseMoreThanOneLine(const std::string& indexAddress) {
+  if (InOneLine(indexAddress) == indexAddress) return;
+  RefuseUsage("--index-address must be one line: \"" + indexAddress + "\".");
+}
+
 void SelectBooks(const CompileArguments& arguments, const Session& session, CompileRequest& request) {
   if (!arguments.books.empty()) {
     const BookRange books = session.FindBooks(arguments.books);
@@ -144,6 +150,7 @@ void SelectBooks(const CompileArguments& arguments, const Session& session, Comp
 }  // namespace
 
 ExitStatus RunCompile(const CommonOptions& common, const CompileArguments& arguments, ConsoleUi& ui) {
+  if (arguments.indexAddress) RefuseMoreThanOneLine(*arguments.indexAddress);
   if (!arguments.sitemap.empty()) RefuseOtherThanFolders(arguments.sitemap);
   if (arguments.listChanged || arguments.dryRun) ui.HideResults();
   Session session(common, ui);

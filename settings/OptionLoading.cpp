@@ -6,6 +6,7 @@
 #include "BuildInfo.h"
 #include "Numbers.h"
 #include "RunTimeError.h"
+#include "Text.h"
 
 namespace folionet {
 namespace {
@@ -27,12 +28,19 @@ void FinishLinkToMain(LinkToMainOptions& link) {
   }
 }
 
+// The names of folders and of files of titles stand in no page, and may hold anything.
+std::string TextOf(const StoredSettings& store, const Option& option) {
+  std::string text = store.Text(option.key);
+  const bool isName = option.part == OptionPart::kFolders || option.part == OptionPart::kLanguageFile;
+  return isName ? text : InOneLine(text);
+}
+
 }  // namespace
 
 void LoadOption(const StoredSettings& store, const Option& option, PageOptions& options) {
   const std::size_t place = PlaceOf(option);
   const bool isChosen = options.maySave.test(place) || OptionText(option, options) != option.defaultText;
-  const std::string text = store.Text(option.key);
+  const std::string text = TextOf(store, option);
   const int error = CheckOption(option.form, text);
   if (error != 0 && isChosen) return;
   if (error != 0) {

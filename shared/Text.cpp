@@ -56,6 +56,24 @@ bool IsControl(std::string_view text, std::size_t at) {
   return byte < 0x20 || byte == 0x7F || (byte == 0xC2 && next >= 0x80 && next <= 0x9F);
 }
 
+std::string InOneLine(std::string_view text) {
+  constexpr std::string_view kSeparators[] = {"\u2028", "\u2029"};  // of lines and of paragraphs
+  std::string line;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    const std::string_view rest = text.substr(i);
+    if (rest.starts_with(kSeparators[0]) || rest.starts_with(kSeparators[1])) {
+      line += ' ';
+      i += kSeparators[0].size() - 1;
+    } else if (IsControl(text, i)) {
+      line += ' ';
+      if (text[i] == '\xC2' || rest.starts_with("\r\n")) ++i;
+    } else {
+      line += text[i];
+    }
+  }
+  return line;
+}
+
 std::string Escaped(std::string_view text, std::string_view kept) {
   std::string shown;
   for (std::size_t i = 0; i < text.size(); ++i) {

@@ -26,6 +26,9 @@ void AppendUtf8(std::string& text, char32_t character);
 // Whether the character of a UTF-8 text at `at` is one that a terminal would obey: below a blank, U+007F to U+009F.
 bool IsControl(std::string_view text, std::size_t at);
 
+// A UTF-8 text with a blank for each line break, CR LF being one, and for each control character.
+std::string InOneLine(std::string_view text);
+
 // A UTF-8 text as a line shows it: each control character but those to keep as "\n", "\t" or "\x1B", so that nothing
 // that an argument or a file brings is obeyed or passes for a line of the program's own.
 std::string Escaped(std::string_view text, std::string_view kept = {});

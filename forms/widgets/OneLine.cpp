@@ -4,6 +4,9 @@
 #include <QValidator>
 #include <algorithm>
 
+#include "QtText.h"
+#include "Text.h"
+
 namespace folionet {
 namespace {
 
@@ -21,14 +24,7 @@ class OneLineValidator : public QValidator {
 
 }  // namespace
 
-QString InOneLine(QString text) {
-  text.replace(QLatin1String("\r\n"), QLatin1String(" "));
-  for (QChar& c : text) {
-    const bool breaksLine = c == QChar::LineSeparator || c == QChar::ParagraphSeparator;
-    if (breaksLine || c.category() == QChar::Other_Control) c = QLatin1Char(' ');
-  }
-  return text;
-}
+QString InOneLine(const QString& text) { return ToQt(InOneLine(FromQt(text))); }
 
 void KeepBoxesToOneLine(QWidget& form) {
   for (QLineEdit* box : form.findChildren<QLineEdit*>()) {

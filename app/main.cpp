@@ -122,7 +122,7 @@ std::string ProgramFolderOf(const std::string& chosen, UserInterface& ui) {
   try {
     return FindProgramFolder(chosen);
   } catch (const RunTimeError& error) {
-    ui.ShowErrorReport(error.Number(), "Form Load - MAIN", error.Extra());
+    ui.ShowErrorReport({Procedure::kFormLoad, error});
     return ExecutableFolder();
   }
 }
@@ -148,7 +148,7 @@ int OpenForm(QApplication& app, const Arguments& arguments) {
   try {
     store.FinishChange();
   } catch (const RunTimeError& error) {
-    ui.ShowErrorReport(error.Number(), "Form Load - MAIN", error.Extra());
+    ui.ShowErrorReport({Procedure::kFormLoad, error});
   }
   AppState state{store, ui, ProgramFolderOf(arguments.programFolder, ui), arguments.folders};
   QDir::setCurrent(ToQt(state.programFolder));

@@ -113,9 +113,7 @@ class Form {
     void ShowMessage(const Message& /*message*/) override {}
     bool AskYesNo(const std::string& /*title*/, const std::string& /*text*/) override { return false; }
     std::optional<std::string> AskText(const InputBox& /*box*/) override { return std::nullopt; }
-    void ShowErrorReport(int /*number*/, std::string_view /*label*/, const std::string& extra) override {
-      std::fprintf(stderr, "%s\n", extra.c_str());
-    }
+    void ShowErrorReport(const ErrorReport& report) override { std::fprintf(stderr, "%s\n", report.extraInfo.c_str()); }
     void SetPanel(int /*panel*/, std::string_view /*text*/) override {}
   };
 

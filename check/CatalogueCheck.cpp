@@ -20,7 +20,7 @@ bool CheckVerseFile(const RecordReader& records, const std::string& name, const 
   const char* kind = "missing-text";
   Sentence what{"The text of %1 is missing: %2", {Quoted(name), text}};
   try {
-    const LineReader reader(text);
+    const LineReader reader(text, Subject::kVerseFile);
   } catch (const RunTimeError& error) {
     if (error.Number() != kFileNotFound && error.Number() != kPathNotFound) {
       kind = "unreadable";
@@ -61,7 +61,7 @@ void CheckCatalogue(CheckedLibrary& library) {
   glob.BibleImports.clear();
   try {
     const std::string path = SysdefsFile(glob, "Translations.txt");
-    RecordReader records(path);
+    RecordReader records(path, Subject::kCatalogue);
     library.CheckLetterCase(path, glob.SysdefsPath + "Translations.txt");
     CatalogueRecord record;
     int listed = 0;

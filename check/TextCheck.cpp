@@ -36,7 +36,7 @@ void CheckIndexRecord(RecordReader& records, const std::array<std::string_view, 
 ChapterTable CheckIndex(const std::string& path, CheckedLibrary& library) {
   ChapterOrder order(path, library);
   try {
-    RecordReader records(path);
+    RecordReader records(path, Subject::kChapterIndex);
     std::array<std::string_view, 7> fields;
     for (bool more = true; more;) {
       try {

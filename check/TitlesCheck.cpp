@@ -59,7 +59,7 @@ void CheckTitleFile(const std::string& fileName, CheckedLibrary& whole) {
   CheckedLibrary library{whole.glob, codePage, whole.titlesFile, whole.pageLanguage, whole.findings};
   try {
     const std::string path = SysdefsFile(glob, fileName);
-    LineReader lines(path, LineReader::kLongestEntry);
+    LineReader lines(path, Subject::kBookTitles, LineReader::kLongestEntry);
     library.CheckLetterCase(path, glob.SysdefsPath + fileName);
     PageNameCheck names(lines, library);
     std::string_view line;

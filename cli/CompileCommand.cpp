@@ -41,7 +41,7 @@ std::string ProgramFolderOf(Session& session, bool dryRun) {
     return FindProgramFolder(session.chosenProgramFolder);
   } catch (const RunTimeError& error) {
     if (!session.options.chkCSS) return ProgramFolderToRead(session.chosenProgramFolder);
-    session.ui.ShowErrorReport(error.Number(), "Form Load - MAIN", error.Extra());
+    session.ui.ShowErrorReport({Procedure::kFormLoad, error});
     throw ExitWith(kExitFailed);
   }
 }

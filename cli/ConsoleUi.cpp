@@ -94,24 +94,24 @@ bool ConsoleUi::Finish() {
 ExitStatus ConsoleUi::Done() const { return m_common.strict && m_hasWarned ? kExitRefused : kExitDone; }
 
 void ConsoleUi::ShowMessage(const Message& message) {
-  if (!message.isResult) {
-    TellText(message.title + ": " + WithNewLines(message.text));
-    if (const std::string_view step = NextStep(message.title); !step.empty()) Tell(step);
-  } else if (m_showsResults) {
-    PrintText(WithNewLines(message.text));
+  if (message.topic == Topic::kResult) {
+    if (m_showsResults) PrintText(WithNewLines(message.text));
+    return;
   }
+  TellText(message.title + ": " + WithNewLines(message.text));
+  if (const std::string_view step = NextStep(message.topic); !step.empty()) Tell(step);
 }
 
 bool ConsoleUi::AskYesNo(const std::string& /*title*/, const std::string& /*text*/) { return false; }
 
 std::optional<std::string> ConsoleUi::AskText(const InputBox& /*box*/) { return std::nullopt; }
 
-void ConsoleUi::ShowErrorReport(int errorNumber, std::string_view moduleLabel, const std::string& extraInfo) {
-  if (const std::string_view step = StepBeforeReport(moduleLabel); !step.empty()) TellText(std::string(step) + "\n\n");
-  TellText(WithNewLines(BuildErrorReport(errorNumber, moduleLabel, extraInfo, ExecutableFolder())));
-  if (const std::string_view step = NextStepAfterReport(errorNumber, moduleLabel, extraInfo); !step.empty()) {
-    TellText("\n" + std::string(step));
+void ConsoleUi::ShowErrorReport(const ErrorReport& report) {
+  if (const std::string_view step = StepBeforeReport(report.procedure); !step.empty()) {
+    TellText(std::string(step) + "\n\n");
   }
+  TellText(WithNewLines(BuildErrorReport(report, ExecutableFolder())));
+  if (const std::string_view step = NextStepAfterReport(report); !step.empty()) TellText("\n" + std::string(step));
 }
 
 void ConsoleUi::SetPanel(int panel, std::string_view text) {

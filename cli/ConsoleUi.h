@@ -25,7 +25,7 @@ class ConsoleUi : public UserInterface {
   void ShowMessage(const Message& message) override;
   bool AskYesNo(const std::string& title, const std::string& text) override;
   std::optional<std::string> AskText(const InputBox& box) override;
-  void ShowErrorReport(int errorNumber, std::string_view moduleLabel, const std::string& extraInfo) override;
+  void ShowErrorReport(const ErrorReport& report) override;
   void SetPanel(int panel, std::string_view text) override;
 
   // A line of what was asked for.

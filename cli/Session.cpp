@@ -37,7 +37,7 @@ Session::Session(const CommonOptions& common, ConsoleUi& console)
     store.FinishChange();
     LocateInstallation(store, common.folders, glob);
   } catch (const RunTimeError& error) {
-    ui.ShowErrorReport(error.Number(), "Form Load - MAIN", error.Extra());
+    ui.ShowErrorReport({Procedure::kFormLoad, error});
     throw ExitWith(kExitFailed);
   }
 }
@@ -72,7 +72,7 @@ void Session::LoadOptions() {
     LoadAllOptions(store, options);
     texts.LinkAlignment = options.main.alignment;
   } catch (const RunTimeError& error) {
-    ui.ShowErrorReport(error.Number(), "Form Load - MAIN", error.Extra());
+    ui.ShowErrorReport({Procedure::kFormLoad, error});
     throw ExitWith(kExitFailed);
   }
   LoadCodePage();
@@ -87,7 +87,7 @@ void Session::LoadCodePage() {
     texts.PageLanguage = encoding.PageLanguage;
     codePage = CodePage(encoding.PageCharset);
   } catch (const RunTimeError& error) {
-    ui.ShowErrorReport(error.Number(), "Form Load - MAIN", error.Extra());
+    ui.ShowErrorReport({Procedure::kFormLoad, error});
     throw ExitWith(kExitFailed);
   }
 }

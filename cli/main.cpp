@@ -16,7 +16,7 @@ ExitStatus Run(const Arguments& arguments, ConsoleUi& ui) {
     ui.Tell(error.what());
     return kExitUsage;
   } catch (const RunTimeError& error) {
-    ui.ShowErrorReport(error.Number(), "Form Load - MAIN", error.Extra());
+    ui.ShowErrorReport({Procedure::kFormLoad, error});
   } catch (const std::exception& error) {
     ui.Tell(std::string("folionet-cli: ") + error.what());
   }

@@ -66,7 +66,7 @@ class CompileRun {
     m_context.TextColourHex = HtmlColour(m_options.txtSample.ForeColor);
     const double size = RoundHalfEven(m_options.txtSample.FontSize - 9);
     if (!(size >= kInt16Min && size <= kInt16Max)) {
-      throw RunTimeError(kOverflow, "FontSize", std::to_string(m_options.txtSample.FontSize));
+      throw RunTimeError(kOverflow, "FontSize", std::to_string(m_options.txtSample.FontSize)).About(Subject::kSetting);
     }
     m_context.FontSizeNumber = static_cast<std::int16_t>(size);
     m_linkToMain = BuildLinkToMain(m_options, *link, m_context.FontSizeNumber, m_context.FontName);
@@ -111,7 +111,7 @@ class CompileRun {
                       "Compilation Complete!\r\n" + std::to_string(m_context.PagesCreated) +
                           " HTML pages created.\r\n" + std::to_string(removed) + " pages removed\r\nRemaining pages " +
                           std::to_string(m_context.PagesCreated - removed),
-                      true});
+                      Topic::kResult});
   }
 
   // The last values seen, for the report of a failure.
@@ -168,7 +168,9 @@ class CompileRun {
   }
 
   void TurnPage(const Verse& verse) {
-    if (m_context.PagesCreated == kInt16Max) throw RunTimeError(kOverflow, "More than 32767 pages.");
+    if (m_context.PagesCreated == kInt16Max) {
+      throw RunTimeError(kOverflow, "More than 32767 pages.").About(Subject::kVerseFile);
+    }
     ++m_context.PagesCreated;
     if (m_shownBook.empty() || verse.book != m_context.BookNumber)
       m_shownBook = m_codePage.DecodeForDisplay(BookName(m_inputs, verse.book));
@@ -281,7 +283,8 @@ CompileOutcome Run(const CompileRequest& request, ModGlob& glob, UserInterface& 
     return CompileOutcome::kRefused;
   }
   if (request.cboBibleName < 0) {
-    ui.ShowMessage({MessageIcon::kInformation, "No Bible Selected", "Please Select a Bible to compile first"});
+    ui.ShowMessage({MessageIcon::kInformation, "No Bible Selected", "Please Select a Bible to compile first",
+                    Topic::kNoReadableText});
     return CompileOutcome::kRefused;
   }
   const CodePage codePage(request.texts.PageCharset);
@@ -306,7 +309,6 @@ CompileOutcome Run(const CompileRequest& request, ModGlob& glob, UserInterface& 
 }  // namespace
 
 CompileOutcome cmdCompile_Click(const CompileRequest& request, ModGlob& glob, UserInterface& ui) {
-  constexpr char kLabel[] = "cmdCompile_Click";
   std::string lastValues = "INDEX: \r\nSL: \r\nSR: ";
   RunFolder folder;
   CompileOutcome outcome = CompileOutcome::kFailed;
@@ -315,11 +317,11 @@ CompileOutcome cmdCompile_Click(const CompileRequest& request, ModGlob& glob, Us
   } catch (const Stopped&) {
     outcome = CompileOutcome::kStopped;
   } catch (const RunTimeError& error) {
-    ui.ShowErrorReport(error.Number(), kLabel, lastValues + "\r\n" + error.Extra());
+    ui.ShowErrorReport({Procedure::kCompile, error, lastValues + "\r\n"});
   } catch (const AlreadyReported&) {
     outcome = CompileOutcome::kFailed;  // and has been told
   } catch (const std::bad_alloc&) {
-    ui.ShowErrorReport(kOutOfMemory, kLabel, lastValues);
+    ui.ShowErrorReport({Procedure::kCompile, kOutOfMemory, lastValues});
   }
   EndRun(request, folder, outcome == CompileOutcome::kDone);
   return outcome;

@@ -36,4 +36,8 @@ struct CompileRequest {
   std::function<bool()> isStopped;  // asked after each page: whether the run is to end there; may be empty
 };
 
+inline bool IsFolderChosen(const CompileRequest& request) {
+  return request.txtOutputPath != CompileRequest().txtOutputPath;
+}
+
 }  // namespace folionet

@@ -27,15 +27,15 @@ void Remove(const CompileRequest& request, RunFolder& folder, const std::string&
   if (folder.site.HasKeptOld()) request.changes->Kept(name);
 }
 
-bool IsFolderChosen(const CompileRequest& request) { return request.txtOutputPath != "txtOutputPath"; }
-
 void MakeOutputFolder(const CompileRequest& request) {
   if (!request.makeOutputFolder || !IsFolderChosen(request) || request.dryRun) return;
   const std::string folder = NativePath(request.txtOutputPath);
   if (FolderExists(folder)) return;
   std::error_code error;
   std::filesystem::create_directories(folder, error);
-  if (!FolderExists(folder)) throw RunTimeError::FromErrno(error ? error.value() : ENOTDIR, folder);
+  if (!FolderExists(folder)) {
+    throw RunTimeError::FromErrno(error ? error.value() : ENOTDIR, folder).About(Subject::kOutputFolder);
+  }
 }
 
 }  // namespace
@@ -64,13 +64,14 @@ void EndRun(const CompileRequest& request, RunFolder& folder, bool isDone) {
 void CopyCSS(const CompileRequest& request, RunFolder& folder) {
   if (!IsFolderChosen(request)) return;
   const std::string source = request.programFolder + kStyleSheet;
-  const std::string content = ReadWholeFile(source);
+  const std::string content = WorkAbout(Subject::kStyleSheet, [&] { return ReadWholeFile(source); });
   OpenOutputFolder(request, folder);
   if (folder.site.IsSameFile(kStyleSheet, source)) {
     throw RunTimeError(kFileAlreadyOpen, folder.site.Path() + kStyleSheet,
-                       "The output folder is the program's own folder. Choose another one.");
+                       "The output folder is the program's own folder. Choose another one.")
+        .About(Subject::kStyleSheet);
   }
-  WriteOtherFile(request, folder, kStyleSheet, content + "\r\n");
+  WorkAbout(Subject::kStyleSheet, [&] { WriteOtherFile(request, folder, kStyleSheet, content + "\r\n"); });
 }
 
 void NoteWritten(const CompileRequest& request, const RunFolder& folder, const std::string& name, PageChange change) {

@@ -53,7 +53,7 @@ bool IsPlainCode(std::string_view code) {
 // Whether the list of languages of the program folder, "code","description" a line, holds a code.
 bool IsListed(const std::string& path, const std::string& code) {
   try {
-    RecordReader records(path);
+    RecordReader records(path, Subject::kEncodingList);
     std::array<std::string_view, 2> fields;
     while (records.Next(fields)) {
       if (EqualIgnoringCase(fields[0], code)) return true;

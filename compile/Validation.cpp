@@ -7,8 +7,8 @@
 namespace folionet {
 namespace {
 
-Refusal Refuse(std::string title, std::string text, std::string control) {
-  return {{MessageIcon::kWarning, std::move(title), std::move(text)}, std::move(control)};
+Refusal Refuse(Topic topic, std::string title, std::string text, std::string control) {
+  return {{MessageIcon::kWarning, std::move(title), std::move(text), topic}, std::move(control)};
 }
 
 // Of UTF-8: every byte but those that continue a character.
@@ -21,14 +21,14 @@ std::optional<Refusal> CheckAddress(const CompileRequest& request) {
   const bool use83 = request.options.chkUse83;
   const auto [base, extension] = SplitIndexAddress(request.options.txthttpRoot, use83);
   if (!use83 && extension != "html") {
-    return Refuse("Not a valid long file extension",
+    return Refuse(Topic::kLongExtension, "Not a valid long file extension",
                   "\"" + extension +
                       "\" is not a valid long filename extension. It must be \"html\"\r\n"
                       "Please correct and try again.",
                   "txthttpRoot");
   }
   if (use83 && (extension != "htm" || CountCharacters(base) > kLongestShortName)) {
-    return Refuse("8.3 filename error",
+    return Refuse(Topic::kShortName, "8.3 filename error",
                   "Either \"" + base + "\" is an illegal 8.3 filename or \r\n\"" + extension + "\" is. Please correct.",
                   "txthttpRoot");
   }
@@ -41,7 +41,8 @@ IndexAddress SplitIndexAddress(const std::string& httpRoot, bool use83) {
   const std::size_t dot = httpRoot.rfind('.');
   if (dot == std::string::npos) {
     throw RunTimeError(kInvalidProcedureCall, httpRoot,
-                       "The address of the index page has no \".\". Enter one such as index.html.");
+                       "The address of the index page has no \".\". Enter one such as index.html.")
+        .About(Subject::kIndexAddress);
   }
   IndexAddress address{httpRoot.substr(0, dot), httpRoot.substr(dot + 1)};
   if (const std::size_t slash = address.base.rfind('/'); use83 && slash != std::string::npos) {
@@ -51,13 +52,15 @@ IndexAddress SplitIndexAddress(const std::string& httpRoot, bool use83) {
 }
 
 std::optional<Refusal> Validate(const CompileRequest& request) {
-  if (request.txtOutputPath == "txtOutputPath") return Refuse("No Path", "No Output path Selected.", "Dir1");
-  if (request.options.txtBibleSel == "txtBibleSel") return Refuse("No Bible", "No Bible Selected.", "cboBibleName");
+  if (!IsFolderChosen(request)) return Refuse(Topic::kNoOutputFolder, "No Path", "No Output path Selected.", "Dir1");
+  if (request.options.txtBibleSel == "txtBibleSel")
+    return Refuse(Topic::kNoTranslation, "No Bible", "No Bible Selected.", "cboBibleName");
   if (request.options.txthttpRoot == "txthttpRoot") {
-    return Refuse("No HTTP Root", "No HTTP root has been entered.", "txthttpRoot");
+    return Refuse(Topic::kNoIndexAddress, "No HTTP Root", "No HTTP root has been entered.", "txthttpRoot");
   }
   if (request.cboLang == "Default") {
-    return Refuse("Language not selected", "Please select a language for the Book Titles first", "cboLang");
+    return Refuse(Topic::kNoBookTitles, "Language not selected", "Please select a language for the Book Titles first",
+                  "cboLang");
   }
   return CheckAddress(request);
 }

@@ -13,7 +13,7 @@ namespace {
 template <std::size_t kFields>
 void ReadAll(const std::string& path) {
   try {
-    RecordReader records(path);
+    RecordReader records(path, Subject::kNone);
     std::array<std::string_view, kFields> fields;
     while (records.Next(fields)) {
       for (const std::string_view field : fields) records.Integer(field, -100000, 100000);
@@ -29,7 +29,7 @@ void WriteAndRead(const Folder& folder, std::string_view input) {
   for (std::size_t i = 0; i < input.size(); ++i) {
     if (input[i] != '\n' && input[i] != '\r') written[i % 2] += input[i];
   }
-  RecordReader records(folder.Write("written", "x,y\r\n" + QuotedRecord(written)));
+  RecordReader records(folder.Write("written", "x,y\r\n" + QuotedRecord(written)), Subject::kNone);
   std::array<std::string_view, 2> read;
   if (!records.Next(read) || !records.Next(read) || !std::ranges::equal(read, written)) std::abort();
 }

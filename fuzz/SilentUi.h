@@ -10,9 +10,7 @@ class SilentUi : public UserInterface {
   void ShowMessage(const Message& message) override { m_length += message.text.size(); }
   bool AskYesNo(const std::string& /*title*/, const std::string& /*text*/) override { return false; }
   std::optional<std::string> AskText(const InputBox& /*box*/) override { return std::nullopt; }
-  void ShowErrorReport(int /*errorNumber*/, std::string_view /*moduleLabel*/, const std::string& extraInfo) override {
-    m_length += extraInfo.size();
-  }
+  void ShowErrorReport(const ErrorReport& report) override { m_length += report.extraInfo.size(); }
   void SetPanel(int /*panel*/, std::string_view text) override { m_length += text.size(); }
 
  private:

@@ -20,7 +20,7 @@ CatalogueText::CatalogueText(const std::string& path) : m_path(path) {
   const auto content = ReadIfThere(path);
   if (!content) return;
   m_content = *content;
-  RecordReader records(path);
+  RecordReader records(path, Subject::kCatalogue);
   std::array<std::string_view, 4> fields;
   while (records.Next(fields)) {
     Record record;

@@ -54,7 +54,7 @@ BookTitleList MakePageTitles(const BookTitleList& given, std::string_view langua
 }
 
 BookTitleList ReadTitlesFile(const std::string& path) {
-  LineReader lines(path, LineReader::kLongestEntry);
+  LineReader lines(path, Subject::kBookTitles, LineReader::kLongestEntry);
   BookTitleList titles;
   for (std::size_t book = 1; book <= kBooks; ++book) {
     std::string_view line;

@@ -20,12 +20,14 @@ constexpr std::string_view kVersesWord = "%vs%";
 
 void CheckTextLength(std::size_t length) {
   if (length <= kLongestText) return;
-  throw RunTimeError(kInvalidProcedureCall, "The text is longer than " + std::to_string(kLongestText) + " bytes.");
+  throw RunTimeError(kInvalidProcedureCall, "The text is longer than " + std::to_string(kLongestText) + " bytes.")
+      .About(Subject::kTemplate);
 }
 
 [[noreturn]] void FailEndless(std::string_view word, std::string_view value) {
   throw RunTimeError(kInvalidProcedureCall, std::string(word),
-                     "The replacement does not end. Its value: " + Quoted(value));
+                     "The replacement does not end. Its value: " + Quoted(value))
+      .About(Subject::kTemplate);
 }
 
 // Replaces the first occurrence until there is none, those included that a value makes with what stands around it. Each
@@ -119,7 +121,7 @@ std::optional<std::string> PageTitles::Build(std::string_view book, std::string_
     }
     return std::move(page.text);
   } catch (const RunTimeError& error) {
-    ui.ShowErrorReport(error.Number(), "Build Titles", Quoted(m_pattern) + "\r\n" + error.Extra());
+    ui.ShowErrorReport({Procedure::kBuildTitles, error, Quoted(m_pattern) + "\r\n"});
     return std::nullopt;
   }
 }

@@ -7,7 +7,8 @@ namespace folionet {
 
 int ChaptersOf(const PageInputs& inputs, int book) {
   if (book < 0 || book > kBooks) {
-    throw RunTimeError(kSubscriptOutOfRange, "Book " + std::to_string(book), "A book from 0 to 66 was expected.");
+    throw RunTimeError(kSubscriptOutOfRange, "Book " + std::to_string(book), "A book from 0 to 66 was expected.")
+        .About(Subject::kVerseFile);
   }
   return inputs.glob.ChaptersInBook[static_cast<std::size_t>(book)];
 }
@@ -20,7 +21,8 @@ void AddChapterLink(std::string& text, const PageInputs& inputs, int book, int c
 
 void CheckLength(const std::string& text, const char* what) {
   if (text.size() <= PageFile::kLongest) return;
-  throw RunTimeError(kOutOfMemory, what, "They are longer than " + std::to_string(PageFile::kLongest) + " bytes.");
+  throw RunTimeError(kOutOfMemory, what, "They are longer than " + std::to_string(PageFile::kLongest) + " bytes.")
+      .About(Subject::kPage);
 }
 
 std::string BuildChapterNav(const PageInputs& inputs, const CompileContext& context, int book) {

@@ -21,7 +21,8 @@ void PageFile::Open(const std::string& folder, const std::string& name) {
   m_folder = folder;
   if (!IsPageName(name)) {
     throw RunTimeError(kBadFileName, folder + name,
-                       "Choose 8.3 file names or another address, for no page can have this name: \"" + name + "\"");
+                       "Choose 8.3 file names or another address, for no page can have this name: \"" + name + "\"")
+        .About(Subject::kPage);
   }
   m_name = name;
   m_size = 0;
@@ -30,7 +31,8 @@ void PageFile::Open(const std::string& folder, const std::string& name) {
 void PageFile::Grow(std::size_t size) {
   if (size > kLongest) {
     throw RunTimeError(kOutOfMemory, NativePath(m_folder) + m_name,
-                       "The page is longer than " + std::to_string(kLongest) + " bytes.");
+                       "The page is longer than " + std::to_string(kLongest) + " bytes.")
+        .About(Subject::kPage);
   }
   m_room = std::min(2 * size, kLongest);
   auto text = std::make_unique_for_overwrite<char[]>(m_room);
@@ -38,7 +40,9 @@ void PageFile::Grow(std::size_t size) {
   m_text = std::move(text);
 }
 
-PageChange PageFile::Close() { return m_site->Write(m_name, Text()); }
+PageChange PageFile::Close() {
+  return WorkAbout(Subject::kPage, [&] { return m_site->Write(m_name, Text()); });
+}
 
 std::string PageFile::Take() { return std::string(Text()); }
 

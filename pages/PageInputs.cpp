@@ -17,7 +17,8 @@ std::string IndexText(const PageInputs& inputs, std::string_view pattern) {
 
 const std::string& BookName(const PageInputs& inputs, int book) {
   if (book < 1 || static_cast<std::size_t>(book) > inputs.glob.cboStartBook.size()) {
-    throw RunTimeError(kSubscriptOutOfRange, "Book " + std::to_string(book), "There is no title for it.");
+    throw RunTimeError(kSubscriptOutOfRange, "Book " + std::to_string(book), "There is no title for it.")
+        .About(Subject::kBookTitles);
   }
   return inputs.glob.cboStartBook[static_cast<std::size_t>(book - 1)];
 }

@@ -51,7 +51,9 @@ void SiteFolder::Open(const std::string& path, bool dryRun) {
   m_path = NativePath(path);
   m_dryRun = dryRun;
   m_folder = FileHandle::Open(m_path.c_str(), O_RDONLY | O_DIRECTORY);
-  if (!m_folder.IsOpen() && !(dryRun && errno == ENOENT)) throw RunTimeError::FromErrno(errno, m_path);
+  if (!m_folder.IsOpen() && !(dryRun && errno == ENOENT)) {
+    throw RunTimeError::FromErrno(errno, m_path).About(Subject::kOutputFolder);
+  }
   m_isOpen = true;
 }
 
@@ -59,7 +61,8 @@ void SiteFolder::Lock() const {
   if (m_dryRun || LockFile(m_folder.Get(), std::chrono::milliseconds(0))) return;
   throw RunTimeError(
       kPermissionDenied, m_path,
-      LockHolder(m_folder.Get()) + " is writing into this folder. Wait for that to end, or choose another folder.");
+      LockHolder(m_folder.Get()) + " is writing into this folder. Wait for that to end, or choose another folder.")
+      .About(Subject::kOutputFolder);
 }
 
 PageChange SiteFolder::Write(const std::string& name, std::string_view text) {

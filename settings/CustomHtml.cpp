@@ -8,8 +8,8 @@
 namespace folionet {
 namespace {
 
-void Report(const RunTimeError& error, const CustomHtmlKind& kind, std::string_view label, UserInterface& ui) {
-  ui.ShowErrorReport(error.Number(), label, std::string(kind.fileName) + "\r\n" + error.Extra());
+void Report(const RunTimeError& error, const CustomHtmlKind& kind, Procedure procedure, UserInterface& ui) {
+  ui.ShowErrorReport({procedure, error.About(Subject::kCustomHtml), std::string(kind.fileName) + "\r\n"});
 }
 
 }  // namespace
@@ -19,7 +19,7 @@ bool LoadCustomHtml(const OwnFolder& folder, const CustomHtmlKind& kind, std::st
     if (std::optional<std::string> read = ReadOwnText(folder, kind.fileName)) text = std::move(*read);
     return true;
   } catch (const RunTimeError& error) {
-    Report(error, kind, kind.loadLabel, ui);
+    Report(error, kind, kind.load, ui);
     return false;
   }
 }
@@ -29,7 +29,7 @@ bool SaveCustomHtml(const OwnFolder& folder, const CustomHtmlKind& kind, std::st
     SaveOwnText(folder, kind.fileName, std::string(text) + "\r\n");
     return true;
   } catch (const RunTimeError& error) {
-    Report(error, kind, "Unload_Form", ui);
+    Report(error, kind, Procedure::kUnloadCustomHtml, ui);
     return false;
   }
 }

@@ -7,8 +7,8 @@
 namespace folionet {
 
 void ReadEncodingList(const OwnFolder& folder, std::string_view name, std::vector<std::string>& entries) {
-  const OwnTextSource source = FindOwnText(folder, name);
-  RecordReader records(source.path);
+  const OwnTextSource source = WorkAbout(Subject::kEncodingList, [&] { return FindOwnText(folder, name); });
+  RecordReader records(source.path, Subject::kEncodingList);
   std::array<std::string_view, 2> fields;
   while (records.Next(fields)) {
     entries.push_back(source.codePage.Decode(std::string(fields[0]).append(" ").append(fields[1])));
@@ -16,7 +16,9 @@ void ReadEncodingList(const OwnFolder& folder, std::string_view name, std::vecto
 }
 
 void AppendEncodingRecord(const OwnFolder& folder, std::string_view name, const EncodingRecord& record) {
-  AddToOwnText(folder, name, QuotedRecord(std::array{record.code, record.description}));
+  WorkAbout(Subject::kEncodingList, [&] {
+    AddToOwnText(folder, name, QuotedRecord(std::array{record.code, record.description}));
+  });
 }
 
 }  // namespace folionet

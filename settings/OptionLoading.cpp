@@ -24,7 +24,8 @@ void MarkDefaultSwatches(EffectsOptions& effects) {
 void FinishLinkToMain(LinkToMainOptions& link) {
   if (const std::string_view word = AlignmentWord(link.LCR); !word.empty()) link.alignment = word;
   if (ReadInteger(link.cboSize, kInt16Min, kInt16Max - 8).error != 0) {
-    throw RunTimeError(kOverflow, "LinkBackSize", "The size plus 8 points must fit 16 bits: " + link.cboSize);
+    throw RunTimeError(kOverflow, "LinkBackSize", "The size plus 8 points must fit 16 bits: " + link.cboSize)
+        .About(Subject::kSetting);
   }
 }
 
@@ -46,7 +47,8 @@ void LoadOption(const StoredSettings& store, const Option& option, PageOptions& 
   if (error != 0) {
     throw RunTimeError(error, store.FilePath(kApplicationTitle),
                        std::string("The setting ").append(option.key).append(" must be ") +
-                           std::string(Describe(option.form)) + ": \"" + text + "\"");
+                           std::string(Describe(option.form)) + ": \"" + text + "\"")
+        .About(Subject::kSetting);
   }
   SetOption(option, text, options);
   options.maySave.set(place);

@@ -15,7 +15,8 @@ std::string EncodingCode(std::string_view entry, std::string_view what) {
   const std::size_t blank = entry.find(' ');
   if (blank == std::string_view::npos) {
     throw RunTimeError(kInvalidProcedureCall, std::string(what),
-                       "A code, a blank and a description were expected: \"" + std::string(entry) + "\"");
+                       "A code, a blank and a description were expected: \"" + std::string(entry) + "\"")
+        .About(Subject::kSetting);
   }
   return std::string(entry.substr(0, blank));
 }

@@ -72,8 +72,8 @@ std::string FindProgramFolder(const std::string& chosen) {
   if (!chosen.empty() || folder == ExecutableFolder()) return folder;
   std::error_code error;
   std::filesystem::create_directories(folder, error);
-  if (error) throw RunTimeError::FromErrno(error.value(), folder);
-  DeliverFiles(InstalledDataFolder(), folder);
+  if (error) throw RunTimeError::FromErrno(error.value(), folder).About(Subject::kProgramFolder);
+  WorkAbout(Subject::kProgramFolder, [&] { DeliverFiles(InstalledDataFolder(), folder); });
   return folder;
 }
 

@@ -38,7 +38,8 @@ void SettingsStore::SaveSetting(std::string_view application, std::string_view s
 
 void SettingsStore::MakeFolder() const {
   if (Folder().empty()) {
-    throw RunTimeError(kPathNotFound, FilePath(kApplicationTitle), "HOME does not name a folder to save it in.");
+    throw RunTimeError(kPathNotFound, FilePath(kApplicationTitle), "HOME does not name a folder to save it in.")
+        .About(Subject::kSettingsFile);
   }
   std::error_code ignored;
   std::filesystem::create_directories(Folder(), ignored);
@@ -50,8 +51,10 @@ void SettingsStore::Sync(std::string_view application) {
   MakeFolder();
   // Another program may have saved since the file was read: what it changed is kept.
   IniValues values;
-  EditWholeFile(FilePath(application), kLongestFile,
-                [&](const std::string& content) { return Merged(content, changes, values); });
+  WorkAbout(Subject::kSettingsFile, [&] {
+    EditWholeFile(FilePath(application), kLongestFile,
+                  [&](const std::string& content) { return Merged(content, changes, values); });
+  });
   Take(application, std::move(values));
 }
 
@@ -88,7 +91,7 @@ void SettingsStore::DeleteSetting(std::string_view application) {
   const bool hasFile = !Folder().empty();
   if (hasFile && std::rename(path.c_str(), (path + ".before-restore").c_str()) != 0 && errno != ENOENT &&
       errno != ENOTDIR) {
-    throw RunTimeError::FromErrno(errno, path);
+    throw RunTimeError::FromErrno(errno, path).About(Subject::kSettingsFile);
   }
   Take(application, {});
 }

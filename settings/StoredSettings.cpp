@@ -4,6 +4,7 @@
 #include "JointChange.h"
 #include "OptionTable.h"
 #include "Paths.h"
+#include "RunTimeError.h"
 #include "WholeFile.h"
 
 namespace folionet {
@@ -19,7 +20,7 @@ std::string StoredSettings::FilePath(std::string_view application) const {
 std::string StoredSettings::UnfinishedNote() const { return m_folder + "." + kApplicationTitle + ".unfinished"; }
 
 void StoredSettings::FinishChange() const {
-  if (!m_folder.empty()) FinishJointChange(UnfinishedNote());
+  if (!m_folder.empty()) WorkAbout(Subject::kSettingsFile, [&] { FinishJointChange(UnfinishedNote()); });
 }
 
 std::string StoredSettings::GetSetting(std::string_view application, std::string_view section, std::string_view key,
@@ -37,8 +38,9 @@ std::string StoredSettings::NameOf(std::string_view section, std::string_view ke
 std::optional<std::string> StoredSettings::Stored(std::string_view application, const std::string& name) const {
   auto area = m_areas.find(application);
   if (area == m_areas.end()) {
-    const std::optional<std::string> text =
-        m_folder.empty() ? std::nullopt : ReadIfThere(FilePath(application), kLongestFile);
+    const std::optional<std::string> text = m_folder.empty() ? std::nullopt : WorkAbout(Subject::kSettingsFile, [&] {
+      return ReadIfThere(FilePath(application), kLongestFile);
+    });
     area = m_areas.emplace(application, text ? ParseIni(*text) : IniValues()).first;
   }
   const auto found = area->second.find(name);

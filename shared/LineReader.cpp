@@ -21,13 +21,14 @@ constexpr char kCtrlZ = 0x1A;  // older programs end a text file with it
 
 }  // namespace
 
-LineReader::LineReader(const std::string& path, std::size_t longest)
+LineReader::LineReader(const std::string& path, Subject subject, std::size_t longest)
     // A pipe in the place of a file must not block the opening.
     : m_path(path), m_longest(longest), m_file(FileHandle::Open(path.c_str(), O_RDONLY | O_NONBLOCK)) {
-  if (!m_file.IsOpen()) throw RunTimeError::FromErrno(errno, path);
+  if (!m_file.IsOpen()) throw RunTimeError::FromErrno(errno, path).About(subject);
   struct stat status {};
-  if (fstat(m_file.Get(), &status) != 0) throw RunTimeError::FromErrno(errno, path);
-  if (!S_ISREG(status.st_mode)) throw RunTimeError(kPathFileAccessError, path, "It is not a regular file.");
+  if (fstat(m_file.Get(), &status) != 0) throw RunTimeError::FromErrno(errno, path).About(subject);
+  if (!S_ISREG(status.st_mode))
+    throw RunTimeError(kPathFileAccessError, path, "It is not a regular file.").About(subject);
   // One byte more than the file has shows its end in the first fill.
   m_buffer.resize(std::min(kChunk, static_cast<std::size_t>(status.st_size) + 1));
   Fill();
@@ -59,7 +60,7 @@ void LineReader::Fill() {
   while (m_end < m_buffer.size()) {
     const ssize_t count = read(m_file.Get(), m_buffer.data() + m_end, m_buffer.size() - m_end);
     if (count < 0 && errno == EINTR) continue;
-    if (count < 0) throw RunTimeError::FromErrno(errno, m_path);
+    if (count < 0) throw RunTimeError::FromErrno(errno, m_path).About(m_subject);
     if (count == 0) {
       m_atEnd = true;
       while (m_end > m_begin && m_buffer[m_end - 1] == kCtrlZ) {
@@ -146,7 +147,7 @@ bool LineReader::IsRestBlank() {
 }
 
 void LineReader::Fail(int number, const std::string& detail) const {
-  throw RunTimeError(number, m_path, detail, m_lineNumber);
+  throw RunTimeError(number, m_path, detail, m_lineNumber).About(m_subject);
 }
 
 }  // namespace folionet

@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "FileHandle.h"
+#include "RunTimeError.h"
 
 namespace folionet {
 
@@ -21,8 +22,8 @@ class LineReader {
   static constexpr std::size_t kLongestLine = std::size_t{4} << 20;
   static constexpr std::size_t kLongestEntry = std::size_t{64} << 10;
 
-  // Opens the file; throws RunTimeError when that fails or when it is no regular file.
-  explicit LineReader(const std::string& path, std::size_t longest = kLongestLine);
+  // Opens the file; throws RunTimeError when that fails or when it is no regular file. Every error is about `subject`.
+  explicit LineReader(const std::string& path, Subject subject, std::size_t longest = kLongestLine);
 
   // Gives the next line without its end; false at the end of the file. The line is valid until the next call. Throws
   // RunTimeError when reading fails.
@@ -74,6 +75,7 @@ class LineReader {
   [[noreturn]] void FailTooLong() const;
 
   std::string m_path;
+  Subject m_subject;
   std::size_t m_longest;
   FileHandle m_file;
   std::string m_buffer;

@@ -17,7 +17,7 @@ namespace folionet {
 // hold nothing but blanks are skipped.
 class RecordReader {
  public:
-  explicit RecordReader(const std::string& path) : m_lines(path, LineReader::kLongestEntry) {}
+  RecordReader(const std::string& path, Subject subject) : m_lines(path, subject, LineReader::kLongestEntry) {}
 
   // Reads the next record into `fields`, which must be as many as the record has; they are valid until the next call.
   // False at the end of the file. Throws RunTimeError: kInputPastEnd when the record has fewer fields or a quote is not

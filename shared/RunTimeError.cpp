@@ -96,6 +96,12 @@ RunTimeError RunTimeError::FromErrno(int systemError, const std::string& path) {
   return {NumberOf(systemError, path), path, std::generic_category().message(systemError)};
 }
 
+RunTimeError RunTimeError::About(Subject subject) const {
+  RunTimeError error = *this;
+  error.m_subject = subject;
+  return error;
+}
+
 std::string RunTimeError::Extra() const {
   std::string text = Escaped(m_item);
   if (m_line != 0) text += "\r\nLine " + std::to_string(m_line);

@@ -29,6 +29,27 @@ inline constexpr int kPathNotFound = 76;
 // The fixed text of an error number, without a full stop; numbers outside the table share one general text.
 std::string_view StandardMessage(int number);
 
+// What a failure is about, for those who tell a person what to do.
+enum class Subject {
+  kNone,
+  kSetting,       // the value of one
+  kSettingsFile,  // a file that settings are stored in, or the note of a change of it
+  kProgramFolder,
+  kEncodingList,  // of charsets or languages
+  kCustomHtml,    // the header or footer of a person's own
+  kStyleSheet,
+  kTemplate,  // a text with words to fill in
+  kIndexAddress,
+  kOutputFolder,
+  kPage,  // or another file of a site
+  kDefinitionsFolder,
+  kCatalogue,
+  kBookTitles,
+  kChapterIndex,
+  kVerseFile,
+  kImportedFile,  // a text to import, or the archive that holds it
+};
+
 // A statement that failed. Only the routines that carry a report label catch it: they hand it to
 // UserInterface::ShowErrorReport and leave.
 class RunTimeError : public std::exception {
@@ -41,7 +62,11 @@ class RunTimeError : public std::exception {
   // folder that exists is 53, in a missing folder 76.
   static RunTimeError FromErrno(int systemError, const std::string& path);
 
+  // The same error, about this.
+  RunTimeError About(Subject subject) const;
+
   int Number() const { return m_number; }
+  Subject About() const { return m_subject; }
   const std::string& Item() const { return m_item; }
   const std::string& Detail() const { return m_detail; }
   std::size_t Line() const { return m_line; }
@@ -59,8 +84,20 @@ class RunTimeError : public std::exception {
   std::string m_item;
   std::string m_detail;
   std::size_t m_line;
+  Subject m_subject = Subject::kNone;
   std::string m_what;
 };
+
+// Runs `work`, which may know no more of a file than its path: an error that it throws without a subject is about this.
+template <typename Work>
+auto WorkAbout(Subject subject, const Work& work) -> decltype(work()) {
+  try {
+    return work();
+  } catch (const RunTimeError& error) {
+    if (error.About() != Subject::kNone) throw;
+    throw error.About(subject);
+  }
+}
 
 // Leaves a run whose failure has been reported already; the labelled routine that catches it says nothing more.
 class AlreadyReported : public std::exception {};

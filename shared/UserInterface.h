@@ -6,17 +6,33 @@
 #include <string_view>
 
 #include "Colours.h"
+#include "ErrorReport.h"
 #include "PageOptions.h"
 
 namespace folionet {
 
 enum class MessageIcon { kInformation, kWarning, kCritical };
 
+// What a box is about, for those who tell a person what to do next.
+enum class Topic {
+  kOther,
+  kResult,  // what was asked for: the command line gives it on standard output
+  kNoOutputFolder,
+  kNoTranslation,
+  kNoIndexAddress,
+  kNoBookTitles,
+  kLongExtension,
+  kShortName,
+  kNoReadableText,
+  kNoChapterIndex,
+  kBadChapterIndex,
+};
+
 struct Message {
   MessageIcon icon = MessageIcon::kInformation;
   std::string title;
-  std::string text;       // lines joined by CR LF
-  bool isResult = false;  // what was asked for: the command line gives it on standard output
+  std::string text;  // lines joined by CR LF
+  Topic topic = Topic::kOther;
 };
 
 struct InputBox {
@@ -41,7 +57,7 @@ class UserInterface {
   virtual std::optional<std::string> AskText(const InputBox& box) = 0;
 
   // The one error report. Returns when the person has closed it.
-  virtual void ShowErrorReport(int errorNumber, std::string_view moduleLabel, const std::string& extraInfo) = 0;
+  virtual void ShowErrorReport(const ErrorReport& report) = 0;
 
   // Sets a panel of the status bar, counted from 1.
   virtual void SetPanel(int panel, std::string_view text) = 0;

@@ -43,14 +43,16 @@ void ReadBookTitles(ModGlob& glob, const std::string& fileName) {
   glob.cboStartBook.clear();
   glob.cboEndBook.clear();
   if (fileName.find_first_of("/\\") != std::string::npos) {
-    throw RunTimeError(kBadFileName, fileName, "The name of a book-title file without a folder was expected.");
+    throw RunTimeError(kBadFileName, fileName, "The name of a book-title file without a folder was expected.")
+        .About(Subject::kBookTitles);
   }
-  LineReader lines(SysdefsFile(glob, fileName), LineReader::kLongestEntry);
+  LineReader lines(SysdefsFile(glob, fileName), Subject::kBookTitles, LineReader::kLongestEntry);
   for (std::size_t book = 1; book <= kBooks; ++book) {
     std::string_view line;
     if (!NextTitleLine(lines, line)) {
       throw RunTimeError(kInputPastEnd, lines.Path(),
-                         "The titles of 66 books were expected, " + std::to_string(book - 1) + " found.");
+                         "The titles of 66 books were expected, " + std::to_string(book - 1) + " found.")
+          .About(Subject::kBookTitles);
     }
     BookTitle parsed = ParseBookTitle(lines, line);
     glob.cboStartBook.push_back(parsed.title);
@@ -73,13 +75,14 @@ Outcome GetLang(ModGlob& glob, UserInterface& ui) {
   constexpr char kNoneFound[] = "No Language Definition file found\r\n";
   glob.cboLang.clear();
   try {
-    glob.cboLang = LanguageFiles(glob);
+    glob.cboLang = WorkAbout(Subject::kDefinitionsFolder, [&] { return LanguageFiles(glob); });
     if (glob.cboLang.empty()) {
-      throw RunTimeError(kFileNotFound, glob.SysdefsPath + std::string(kPrefix) + "*" + std::string(kSuffix));
+      throw RunTimeError(kFileNotFound, glob.SysdefsPath + std::string(kPrefix) + "*" + std::string(kSuffix))
+          .About(Subject::kDefinitionsFolder);
     }
     return Outcome::kDone;
   } catch (const RunTimeError& error) {
-    ui.ShowErrorReport(error.Number(), "GetLang", kNoneFound + error.Extra());
+    ui.ShowErrorReport({Procedure::kGetLang, error, kNoneFound});
     return Outcome::kReported;
   }
 }

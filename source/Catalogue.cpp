@@ -87,7 +87,7 @@ void FailMoreThanMostListed(const RecordReader& records) {
 }
 
 void ReadCatalogue(ModGlob& glob, const CodePage& codePage) {
-  RecordReader records(SysdefsFile(glob, kCatalogueName));
+  RecordReader records(SysdefsFile(glob, kCatalogueName), Subject::kCatalogue);
   glob.BibleNames.assign(1, {});
   glob.BibleFiles.assign(1, {});
   glob.BibleImports.assign(1, {});
@@ -131,7 +131,7 @@ Outcome PopulateCombos(int which, const std::string& cboLang, ModGlob& glob, con
       if (glob.Imported.IsThere()) EncodeTitles(glob, codePage);
       return Outcome::kDone;
     } catch (const RunTimeError& error) {
-      ui.ShowErrorReport(error.Number(), "Populate Combos", error.Extra());
+      ui.ShowErrorReport({Procedure::kPopulateCombos, error});
     }
     WarnOfWrongPaths(ui);
     ++failures;

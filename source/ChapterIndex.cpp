@@ -28,7 +28,7 @@ constexpr std::size_t kByteValues = 256;
 
 // Of an imported translation: by the books' own numbers, with the chapters that are missing.
 void CountImported(ModGlob& glob, const std::string& path) {
-  RecordReader records(path);
+  RecordReader records(path, Subject::kChapterIndex);
   std::array<std::string_view, kFields> fields;
   std::set<std::pair<int, int>> there;
   while (records.Next(fields)) {
@@ -91,7 +91,7 @@ class IndexReading {
  public:
   explicit IndexReading(const std::string& path) : m_path(path), m_stamp(StampOf(path)), lastInput(LastInput({})) {
     try {
-      RecordReader records(path);
+      RecordReader records(path, Subject::kChapterIndex);
       Fields fields;
       while (ReadOn(records, fields)) {
       }
@@ -180,7 +180,7 @@ Outcome BooksInChapters(ModGlob& glob, std::size_t translation, const CodePage& 
   std::string path;
   try {
     if (translation >= glob.BibleFiles.size()) {
-      throw RunTimeError(kSubscriptOutOfRange, "No translation is selected.");
+      throw RunTimeError(kSubscriptOutOfRange, "No translation is selected.").About(Subject::kCatalogue);
     }
     path = IndexFile(glob, codePage, glob.BibleFiles[translation]);
     if (!FileExists(path)) {
@@ -188,7 +188,8 @@ Outcome BooksInChapters(ModGlob& glob, std::size_t translation, const CodePage& 
                       "Cannot find: " + path + ".\r\nWithout this file " + title +
                           " cannot continue.\r\nTo create this file run Versalia on '" +
                           codePage.DecodeForDisplay(glob.BibleNames[translation]) + "' first.\r\n" + title +
-                          " will now close."});
+                          " will now close.",
+                      Topic::kNoChapterIndex});
       return Outcome::kEndProgram;
     }
     glob.missingChapters.clear();
@@ -202,7 +203,7 @@ Outcome BooksInChapters(ModGlob& glob, std::size_t translation, const CodePage& 
     if (reading.countFailure) throw RunTimeError(*reading.countFailure);
     return Outcome::kDone;
   } catch (const RunTimeError& error) {
-    ui.ShowErrorReport(error.Number(), "BooksInChapters", error.Extra());
+    ui.ShowErrorReport({Procedure::kBooksInChapters, error});
     return Outcome::kReported;
   }
 }
@@ -212,11 +213,12 @@ Outcome LoadVerseCount(ModGlob& glob, const std::string& path, UserInterface& ui
   glob.ChapterIndex = reading.entries;
   if (!reading.entryFailure) return Outcome::kDone;
   const RunTimeError& error = *reading.entryFailure;
-  ui.ShowErrorReport(error.Number(), "Load Verse Count", reading.lastInput + "\r\n" + error.Extra());
+  ui.ShowErrorReport({Procedure::kLoadVerseCount, error, reading.lastInput + "\r\n"});
   ui.ShowMessage({MessageIcon::kCritical, "File not found",
                   std::string(kApplicationTitle) + " could not find the file\r\n" + path +
                       "\r\nThis file is created automatically by Versalia.\r\n"
-                      "Please do a search on this Bible in Versalia to create it and try again."});
+                      "Please do a search on this Bible in Versalia to create it and try again.",
+                  Topic::kBadChapterIndex});
   return Outcome::kEndProgram;
 }
 
@@ -240,9 +242,9 @@ int VerseCounts::BookOf(std::string_view title) const {
 std::string VerseCounts::GetVSCnt(int book, std::string_view chapter, UserInterface& ui) const {
   const auto number = LeadingInteger(chapter);
   if (!number) {
-    ui.ShowErrorReport(kOverflow, "GetVSCnt",
-                       "Last Book 0\r\nLast Chap " + Quoted(chapter) + "\r\nLast Index 0\r\n" +
-                           "A chapter from -32768 to 32767 was expected.");
+    ui.ShowErrorReport({Procedure::kGetVSCnt, kOverflow,
+                        "Last Book 0\r\nLast Chap " + Quoted(chapter) + "\r\nLast Index 0\r\n" +
+                            "A chapter from -32768 to 32767 was expected."});
     return {};
   }
   const std::size_t place = kByteValues * static_cast<std::size_t>(book) + static_cast<std::size_t>(*number);

@@ -23,7 +23,7 @@ struct Verse {
 
 class VerseFileReader {
  public:
-  explicit VerseFileReader(const std::string& path) : m_lines(path) {}
+  explicit VerseFileReader(const std::string& path) : m_lines(path, Subject::kVerseFile) {}
   VerseFileReader(const VerseFileReader&) = delete;
   VerseFileReader& operator=(const VerseFileReader&) = delete;
 

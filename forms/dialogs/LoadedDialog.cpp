@@ -25,7 +25,7 @@ void LoadedDialog::showEvent(QShowEvent* event) {
   try {
     if (!m_isLoaded) LoadForm();
   } catch (const RunTimeError& error) {
-    m_reports.ShowErrorReport(error.Number(), "Form Load - MAIN", error.Extra());
+    m_reports.ShowErrorReport({Procedure::kFormLoad, error});
   }
   DressBoxes(*this);
   QDialog::showEvent(event);

@@ -4,7 +4,7 @@
 
 namespace folionet {
 
-bool TrySave(AppState& state, std::string_view label, const std::function<void(SettingsStore&)>& save) {
+bool TrySave(AppState& state, Procedure procedure, const std::function<void(SettingsStore&)>& save) {
   try {
     save(state.store);
     state.lastSaveFailure.clear();
@@ -12,7 +12,7 @@ bool TrySave(AppState& state, std::string_view label, const std::function<void(S
   } catch (const RunTimeError& error) {
     if (state.lastSaveFailure != error.what()) {
       state.lastSaveFailure = error.what();
-      state.ui.ShowErrorReport(error.Number(), label, error.Extra());
+      state.ui.ShowErrorReport({procedure, error});
     }
     return false;
   }

@@ -16,9 +16,9 @@ frmAddnew::frmAddnew(AppState& state, QWidget* parent)
     : QDialog(parent), m_state(state), m_ui(std::make_unique<Ui::frmAddnew>()) {
   m_ui->setupUi(this);
   connect(m_ui->cmdUpdLang, &QPushButton::clicked, this,
-          [this] { AddRecord(kLanguageList, "cmdUpdLang_Click", *m_ui->txtLangAbbr, *m_ui->txtLangLang); });
+          [this] { AddRecord(kLanguageList, Procedure::kUpdateLanguages, *m_ui->txtLangAbbr, *m_ui->txtLangLang); });
   connect(m_ui->cmdUpdEnc, &QPushButton::clicked, this,
-          [this] { AddRecord(kCharsetList, "cmdUpdEnc_Click", *m_ui->txtEncAbbr, *m_ui->txtEncLang); });
+          [this] { AddRecord(kCharsetList, Procedure::kUpdateCharsets, *m_ui->txtEncAbbr, *m_ui->txtEncLang); });
   connect(m_ui->cmdCancel, &QPushButton::clicked, this, [this] {
     m_hasAdded = false;
     emit ListsChanged();
@@ -44,7 +44,7 @@ void frmAddnew::reject() {
   QDialog::reject();
 }
 
-void frmAddnew::AddRecord(const char* fileName, const char* label, const QLineEdit& abbreviation,
+void frmAddnew::AddRecord(const char* fileName, Procedure procedure, const QLineEdit& abbreviation,
                           const QLineEdit& language) {
   const EncodingRecord record{FromQt(InOneLine(abbreviation.text()).trimmed()),
                               FromQt(InOneLine(language.text()).trimmed())};
@@ -57,7 +57,7 @@ void frmAddnew::AddRecord(const char* fileName, const char* label, const QLineEd
     m_hasAdded = true;
     m_state.ui.ShowMessage({MessageIcon::kInformation, "Record Added", "Record Added"});
   } catch (const RunTimeError& error) {
-    m_state.ui.ShowErrorReport(error.Number(), label, error.Extra());
+    m_state.ui.ShowErrorReport({procedure, error});
   }
 }
 

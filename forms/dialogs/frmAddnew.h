@@ -39,7 +39,7 @@ class frmAddnew : public QDialog {
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
-  void AddRecord(const char* fileName, const char* label, const QLineEdit& abbreviation, const QLineEdit& language);
+  void AddRecord(const char* fileName, Procedure procedure, const QLineEdit& abbreviation, const QLineEdit& language);
 
   AppState& m_state;
   std::unique_ptr<Ui::frmAddnew> m_ui;

@@ -29,7 +29,7 @@ frmBackground::frmBackground(AppState& state, QWidget* parent)
   Follow(m_ui->txtImagepath, m_record.txtImagepath);
   Follow(m_ui->chkWaterMark, m_record.chkWaterMark);
   connect(m_ui->chkWaterMark, &QCheckBox::clicked, this, [this] {
-    TrySave(m_state, "chkWaterMark_Click",
+    TrySave(m_state, Procedure::kClickWaterMark,
             [this](SettingsStore& store) { SaveOption(store, "WaterMark", m_state.options); });
   });
   connect(m_ui->cmdImageName, &QPushButton::clicked, this, &frmBackground::SelectImage);
@@ -60,7 +60,7 @@ void frmBackground::SelectImage() {
 }
 
 void frmBackground::SaveImage() {
-  TrySave(m_state, "SaveBackImage",
+  TrySave(m_state, Procedure::kSaveBackImage,
           [this](SettingsStore& store) { SaveOptions(store, OptionPart::kBackground, m_state.options); });
 }
 

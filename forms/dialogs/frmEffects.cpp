@@ -113,7 +113,7 @@ void frmEffects::BuildEffects() {
 
 void frmEffects::Close() {
   BuildEffects();
-  TrySave(m_state, "SaveDefaultHyperlinkColors",
+  TrySave(m_state, Procedure::kSaveHyperlinkColours,
           [this](SettingsStore& store) { SaveOptions(store, OptionPart::kEffects, m_state.options); });
   hide();
 }

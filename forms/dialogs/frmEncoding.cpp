@@ -40,7 +40,7 @@ void frmEncoding::PopCombo() {
     Fill(kCharsetList, "Charset", *m_ui->cboCharset, *m_ui->txtCharset);
     Fill(kLanguageList, "Lang", *m_ui->cboLang, *m_ui->txtLang);
   } catch (const RunTimeError& error) {
-    m_state.ui.ShowErrorReport(error.Number(), "PopulateCharset", error.Extra());
+    m_state.ui.ShowErrorReport({Procedure::kPopulateCharset, error});
   }
 }
 
@@ -96,7 +96,7 @@ void frmEncoding::SaveLists() {
   };
   take(*m_ui->cboLang, entries.cboLang);
   take(*m_ui->cboCharset, entries.cboCharset);
-  const bool isSaved = TrySave(m_state, "UnloadEncoding", [this](SettingsStore& store) {
+  const bool isSaved = TrySave(m_state, Procedure::kUnloadEncoding, [this](SettingsStore& store) {
     SaveEncoding(store, m_state.programFolder, m_state.options);
   });
   if (!isSaved) entries = before;
@@ -114,8 +114,7 @@ bool frmEncoding::SaveAndUse() {
     encoding.PageLanguage = EncodingCode(typedLanguage, "Lang");
     encoding.PageCharset = EncodingCode(typedCharset, "Charset");
   } catch (const RunTimeError& error) {
-    m_state.ui.ShowErrorReport(error.Number(), "UnloadEncoding",
-                               typedLanguage + "\r\n" + typedCharset + "\r\n" + error.Extra());
+    m_state.ui.ShowErrorReport({Procedure::kUnloadEncoding, error, typedLanguage + "\r\n" + typedCharset + "\r\n"});
     isDone = false;
   }
   m_state.texts.PageLanguage = encoding.PageLanguage;

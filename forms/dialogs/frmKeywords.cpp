@@ -59,7 +59,7 @@ bool frmKeywords::RefreshTitles() {
 }
 
 void frmKeywords::Close() {
-  TrySave(m_state, "SaveMETA",
+  TrySave(m_state, Procedure::kSaveMeta,
           [this](SettingsStore& store) { SaveOptions(store, OptionPart::kKeywords, m_state.options); });
   hide();
 }

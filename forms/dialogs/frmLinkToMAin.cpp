@@ -56,7 +56,8 @@ void frmLinkToMAin::SetSizeEnabled(bool isEnabled) { m_ui->cboSize->setEnabled(i
 void frmLinkToMAin::Justify(int justification) {
   m_record.LCR = static_cast<std::int16_t>(justification);
   ShowJustification();
-  TrySave(m_state, "SetJustification", [&](SettingsStore& store) { SaveOption(store, "LCR", m_state.options); });
+  TrySave(m_state, Procedure::kSetJustification,
+          [&](SettingsStore& store) { SaveOption(store, "LCR", m_state.options); });
   m_record.alignment = AlignmentWord(justification);
   SetString();
 }
@@ -80,7 +81,8 @@ void frmLinkToMAin::SetFontSize(int size) {
     font.setPointSize(std::clamp(size + 8, 1, kLargestShown));
     box->setFont(font);
   }
-  TrySave(m_state, "SetFontSize", [&](SettingsStore& store) { store.SaveText("LinkBackSize", std::to_string(size)); });
+  TrySave(m_state, Procedure::kSetFontSize,
+          [&](SettingsStore& store) { store.SaveText("LinkBackSize", std::to_string(size)); });
   SetString();
 }
 
@@ -107,7 +109,7 @@ void frmLinkToMAin::Refresh() {
 
 void frmLinkToMAin::Close() {
   hide();
-  TrySave(m_state, "SaveLinkToMain",
+  TrySave(m_state, Procedure::kSaveLinkToMain,
           [this](SettingsStore& store) { SaveOptions(store, OptionPart::kLinkToMain, m_state.options); });
 }
 

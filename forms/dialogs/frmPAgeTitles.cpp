@@ -45,7 +45,7 @@ void frmPAgeTitles::showEvent(QShowEvent* event) {
 }
 
 void frmPAgeTitles::SaveTitles() {
-  TrySave(m_state, "SaveTitles",
+  TrySave(m_state, Procedure::kSaveTitles,
           [this](SettingsStore& store) { SaveOptions(store, OptionPart::kPageTitles, m_state.options); });
 }
 

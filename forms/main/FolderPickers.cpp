@@ -22,7 +22,7 @@ constexpr char kDefaultDrive[] = "C:";
 bool IsStored(const std::string& text) { return !text.empty() && text != kDefaultDrive; }
 
 void ReportDrive(UserInterface& ui, const RunTimeError& error) {
-  ui.ShowErrorReport(error.Number(), "Drive_Change", "Drive not Ready or Drive not Available.\r\n" + error.Extra());
+  ui.ShowErrorReport({Procedure::kDriveChange, error, "Drive not Ready or Drive not Available.\r\n"});
 }
 
 // The path as the lists have it: no separator at its end. A name that holds a backslash is taken as it is; in a path

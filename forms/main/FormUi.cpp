@@ -169,9 +169,9 @@ std::optional<std::string> FormUi::AskText(const InputBox& box) {
   return dialog.exec() == QDialog::Accepted ? FromQt(dialog.textValue()) : std::string();
 }
 
-void FormUi::ShowErrorReport(int errorNumber, std::string_view moduleLabel, const std::string& extraInfo) {
+void FormUi::ShowErrorReport(const ErrorReport& report) {
   if (!m_errorReport) m_errorReport = std::make_unique<frmErr>();
-  m_errorReport->ShowReport(BuildErrorReport(errorNumber, moduleLabel, extraInfo, ExecutableFolder()));
+  m_errorReport->ShowReport(BuildErrorReport(report, ExecutableFolder()));
 }
 
 void FormUi::SetPanel(int panel, std::string_view text) {

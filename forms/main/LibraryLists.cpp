@@ -174,7 +174,8 @@ void LibraryLists::ChooseLanguage() {
   m_controls.cboStartBook->clear();
   m_controls.cboEndBook->clear();
   m_state.options.main.cboLang = FromQt(m_controls.cboLang->Text());
-  TrySave(m_state, "cboLang_Click", [&](SettingsStore& store) { SaveOption(store, "cboLang", m_state.options); });
+  TrySave(m_state, Procedure::kClickBookTitles,
+          [&](SettingsStore& store) { SaveOption(store, "cboLang", m_state.options); });
   if (ReadLists(0) == Outcome::kEndProgram) {
     emit EndProgram();
     return;

@@ -21,13 +21,11 @@ class OnlyFailures : public UserInterface {
   explicit OnlyFailures(UserInterface& ui) : m_ui(ui) {}
 
   void ShowMessage(const Message& message) override {
-    if (!message.isResult) m_ui.ShowMessage(message);
+    if (message.topic != Topic::kResult) m_ui.ShowMessage(message);
   }
   bool AskYesNo(const std::string& title, const std::string& text) override { return m_ui.AskYesNo(title, text); }
   std::optional<std::string> AskText(const InputBox& box) override { return m_ui.AskText(box); }
-  void ShowErrorReport(int errorNumber, std::string_view moduleLabel, const std::string& extraInfo) override {
-    m_ui.ShowErrorReport(errorNumber, moduleLabel, extraInfo);
-  }
+  void ShowErrorReport(const ErrorReport& report) override { m_ui.ShowErrorReport(report); }
   void SetPanel(int /*panel*/, std::string_view /*text*/) override {}
   void FocusControl(std::string_view name) override { m_ui.FocusControl(name); }
 
@@ -83,7 +81,7 @@ void PagePreview::Show(CompileRequest request, const ModGlob& glob, UserInterfac
     }
     CopyPicture(request, folder);
   } catch (const RunTimeError& error) {
-    ui.ShowErrorReport(error.Number(), "cmdPreviewPage_Click", error.Extra());
+    ui.ShowErrorReport({Procedure::kPreviewPage, error});
     return;
   }
   request.txtOutputPath = folder;

@@ -149,7 +149,7 @@ void VerifyWrittenSite(const std::string& indexPage, QWidget& form, UserInterfac
       OfferRemoval(indexPage.substr(0, indexPage.rfind('/') + 1), report->stale, ui);
     }
   } catch (const RunTimeError& error) {
-    ui.ShowErrorReport(error.Number(), "cmdVerifySite_Click", error.Extra());
+    ui.ShowErrorReport({Procedure::kVerifySite, error});
   }
 }
 

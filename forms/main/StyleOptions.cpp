@@ -61,9 +61,9 @@ void StyleOptions::PickFont() {
     sample.FontItalic = chosen.FontItalic;
     ShowSample();
   } catch (const RunTimeError& error) {
-    m_state.ui.ShowErrorReport(error.Number(), "Select Font", "");
+    m_state.ui.ShowErrorReport({Procedure::kSelectFont, error.Number(), ""});
   } catch (const std::bad_alloc&) {
-    m_state.ui.ShowErrorReport(kOutOfMemory, "Select Font", "");
+    m_state.ui.ShowErrorReport({Procedure::kSelectFont, kOutOfMemory, ""});
   }
 }
 

@@ -80,7 +80,7 @@ void frmMain::ConnectOptions() {
   PageOptions& options = m_state.options;
   connect(m_ui->chkUseNames, &QCheckBox::clicked, this, [this, &options](bool on) {
     options.chkUseNames = on;
-    TrySave(m_state, "chkUseNames_Click",
+    TrySave(m_state, Procedure::kClickUseNames,
             [&](SettingsStore& store) { SaveOption(store, "chkUseNames", m_state.options); });
   });
   connect(m_ui->chkUse83, &QCheckBox::toggled, this, [&options](bool on) { options.chkUse83 = on; });
@@ -140,13 +140,14 @@ void frmMain::updateCheck() {
   m_state.options.chkBack = m_ui->chkBack->isChecked();
   m_ui->cmdBackColour->setEnabled(!m_state.options.chkBack);
   if (m_state.options.chkBack) Open<frmBackground>();
-  TrySave(m_state, "updateCheck", [&](SettingsStore& store) { SaveOption(store, "chkBack", m_state.options); });
+  TrySave(m_state, Procedure::kUpdateCheck,
+          [&](SettingsStore& store) { SaveOption(store, "chkBack", m_state.options); });
 }
 
 void frmMain::CSSCheck() {
   m_state.options.chkCSS = m_ui->chkCSS->isChecked();
   m_ui->cmdEffects->setEnabled(!m_state.options.chkCSS);
-  TrySave(m_state, "CSSCheck", [&](SettingsStore& store) { SaveOption(store, "chkCSS", m_state.options); });
+  TrySave(m_state, Procedure::kCssCheck, [&](SettingsStore& store) { SaveOption(store, "chkCSS", m_state.options); });
   m_style->EnableDisableOptions();
   if (!m_state.options.chkCSS) return;
   m_state.ui.ShowMessage({MessageIcon::kInformation, "CSS file to be used",
@@ -266,7 +267,7 @@ void frmMain::ShowHelp(const QWidget* control) {
 }
 
 bool frmMain::SaveDefaults() {
-  return TrySave(m_state, "SaveDefaults",
+  return TrySave(m_state, Procedure::kSaveDefaults,
                  [&](SettingsStore& store) { folionet::SaveDefaults(store, m_state.options); });
 }
 
@@ -302,7 +303,7 @@ void frmMain::Restore() {
     m_dialogs.Renew<frmEffects>();
     m_dialogs.Renew<frmPAgeTitles>();
   } catch (const RunTimeError& error) {
-    m_state.ui.ShowErrorReport(error.Number(), "cmdRestoreAll_Click", error.Extra());
+    m_state.ui.ShowErrorReport({Procedure::kRestoreAll, error});
     return;
   }
   m_state.options.txtSample = PageOptions().txtSample;

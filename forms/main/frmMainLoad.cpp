@@ -53,7 +53,7 @@ bool frmMain::GoOnWithStart() {
     m_startFailure = error.Extra();
     std::string extra = FromQt(m_ui->txtFilename->text());
     if (!extra.empty()) extra += "\r\n";
-    m_state.ui.ShowErrorReport(error.Number(), "Form Load - MAIN", extra + error.Extra());
+    m_state.ui.ShowErrorReport({Procedure::kFormLoad, error, extra});
   }
   return true;
 }

@@ -167,7 +167,7 @@ TEST(FormUiTest, TheReportCanBeCopiedWhole) {
       EXPECT_TRUE(report->toPlainText().contains(QStringLiteral("Extra Info   : \n") + ToQtLines(extra) + "\n\n"));
       window.findChild<QPushButton*>(QStringLiteral("cmdClose"))->click();
     });
-    ui.ShowErrorReport(53, "GetLang", extra);
+    ui.ShowErrorReport({Procedure::kGetLang, kFileNotFound, extra});
   }
   EXPECT_EQ(FileDialogFilter("*.gif - Compuserve GIF|*.gif| *.bmp - Windows Bitmap| *.bmp | *.* - All Files| *.*"),
             "*.gif - Compuserve GIF (*.gif);;*.bmp - Windows Bitmap (*.bmp);;*.* - All Files (*.*)");

@@ -14,7 +14,7 @@ namespace {
 using Lines = std::vector<std::string>;
 
 Lines ReadLines(const std::string& path) {
-  LineReader reader(path);
+  LineReader reader(path, Subject::kNone);
   Lines lines;
   std::string_view line;
   while (reader.Next(line)) lines.emplace_back(line);
@@ -53,7 +53,7 @@ TEST(RecordReaderTest, ReadsFieldsQuotedOrNot) {
                                         "  2 , \"say \"\"x\"\"\" , c d \n"
                                         ",\"\",\n"
                                         "3,in \"the\" middle,");
-  RecordReader reader(path);
+  RecordReader reader(path, Subject::kNone);
   const std::vector<std::array<std::string_view, 3>> expected{
       {"1", "a, b", "c"}, {"2", "say \"x\"", "c d"}, {"", "", ""}, {"3", "in \"the\" middle", ""}};
   std::array<std::string_view, 3> fields;

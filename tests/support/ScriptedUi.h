@@ -27,8 +27,8 @@ class ScriptedUi : public UserInterface {
     Keep(box.title + "?", box.prompt + " [" + box.defaultText + "]");
     return Take(texts, std::string());
   }
-  void ShowErrorReport(int errorNumber, std::string_view moduleLabel, const std::string& extraInfo) override {
-    Keep(std::to_string(errorNumber) + " " + std::string(moduleLabel), extraInfo);
+  void ShowErrorReport(const ErrorReport& report) override {
+    Keep(std::to_string(report.number) + " " + std::string(LabelOf(report.procedure)), report.extraInfo);
   }
   void SetPanel(int panel, std::string_view text) override { onPanel(panel, text); }
   void FocusControl(std::string_view name) override { onFocus(name); }

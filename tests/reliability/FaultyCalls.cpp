@@ -5,8 +5,8 @@
 //   FAULT_LOG     a file outside of it that gets a line for every call counted: its name, a blank, its path
 //   FAULT_AT      the number of the call that goes wrong, from 1; 0 for none
 //   FAULT_KIND    a value of errno to fail with; "short": half is read or written; "kill": the program is killed
-//                 before the call; "torn": it is killed after half of the bytes are written; "stop": it gets
-//                 SIGTERM, and the call is made
+//                 before the call; "torn": it is killed after half of the bytes are written; "stop15": it
+//                 gets that signal, and the call is made
 //
 // It uses system calls directly, so that nothing it does itself is counted.
 
@@ -46,8 +46,8 @@ class Plan {
     if (m_kind == "short") return Strike::kShort;
     if (m_kind == "torn") return Strike::kTorn;
     if (m_kind == "kill") Kill();
-    if (m_kind == "stop") {
-      syscall(SYS_kill, syscall(SYS_getpid), SIGTERM);
+    if (m_kind.starts_with("stop")) {
+      syscall(SYS_kill, syscall(SYS_getpid), std::atoi(m_kind.c_str() + 4));
       return Strike::kNone;
     }
     errno = std::atoi(m_kind.c_str());

@@ -1,6 +1,16 @@
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <linux/filter.h>
+#include <linux/seccomp.h>
+#include <sys/prctl.h>
 #include <sys/stat.h>
+#include <sys/syscall.h>
 
+#include <array>
+#include <cstddef>
+#include <thread>
+
+#include "OpenBeneath.h"
 #include "Paths.h"
 #include "RunTimeError.h"
 #include "TemporaryFolder.h"
@@ -107,6 +117,52 @@ TEST(WholeFileTest, NamesOnItsWayAreItsOwn) {
     EXPECT_EQ(error.Detail(), "\".header.folionet-new\" beside it is in the way. Remove it.");
   }
   EXPECT_EQ(folder.Read("header.new"), "a person's");
+}
+
+// What comes of opening paths beneath a folder: "file" and the like is what was read.
+void ExpectNothingOutside(const test::TemporaryFolder& home) {
+  const FileHandle folder = FileHandle::Open((home.Path() + "folder").c_str(), O_RDONLY | O_DIRECTORY);
+  const std::pair<const char*, int> cases[] = {
+      {"inside", 0},      {"sub/../inside", 0},        {"sub/./deep", 0},  {"link", 0},      {"sub/back", 0},
+      {"chain", 0},       {"../folder/inside", EXDEV}, {"up", EXDEV},      {"whole", EXDEV}, {"sub/far", EXDEV},
+      {"through", EXDEV}, {"circle", ELOOP},           {"nowhere", ENOENT}};
+  for (const auto& [path, error] : cases) {
+    errno = 0;
+    const FileHandle file = OpenBeneath(folder.Get(), path, O_RDONLY);
+    EXPECT_EQ(file.IsOpen() ? 0 : errno, error) << path;
+    std::array<char, 8> text{};
+    EXPECT_TRUE(!file.IsOpen() || (read(file.Get(), text.data(), 2) == 2 && text[0] == 'i')) << path;
+  }
+}
+
+// As a kernel answers that lacks the call, for this thread.
+void TakeAwayOpenat2() {
+  sock_filter filter[] = {
+      BPF_STMT(BPF_LD | BPF_W | BPF_ABS, offsetof(seccomp_data, nr)),
+      BPF_JUMP(BPF_JMP | BPF_JEQ | BPF_K, SYS_openat2, 0, 1),
+      BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_ERRNO | ENOSYS),
+      BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_ALLOW),
+  };
+  const sock_fprog program{std::size(filter), filter};
+  EXPECT_EQ(prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0), 0);
+  EXPECT_EQ(prctl(PR_SET_SECCOMP, SECCOMP_MODE_FILTER, &program), 0);
+  EXPECT_TRUE(syscall(SYS_openat2, AT_FDCWD, "/", nullptr, 0) < 0 && errno == ENOSYS);
+}
+
+TEST(OpenBeneathTest, NoLinkLeadsOutWhateverTheKernel) {
+  const test::TemporaryFolder home;
+  for (const char* name : {"folder/inside", "folder/sub/deep"}) home.Write(name, "in");
+  home.Write("outside", "out");
+  const std::pair<const char*, std::string> links[] = {
+      {"link", "inside"},   {"sub/back", "../inside"},           {"chain", "sub/back"},
+      {"up", "../outside"}, {"whole", home.Path() + "outside"},  {"sub/far", "../../outside"},
+      {"circle", "circle"}, {"through", "sub/../../folder/link"}};
+  for (const auto& [name, target] : links) std::filesystem::create_symlink(target, home.Path() + "folder/" + name);
+  ExpectNothingOutside(home);
+  std::thread([&] {
+    TakeAwayOpenat2();
+    ExpectNothingOutside(home);
+  }).join();
 }
 
 }  // namespace

@@ -5,6 +5,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <csignal>
 #include <cstdlib>
 #include <stdexcept>
 
@@ -31,6 +32,8 @@ bool Redirect(int descriptor, const std::string& path) {
   for (const std::string& argument : command) arguments.push_back(const_cast<char*>(argument.c_str()));
   arguments.push_back(nullptr);
   alarm(kMostSeconds);
+  // Which a shell ignores for what it runs in the background.
+  for (const int stop : {SIGINT, SIGTERM, SIGHUP}) signal(stop, SIG_DFL);
   const rlimit most{kMostBytes, kMostBytes};
   setrlimit(RLIMIT_FSIZE, &most);
   setenv("HOME", folder.c_str(), 1);

@@ -21,9 +21,11 @@ bool IsForPeople(const QString& path) {
 
 }  // namespace
 
-std::vector<Volume> MountedVolumes() {
+std::vector<Volume> MountedVolumes() { return VolumesOf("/proc/self/mounts"); }
+
+std::vector<Volume> VolumesOf(const char* table) {
   std::vector<Volume> volumes{{QObject::tr("Home"), QDir::homePath()}, {QObject::tr("Computer"), QDir::rootPath()}};
-  const std::unique_ptr<std::FILE, int (*)(std::FILE*)> mounts(setmntent("/proc/self/mounts", "r"), endmntent);
+  const std::unique_ptr<std::FILE, int (*)(std::FILE*)> mounts(setmntent(table, "r"), endmntent);
   if (!mounts) return volumes;
   std::array<char, 4096> buffer{};
   mntent entry{};

@@ -16,4 +16,7 @@ struct Volume {
 // no file system whether it answers: one that is gone must not hold the program up.
 std::vector<Volume> MountedVolumes();
 
+// The same by a table of mounts, in the form of /etc/fstab.
+std::vector<Volume> VolumesOf(const char* table);
+
 }  // namespace folionet

@@ -11,6 +11,7 @@
 int main(int argc, char** argv) {
   setenv("QT_QPA_PLATFORM", "offscreen", 1);
   testing::InitGoogleTest(&argc, argv);
+  QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
   const QApplication app(argc, argv);
   QTranslator translator;
   if (const char* file = std::getenv("FOLIONET_TEST_TRANSLATION"); file != nullptr) {

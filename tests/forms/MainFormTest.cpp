@@ -5,9 +5,11 @@
 #include <QFocusEvent>
 #include <QMenu>
 #include <QMimeData>
-#include <QShortcut>
+#include <QScrollBar>
 #include <QTest>
+#include <QTextBrowser>
 #include <QUrl>
+#include <set>
 
 #include "FolderPickers.h"
 #include "FolderTree.h"
@@ -116,16 +118,25 @@ TEST_F(MainForm, AClickOnTheBackgroundOptionIsOneChange) {
   EXPECT_TRUE(IsEnabled("cmdBackColour"));
 }
 
+// F1 opens the help at what it has to say of the control that has the focus.
 TEST_F(MainForm, HelpComesByItsButtonAndKey) {
   ASSERT_TRUE(Start());
   Click("cmdHelp");
   auto* help = m_form->findChild<QDialog*>(QStringLiteral("HelpWindow"));
-  EXPECT_TRUE(help->isVisible());
-  help->hide();
-  for (auto* shortcut : m_form->findChildren<QShortcut*>()) {
-    if (shortcut->key() == QKeySequence(Qt::Key_F1)) emit shortcut->activated();
+  auto* page = help->findChild<QTextBrowser*>();
+  EXPECT_TRUE(page->toPlainText().contains(QStringLiteral("Folionet"))) << FromQt(page->toPlainText().left(200));
+  EXPECT_EQ(page->verticalScrollBar()->value(), 0);
+  std::set<int> places;
+  const char* const controls[] = {"cboBibleName", "cboLang", "txthttpRoot", "cmdFont", "chkUse83", "cmdCompile"};
+  for (const char* control : controls) {
+    help->hide();
+    QApplication::setActiveWindow(m_form.get());
+    Get(control).setFocus();
+    QTest::keyClick(&Get(control), Qt::Key_F1);
+    EXPECT_TRUE(help->isVisible()) << control;
+    places.insert(page->verticalScrollBar()->value());
   }
-  EXPECT_TRUE(help->isVisible());
+  EXPECT_EQ(places.size(), std::size(controls)) << "each has a place of its own";
 }
 
 TEST_F(MainForm, AFolderIsChosenInTheTreeOrByDrive) {

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <sstream>
 
 #include "Library.h"
@@ -56,6 +57,25 @@ TEST(ProgramTest, MakesItsFolderForASiteOnly) {
     EXPECT_EQ(RunProgram(without, home.Path()).errors, "");
   }
   EXPECT_FALSE(home.Has("relative") || home.Has(".local") || home.Has("data"));
+}
+
+// However fast or slow the machine is.
+TEST(ProgramTest, ATerminalSeesAStepEach40Milliseconds) {
+  const TemporaryFolder home;
+  MakeSmallLibrary(home);
+  MakeLibraryOf66Books(home);
+  Command line{"/usr/bin/script", "--quiet", "--return", "/dev/null", "--command", ""};
+  for (const std::string& part : CompileSmall({"--start-book=66"})) line.back() += part + " ";
+  const auto start = std::chrono::steady_clock::now();
+  const ProgramResult run = RunProgram(line, home.Path());
+  const std::chrono::duration<double, std::milli> taken = std::chrono::steady_clock::now() - start;
+  std::vector<std::string> steps;
+  std::istringstream parts(run.output.substr(0, run.output.find("\r\n")));
+  for (std::string part; std::getline(parts, part, '\r');) steps.push_back(part);
+  ASSERT_GE(steps.size(), 3U) << run.output;
+  EXPECT_EQ(steps[1], "\x1B[KCompiling file 3 Book 2");
+  EXPECT_EQ(steps.back(), "\x1B[KCompilation Complete!");
+  EXPECT_LE(static_cast<double>(steps.size()) - 3, taken.count() / 40);
 }
 
 TEST(ProgramTest, LinksNoQt) {

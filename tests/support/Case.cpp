@@ -58,7 +58,7 @@ std::string WithShortReports(std::string text) {
 Command Prefix(const std::string& word) {
   if (word == "limited") return {"/usr/bin/prlimit", "--fsize=4096"};
   if (word == "bounded") {
-    Command command{"/usr/bin/timeout", "60", "/usr/bin/prlimit", "--cpu=" BOUND_SECONDS};
+    Command command{"/usr/bin/prlimit", "--cpu=" BOUND_SECONDS};
     if (BOUND_MEMORY[0] != '\0') command.push_back("--as=" BOUND_MEMORY);
     return command;
   }

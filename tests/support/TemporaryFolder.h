@@ -5,7 +5,7 @@
 
 #include <filesystem>
 #include <fstream>
-#include <iterator>
+#include <sstream>
 #include <string>
 #include <string_view>
 
@@ -38,9 +38,11 @@ class TemporaryFolder {
   }
 
   std::string Read(const std::string& name) const {
-    std::ifstream file(m_path + name, std::ios::binary);
+    const std::ifstream file(m_path + name, std::ios::binary);
     EXPECT_TRUE(file.good()) << name << " is missing";
-    return {std::istreambuf_iterator<char>(file), {}};
+    std::ostringstream bytes;
+    bytes << file.rdbuf();
+    return bytes.str();
   }
 
   bool Has(const std::string& name) const { return std::filesystem::exists(m_path + name); }

@@ -34,7 +34,7 @@ class BenchUi : public FormUi {
  public:
   explicit BenchUi(std::string site) : m_site(std::move(site)) {}
   void ShowMessage(const Message& message) override { m_last = message.title; }
-  std::string ChooseFolder(const std::string& /*initial*/) override { return m_site; }
+  std::string ChooseFolder(const std::string& /*initial*/, const std::string& /*title*/) override { return m_site; }
   const std::string& Last() const { return m_last; }
 
  private:

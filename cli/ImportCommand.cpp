@@ -59,12 +59,6 @@ void TellHowToChoose(const CommonOptions& common, const LibraryPlan& plan, Conso
   ui.Tell("Another library is known, " + known + "; choose this one with --versalia-path " + plan.folder);
 }
 
-std::string FallbackName(const std::string& path) {
-  if (path == "-") return {};
-  const std::string name = std::filesystem::path(path).lexically_normal().filename().string();
-  return name.substr(0, name.find('.'));
-}
-
 }  // namespace
 
 ExitStatus RunImport(const CommonOptions& common, const ImportArguments& arguments, ConsoleUi& ui) {
@@ -73,9 +67,9 @@ ExitStatus RunImport(const CommonOptions& common, const ImportArguments& argumen
   request.stem = arguments.stem;
   request.folder = NativePath(arguments.into);
   request.titlesFile = NativePath(arguments.titles);
-  request.fallbackName = FallbackName(arguments.paths.front());
+  request.fallbackName = NameOfPath(arguments.paths.front());
   request.replace = arguments.replace;
-  if (const std::string refusal = RefusalOf(request); !refusal.empty()) RefuseUsage(refusal);
+  if (const Sentence refusal = RefusalOf(request); !refusal.IsEmpty()) RefuseUsage(refusal.InEnglish());
   try {
     const ImportedBible bible = ReadBible({arguments.paths, arguments.charset});
     const LibraryPlan plan = PlanLibrary(bible, request);

@@ -1,5 +1,7 @@
 #include "ImportText.h"
 
+#include <filesystem>
+
 #include "BibleBuilder.h"
 #include "InputFiles.h"
 #include "RunTimeError.h"
@@ -15,10 +17,11 @@ constexpr char kForms[] = "A Bible text was expected: USFM, USX, USFX, OSIS, Zef
 // Reads the files of one text, which all have the same form.
 class BibleReader {
  public:
-  explicit BibleReader(const std::string& charset) : m_charset(charset) {}
+  explicit BibleReader(const ImportSource& source) : m_source(source) {}
 
   void Take(const InputFile& file) {
-    TextDecoder text(*file.bytes, m_charset);
+    GoOn(file.name);
+    TextDecoder text(*file.bytes, m_source.charset);
     const FormKind kind = FormOf(text.Head());
     if (kind == FormKind::kNone) {
       if (file.isGiven) throw RunTimeError(kInvalidProcedureCall, file.name, kForms);
@@ -34,7 +37,7 @@ class BibleReader {
                              " is " + std::string(NameOf(m_kind)) + ".");
     }
     m_builder.SetFile(file.name);
-    ReadFile(kind, text);
+    ReadFile(kind, file.name, text);
     m_builder.EndFile();
   }
 
@@ -44,11 +47,18 @@ class BibleReader {
   }
 
  private:
-  void ReadFile(FormKind kind, TextDecoder& text) {
+  void GoOn(const std::string& file) const {
+    if (m_source.goOn && !m_source.goOn(file)) throw ReadingStopped();
+  }
+
+  void ReadFile(FormKind kind, const std::string& name, TextDecoder& text) {
     try {
       const auto form = MakeForm(kind, m_builder);
       std::string_view piece;
-      while (text.Next(piece)) form->Read(piece);
+      while (text.Next(piece)) {
+        GoOn(name);
+        form->Read(piece);
+      }
       form->Finish();
     } catch (const TextFault& fault) {
       m_builder.SetLine(fault.Line());
@@ -56,7 +66,7 @@ class BibleReader {
     }
   }
 
-  const std::string& m_charset;
+  const ImportSource& m_source;
   BibleBuilder m_builder;
   FormKind m_kind = FormKind::kNone;
   std::string m_first;  // the file that told the form
@@ -65,9 +75,17 @@ class BibleReader {
 }  // namespace
 
 ImportedBible ReadBible(const ImportSource& source) {
-  BibleReader reader(source.charset);
+  BibleReader reader(source);
   ForEachInput(source.paths, [&](const InputFile& file) { reader.Take(file); });
   return reader.Finish(source.paths.empty() ? std::string() : source.paths.front());
+}
+
+std::string NameOfPath(const std::string& path) {
+  if (path == "-") return {};
+  std::filesystem::path whole = std::filesystem::path(path).lexically_normal();
+  if (!whole.has_filename()) whole = whole.parent_path();  // a folder, with its separator
+  const std::string name = whole.filename().string();
+  return name.substr(0, name.find('.'));
 }
 
 }  // namespace folionet

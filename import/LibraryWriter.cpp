@@ -188,13 +188,21 @@ std::string NameFor(const ImportedBible& bible, const LibraryRequest& request) {
 
 }  // namespace
 
-std::string RefusalOf(const LibraryRequest& request) {
-  if (HasControl(request.name)) return "--name: a text without control characters was expected.";
-  if (request.name.size() > kLongestName) return "--name: a text of at most 200 bytes was expected.";
-  if (request.stem.size() > kLongestStem || !std::all_of(request.stem.begin(), request.stem.end(), IsOfStem)) {
-    return "--stem: at most 60 letters and digits of ASCII, \"-\" and \"_\" were expected: " + Quoted(request.stem);
+Sentence RefusalOf(const LibraryRequest& request) {
+  constexpr char kName[] = "--name";
+  if (HasControl(request.name)) {
+    return {Words("Import", "%1: a text without control characters was expected."), {kName}};
   }
-  if (HasControl(request.folder)) return "--into: a folder without control characters in its name was expected.";
+  if (request.name.size() > kLongestName) {
+    return {Words("Import", "%1: a text of at most 200 bytes was expected."), {kName}};
+  }
+  if (request.stem.size() > kLongestStem || !std::all_of(request.stem.begin(), request.stem.end(), IsOfStem)) {
+    return {Words("Import", "%1: at most 60 letters and digits of ASCII, \"-\" and \"_\" were expected: %2"),
+            {"--stem", Quoted(request.stem)}};
+  }
+  if (HasControl(request.folder)) {
+    return {Words("Import", "%1: a folder without control characters in its name was expected."), {"--into"}};
+  }
   return {};
 }
 

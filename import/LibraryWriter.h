@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "ImportedBible.h"
+#include "Sentence.h"
 #include "modGlob.h"
 
 // Writes a translation in the layout of Versalia's installation:
@@ -51,8 +52,8 @@ struct LibraryPlan {
   std::vector<std::pair<std::string, std::string>> files;  // path and content; the catalogue is the last
 };
 
-// Why no library can be made of `request`, naming the option; empty when one can.
-std::string RefusalOf(const LibraryRequest& request);
+// Why no library can be made of `request`; empty when one can. Its first argument is the option of the command line.
+Sentence RefusalOf(const LibraryRequest& request);
 
 // Works out what becomes of the library, which need not be there yet. Throws RunTimeError: for a file of the library
 // that cannot be read, and for a translation that is there and not to be replaced.

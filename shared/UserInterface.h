@@ -35,11 +35,14 @@ struct Message {
   Topic topic = Topic::kOther;
 };
 
+// A folder of a library that a text is asked for.
+enum class LibraryFolder { kNone, kInstallation, kModules };
+
 struct InputBox {
   std::string prompt;
   std::string title;
   std::string defaultText;
-  bool asksForFolder = false;  // of Versalia's
+  LibraryFolder folder = LibraryFolder::kNone;
 };
 
 // The one way to the person who uses the program. The form shows boxes, the command line prints the same words, tests
@@ -69,7 +72,7 @@ class UserInterface {
   virtual Colour ChooseColour(Colour initial) { return initial; }
   virtual SampleText ChooseFont(const SampleText& initial) { return initial; }
   virtual std::string ChooseFile(const std::string& /*filter*/, const std::string& previous) { return previous; }
-  virtual std::string ChooseFolder(const std::string& initial) { return initial; }
+  virtual std::string ChooseFolder(const std::string& initial, const std::string& /*title*/) { return initial; }
 
   // Shows a page that was written in the person's browser.
   virtual void ShowPage(const std::string& /*path*/) {}

@@ -42,11 +42,11 @@ void WarnOfWrongPaths(UserInterface& ui) {
 
 // False where nobody can be asked.
 bool AskForPaths(ModGlob& glob, UserInterface& ui) {
-  const auto install =
-      ui.AskText({"Enter the Versalia Path", "Enter Versalia Path", "C:\\Program Files\\Versalia\\", true});
+  const auto install = ui.AskText({"Enter the Versalia Path", "Enter Versalia Path", "C:\\Program Files\\Versalia\\",
+                                   LibraryFolder::kInstallation});
   if (!install) return false;
-  const auto modules = ui.AskText(
-      {"Enter the Versalia Module Path", "Enter Module Path", "C:\\Program Files\\Versalia\\Modules\\", true});
+  const auto modules = ui.AskText({"Enter the Versalia Module Path", "Enter Module Path",
+                                   "C:\\Program Files\\Versalia\\Modules\\", LibraryFolder::kModules});
   if (!modules) return false;
   SetInstallation(glob, *install, *modules, "SysDefs");
   return true;

@@ -4,6 +4,8 @@
 #include <array>
 #include <utility>
 
+#include "Installation.h"
+#include "Paths.h"
 #include "StoredSettings.h"
 #include "WholeFile.h"
 
@@ -57,7 +59,8 @@ std::string BookTitlesFile(const StoredSettings& store, const ModGlob& glob) {
   const bool isOfText = std::any_of(glob.BibleImports.begin(), glob.BibleImports.end(), [&](const ImportedText& text) {
     return text.IsThere() && EqualIgnoringCase(text.titles, stored);
   });
-  const bool isChosen = store.Has("cboLang") && !isOfText && !EqualIgnoringCase(stored, "BOOKS.TXT");
+  const bool isChosen = store.Has("cboLang") && !isOfText && !EqualIgnoringCase(stored, "BOOKS.TXT") &&
+                        FileExists(SysdefsFile(glob, stored));
   return isChosen ? stored : glob.Imported.titles;
 }
 

@@ -34,7 +34,8 @@ std::string WriteImportedText(const ImportedText& text);
 void ChooseImported(ModGlob& glob, std::size_t place);
 
 // The file of book titles to read: that of the chosen translation, when it was imported and the person has chosen no
-// other. The default, and a file that belongs to a translation, are no choice of theirs unless given for this run.
+// other. The default, and a file that belongs to a translation, are no choice of theirs unless given for this run, nor
+// is one that this library lacks.
 std::string BookTitlesFile(const StoredSettings& store, const ModGlob& glob);
 
 // The titles of an imported translation's book lists, which may come from a delivered file in windows-1252 or from one

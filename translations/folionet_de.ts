@@ -2,11 +2,102 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
-    <name>QObject</name>
+    <name>Import</name>
     <message>
-        <source>Choose the Output Path</source>
-        <translation>Ausgabepfad wählen</translation>
+        <source>not told by the text</source>
+        <translation>vom Text nicht genannt</translation>
     </message>
+    <message>
+        <source>Books: %1, chapters: %2, verses: %3</source>
+        <translation>Bücher: %1, Kapitel: %2, Verse: %3</translation>
+    </message>
+    <message>
+        <source>Language: %1</source>
+        <translation>Sprache: %1</translation>
+    </message>
+    <message>
+        <source>Charset: %1</source>
+        <translation>Zeichensatz: %1</translation>
+    </message>
+    <message>
+        <source>Stem of its files: %1</source>
+        <translation>Stamm seiner Dateien: %1</translation>
+    </message>
+    <message>
+        <source>Library: %1</source>
+        <translation>Bibliothek: %1</translation>
+    </message>
+    <message>
+        <source>The library holds a translation with this stem. It would be replaced.</source>
+        <translation>Die Bibliothek enthält eine Übersetzung mit diesem Stamm. Sie würde ersetzt.</translation>
+    </message>
+    <message>
+        <source>Left out, as it is none of the 66 books: %1 (verses: %2)</source>
+        <translation>Ausgelassen, weil es keins der 66 Bücher ist: %1 (Verse: %2)</translation>
+    </message>
+    <message>
+        <source>And %1 more.</source>
+        <translation>Und %1 weitere.</translation>
+    </message>
+    <message>
+        <source>line %1</source>
+        <translation>Zeile %1</translation>
+    </message>
+    <message>
+        <source>Nothing was written.</source>
+        <translation>Nichts wurde geschrieben.</translation>
+    </message>
+    <message>
+        <source>%1 comes twice; both are kept.</source>
+        <translation>%1 kommt zweimal vor; beide bleiben.</translation>
+    </message>
+    <message>
+        <source>%1 is out of order.</source>
+        <translation>%1 steht nicht in der Reihenfolge.</translation>
+    </message>
+    <message>
+        <source>%1 has no text.</source>
+        <translation>%1 hat keinen Text.</translation>
+    </message>
+    <message>
+        <source>Not in the text: %1</source>
+        <translation>Nicht im Text: %1</translation>
+    </message>
+    <message>
+        <source>%1: a text without control characters was expected.</source>
+        <translation>%1: Ein Text ohne Steuerzeichen wurde erwartet.</translation>
+    </message>
+    <message>
+        <source>%1: a text of at most 200 bytes was expected.</source>
+        <translation>%1: Ein Text von höchstens 200 Bytes wurde erwartet.</translation>
+    </message>
+    <message>
+        <source>%1: at most 60 letters and digits of ASCII, &quot;-&quot; and &quot;_&quot; were expected: %2</source>
+        <translation>%1: Höchstens 60 Buchstaben und Ziffern von ASCII, „-“ und „_“ wurden erwartet: %2</translation>
+    </message>
+    <message>
+        <source>%1: a folder without control characters in its name was expected.</source>
+        <translation>%1: Ein Ordner ohne Steuerzeichen im Namen wurde erwartet.</translation>
+    </message>
+    <message>
+        <source>The unknown marker %1 is passed over, its text is kept.</source>
+        <translation>Die unbekannte Marke %1 wird übergangen, ihr Text bleibt.</translation>
+    </message>
+    <message>
+        <source>A note does not end: %1 was expected.</source>
+        <translation>Eine Anmerkung endet nicht: %1 wurde erwartet.</translation>
+    </message>
+    <message>
+        <source>Text in the unknown style %1 is kept.</source>
+        <translation>Text in der unbekannten Formatvorlage %1 bleibt.</translation>
+    </message>
+    <message>
+        <source>An element ends in the wrong place: %1</source>
+        <translation>Ein Element endet an der falschen Stelle: %1</translation>
+    </message>
+</context>
+<context>
+    <name>QObject</name>
     <message>
         <source>No browser could be started. The page is:</source>
         <translation>Es konnte kein Browser gestartet werden. Die Seite ist:</translation>
@@ -204,16 +295,20 @@
         <translation>&amp;Durchsuchen...</translation>
     </message>
     <message>
-        <source>Versalia is the program that installs the translations which Folionet turns into sites. Without it, import a Bible text with folionet-cli import and start again.</source>
-        <translation>Versalia ist das Programm, das die Übersetzungen installiert, aus denen Folionet Websites macht. Ohne es importieren Sie einen Bibeltext mit folionet-cli import und starten neu.</translation>
-    </message>
-    <message>
         <source>Preview page</source>
         <translation>Seite ansehen</translation>
     </message>
     <message>
         <source>The translation has no chapter 1 of the starting book.</source>
         <translation>Die Übersetzung hat kein Kapitel 1 des ersten Buches.</translation>
+    </message>
+    <message>
+        <source>Versalia is the program that installs the translations which Folionet turns into sites. Without it, import a Bible text that you have: Folionet keeps it in a library of its own.</source>
+        <translation>Versalia ist das Programm, das die Übersetzungen installiert, aus denen Folionet Websites macht. Ohne es importieren Sie einen Bibeltext, den Sie haben: Folionet bewahrt ihn in einer eigenen Bibliothek auf.</translation>
+    </message>
+    <message>
+        <source>&amp;Import a text...</source>
+        <translation>Text &amp;importieren...</translation>
     </message>
 </context>
 <context>
@@ -283,6 +378,13 @@
     </message>
 </context>
 <context>
+    <name>folionet::FolderPickers</name>
+    <message>
+        <source>Choose the Output Path</source>
+        <translation>Ausgabepfad wählen</translation>
+    </message>
+</context>
+<context>
     <name>folionet::FolderTree</name>
     <message>
         <source>Folder</source>
@@ -313,6 +415,21 @@
     <message>
         <source>Last addresses</source>
         <translation>Letzte Adressen</translation>
+    </message>
+</context>
+<context>
+    <name>folionet::ImportButton</name>
+    <message>
+        <source>The text is in the library of imported texts, %1.
+The translations of another library are listed: %2.
+List those of the imported texts instead, until Folionet is closed? Later, folionet --versalia-path with the first folder does so.</source>
+        <translation>Der Text steht in der Bibliothek der importierten Texte, %1.
+Die Liste zeigt die Übersetzungen einer anderen Bibliothek: %2.
+Stattdessen die der importierten Texte zeigen, bis Folionet geschlossen wird? Später tut das folionet --versalia-path mit dem ersten Ordner.</translation>
+    </message>
+    <message>
+        <source>Import a text</source>
+        <translation>Text importieren</translation>
     </message>
 </context>
 <context>
@@ -400,6 +517,95 @@
     <message>
         <source>Error report</source>
         <translation>Fehlerbericht</translation>
+    </message>
+</context>
+<context>
+    <name>folionet::frmImport</name>
+    <message>
+        <source>Import a text</source>
+        <translation>Text importieren</translation>
+    </message>
+    <message>
+        <source>&amp;Text</source>
+        <translation>&amp;Text</translation>
+    </message>
+    <message>
+        <source>A file, a folder or a zip archive. Return reads it.</source>
+        <translation>Eine Datei, ein Ordner oder ein Zip-Archiv. Die Eingabetaste liest es.</translation>
+    </message>
+    <message>
+        <source>A file, a folder or a zip archive</source>
+        <translation>Eine Datei, ein Ordner oder ein Zip-Archiv</translation>
+    </message>
+    <message>
+        <source>&amp;File...</source>
+        <translation>&amp;Datei...</translation>
+    </message>
+    <message>
+        <source>F&amp;older...</source>
+        <translation>&amp;Ordner...</translation>
+    </message>
+    <message>
+        <source>&amp;Name</source>
+        <translation>&amp;Name</translation>
+    </message>
+    <message>
+        <source>The name of the translation, as pages and lists show it.</source>
+        <translation>Der Name der Übersetzung, wie Seiten und Listen ihn zeigen.</translation>
+    </message>
+    <message>
+        <source>&amp;Stem</source>
+        <translation>&amp;Stamm</translation>
+    </message>
+    <message>
+        <source>What the names of its files in the library begin with. Empty: made from the name.</source>
+        <translation>Womit die Namen ihrer Dateien in der Bibliothek beginnen. Leer: aus dem Namen gemacht.</translation>
+    </message>
+    <message>
+        <source>Fo&amp;und</source>
+        <translation>&amp;Gefunden</translation>
+    </message>
+    <message>
+        <source>Choose a Bible text, or drop one here: USFM, USX, USFX, OSIS, Zefania XML, or one verse a line. What is found in it is shown here; nothing is written before you press Import.</source>
+        <translation>Wählen Sie einen Bibeltext, oder ziehen Sie einen hierher: USFM, USX, USFX, OSIS, Zefania-XML oder ein Vers je Zeile. Was darin gefunden wird, erscheint hier; nichts wird geschrieben, bevor Sie „Importieren“ drücken.</translation>
+    </message>
+    <message>
+        <source>Progress of the import</source>
+        <translation>Fortschritt des Imports</translation>
+    </message>
+    <message>
+        <source>Sto&amp;p</source>
+        <translation>Sto&amp;pp</translation>
+    </message>
+    <message>
+        <source>&amp;Import</source>
+        <translation>&amp;Importieren</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>S&amp;chließen</translation>
+    </message>
+    <message>
+        <source>All files</source>
+        <translation>Alle Dateien</translation>
+    </message>
+    <message>
+        <source>Choose the folder of the text</source>
+        <translation>Ordner des Textes wählen</translation>
+    </message>
+    <message>
+        <source>Reading %1 ...</source>
+        <translation>%1 wird gelesen ...</translation>
+    </message>
+    <message>
+        <source>Stopped. Nothing was written.</source>
+        <translation>Angehalten. Nichts wurde geschrieben.</translation>
+    </message>
+    <message>
+        <source>The library holds a translation with the stem %1 already.
+Replace it? To keep it, answer No and give this text another stem.</source>
+        <translation>Die Bibliothek enthält schon eine Übersetzung mit dem Stamm %1.
+Ersetzen? Um sie zu behalten, antworten Sie mit Nein und geben diesem Text einen anderen Stamm.</translation>
     </message>
 </context>
 <context>
@@ -597,6 +803,14 @@ Jetzt alle Einstellungen zurücksetzen?</translation>
     <message>
         <source>%1 pages in %2, %3</source>
         <translation>%1 Seiten in %2, %3</translation>
+    </message>
+    <message>
+        <source>Import a text...</source>
+        <translation>Text importieren...</translation>
+    </message>
+    <message>
+        <source>Make a translation of a Bible text that you have (Ctrl+I).</source>
+        <translation>Aus einem Bibeltext, den Sie haben, eine Übersetzung machen (Strg+I).</translation>
     </message>
 </context>
 <context>

@@ -2,11 +2,102 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="es" sourcelanguage="en">
 <context>
-    <name>QObject</name>
+    <name>Import</name>
     <message>
-        <source>Choose the Output Path</source>
-        <translation>Elegir la ruta de salida</translation>
+        <source>not told by the text</source>
+        <translation>no lo dice el texto</translation>
     </message>
+    <message>
+        <source>Books: %1, chapters: %2, verses: %3</source>
+        <translation>Libros: %1, capítulos: %2, versículos: %3</translation>
+    </message>
+    <message>
+        <source>Language: %1</source>
+        <translation>Idioma: %1</translation>
+    </message>
+    <message>
+        <source>Charset: %1</source>
+        <translation>Juego de caracteres: %1</translation>
+    </message>
+    <message>
+        <source>Stem of its files: %1</source>
+        <translation>Raíz de sus archivos: %1</translation>
+    </message>
+    <message>
+        <source>Library: %1</source>
+        <translation>Biblioteca: %1</translation>
+    </message>
+    <message>
+        <source>The library holds a translation with this stem. It would be replaced.</source>
+        <translation>La biblioteca contiene una traducción con esta raíz. Sería sustituida.</translation>
+    </message>
+    <message>
+        <source>Left out, as it is none of the 66 books: %1 (verses: %2)</source>
+        <translation>Omitido, porque no es ninguno de los 66 libros: %1 (versículos: %2)</translation>
+    </message>
+    <message>
+        <source>And %1 more.</source>
+        <translation>Y %1 más.</translation>
+    </message>
+    <message>
+        <source>line %1</source>
+        <translation>línea %1</translation>
+    </message>
+    <message>
+        <source>Nothing was written.</source>
+        <translation>No se ha escrito nada.</translation>
+    </message>
+    <message>
+        <source>%1 comes twice; both are kept.</source>
+        <translation>%1 aparece dos veces; se conservan ambos.</translation>
+    </message>
+    <message>
+        <source>%1 is out of order.</source>
+        <translation>%1 está fuera de orden.</translation>
+    </message>
+    <message>
+        <source>%1 has no text.</source>
+        <translation>%1 no tiene texto.</translation>
+    </message>
+    <message>
+        <source>Not in the text: %1</source>
+        <translation>No está en el texto: %1</translation>
+    </message>
+    <message>
+        <source>%1: a text without control characters was expected.</source>
+        <translation>%1: se esperaba un texto sin caracteres de control.</translation>
+    </message>
+    <message>
+        <source>%1: a text of at most 200 bytes was expected.</source>
+        <translation>%1: se esperaba un texto de 200 bytes como máximo.</translation>
+    </message>
+    <message>
+        <source>%1: at most 60 letters and digits of ASCII, &quot;-&quot; and &quot;_&quot; were expected: %2</source>
+        <translation>%1: se esperaban como máximo 60 letras y cifras de ASCII, «-» y «_»: %2</translation>
+    </message>
+    <message>
+        <source>%1: a folder without control characters in its name was expected.</source>
+        <translation>%1: se esperaba una carpeta sin caracteres de control en su nombre.</translation>
+    </message>
+    <message>
+        <source>The unknown marker %1 is passed over, its text is kept.</source>
+        <translation>La marca desconocida %1 se pasa por alto; su texto se conserva.</translation>
+    </message>
+    <message>
+        <source>A note does not end: %1 was expected.</source>
+        <translation>Una nota no termina: se esperaba %1.</translation>
+    </message>
+    <message>
+        <source>Text in the unknown style %1 is kept.</source>
+        <translation>El texto en el estilo desconocido %1 se conserva.</translation>
+    </message>
+    <message>
+        <source>An element ends in the wrong place: %1</source>
+        <translation>Un elemento termina en un lugar equivocado: %1</translation>
+    </message>
+</context>
+<context>
+    <name>QObject</name>
     <message>
         <source>No browser could be started. The page is:</source>
         <translation>No se pudo abrir ningún navegador. La página es:</translation>
@@ -204,16 +295,20 @@
         <translation>E&amp;xaminar...</translation>
     </message>
     <message>
-        <source>Versalia is the program that installs the translations which Folionet turns into sites. Without it, import a Bible text with folionet-cli import and start again.</source>
-        <translation>Versalia es el programa que instala las traducciones que Folionet convierte en sitios. Sin él, importe un texto bíblico con folionet-cli import y vuelva a iniciar.</translation>
-    </message>
-    <message>
         <source>Preview page</source>
         <translation>Ver página</translation>
     </message>
     <message>
         <source>The translation has no chapter 1 of the starting book.</source>
         <translation>La traducción no tiene el capítulo 1 del libro inicial.</translation>
+    </message>
+    <message>
+        <source>Versalia is the program that installs the translations which Folionet turns into sites. Without it, import a Bible text that you have: Folionet keeps it in a library of its own.</source>
+        <translation>Versalia es el programa que instala las traducciones que Folionet convierte en sitios. Sin él, importe un texto bíblico que tenga: Folionet lo guarda en una biblioteca propia.</translation>
+    </message>
+    <message>
+        <source>&amp;Import a text...</source>
+        <translation>&amp;Importar un texto...</translation>
     </message>
 </context>
 <context>
@@ -283,6 +378,13 @@
     </message>
 </context>
 <context>
+    <name>folionet::FolderPickers</name>
+    <message>
+        <source>Choose the Output Path</source>
+        <translation>Elegir la ruta de salida</translation>
+    </message>
+</context>
+<context>
     <name>folionet::FolderTree</name>
     <message>
         <source>Folder</source>
@@ -313,6 +415,21 @@
     <message>
         <source>Last addresses</source>
         <translation>Últimas direcciones</translation>
+    </message>
+</context>
+<context>
+    <name>folionet::ImportButton</name>
+    <message>
+        <source>The text is in the library of imported texts, %1.
+The translations of another library are listed: %2.
+List those of the imported texts instead, until Folionet is closed? Later, folionet --versalia-path with the first folder does so.</source>
+        <translation>El texto está en la biblioteca de textos importados, %1.
+La lista muestra las traducciones de otra biblioteca: %2.
+¿Mostrar en su lugar las de los textos importados, hasta que se cierre Folionet? Más tarde lo hace folionet --versalia-path con la primera carpeta.</translation>
+    </message>
+    <message>
+        <source>Import a text</source>
+        <translation>Importar un texto</translation>
     </message>
 </context>
 <context>
@@ -400,6 +517,95 @@
     <message>
         <source>Error report</source>
         <translation>Informe de error</translation>
+    </message>
+</context>
+<context>
+    <name>folionet::frmImport</name>
+    <message>
+        <source>Import a text</source>
+        <translation>Importar un texto</translation>
+    </message>
+    <message>
+        <source>&amp;Text</source>
+        <translation>&amp;Texto</translation>
+    </message>
+    <message>
+        <source>A file, a folder or a zip archive. Return reads it.</source>
+        <translation>Un archivo, una carpeta o un archivo zip. La tecla Intro lo lee.</translation>
+    </message>
+    <message>
+        <source>A file, a folder or a zip archive</source>
+        <translation>Un archivo, una carpeta o un archivo zip</translation>
+    </message>
+    <message>
+        <source>&amp;File...</source>
+        <translation>&amp;Archivo...</translation>
+    </message>
+    <message>
+        <source>F&amp;older...</source>
+        <translation>&amp;Carpeta...</translation>
+    </message>
+    <message>
+        <source>&amp;Name</source>
+        <translation>&amp;Nombre</translation>
+    </message>
+    <message>
+        <source>The name of the translation, as pages and lists show it.</source>
+        <translation>El nombre de la traducción, como lo muestran las páginas y las listas.</translation>
+    </message>
+    <message>
+        <source>&amp;Stem</source>
+        <translation>&amp;Raíz</translation>
+    </message>
+    <message>
+        <source>What the names of its files in the library begin with. Empty: made from the name.</source>
+        <translation>Con lo que empiezan los nombres de sus archivos en la biblioteca. Vacío: se hace del nombre.</translation>
+    </message>
+    <message>
+        <source>Fo&amp;und</source>
+        <translation>&amp;Hallado</translation>
+    </message>
+    <message>
+        <source>Choose a Bible text, or drop one here: USFM, USX, USFX, OSIS, Zefania XML, or one verse a line. What is found in it is shown here; nothing is written before you press Import.</source>
+        <translation>Elija un texto bíblico o arrástrelo aquí: USFM, USX, USFX, OSIS, Zefania XML o un versículo por línea. Lo que se halle en él aparece aquí; no se escribe nada antes de que pulse «Importar».</translation>
+    </message>
+    <message>
+        <source>Progress of the import</source>
+        <translation>Progreso de la importación</translation>
+    </message>
+    <message>
+        <source>Sto&amp;p</source>
+        <translation>&amp;Detener</translation>
+    </message>
+    <message>
+        <source>&amp;Import</source>
+        <translation>&amp;Importar</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>C&amp;errar</translation>
+    </message>
+    <message>
+        <source>All files</source>
+        <translation>Todos los archivos</translation>
+    </message>
+    <message>
+        <source>Choose the folder of the text</source>
+        <translation>Elegir la carpeta del texto</translation>
+    </message>
+    <message>
+        <source>Reading %1 ...</source>
+        <translation>Leyendo %1 ...</translation>
+    </message>
+    <message>
+        <source>Stopped. Nothing was written.</source>
+        <translation>Detenido. No se ha escrito nada.</translation>
+    </message>
+    <message>
+        <source>The library holds a translation with the stem %1 already.
+Replace it? To keep it, answer No and give this text another stem.</source>
+        <translation>La biblioteca ya contiene una traducción con la raíz %1.
+¿Sustituirla? Para conservarla, responda No y dé a este texto otra raíz.</translation>
     </message>
 </context>
 <context>
@@ -597,6 +803,14 @@ Return all settings to default now?</source>
     <message>
         <source>%1 pages in %2, %3</source>
         <translation>%1 páginas en %2, %3</translation>
+    </message>
+    <message>
+        <source>Import a text...</source>
+        <translation>Importar un texto...</translation>
+    </message>
+    <message>
+        <source>Make a translation of a Bible text that you have (Ctrl+I).</source>
+        <translation>Hacer una traducción de un texto bíblico que usted tenga (Ctrl+I).</translation>
     </message>
 </context>
 <context>

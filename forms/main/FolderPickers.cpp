@@ -139,7 +139,7 @@ void FolderPickers::Dir1_Change(const QString& path) {
 }
 
 void FolderPickers::Browse() {
-  const std::string chosen = m_state.ui.ChooseFolder(m_state.glob.OutputFolder);
+  const std::string chosen = m_state.ui.ChooseFolder(m_state.glob.OutputFolder, FromQt(tr("Choose the Output Path")));
   if (chosen.empty()) return;  // none was chosen before and none is now
   Choose(chosen);
 }

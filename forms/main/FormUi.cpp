@@ -4,7 +4,6 @@
 #include <QCheckBox>
 #include <QColorDialog>
 #include <QDesktopServices>
-#include <QDialogButtonBox>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -16,10 +15,8 @@
 #include <QInputDialog>
 #include <QLabel>
 #include <QMessageBox>
-#include <QPushButton>
 #include <QStandardPaths>
 #include <QUrl>
-#include <QVBoxLayout>
 #include <algorithm>
 #include <climits>
 #include <cstdlib>
@@ -64,25 +61,6 @@ void PrepareBox(QMessageBox& box, const std::string& title, const std::string& t
     const int width = std::min(kWidest, label->fontMetrics().horizontalAdvance(box.windowTitle()) + kButtons);
     grid->addItem(new QSpacerItem(width, 0), grid->rowCount(), 0, 1, grid->columnCount());
   }
-}
-
-// A folder may be chosen, and is entered with the separator that it must end in. Who has no Versalia learns what to do.
-void OfferFolder(QInputDialog& dialog) {
-  auto* buttons = dialog.findChild<QDialogButtonBox*>();
-  if (buttons == nullptr) return;
-  QPushButton* browse = buttons->addButton(QObject::tr("&Browse..."), QDialogButtonBox::ActionRole);
-  browse->setObjectName(QStringLiteral("cmdBrowse"));
-  QObject::connect(browse, &QPushButton::clicked, &dialog, [&dialog] {
-    const QString folder = QFileDialog::getExistingDirectory(&dialog, dialog.windowTitle(), QDir::homePath());
-    if (!folder.isEmpty()) dialog.setTextValue(folder.endsWith(QLatin1Char('/')) ? folder : folder + QLatin1Char('/'));
-  });
-  auto* about =
-      new QLabel(QObject::tr("Versalia is the program that installs the translations which Folionet turns into "
-                             "sites. Without it, import a Bible text with folionet-cli import and start again."),
-                 &dialog);
-  about->setObjectName(QStringLiteral("lblAbout"));
-  about->setWordWrap(true);
-  if (auto* layout = qobject_cast<QVBoxLayout*>(dialog.layout())) layout->insertWidget(layout->count() - 1, about);
 }
 
 // A page's text is neither struck out nor underlined. Only Qt's own chooser lets them be left out.
@@ -135,7 +113,7 @@ std::string FileDialogFilter(const std::string& filter) {
   return FromQt(filters.join(QStringLiteral(";;")));
 }
 
-FormUi::FormUi() = default;
+FormUi::FormUi() : m_libraryBoxes(*this) {}
 FormUi::~FormUi() = default;
 
 QWidget* FormUi::Owner() const {
@@ -158,13 +136,13 @@ bool FormUi::AskYesNo(const std::string& title, const std::string& text) {
 }
 
 std::optional<std::string> FormUi::AskText(const InputBox& box) {
+  if (box.folder != LibraryFolder::kNone) return m_libraryBoxes.Ask(box, Owner());
   QInputDialog dialog(Owner());
   dialog.setWindowTitle(ToQt(box.title));
   dialog.setLabelText(ToQt(box.prompt));
   dialog.setTextValue(ToQt(box.defaultText));
   // Wide enough for the default, its frame and some typing.
   const QString room = ToQt(box.defaultText) + QString(12, QLatin1Char('M'));
-  if (box.asksForFolder) OfferFolder(dialog);
   dialog.resize(dialog.fontMetrics().horizontalAdvance(room), dialog.sizeHint().height());
   return dialog.exec() == QDialog::Accepted ? FromQt(dialog.textValue()) : std::string();
 }
@@ -223,9 +201,9 @@ std::string FormUi::ChooseFile(const std::string& filter, const std::string& pre
   return chosen.isEmpty() ? previous : FromQt(chosen);
 }
 
-std::string FormUi::ChooseFolder(const std::string& initial) {
+std::string FormUi::ChooseFolder(const std::string& initial, const std::string& title) {
   const QString start = initial.empty() ? QDir::homePath() : ToQt(initial);
-  const QString chosen = QFileDialog::getExistingDirectory(Owner(), QObject::tr("Choose the Output Path"), start);
+  const QString chosen = QFileDialog::getExistingDirectory(Owner(), ToQt(title), start);
   return chosen.isEmpty() ? initial : FromQt(chosen);
 }
 

@@ -3,6 +3,7 @@
 #include <memory>
 #include <string>
 
+#include "LibraryBoxes.h"
 #include "UserInterface.h"
 
 class QWidget;
@@ -31,13 +32,14 @@ class FormUi : public UserInterface {
   Colour ChooseColour(Colour initial) override;
   SampleText ChooseFont(const SampleText& initial) override;
   std::string ChooseFile(const std::string& filter, const std::string& previous) override;
-  std::string ChooseFolder(const std::string& initial) override;
+  std::string ChooseFolder(const std::string& initial, const std::string& title) override;
   void ShowPage(const std::string& path) override;
 
  private:
   QWidget* Owner() const;
 
   frmMain* m_form = nullptr;
+  LibraryBoxes m_libraryBoxes;
   std::unique_ptr<frmErr> m_errorReport;  // made on first use
 };
 

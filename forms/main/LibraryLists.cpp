@@ -1,6 +1,8 @@
 #include "LibraryLists.h"
 
 #include <QCoreApplication>
+#include <filesystem>
+#include <system_error>
 
 #include "BookTitles.h"
 #include "Catalogue.h"
@@ -130,6 +132,31 @@ void LibraryLists::ShowNames() {
   m_controls.cboEndBook->setCurrentIndex(end);
   const int place = SelectedTranslation();
   if (place >= 0) TakeTranslation(static_cast<std::size_t>(place));
+}
+
+void LibraryLists::ShowImported(const std::string& folder, const std::string& stem) {
+  ModGlob& glob = m_state.glob;
+  std::error_code ignored;
+  if (!std::filesystem::equivalent(glob.InstallPath, folder, ignored)) {
+    m_state.givenFolders = {folder, {}};
+    LocateInstallation(m_state.store, m_state.givenFolders, glob);
+    glob.Imported = {};
+    m_state.options.main.cboLang = FindOption("cboLang")->defaultText;
+  }
+  glob.cboBibleName.clear();
+  glob.cboBibleFile.clear();
+  GetLang(glob, m_state.ui);
+  m_controls.cboLang->clear();
+  for (const std::string& name : glob.cboLang) m_controls.cboLang->addItem(ToQt(name));
+  m_controls.cboLang->SetText(ToQt(m_state.options.main.cboLang));
+  if (ReadLists(1) == Outcome::kEndProgram) return emit EndProgram();
+  ShowTranslations();
+  ShowBooks();
+  for (int item = 0; item < m_controls.cboBibleName->count(); ++item) {
+    if (!EqualIgnoringCase(glob.cboBibleFile[static_cast<std::size_t>(item)], stem)) continue;
+    m_controls.cboBibleName->setCurrentIndex(item);
+    return ChooseBible();
+  }
 }
 
 int LibraryLists::SelectedTranslation() const {

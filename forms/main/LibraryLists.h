@@ -30,6 +30,9 @@ class LibraryLists : public QObject {
   // Reads the verse counts of the selected translation.
   Outcome LoadVerses();
 
+  // Lists the translations of the library in this folder, into which one was imported, and chooses the one of the stem.
+  void ShowImported(const std::string& folder, const std::string& stem);
+
   // Shows the names again after the code page has changed.
   void ShowNames();
 

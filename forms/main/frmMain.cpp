@@ -18,6 +18,7 @@
 #include "FormLooks.h"
 #include "FormMemory.h"
 #include "HelpWindow.h"
+#include "ImportButton.h"
 #include "LibraryLists.h"
 #include "MainCompile.h"
 #include "OneLine.h"
@@ -65,8 +66,11 @@ frmMain::frmMain(AppState& state, QWidget* parent)
   OfferAddresses();
   OfferFolders();
   connect(m_ui->cmdRecentFolders, &QToolButton::clicked, this, &frmMain::ListFolders);
-  setAcceptDrops(true);
-}
+  auto* import = new ImportButton(state, *m_ui, *m_lists, m_dialogs, this);
+  import->mayOpen = [this] { return TellAndGoOn();
+};
+setAcceptDrops(true);
+}  // namespace folionet
 
 frmMain::~frmMain() = default;
 
@@ -155,8 +159,7 @@ void frmMain::CSSCheck() {
 }
 
 void frmMain::Compile() {
-  m_startFailure.clear();  // is told again
-  if (!IsStarted()) return;
+  if (!TellAndGoOn()) return;
   CompileRequest request = GatherRequest(m_state, *m_ui, *m_lists, *m_folders);
   SiteChanges changes;
   request.changes = &changes;

@@ -67,6 +67,7 @@ class frmMain : public QMainWindow {
   std::vector<std::function<bool()>> StartSteps();
   bool GoOnWithStart();
   bool IsStarted();
+  bool TellAndGoOn();
   void ReadEncoding();
   void updateCheck();
   void CSSCheck();

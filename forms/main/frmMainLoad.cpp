@@ -65,6 +65,12 @@ bool frmMain::IsStarted() {
   return m_nextStep == last && !m_hasEnded;
 }
 
+// As IsStarted, and what stopped the start-up is told again.
+bool frmMain::TellAndGoOn() {
+  m_startFailure.clear();
+  return IsStarted();
+}
+
 // Each step reads one thing, shows it, and is taken again as a whole after a failure. False when the program must end.
 std::vector<std::function<bool()>> frmMain::StartSteps() {
   const auto plain = [](auto act) {

@@ -33,13 +33,14 @@ HelpWindow::HelpWindow(QWidget* parent) : QDialog(parent), m_page(new QTextBrows
 
 void HelpWindow::ShowTopicOf(const QWidget* control) {
   static const std::map<QString, QString> topics{
-      {"frmBible", "bible"},           {"frmLanguage", "language"},   {"frmOutput", "output"},
-      {"frmSample", "text"},           {"frmAlignment", "alignment"}, {"frmOptions", "options"},
-      {"frmDialogs", "details"},       {"frmPAgeTitles", "titles"},   {"frmKeywords", "meta"},
-      {"frmEffects", "effects"},       {"frmCustomHeader", "header"}, {"frmCustomizeFooter", "header"},
-      {"frmEncoding", "encoding"},     {"frmAddnew", "encoding"},     {"frmLinkToMAin", "link"},
-      {"frmBackground", "background"}, {"cmdCompile", "compile"},     {"cmdOpenIndex", "compile"},
-      {"cmdVerifySite", "compile"},    {"cmdRestoreAll", "buttons"},  {"cmdClose", "buttons"}};
+      {"frmBible", "bible"},        {"frmLanguage", "language"},   {"frmOutput", "output"},
+      {"frmSample", "text"},        {"frmAlignment", "alignment"}, {"frmOptions", "options"},
+      {"frmDialogs", "details"},    {"frmPAgeTitles", "titles"},   {"frmKeywords", "meta"},
+      {"frmEffects", "effects"},    {"frmCustomHeader", "header"}, {"frmCustomizeFooter", "header"},
+      {"frmEncoding", "encoding"},  {"frmAddnew", "encoding"},     {"frmImport", "import"},
+      {"cmdImport", "import"},      {"frmLinkToMAin", "link"},     {"frmBackground", "background"},
+      {"cmdCompile", "compile"},    {"cmdOpenIndex", "compile"},   {"cmdVerifySite", "compile"},
+      {"cmdRestoreAll", "buttons"}, {"cmdClose", "buttons"}};
   for (; control != nullptr; control = control->parentWidget()) {
     const auto topic = topics.find(control->objectName());
     if (topic != topics.end()) return ShowTopic(topic->second);

@@ -10,6 +10,7 @@
 #include "FactLines.h"
 #include "FormTest.h"
 #include "Script.h"
+#include "frmImport.h"
 #include "frmMain.h"
 
 namespace folionet {
@@ -141,6 +142,11 @@ const std::map<std::string, FormRuns::Act>& FormRuns::Actions() {
       {"output", [](Test& t, const Line&) { t.ChooseOutput(); }},
       {"scanned",  // the chosen folder
        [](Test& t, const Line&) { EXPECT_TRUE(QTest::qWaitFor([&] { return !t.m_form->Facts().IsLooking(); })); }},
+      {"settled",  // what the import does beside the form
+       [](Test& t, const Line&) {
+         const auto& dialog = t.Get<frmImport>("frmImport.");
+         EXPECT_TRUE(QTest::qWaitFor([&] { return !dialog.IsBusy(); }));
+       }},
       {"startbook", [](Test& t, const Line& l) { t.m_state->startBookText = l.name; }},
   };
   return actions;

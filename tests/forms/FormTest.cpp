@@ -5,6 +5,7 @@
 #include <QClipboard>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <cstdlib>
 
 #include "FolderPickers.h"
 #include "TextBox.h"
@@ -41,6 +42,7 @@ void WriteLibrary(const test::TemporaryFolder& home) {
 }  // namespace
 
 FormTest::FormTest() {
+  setenv("XDG_DATA_HOME", (m_home.Path() + "data").c_str(), 1);
   WriteLibrary(m_home);
   const std::string library = m_home.Path() + "library/";
   m_home.Write("config/Versalia.ini",

@@ -48,10 +48,10 @@ TEST_F(Texts, AreThoseOfTheFile) {
 // opens the desktop's own window.
 TEST_F(Texts, NameEveryControlAndGiveItsOwnKey) {
   ASSERT_TRUE(Start());
-  for (const char* button : {"cmdPageEncoding", "frmEncoding.cmdAddNew"}) Click(button);
+  for (const char* button : {"cmdPageEncoding", "frmEncoding.cmdAddNew", "cmdImport"}) Click(button);
   QList<QWidget*> forms{m_form->centralWidget()};
   for (QDialog* dialog : m_form->findChildren<QDialog*>()) forms << dialog;
-  EXPECT_EQ(forms.size(), 10);
+  EXPECT_EQ(forms.size(), 11);
   for (const QWidget* form : forms) {
     SCOPED_TRACE(FromQt(form->objectName()));
     std::set<const QWidget*> named;

@@ -9,12 +9,15 @@
 #include <QFontDialog>
 #include <QInputDialog>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QStatusBar>
 #include <QTest>
 #include <QTimer>
+#include <cstdlib>
+#include <filesystem>
 #include <set>
 #include <utility>
 
@@ -25,6 +28,7 @@
 #include "TextBox.h"
 #include "Volumes.h"
 #include "frmErr.h"
+#include "frmImport.h"
 
 namespace folionet {
 namespace {
@@ -130,12 +134,12 @@ TEST(FormUiTest, AChooserThatIsCancelledKeepsWhatThereIs) {
     });
     EXPECT_EQ(ui.ChooseFile("*.gif - Compuserve GIF|*.gif| *.* - All Files| *.*", old), isAccepted ? other : old);
     WhenShown<QFileDialog>([isAccepted](QFileDialog& box) {
-      EXPECT_EQ(FromQt(box.windowTitle()), "Choose the Output Path");
+      EXPECT_EQ(FromQt(box.windowTitle()), "title");
       box.setDirectory(QStringLiteral("/usr"));
       box.selectFile(QStringLiteral("/usr"));
       isAccepted ? static_cast<QDialog&>(box).accept() : box.reject();
     });
-    EXPECT_EQ(ui.ChooseFolder(folder.Path()), isAccepted ? "/usr" : folder.Path());
+    EXPECT_EQ(ui.ChooseFolder(folder.Path(), "title"), isAccepted ? "/usr" : folder.Path());
   }
 }
 
@@ -173,6 +177,26 @@ TEST(VolumesTest, AreThoseThatAPersonKnows) {
   EXPECT_EQ(FromQt(found.join(QLatin1Char('|'))), "Home=" + FromQt(QDir::homePath()) +
                                                       "|Computer=/|My Stick=/media/me/My Stick|disk=/mnt/disk|"
                                                       "K=/run/media/me/K");
+}
+
+TEST(FormUiTest, ATextThatIsImportedAnswersForTheFoldersOfALibrary) {
+  const test::TemporaryFolder home;
+  setenv("XDG_DATA_HOME", home.Path().c_str(), 1);
+  const std::string text = home.Write("text", "GEN 1:1 First\n");
+  FormUi ui;
+  WhenShown<QInputDialog>([&](QInputDialog& box) {
+    WhenShown<frmImport>([&](frmImport& form) {
+      form.findChild<QLineEdit*>("txtPath")->setText(ToQt(text));
+      QTest::keyClick(form.findChild<QLineEdit*>("txtPath"), Qt::Key_Return);
+      EXPECT_TRUE(QTest::qWaitFor([&] { return !form.IsBusy(); }));
+      form.findChild<QPushButton*>("cmdImport")->click();
+    });
+    box.findChild<QPushButton*>("cmdImport")->click();
+  });
+  const std::string library = home.Path() + "Folionet/library/";
+  EXPECT_EQ(ui.AskText({"prompt", "title", "C:\\", LibraryFolder::kInstallation}), library);
+  EXPECT_EQ(ui.AskText({"prompt", "title", "C:\\", LibraryFolder::kModules}), library + "Modules/");
+  EXPECT_TRUE(std::filesystem::exists(library + "Modules/Bible/TEXT.TXT"));
 }
 
 TEST(FormUiTest, TheFontChooserOffersOnlyWhatAPageTakes) {

@@ -38,7 +38,9 @@ class ScriptedUi : public UserInterface {
   std::string ChooseFile(const std::string& filter, const std::string& previous) override {
     return Take(texts, Offer(previous, filter));
   }
-  std::string ChooseFolder(const std::string& initial) override { return Take(texts, Offer(initial, initial)); }
+  std::string ChooseFolder(const std::string& initial, const std::string& /*title*/) override {
+    return Take(texts, Offer(initial, initial));
+  }
   void ShowPage(const std::string& path) override { pageShown = path; }
 
   // What the boxes said behind their titles, as "53 Label of the report: text".

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QString>
+
+#include "ImportedBible.h"
+#include "LibraryWriter.h"
+#include "RunTimeError.h"
+
+namespace folionet {
+
+// What was found in a text, a line each, in the desktop's language: what becomes of it, and what is doubled, empty,
+// missing or left out.
+QString FoundInText(const ImportedBible& bible, const LibraryPlan& plan);
+
+// Why it cannot be read or written: file and line, and what was expected.
+QString WhyNoImport(const RunTimeError& error);
+
+// The sentence in the desktop's language.
+QString OfImport(const Sentence& sentence);
+
+}  // namespace folionet

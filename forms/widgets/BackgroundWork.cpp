@@ -1,0 +1,47 @@
+#include "BackgroundWork.h"
+
+#include <thread>
+#include <utility>
+
+namespace folionet {
+
+struct BackgroundWork::Run {
+  std::atomic<bool> isWanted{true};
+  std::atomic<bool> isDone{false};
+};
+
+BackgroundWork::BackgroundWork() {
+  constexpr int kInterval = 20;  // milliseconds
+  m_poll.setInterval(kInterval);
+  connect(&m_poll, &QTimer::timeout, this, &BackgroundWork::Poll);
+}
+
+BackgroundWork::~BackgroundWork() { Drop(); }
+
+void BackgroundWork::Start(Work work, std::function<void()> done) {
+  Drop();
+  m_run = std::make_shared<Run>();
+  m_done = std::move(done);
+  std::thread([run = m_run, work = std::move(work)] {
+    work(run->isWanted);
+    run->isDone = true;
+  }).detach();
+  m_poll.start();
+}
+
+void BackgroundWork::Drop() {
+  if (m_run) m_run->isWanted = false;
+  m_run.reset();
+  m_poll.stop();
+}
+
+void BackgroundWork::Poll() {
+  if (!m_run->isDone) return;
+  m_run.reset();
+  m_poll.stop();
+  // By a copy: it may begin the next piece.
+  const std::function<void()> done = m_done;
+  done();
+}
+
+}  // namespace folionet

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QObject>
+#include <QTimer>
+#include <atomic>
+#include <functional>
+#include <memory>
+
+namespace folionet {
+
+// Work beside the form, one piece at a time, in a thread that nothing waits for. What the thread and the form share
+// must be held by both.
+class BackgroundWork : public QObject {
+  Q_OBJECT
+
+ public:
+  using Work = std::function<void(const std::atomic<bool>& isWanted)>;
+
+  BackgroundWork();
+  ~BackgroundWork() override;
+
+  // Begins `work`, which must let no exception out; `done` is called when it has ended. What was begun before is told
+  // that it is not wanted any more, and its end counts no more.
+  void Start(Work work, std::function<void()> done);
+
+  void Drop();
+  bool IsRunning() const { return m_poll.isActive(); }
+
+ private:
+  struct Run;
+  void Poll();
+
+  std::shared_ptr<Run> m_run;
+  std::function<void()> m_done;
+  QTimer m_poll;
+};
+
+}  // namespace folionet

@@ -12,8 +12,10 @@
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
+#include <filesystem>
 #include <string>
 #include <string_view>
+#include <system_error>
 #include <utility>
 #include <vector>
 
@@ -61,6 +63,13 @@ std::vector<std::string> WithoutThoseOfQt(int argc, char** argv) {
   return own;
 }
 
+// A folder as it is meant where the program is started: the form works in another one.
+void MakeWhole(std::string& folder) {
+  std::error_code ignored;
+  const std::filesystem::path whole = std::filesystem::absolute(folder, ignored);
+  if (!folder.empty() && !ignored) folder = whole.string();
+}
+
 // True when the form is to be opened; otherwise `status` holds.
 bool Parse(int argc, char** argv, Arguments& arguments, int& status) {
   CLI::App app("Turns a Bible translation installed by Versalia into a static web site.", "folionet");
@@ -98,6 +107,8 @@ bool Parse(int argc, char** argv, Arguments& arguments, int& status) {
   std::reverse(own.begin(), own.end());  // as the parser wants them
   try {
     app.parse(std::move(own));
+    for (std::string* folder : {&arguments.folders.versaliaPath, &arguments.folders.modulePath}) MakeWhole(*folder);
+    MakeWhole(arguments.programFolder);
     return true;
   } catch (const CLI::ParseError& error) {
     status = app.exit(error) == 0 ? kExitDone : kExitUsage;

@@ -6,12 +6,15 @@
 #include <QInputDialog>
 #include <QLabel>
 #include <QMessageBox>
+#include <QPlainTextEdit>
+#include <QPointer>
 #include <QTimer>
 #include <cstdio>
 
 // A plugin that a program of ours loads where QT_QPA_GENERIC_PLUGINS names it: a person in front of the form, who
-// answers every box with its first button, cancels what asks for a text, and closes the form. What is seen goes to
-// standard output, a line each.
+// answers every box with its first button, cancels what asks for a text, and closes the form until it is gone. What is
+// seen goes to standard output, a line each. Before that the person takes the steps of the variable PERSON, such as
+// "cmdCustomHeader|frmCustomHeader.Text1=typed|frmCustomHeader.Command1": clicks a button, or fills a box.
 class Person : public QObject {
   Q_OBJECT
 
@@ -41,23 +44,37 @@ class Person : public QObject {
       Tell("asked:", box->labelText());
       return box->reject();
     }
-    if (auto* report = qobject_cast<QDialog*>(modal)) {
-      Tell("window:", report->objectName());
-      return report->close(), void();
+    auto* dialog = qobject_cast<QDialog*>(modal);
+    const bool isReport = dialog != nullptr && dialog->objectName() == QLatin1String("frmErr");
+    if (!m_steps.isEmpty() && !isReport && m_form != nullptr) return Take(m_steps.takeFirst());
+    if (dialog != nullptr) {
+      Tell("window:", dialog->objectName());
+      return dialog->close(), void();
     }
-    for (const QWidget* window : QApplication::topLevelWidgets()) {
-      if (m_hasSeenForm || window->objectName() != QLatin1String("frmMain") || !window->isVisible()) continue;
-      m_hasSeenForm = true;
+    if (m_form != nullptr) return m_form->findChild<QAbstractButton*>(QStringLiteral("cmdClose"))->click();
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+      if (window->objectName() != QLatin1String("frmMain") || !window->isVisible()) continue;
+      m_form = window;
       for (const char* name : {"txtBibleSel", "cmdVerifySite"}) {
         Tell(name, window->findChild<QWidget*>(QLatin1String(name))->property("text").toString());
       }
       Tell("folder:", QDir::currentPath());
       Tell("direction:", QString::number(window->layoutDirection()));
-      window->findChild<QAbstractButton*>(QStringLiteral("cmdClose"))->click();
     }
   }
 
-  bool m_hasSeenForm = false;
+  void Take(const QString& step) const {
+    const QString name = step.section(QLatin1Char('='), 0, 0);
+    const QString dialog = name.section(QLatin1Char('.'), 0, -2);
+    const QWidget* form = dialog.isEmpty() ? m_form.data() : m_form->findChild<QDialog*>(dialog);
+    auto* control = form->findChild<QWidget*>(name.section(QLatin1Char('.'), -1));
+    if (auto* button = qobject_cast<QAbstractButton*>(control)) return button->click();
+    control->setProperty(qobject_cast<QPlainTextEdit*>(control) != nullptr ? "plainText" : "currentText",
+                         step.section(QLatin1Char('='), 1));
+  }
+
+  QPointer<QWidget> m_form;  // once it is there
+  QStringList m_steps = qEnvironmentVariable("PERSON").split(QLatin1Char('|'), Qt::SkipEmptyParts);
 };
 
 class PersonPlugin : public QGenericPlugin {

@@ -78,5 +78,38 @@ TEST(OtherWorlds, AHomeThatCannotBeWrittenIsNoHindrance) {
   EXPECT_NE(styled.errors.find(file + "/Folionet/"), std::string::npos) << styled.errors;
 }
 
+// The pages that a plan, or a folder, tells as removed; rows that only the administrator can arrange are his.
+TEST(OtherWorlds, APlanKnowsWhatCannotBeDeleted) {
+  const struct {
+    const char* protect;
+    bool isForRoot = false;
+  } cases[] = {{"true"},
+               {"chmod 555 out"},
+               {"chown 0 out out/genesis_1.html && chmod 1777 out", true},
+               {"chattr +i out/genesis_2.html", true},
+               {"chattr +a out/genesis_3.html", true},
+               {"chattr +a out", true}};
+  for (const auto& c : cases) {
+    const bool isRoot = geteuid() == 0;
+    if (c.isForRoot && !isRoot) continue;
+    SCOPED_TRACE(c.protect);
+    const TemporaryFolder home;
+    MakeSmallLibrary(home);
+    ASSERT_EQ(RunProgram(CompileSmall({"--quiet"}), home.Path()).status, 0);
+    const auto shell = [&](const std::string& line) { return RunProgram({"/bin/sh", "-c", line}, home.Path()).status; };
+    ASSERT_TRUE(!isRoot || shell("chown -R 65534 .") == 0);
+    if (shell(c.protect) != 0 && c.isForRoot) continue;  // a file system without such marks
+    Command compile = CompileSmall({"--quiet", "--start-book=2"});
+    if (isRoot) compile = With({"/usr/bin/setpriv", "--reuid=65534", "--clear-groups"}, compile);
+    const std::string plan = RunProgram(With(compile, {"--dry-run"}), home.Path()).output;
+    const ProgramResult run = RunProgram(compile, home.Path());
+    EXPECT_EQ(run.status, 0) << run.errors;
+    for (const std::string name : {"genesis_1.html", "genesis_2.html", "genesis_3.html"}) {
+      EXPECT_EQ(plan.find("removed  " + name + "\n") != std::string::npos, !home.Has("out/" + name)) << name << plan;
+    }
+    shell("chmod 755 out; chattr -ia out out/* || true");
+  }
+}
+
 }  // namespace
 }  // namespace folionet::test

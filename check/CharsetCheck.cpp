@@ -13,7 +13,7 @@ namespace folionet {
 namespace {
 
 void CheckCharset(CheckedLibrary& library, const std::string& path) {
-  const auto mismatch = FindMismatch(SampleOfFile(path), library.codePage, library.pageLanguage);
+  const auto mismatch = FindMismatch(SampleOfFile(path), library.codePage, library.typed.texts.PageLanguage);
   if (!mismatch) return;
   Finding finding{.kind = "other-charset", .file = path};
   if (mismatch->kind == TextKind::kUtf8) {
@@ -21,8 +21,7 @@ void CheckCharset(CheckedLibrary& library, const std::string& path) {
   } else {
     finding.what = {"The file is not in UTF-8, and the pages are."};
   }
-  finding.remedy = {"Give the charset that it is in: --set \"Charset=%1\".",
-                    {mismatch->charsetEntry.empty() ? "NAME DESCRIPTION" : mismatch->charsetEntry}};
+  finding.remedy = CharsetRemedy("Give the charset that it is in: --set \"%1\".", mismatch->charsetEntry);
   library.findings.Add(std::move(finding));
 }
 

@@ -5,6 +5,7 @@
 
 #include "CodePage.h"
 #include "Finding.h"
+#include "TypedFindings.h"
 #include "modGlob.h"
 
 namespace folionet {
@@ -13,8 +14,8 @@ namespace folionet {
 struct CheckedLibrary {
   ModGlob& glob;
   const CodePage& codePage;
-  std::string titlesFile;    // the chosen file of book titles
-  std::string pageLanguage;  // that the pages declare, such as "en-us"
+  std::string titlesFile;  // the chosen file of book titles
+  TypedTexts typed;        // for the pages, with the language that they declare
   Findings& findings;
 
   // `line` is counted from 1; 0 is a fault of the file as a whole.

@@ -5,12 +5,13 @@
 #include "Installation.h"
 #include "TextCheck.h"
 #include "TitlesCheck.h"
+#include "TypedCheck.h"
 
 namespace folionet {
 namespace {
 
 // In the order in which they run: the catalogue tells which translations there are.
-constexpr void (*kListChecks[])(CheckedLibrary&) = {CheckCatalogue, CheckTitlesCharset, CheckTitles};
+constexpr void (*kListChecks[])(CheckedLibrary&) = {CheckCatalogue, CheckTypedTexts, CheckTitlesCharset, CheckTitles};
 
 constexpr void (*kTranslationChecks[])(CheckedLibrary&, const TranslationFiles&) = {CheckTextCharset, CheckText};
 

@@ -56,7 +56,7 @@ CodePage CodePageOf(const std::string& fileName, const CheckedLibrary& library) 
 void CheckTitleFile(const std::string& fileName, CheckedLibrary& whole) {
   const ModGlob& glob = whole.glob;
   const CodePage codePage = CodePageOf(fileName, whole);
-  CheckedLibrary library{whole.glob, codePage, whole.titlesFile, whole.pageLanguage, whole.findings};
+  CheckedLibrary library{whole.glob, codePage, whole.titlesFile, whole.typed, whole.findings};
   try {
     const std::string path = SysdefsFile(glob, fileName);
     LineReader lines(path, Subject::kBookTitles, LineReader::kLongestEntry);

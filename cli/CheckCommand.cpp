@@ -1,6 +1,8 @@
 #include "CheckCommand.h"
 
 #include "LibraryCheck.h"
+#include "OptionLoading.h"
+#include "ProgramFolder.h"
 #include "Session.h"
 
 namespace folionet {
@@ -36,9 +38,15 @@ ExitStatus RunCheck(const CommonOptions& common, const CheckArguments& arguments
   Session session(common, ui);
   session.Override(arguments.settings);
   session.LoadCodePage();
+  LoadMissingOptions(session.store, session.options);
+  const std::string programFolder = ProgramFolderToRead(session.chosenProgramFolder);
+  session.LoadOwnHtml(programFolder);
   Findings findings;
-  LibraryCheck check(
-      {session.glob, session.codePage, session.store.Text("cboLang"), session.texts.PageLanguage, findings});
+  LibraryCheck check({session.glob,
+                      session.codePage,
+                      session.store.Text("cboLang"),
+                      {session.options, session.texts, programFolder},
+                      findings});
   check.ExamineLists();
   const std::size_t count = session.glob.cboBibleName.size();
   if (arguments.translation.empty()) {

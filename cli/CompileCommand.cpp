@@ -7,13 +7,12 @@
 #include "ChangeJournal.h"
 #include "ChapterIndex.h"
 #include "Compile.h"
-#include "CustomHtml.h"
 #include "Effects.h"
 #include "ImportedText.h"
 #include "Installation.h"
-#include "PageEncoding.h"
 #include "Paths.h"
 #include "ProgramFolder.h"
+#include "RunFacts.h"
 #include "RunTimeError.h"
 #include "Sitemap.h"
 #include "StopSignals.h"
@@ -173,11 +172,8 @@ ExitStatus RunCompile(const CommonOptions& common, const CompileArguments& argum
   request.isTranslationNamed = !arguments.translation.empty();
   request.cboLang = BookTitlesFile(session.store, session.glob);
   request.programFolder = ProgramFolderOf(session, arguments.dryRun);
+  session.LoadOwnHtml(request.programFolder);
   request.texts = session.texts;
-  for (const auto& [kind, text] : {std::pair{&kCustomHeader, &request.texts.CustomHeader},
-                                   std::pair{&kCustomFooter, &request.texts.CustomFooter}}) {
-    EndUnless(LoadCustomHtml(OwnFolderOfRun(session.store, request.programFolder), *kind, *text, session.ui));
-  }
   const LinkEffects effects = Effects(request.options.frmEffects);
   request.texts.RolloverStyle = effects.RolloverStyle;
   request.texts.BodyLinkTag = effects.BodyLinkTag;

@@ -1,6 +1,7 @@
 #include "Session.h"
 
 #include "Catalogue.h"
+#include "CustomHtml.h"
 #include "ImportedText.h"
 #include "OptionLoading.h"
 #include "PageEncoding.h"
@@ -92,6 +93,14 @@ void Session::LoadCodePage() {
   }
 }
 
+void Session::LoadOwnHtml(const std::string& programFolder) {
+  const OwnFolder own = OwnFolderOfRun(store, programFolder);
+  if (!LoadCustomHtml(own, kCustomHeader, texts.CustomHeader, ui) ||
+      !LoadCustomHtml(own, kCustomFooter, texts.CustomFooter, ui)) {
+    throw ExitWith(kExitFailed);
+  }
+}
+
 void Session::Choose(std::size_t place) {
   ChooseImported(glob, place);
   if (!glob.Imported.IsThere()) return;
@@ -113,7 +122,7 @@ void Session::LoadLists(bool withCatalogue) {
     throw ExitWith(kExitFailed);
   }
   if (const auto why = withCatalogue ? WhyNoTranslation(glob) : std::nullopt) {
-    ui.Tell(NoticeText(*why));
+    ui.Tell(why->InEnglish());
   }
   for (const std::string& text : glob.unreadableTexts) {
     ui.Tell("A translation is left out, for its text cannot be read: " + text);

@@ -32,6 +32,9 @@ class Session {
   // As LoadOptions, but the charset only.
   void LoadCodePage();
 
+  // Reads the custom header and footer of a program folder. Ends the command after reporting one that cannot be read.
+  void LoadOwnHtml(const std::string& programFolder);
+
   // Chooses the translation at a place of BibleNames: one that was imported brings its charset, its language and its
   // book titles, where the person has set no others. The lists have been loaded before.
   void Choose(std::size_t place);

@@ -3,12 +3,12 @@
 #include <vector>
 
 #include "ConsoleUi.h"
-#include "RunFacts.h"
+#include "Finding.h"
 
 namespace folionet {
 
 // Tells what a run will do before it is run: warnings as such, what is only good to know unless little is to be said.
 // A plan has what will be removed in it in any case.
-void TellFacts(const std::vector<RunFact>& facts, bool dryRun, ConsoleUi& ui);
+void TellFacts(const std::vector<Finding>& facts, bool dryRun, ConsoleUi& ui);
 
 }  // namespace folionet

@@ -5,7 +5,9 @@
 #include <iterator>
 #include <map>
 #include <set>
+#include <string_view>
 #include <unordered_set>
+#include <utility>
 
 #include "CodePage.h"
 #include "FileHandle.h"
@@ -15,6 +17,7 @@
 #include "PageFile.h"
 #include "PageNames.h"
 #include "Paths.h"
+#include "TypedFindings.h"
 #include "WholeFile.h"
 
 namespace folionet {
@@ -46,6 +49,10 @@ bool IsPageOfOurs(const std::string& path) {
   return FileExists(path) && file.IsOpen() && ReadAll(file.Get(), head, kGeneratorHead, 0) && IsOurPage(head);
 }
 
+Finding Warning(const char* kind, Sentence what, Sentence remedy) {
+  return {.kind = kind, .severity = Severity::kWarning, .what = std::move(what), .remedy = std::move(remedy)};
+}
+
 class FactFinder {
  public:
   FactFinder(const CompileRequest& request, const ModGlob& glob)
@@ -56,29 +63,29 @@ class FactFinder {
         m_index(IndexFileName(request.options.txthttpRoot)) {}
 
   // What is only good to know of the books becomes a warning where pages of theirs are there now.
-  void WarnOfRemoval(std::vector<RunFact>& facts) const {
+  void WarnOfRemoval(std::vector<Finding>& facts) const {
     if (m_request.txtOutputPath.empty()) return;
-    for (RunFact& fact : facts) {
-      if (fact.kind == RunFactKind::kRemovesPages) fact.isWarning = fact.isWarning || ArePagesThere();
+    for (Finding& fact : facts) {
+      if (std::string_view(fact.kind) == kRemovesPages && ArePagesThere()) fact.severity = Severity::kWarning;
     }
   }
 
-  void FindOtherTranslation(std::vector<RunFact>& facts) const {
+  void FindOtherTranslation(std::vector<Finding>& facts) const {
     const CodePage codePage(m_request.texts.PageCharset);
     const std::string there = TranslationOfSite(m_request, m_names);
     if (there.empty() || there == codePage.DecodeForDisplay(m_request.options.txtBibleSel)) return;
-    facts.push_back({RunFactKind::kOtherTranslation,
-                     true,
-                     {Translatable("Notice", "The folder holds pages of another translation: %1."), {there}}});
+    facts.push_back(Warning(
+        "other-translation", {Words("QObject", "The folder holds pages of another translation: %1."), {there}},
+        {"Pages of the same names are written over; choose another folder with --output if that is not meant."}));
   }
 
-  void FindNames(std::vector<RunFact>& facts) const {
+  void FindNames(std::vector<Finding>& facts) const {
     FindSharedIndex(facts);
     FindMeetingBooks(facts);
   }
 
   // Pages of ours in the output folder that this run neither writes nor deletes.
-  void FindOldPages(std::vector<RunFact>& facts) const {
+  void FindOldPages(std::vector<Finding>& facts) const {
     const std::string folder = NativePath(m_request.txtOutputPath);
     if (folder.empty() || !FolderExists(folder)) return;
     const std::unordered_set<std::string> known = NamesOfRun();
@@ -88,12 +95,12 @@ class FactFinder {
     }
     if (old.empty()) return;
     facts.push_back(
-        {RunFactKind::kOldPages,
-         true,
-         {Translatable("Notice",
+        Warning("old-pages",
+                {Words("QObject",
                        "%1 pages of earlier compiles, such as %2, lie in the folder. This one does not write "
                        "them, and its index page does not lead to them."),
-          {std::to_string(old.size()), *old.begin()}}});
+                 {std::to_string(old.size()), *old.begin()}},
+                {"\"folionet-cli verify FOLDER\" names them: delete them where nobody needs them."}));
   }
 
  private:
@@ -125,21 +132,20 @@ class FactFinder {
   }
 
   // The pages of the books before the starting one are deleted in any case, and those that stay are not.
-  void FindSharedIndex(std::vector<RunFact>& facts) const {
+  void FindSharedIndex(std::vector<Finding>& facts) const {
     for (int book = m_request.cboStartBook + 1; book <= Books(); ++book) {
       if (!m_index.starts_with(m_names.BookOnDisk(book))) continue;
       for (int chapter = 1; chapter <= ChaptersOf(book); ++chapter) {
         if (m_names.OnDisk(book, chapter) != m_index) continue;
-        facts.push_back(
-            {RunFactKind::kIndexTakesPage,
-             true,
-             {Translatable("Notice", "The index page %1 takes the place of a chapter's page."), {m_index}}});
+        facts.push_back(Warning("index-takes-page",
+                                {Words("QObject", "The index page %1 takes the place of a chapter's page."), {m_index}},
+                                {"Give it a name of its own with --index-address."}));
         return;
       }
     }
   }
 
-  void FindMeetingBooks(std::vector<RunFact>& facts) const {
+  void FindMeetingBooks(std::vector<Finding>& facts) const {
     std::map<std::string, std::vector<int>> booksOfName;
     for (int book = m_request.cboStartBook + 1; book <= Books(); ++book) {
       if (ChaptersOf(book) > 0) booksOfName[m_names.OnDisk(book, 1)].push_back(book);
@@ -148,13 +154,12 @@ class FactFinder {
       if (books.size() < 2) continue;
       std::string numbers;
       for (const int book : books) numbers += (numbers.empty() ? "" : ", ") + std::to_string(book);
-      facts.push_back({RunFactKind::kPagesMeet,
-                       true,
-                       {Translatable("Notice",
-                                     "The books %2 have the same page names, such as %1: only the pages of "
-                                     "the last one are kept."),
-                        {name, numbers}},
-                       {"Use83", "1"}});
+      facts.push_back(
+          Warning("pages-meet",
+                  {Words("QObject",
+                         "The books %2 have the same page names, such as %1: only the pages of the last one are kept."),
+                   {name, numbers}},
+                  {"Give other titles with --language-file, or short names: --set \"Use83=1\"."}));
     }
   }
 
@@ -165,60 +170,56 @@ class FactFinder {
   std::string m_index;
 };
 
-void Append(std::vector<RunFact>& facts, std::vector<RunFact> more) {
+void Append(std::vector<Finding>& facts, std::vector<Finding> more) {
   std::move(more.begin(), more.end(), std::back_inserter(facts));
 }
 
 }  // namespace
 
-std::vector<RunFact> FindRangeFacts(const CompileRequest& request, const ModGlob& glob) {
-  std::vector<RunFact> facts;
+std::vector<Finding> FindRangeFacts(const CompileRequest& request, const ModGlob& glob) {
+  std::vector<Finding> facts;
   const bool isReversed = request.cboEndBook < request.cboStartBook;
   if (isReversed) {
     facts.push_back(
-        {RunFactKind::kEndsBeforeStart,
-         true,
-         {Translatable("Notice", "The ending book stands before the starting book: the index page has no links."),
-          {}}});
+        Warning("ends-before-start",
+                {Words("QObject", "The ending book stands before the starting book: the index page has no links."), {}},
+                {"Give the books in their order with --start-book and --end-book."}));
   }
   const ChapterCounts counts = CountChapters(glob);
-  const auto missing = [&](int book) {
-    return static_cast<int>(std::count_if(glob.missingChapters.begin(), glob.missingChapters.end(),
-                                          [&](const auto& chapter) { return chapter.first == book; }));
+  const auto pagesOf = [&](int book) {
+    const auto missing = std::count_if(glob.missingChapters.begin(), glob.missingChapters.end(),
+                                       [&](const auto& chapter) { return chapter.first == book; });
+    return counts[static_cast<std::size_t>(book)] - static_cast<int>(missing);
+  };
+  const auto addRemoval = [&](const char* kind, const char* words, int pages) {
+    if (pages == 0) return;
+    facts.push_back({.kind = kind,
+                     .severity = isReversed ? Severity::kWarning : Severity::kNote,
+                     .what = {words, {std::to_string(pages)}}});
   };
   int before = 0;
-  for (int book = 1; book <= std::min(request.cboStartBook, kBooks); ++book) {
-    before += counts[static_cast<std::size_t>(book)] - missing(book);
-  }
-  if (before > 0) {
-    facts.push_back({RunFactKind::kRemovesPages,
-                     isReversed,
-                     {Translatable("Notice", "%1 pages are removed, those of the books before the starting book."),
-                      {std::to_string(before)}}});
-  }
+  for (int book = 1; book <= std::min(request.cboStartBook, kBooks); ++book) before += pagesOf(book);
+  addRemoval(kRemovesPages, Words("QObject", "%1 pages are removed, those of the books before the starting book."),
+             before);
   if (!request.onlyChosen) return facts;
-  int removed = 0;
+  int after = 0;
   const PageNames names(glob.cboStartBook, request.options.chkUse83, CodePage(request.texts.PageCharset));
-  for (const int book : BooksRemovedAfter(request, names))
-    removed += counts[static_cast<std::size_t>(book)] - missing(book);
-  if (removed > 0) {
-    facts.push_back({RunFactKind::kRemovesLaterPages,
-                     isReversed,
-                     {Translatable("Notice", "%1 pages are removed, those of the books after the ending book."),
-                      {std::to_string(removed)}}});
-  }
+  for (const int book : BooksRemovedAfter(request, names)) after += pagesOf(book);
+  addRemoval(kRemovesLaterPages, Words("QObject", "%1 pages are removed, those of the books after the ending book."),
+             after);
   return facts;
 }
 
-std::vector<RunFact> FindRunFacts(const CompileRequest& request, const ModGlob& glob) {
-  std::vector<RunFact> facts;
+std::vector<Finding> FindRunFacts(const CompileRequest& request, const ModGlob& glob) {
+  std::vector<Finding> facts;
   const std::size_t translations = glob.cboBibleName.size();
   if (!request.isTranslationNamed && translations > 1) {
-    facts.push_back({RunFactKind::kTookFirst,
-                     false,
-                     {Translatable("Notice", "No translation is named: of %2, the first is taken, %1."),
-                      {CodePage(request.texts.PageCharset).DecodeForDisplay(request.options.txtBibleSel),
-                       std::to_string(translations)}}});
+    facts.push_back({.kind = "took-first",
+                     .severity = Severity::kNote,
+                     .what = {Words("QObject", "No translation is named: of %2, the first is taken, %1."),
+                              {CodePage(request.texts.PageCharset).DecodeForDisplay(request.options.txtBibleSel),
+                               std::to_string(translations)}},
+                     .remedy = {"Name one with --translation NAME."}});
   }
   Append(facts, FindRangeFacts(request, glob));
   const FactFinder finder(request, glob);
@@ -227,7 +228,7 @@ std::vector<RunFact> FindRunFacts(const CompileRequest& request, const ModGlob& 
   finder.FindNames(facts);
   finder.FindOldPages(facts);
   Append(facts, FindCharsetFacts(request, glob));
-  Append(facts, FindTextFacts(request));
+  Append(facts, FindInTypedTexts({request.options, request.texts, request.programFolder}));
   return facts;
 }
 

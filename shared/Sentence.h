@@ -7,7 +7,7 @@
 namespace folionet {
 
 // Marks a pattern that forms show, for the collector of texts to translate. `context` is the one that they translate it
-// in; both must be literals.
+// in, "QObject" where any form may show it; both must be literals.
 constexpr const char* Words(const char* /*context*/, const char* pattern) { return pattern; }
 
 // A sentence that is not worded yet, so that a form can do it in the desktop's language and the command line in

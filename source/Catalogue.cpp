@@ -139,20 +139,20 @@ Outcome PopulateCombos(int which, const std::string& cboLang, ModGlob& glob, con
   }
 }
 
-std::optional<Notice> WhyNoTranslation(const ModGlob& glob) {
+std::optional<Sentence> WhyNoTranslation(const ModGlob& glob) {
   if (!glob.cboBibleName.empty()) return std::nullopt;
   if (!FolderExists(glob.ModulesPath)) {
-    return Notice{Translatable("Notice", "There is no translation, for there is no folder %1 of Versalia's modules."),
-                  {glob.ModulesPath}};
+    return Sentence{Words("QObject", "There is no translation, for there is no folder %1 of Versalia's modules."),
+                    {glob.ModulesPath}};
   }
   const std::string catalogue = SysdefsFile(glob, kCatalogueName);
   if (glob.listedTranslations == 0) {
-    return Notice{Translatable("Notice", "There is no translation, for the catalogue %1 lists none."), {catalogue}};
+    return Sentence{Words("QObject", "There is no translation, for the catalogue %1 lists none."), {catalogue}};
   }
-  return Notice{Translatable("Notice",
-                             "There is no translation, for the text of none can be read: %1 lists %2, and the text of "
-                             "the first was looked for in %3."),
-                {catalogue, std::to_string(glob.listedTranslations), glob.firstText}};
+  return Sentence{Words("QObject",
+                        "There is no translation, for the text of none can be read: %1 lists %2, and the text of "
+                        "the first was looked for in %3."),
+                  {catalogue, std::to_string(glob.listedTranslations), glob.firstText}};
 }
 
 std::optional<std::size_t> TranslationAt(const ModGlob& glob, std::size_t item) {

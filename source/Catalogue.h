@@ -6,8 +6,8 @@
 
 #include "CodePage.h"
 #include "Installation.h"
-#include "Notice.h"
 #include "RecordReader.h"
+#include "Sentence.h"
 #include "UserInterface.h"
 #include "modGlob.h"
 
@@ -46,7 +46,7 @@ Outcome PopulateCombos(int which, const std::string& cboLang, ModGlob& glob, con
                        UserInterface& ui);
 
 // Why cboBibleName is empty, after a reading: what was looked for, and where. Nothing when it is not empty.
-std::optional<Notice> WhyNoTranslation(const ModGlob& glob);
+std::optional<Sentence> WhyNoTranslation(const ModGlob& glob);
 
 // The place in BibleNames of an item of cboBibleName. Items stay when the catalogue is read again, so that translations
 // may be listed twice; nothing for one that the last reading did not find.

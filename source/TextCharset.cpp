@@ -124,4 +124,8 @@ std::optional<CharsetMismatch> FindMismatch(const TextSample& sample, const Code
   return CharsetMismatch{TextKind::kOther, EntryFor(sample.bytes, pageLanguage)};
 }
 
+std::string EntryOf(const TextSample& sample, std::string_view pageLanguage) {
+  return sample.kind == TextKind::kOther ? EntryFor(sample.bytes, pageLanguage) : kUtf8Entry;
+}
+
 }  // namespace folionet

@@ -35,4 +35,7 @@ struct CharsetMismatch {
 std::optional<CharsetMismatch> FindMismatch(const TextSample& sample, const CodePage& codePage,
                                             std::string_view pageLanguage);
 
+// The entry of the charset that a text may be in: UTF-8 where it is, or may well be; empty where it cannot be told.
+std::string EntryOf(const TextSample& sample, std::string_view pageLanguage);
+
 }  // namespace folionet

@@ -310,6 +310,94 @@
         <source>&amp;Import a text...</source>
         <translation>Text &amp;importieren...</translation>
     </message>
+    <message>
+        <source>There is no translation, for there is no folder %1 of Versalia&apos;s modules.</source>
+        <translation>Es gibt keine Übersetzung, denn der Ordner %1 mit Versalias Modulen ist nicht da.</translation>
+    </message>
+    <message>
+        <source>There is no translation, for the catalogue %1 lists none.</source>
+        <translation>Es gibt keine Übersetzung, denn der Katalog %1 nennt keine.</translation>
+    </message>
+    <message>
+        <source>There is no translation, for the text of none can be read: %1 lists %2, and the text of the first was looked for in %3.</source>
+        <translation>Es gibt keine Übersetzung, denn von keiner ist der Text lesbar: %1 nennt %2, und der Text der ersten wurde in %3 gesucht.</translation>
+    </message>
+    <message>
+        <source>%1 in the setting %2 is no dynamic word, and stands in the pages as it is; the words are %bible%, %bk%, %ch% and %vs%.</source>
+        <translation>%1 in der Einstellung %2 ist kein dynamisches Wort und steht unverändert in den Seiten; die Wörter sind %bible%, %bk%, %ch% und %vs%.</translation>
+    </message>
+    <message>
+        <source>%1 in %2 stands in the pages as it is: only titles, META texts and the text of the link have dynamic words.</source>
+        <translation>%1 in %2 steht unverändert in den Seiten: Dynamische Wörter gibt es nur in Titeln, META-Texten und dem Text des Links.</translation>
+    </message>
+    <message>
+        <source>No list of languages knows the page language %1.</source>
+        <translation>Keine Liste von Sprachen kennt die Sprache %1 der Seiten.</translation>
+    </message>
+    <message>
+        <source>No browser knows the charset %1; the pages are written in %2.</source>
+        <translation>Kein Browser kennt den Zeichensatz %1; die Seiten werden in %2 geschrieben.</translation>
+    </message>
+    <message>
+        <source>Pages cannot be in the charset %1; they are written in %2 all the same.</source>
+        <translation>Seiten können den Zeichensatz %1 nicht haben; sie werden trotzdem in %2 geschrieben.</translation>
+    </message>
+    <message>
+        <source>The book titles are UTF-8, the pages %1.</source>
+        <translation>Die Buchtitel sind in UTF-8, die Seiten in %1.</translation>
+    </message>
+    <message>
+        <source>The text of the translation is UTF-8, the pages %1.</source>
+        <translation>Der Text der Übersetzung ist in UTF-8, die Seiten in %1.</translation>
+    </message>
+    <message>
+        <source>The book titles are not UTF-8, the pages are.</source>
+        <translation>Die Buchtitel sind nicht in UTF-8, die Seiten sind es.</translation>
+    </message>
+    <message>
+        <source>The text of the translation is not UTF-8, the pages are.</source>
+        <translation>Der Text der Übersetzung ist nicht in UTF-8, die Seiten sind es.</translation>
+    </message>
+    <message>
+        <source>The text of the translation is UTF-8 and the book titles are not: no charset of the pages fits both.</source>
+        <translation>Der Text der Übersetzung ist in UTF-8, die Buchtitel sind es nicht: Kein Zeichensatz der Seiten passt zu beiden.</translation>
+    </message>
+    <message>
+        <source>The book titles are UTF-8 and the text of the translation is not: no charset of the pages fits both.</source>
+        <translation>Die Buchtitel sind in UTF-8, der Text der Übersetzung ist es nicht: Kein Zeichensatz der Seiten passt zu beiden.</translation>
+    </message>
+    <message>
+        <source>The folder holds pages of another translation: %1.</source>
+        <translation>Der Ordner enthält Seiten einer anderen Übersetzung: %1.</translation>
+    </message>
+    <message>
+        <source>%1 pages of earlier compiles, such as %2, lie in the folder. This one does not write them, and its index page does not lead to them.</source>
+        <translation>Im Ordner liegen %1 Seiten früherer Läufe, etwa %2. Dieser schreibt sie nicht, und seine Indexseite führt nicht zu ihnen.</translation>
+    </message>
+    <message>
+        <source>The index page %1 takes the place of a chapter&apos;s page.</source>
+        <translation>Die Indexseite %1 nimmt den Platz der Seite eines Kapitels ein.</translation>
+    </message>
+    <message>
+        <source>The books %2 have the same page names, such as %1: only the pages of the last one are kept.</source>
+        <translation>Die Bücher %2 haben dieselben Seitennamen, etwa %1: Nur die Seiten des letzten bleiben.</translation>
+    </message>
+    <message>
+        <source>The ending book stands before the starting book: the index page has no links.</source>
+        <translation>Das letzte Buch steht vor dem ersten: Die Indexseite hat keine Links.</translation>
+    </message>
+    <message>
+        <source>%1 pages are removed, those of the books before the starting book.</source>
+        <translation>%1 Seiten werden gelöscht: die der Bücher vor dem ersten.</translation>
+    </message>
+    <message>
+        <source>%1 pages are removed, those of the books after the ending book.</source>
+        <translation>%1 Seiten werden gelöscht: die der Bücher nach dem letzten.</translation>
+    </message>
+    <message>
+        <source>No translation is named: of %2, the first is taken, %1.</source>
+        <translation>Es ist keine Übersetzung genannt: Von %2 wird die erste genommen, %1.</translation>
+    </message>
 </context>
 <context>
     <name>folionet::CustomHtmlDialog</name>

@@ -310,6 +310,94 @@
         <source>&amp;Import a text...</source>
         <translation>&amp;Importar un texto...</translation>
     </message>
+    <message>
+        <source>There is no translation, for there is no folder %1 of Versalia&apos;s modules.</source>
+        <translation>No hay ninguna traducción, pues no existe la carpeta %1 de los módulos de Versalia.</translation>
+    </message>
+    <message>
+        <source>There is no translation, for the catalogue %1 lists none.</source>
+        <translation>No hay ninguna traducción, pues el catálogo %1 no contiene ninguna.</translation>
+    </message>
+    <message>
+        <source>There is no translation, for the text of none can be read: %1 lists %2, and the text of the first was looked for in %3.</source>
+        <translation>No hay ninguna traducción, pues no se puede leer el texto de ninguna: %1 contiene %2, y el texto de la primera se buscó en %3.</translation>
+    </message>
+    <message>
+        <source>%1 in the setting %2 is no dynamic word, and stands in the pages as it is; the words are %bible%, %bk%, %ch% and %vs%.</source>
+        <translation>%1 en la opción %2 no es una palabra dinámica y queda tal cual en las páginas; las palabras son %bible%, %bk%, %ch% y %vs%.</translation>
+    </message>
+    <message>
+        <source>%1 in %2 stands in the pages as it is: only titles, META texts and the text of the link have dynamic words.</source>
+        <translation>%1 en %2 queda tal cual en las páginas: solo los títulos, los textos META y el texto del enlace tienen palabras dinámicas.</translation>
+    </message>
+    <message>
+        <source>No list of languages knows the page language %1.</source>
+        <translation>Ninguna lista de idiomas conoce el idioma %1 de las páginas.</translation>
+    </message>
+    <message>
+        <source>No browser knows the charset %1; the pages are written in %2.</source>
+        <translation>Ningún navegador conoce el juego de caracteres %1; las páginas se escriben en %2.</translation>
+    </message>
+    <message>
+        <source>Pages cannot be in the charset %1; they are written in %2 all the same.</source>
+        <translation>Las páginas no pueden tener el juego de caracteres %1; se escriben de todos modos en %2.</translation>
+    </message>
+    <message>
+        <source>The book titles are UTF-8, the pages %1.</source>
+        <translation>Los títulos de los libros están en UTF-8 y las páginas en %1.</translation>
+    </message>
+    <message>
+        <source>The text of the translation is UTF-8, the pages %1.</source>
+        <translation>El texto de la traducción está en UTF-8 y las páginas en %1.</translation>
+    </message>
+    <message>
+        <source>The book titles are not UTF-8, the pages are.</source>
+        <translation>Los títulos de los libros no están en UTF-8 y las páginas sí.</translation>
+    </message>
+    <message>
+        <source>The text of the translation is not UTF-8, the pages are.</source>
+        <translation>El texto de la traducción no está en UTF-8 y las páginas sí.</translation>
+    </message>
+    <message>
+        <source>The text of the translation is UTF-8 and the book titles are not: no charset of the pages fits both.</source>
+        <translation>El texto de la traducción está en UTF-8 y los títulos de los libros no: ningún juego de caracteres de las páginas sirve para ambos.</translation>
+    </message>
+    <message>
+        <source>The book titles are UTF-8 and the text of the translation is not: no charset of the pages fits both.</source>
+        <translation>Los títulos de los libros están en UTF-8 y el texto de la traducción no: ningún juego de caracteres de las páginas sirve para ambos.</translation>
+    </message>
+    <message>
+        <source>The folder holds pages of another translation: %1.</source>
+        <translation>La carpeta contiene páginas de otra traducción: %1.</translation>
+    </message>
+    <message>
+        <source>%1 pages of earlier compiles, such as %2, lie in the folder. This one does not write them, and its index page does not lead to them.</source>
+        <translation>En la carpeta hay %1 páginas de compilaciones anteriores, como %2. Esta no las escribe, y su página de índice no lleva a ellas.</translation>
+    </message>
+    <message>
+        <source>The index page %1 takes the place of a chapter&apos;s page.</source>
+        <translation>La página de índice %1 ocupa el lugar de la página de un capítulo.</translation>
+    </message>
+    <message>
+        <source>The books %2 have the same page names, such as %1: only the pages of the last one are kept.</source>
+        <translation>Los libros %2 tienen los mismos nombres de página, como %1: solo quedan las páginas del último.</translation>
+    </message>
+    <message>
+        <source>The ending book stands before the starting book: the index page has no links.</source>
+        <translation>El último libro está antes del primero: la página de índice no tiene enlaces.</translation>
+    </message>
+    <message>
+        <source>%1 pages are removed, those of the books before the starting book.</source>
+        <translation>Se eliminan %1 páginas: las de los libros anteriores al primero.</translation>
+    </message>
+    <message>
+        <source>%1 pages are removed, those of the books after the ending book.</source>
+        <translation>Se eliminan %1 páginas: las de los libros posteriores al último.</translation>
+    </message>
+    <message>
+        <source>No translation is named: of %2, the first is taken, %1.</source>
+        <translation>No se ha nombrado ninguna traducción: de %2 se toma la primera, %1.</translation>
+    </message>
 </context>
 <context>
     <name>folionet::CustomHtmlDialog</name>

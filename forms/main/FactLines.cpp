@@ -1,6 +1,5 @@
 #include "FactLines.h"
 
-#include <QCoreApplication>
 #include <QLocale>
 #include <QStringList>
 #include <algorithm>
@@ -16,12 +15,6 @@
 
 namespace folionet {
 namespace {
-
-QString InDesktopLanguage(const Notice& notice) {
-  QString text = QCoreApplication::translate("Notice", notice.pattern);
-  for (const std::string& value : notice.arguments) text = text.arg(ToQt(value));
-  return text;
-}
 
 // A line that is empty takes no room.
 void ShowLine(QLabel& line, const QString& text) {
@@ -110,12 +103,12 @@ void FactLines::ShowRange() {
   QStringList lines;
   if (request.cboBibleName >= 0 && HasAllBooks(glob)) {
     request.txtOutputPath.clear();  // what is on the disk is found beside the form
-    for (const RunFact& fact : FindRunFacts(request, glob)) {
-      if (fact.kind == RunFactKind::kRemovesPages) {
+    for (const Finding& fact : FindRunFacts(request, glob)) {
+      if (std::string_view(fact.kind) == kRemovesPages) {
         lines << tr("The pages of %1 will be deleted: %2.")
-                     .arg(BooksText(0, request.cboStartBook - 1), ToQt(fact.notice.arguments.at(0)));
+                     .arg(BooksText(0, request.cboStartBook - 1), ToQt(fact.what.arguments.at(0)));
       } else {
-        lines << InDesktopLanguage(fact.notice);
+        lines << InDesktopLanguage(fact.what);
       }
     }
     const auto isAfter = [&](const ChapterEntry& entry) { return entry.Book > request.cboEndBook + 1; };

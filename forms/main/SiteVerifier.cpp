@@ -1,6 +1,5 @@
 #include "SiteVerifier.h"
 
-#include <QCoreApplication>
 #include <QEventLoop>
 #include <QProgressDialog>
 #include <QStringList>
@@ -21,11 +20,6 @@ namespace folionet {
 namespace {
 
 QString Shown(std::size_t number) { return QString::number(number); }
-
-QString InDesktopLanguage(const Sentence& sentence) {
-  const QByteArray pattern = QCoreApplication::translate("QObject", sentence.pattern).toUtf8();
-  return ToQt(Sentence{pattern.constData(), sentence.arguments}.InEnglish());
-}
 
 QString FindingText(const Finding& finding) {
   const QString line = finding.line > 0 ? ":" + Shown(finding.line) : QString();

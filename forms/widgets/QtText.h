@@ -1,11 +1,13 @@
 #pragma once
 
 #include <QColor>
+#include <QCoreApplication>
 #include <QString>
 #include <string>
 #include <string_view>
 
 #include "Colours.h"
+#include "Sentence.h"
 
 namespace folionet {
 
@@ -16,6 +18,12 @@ inline QString ToQt(std::string_view utf8) {
 }
 
 inline std::string FromQt(const QString& text) { return text.toStdString(); }
+
+// Of a pattern that is marked by Words("QObject", ...).
+inline QString InDesktopLanguage(const Sentence& sentence) {
+  const QByteArray pattern = QCoreApplication::translate("QObject", sentence.pattern).toUtf8();
+  return ToQt(Sentence{pattern.constData(), sentence.arguments}.InEnglish());
+}
 
 // For a box: lines end in LF.
 inline QString ToQtLines(std::string_view utf8) {

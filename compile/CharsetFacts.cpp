@@ -1,0 +1,67 @@
+#include <string>
+#include <utility>
+
+#include "CodePage.h"
+#include "RunFacts.h"
+#include "TextCharset.h"
+#include "TypedFindings.h"
+
+namespace folionet {
+namespace {
+
+Finding Mismatch(bool isOfTitles, const CharsetMismatch& mismatch, const CodePage& codePage) {
+  Finding fact{.kind = isOfTitles ? "titles-charset" : "text-charset", .severity = Severity::kWarning};
+  if (mismatch.kind == TextKind::kUtf8) {
+    fact.what = {isOfTitles ? Words("QObject", "The book titles are UTF-8, the pages %1.")
+                            : Words("QObject", "The text of the translation is UTF-8, the pages %1."),
+                 {codePage.Name()}};
+  } else {
+    fact.what = {isOfTitles ? Words("QObject", "The book titles are not UTF-8, the pages are.")
+                            : Words("QObject", "The text of the translation is not UTF-8, the pages are."),
+                 {}};
+  }
+  fact.remedy = CharsetRemedy(
+      isOfTitles ? "Give the charset that they are in: --set \"%1\"." : "Give the charset that it is in: --set \"%1\".",
+      mismatch.charsetEntry);
+  return fact;
+}
+
+Finding Difference(bool isTextUtf8) {
+  return {.kind = "charsets-differ",
+          .severity = Severity::kWarning,
+          .what = {isTextUtf8 ? Words("QObject",
+                                      "The text of the translation is UTF-8 and the book titles are not: no charset of "
+                                      "the pages fits both.")
+                              : Words("QObject",
+                                      "The book titles are UTF-8 and the text of the translation is not: no charset of "
+                                      "the pages fits both."),
+                   {}},
+          .remedy = {"Give other titles with --language-file, or convert one of the two files."}};
+}
+
+}  // namespace
+
+std::vector<Finding> FindCharsetFacts(const CompileRequest& request, const ModGlob& glob) {
+  std::vector<Finding> facts;
+  const CodePage codePage(request.texts.PageCharset);
+  std::string titles;
+  for (const std::string& title : glob.cboStartBook) titles += title + "\n";
+  for (const std::string& code : glob.BookCodes) titles += code + "\n";
+  const TextSample ofTitles = SampleOf(titles);
+  // An imported text says itself which charset it is in, and is brought into that of the pages.
+  const TextSample ofVerses = glob.Imported.IsThere() ? TextSample() : SampleOfFile(request.txtFilename);
+  const std::string& language = request.texts.PageLanguage;
+  if (auto fact = FindInCharset(request.texts.PageCharset, EntryOf(ofVerses, language))) {
+    facts.push_back(*std::move(fact));
+  }
+  const bool isEither = ofTitles.kind != TextKind::kAscii && ofVerses.kind != TextKind::kAscii;
+  if (isEither && ofTitles.kind != ofVerses.kind) {
+    facts.push_back(Difference(ofVerses.kind == TextKind::kUtf8));
+    return facts;
+  }
+  if (const auto wrong = FindMismatch(ofVerses, codePage, language)) facts.push_back(Mismatch(false, *wrong, codePage));
+  if (const auto wrong = FindMismatch(ofTitles, codePage, language)) facts.push_back(Mismatch(true, *wrong, codePage));
+  return facts;
+}
+
+}  // namespace folionet

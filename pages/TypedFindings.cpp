@@ -1,0 +1,119 @@
+#include "TypedFindings.h"
+
+#include <unicode/uloc.h>
+
+#include <algorithm>
+#include <array>
+#include <string_view>
+#include <utility>
+
+#include "BuildTitles.h"
+#include "CodePage.h"
+#include "RecordReader.h"
+#include "RunTimeError.h"
+
+namespace folionet {
+namespace {
+
+bool IsPlainCode(std::string_view code) {
+  return !code.empty() && std::all_of(code.begin(), code.end(), [](char c) {
+    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '-';
+  });
+}
+
+// Whether a list of languages, "code","description" a line, holds a code.
+bool IsListed(const std::string& path, const std::string& code) {
+  try {
+    RecordReader records(path, Subject::kEncodingList);
+    std::array<std::string_view, 2> fields;
+    while (records.Next(fields)) {
+      if (EqualIgnoringCase(fields[0], code)) return true;
+    }
+  } catch (const RunTimeError&) {
+    // A list that cannot be read knows nothing; the dialog that shows it tells why.
+  }
+  return false;
+}
+
+bool IsKnownLanguage(const std::string& code, const std::string& list) {
+  if (!IsPlainCode(code)) return false;
+  const std::string language = code.substr(0, code.find('-'));
+  return *uloc_getISO3Language(language.c_str()) != '\0' || language.size() == 3 || IsListed(list, code);
+}
+
+Finding Warning(const char* kind, Sentence what, Sentence remedy) {
+  return {.kind = kind, .severity = Severity::kWarning, .what = std::move(what), .remedy = std::move(remedy)};
+}
+
+void AddWord(const char* key, std::string_view text, std::vector<Finding>& findings) {
+  const std::string_view word = FindUnknownWord(text);
+  if (word.empty()) return;
+  findings.push_back(
+      Warning("unknown-word",
+              {Words("QObject",
+                     "%1 in the setting %2 is no dynamic word, and stands in the pages as it is; the words "
+                     "are %bible%, %bk%, %ch% and %vs%."),
+               {std::string(word), key}},
+              {"Correct it."}));
+}
+
+void AddHtmlWord(const char* file, std::string_view text, std::vector<Finding>& findings) {
+  const std::string_view word = FindWord(text);
+  if (word.empty()) return;
+  findings.push_back(
+      Warning("word-in-html",
+              {Words("QObject",
+                     "%1 in %2 stands in the pages as it is: only titles, META texts and the text of the "
+                     "link have dynamic words."),
+               {std::string(word), file}},
+              {}));
+}
+
+}  // namespace
+
+std::vector<Finding> FindInTypedTexts(const TypedTexts& typed) {
+  std::vector<Finding> findings;
+  const std::string& language = typed.texts.PageLanguage;
+  if (!IsKnownLanguage(language, typed.programFolder + "lang.txt")) {
+    findings.push_back(Warning("language-not-listed",
+                               {Words("QObject", "No list of languages knows the page language %1."), {language}},
+                               {"Give one that is listed with --set \"Lang=CODE NAME\", or add it to lang.txt."}));
+  }
+  const PageOptions& options = typed.options;
+  AddWord("index_html", options.frmPAgeTitles.txtIndex_html, findings);
+  AddWord("PageTitles", options.frmPAgeTitles.txtPageTitles, findings);
+  AddWord("KeywordsI", options.frmKeywords.txtKeywordsI, findings);
+  AddWord("DescriptionI", options.frmKeywords.txtDescriptionI, findings);
+  AddWord("Keywords", options.frmKeywords.txtKeyWords, findings);
+  AddWord("Description", options.frmKeywords.txtDescription, findings);
+  AddWord("LinkToMain", options.frmLinkToMAin.txtLinkToMain, findings);
+  AddHtmlWord("CustomHeader.txt", typed.texts.CustomHeader, findings);
+  AddHtmlWord("CustomFooter.txt", typed.texts.CustomFooter, findings);
+  return findings;
+}
+
+std::optional<Finding> FindInCharset(const std::string& charset, const std::string& entry) {
+  const CodePage codePage(charset);
+  const Sentence remedy = CharsetRemedy("Give another: --set \"%1\".", entry);
+  switch (codePage.Use()) {
+    case CharsetUse::kNotKnown:
+      return Warning("charset-not-known",
+                     {Words("QObject", "No browser knows the charset %1; the pages are written in %2."),
+                      {charset, codePage.Name()}},
+                     remedy);
+    case CharsetUse::kNotFit:
+      return Warning("charset-not-fit",
+                     {Words("QObject", "Pages cannot be in the charset %1; they are written in %2 all the same."),
+                      {charset, codePage.Name()}},
+                     remedy);
+    case CharsetUse::kAsDeclared:
+      break;
+  }
+  return std::nullopt;
+}
+
+Sentence CharsetRemedy(const char* step, const std::string& entry) {
+  return {step, {"Charset=" + (entry.empty() ? "NAME DESCRIPTION" : entry)}};
+}
+
+}  // namespace folionet

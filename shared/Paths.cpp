@@ -22,15 +22,39 @@ struct CloseFolder {
   void operator()(DIR* folder) const { closedir(folder); }
 };
 
+bool IsThere(const std::string& path) {
+  struct stat status {};
+  return lstat(path.c_str(), &status) == 0;
+}
+
+// Where the longest name ends that begins at `name`, holds the backslash at `at` and is there; `at` when none is.
+std::size_t EndOfName(const std::string& path, std::size_t name, std::size_t at) {
+  std::size_t end = std::min(path.find(kFolderSeparator, name), path.size());
+  while (end > at && !IsThere(path.substr(0, end))) end = path.rfind('\\', end - 1);
+  return std::max(end, at);
+}
+
 }  // namespace
 
 std::string NativePath(std::string_view path) {
   std::string native(path);
-  std::replace(native.begin(), native.end(), '\\', kFolderSeparator);
+  std::size_t name = 0;  // where the name at hand begins
+  for (std::size_t at = native.find('\\'); at != std::string::npos; at = native.find('\\', at)) {
+    name = std::max(name, native.substr(0, at).rfind(kFolderSeparator) + 1);
+    const std::size_t end = EndOfName(native, name, at);
+    if (end > at) {
+      at = end;
+    } else {
+      native[at] = kFolderSeparator;
+      name = ++at;
+    }
+  }
   return native;
 }
 
-bool EndsInSeparator(std::string_view path) { return !path.empty() && (path.back() == '/' || path.back() == '\\'); }
+bool EndsInSeparator(std::string_view path) {
+  return path.ends_with('/') || (path.ends_with('\\') && !IsThere(std::string(path)));
+}
 
 std::string WithSeparator(std::string_view path) {
   std::string result(path);

@@ -11,7 +11,7 @@ namespace folionet {
 
 inline constexpr char kFolderSeparator = '/';
 
-// The path with the platform's separators.
+// The path with the platform's separators: a "\" is one, unless a file or folder is there with it in its name.
 std::string NativePath(std::string_view path);
 
 // Whether the path ends in a separator of either kind.

@@ -25,12 +25,8 @@ void ReportDrive(UserInterface& ui, const RunTimeError& error) {
   ui.ShowErrorReport({Procedure::kDriveChange, error, "Drive not Ready or Drive not Available.\r\n"});
 }
 
-// The path as the lists have it: no separator at its end. A name that holds a backslash is taken as it is; in a path
-// that is not there it separates folders.
-QString CleanPath(const std::string& path) {
-  const QString exact = QDir::cleanPath(ToQt(path));
-  return QFileInfo(exact).isDir() ? exact : QDir::cleanPath(ToQt(NativePath(path)));
-}
+// The path as the lists have it: no separator at its end.
+QString CleanPath(const std::string& path) { return QDir::cleanPath(ToQt(NativePath(path))); }
 
 }  // namespace
 

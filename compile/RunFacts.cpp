@@ -181,7 +181,7 @@ std::vector<Finding> FindRangeFacts(const CompileRequest& request, const ModGlob
   const bool isReversed = request.cboEndBook < request.cboStartBook;
   if (isReversed) {
     facts.push_back(
-        Warning("ends-before-start",
+        Warning(kEndsBeforeStart,
                 {Words("QObject", "The ending book stands before the starting book: the index page has no links."), {}},
                 {"Give the books in their order with --start-book and --end-book."}));
   }

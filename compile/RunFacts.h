@@ -13,6 +13,7 @@ namespace folionet {
 
 // The kinds of the two facts that tell of deletions; their first argument is the number of pages. Of the books before
 // the starting one it is a warning where some of the pages are there now.
+inline constexpr char kEndsBeforeStart[] = "ends-before-start";
 inline constexpr char kRemovesPages[] = "removes-pages";
 inline constexpr char kRemovesLaterPages[] = "removes-later-pages";
 

@@ -464,6 +464,10 @@
         <source>Looking at the folder...</source>
         <translation>Der Ordner wird angesehen...</translation>
     </message>
+    <message>
+        <source>The ending book stands before the starting book: the index will be empty.</source>
+        <translation>Das letzte Buch steht vor dem ersten: Der Index wird leer sein.</translation>
+    </message>
 </context>
 <context>
     <name>folionet::FolderPickers</name>
@@ -496,6 +500,11 @@
     <message>
         <source>&amp;Close</source>
         <translation>&amp;Schließen</translation>
+    </message>
+    <message>
+        <source>index.html</source>
+        <comment>the help in this language</comment>
+        <translation>de/index.html</translation>
     </message>
 </context>
 <context>

@@ -464,6 +464,10 @@
         <source>Looking at the folder...</source>
         <translation>Examinando la carpeta...</translation>
     </message>
+    <message>
+        <source>The ending book stands before the starting book: the index will be empty.</source>
+        <translation>El libro final está antes del inicial: el índice quedará vacío.</translation>
+    </message>
 </context>
 <context>
     <name>folionet::FolderPickers</name>
@@ -496,6 +500,11 @@
     <message>
         <source>&amp;Close</source>
         <translation>&amp;Cerrar</translation>
+    </message>
+    <message>
+        <source>index.html</source>
+        <comment>the help in this language</comment>
+        <translation>es/index.html</translation>
     </message>
 </context>
 <context>

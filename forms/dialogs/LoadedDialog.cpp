@@ -1,6 +1,6 @@
 #include "LoadedDialog.h"
 
-#include <QKeyEvent>
+#include <QEvent>
 
 #include "HelpWindow.h"
 #include "OneLine.h"
@@ -8,6 +8,10 @@
 #include "ShownBoxes.h"
 
 namespace folionet {
+
+LoadedDialog::LoadedDialog(UserInterface& ui, QWidget* parent) : QDialog(parent), m_reports(ui) {
+  HelpWindow::OpenByKey(*this);
+}
 
 void LoadedDialog::LoadForm() {
   if (!m_isLoaded) KeepBoxesToOneLine(*this);
@@ -34,15 +38,6 @@ void LoadedDialog::showEvent(QShowEvent* event) {
 void LoadedDialog::changeEvent(QEvent* event) {
   QDialog::changeEvent(event);
   if (event->type() == QEvent::PaletteChange) DressBoxes(*this);
-}
-
-void LoadedDialog::keyPressEvent(QKeyEvent* event) {
-  if (event->key() != Qt::Key_F1) {
-    QDialog::keyPressEvent(event);
-    return;
-  }
-  if (m_help == nullptr) m_help = new HelpWindow(this);
-  m_help->ShowTopicOf(this);
 }
 
 }  // namespace folionet

@@ -6,8 +6,6 @@
 
 namespace folionet {
 
-class HelpWindow;
-
 // A dialog that is loaded once, hidden, as the program starts. One that a failed start left unloaded loads when it is
 // first shown: else its empty controls would be saved over what is stored.
 class LoadedDialog : public QDialog {
@@ -21,18 +19,16 @@ class LoadedDialog : public QDialog {
   bool IsLoaded() const { return m_isLoaded; }
 
  protected:
-  LoadedDialog(UserInterface& ui, QWidget* parent) : QDialog(parent), m_reports(ui) {}
+  LoadedDialog(UserInterface& ui, QWidget* parent);
 
   virtual void Load() = 0;
   virtual void ShowRecord() {}  // gives the controls what Load has read, all of it or less
   void showEvent(QShowEvent* event) override;
   void changeEvent(QEvent* event) override;
-  void keyPressEvent(QKeyEvent* event) override;  // F1 shows the help
 
  private:
   UserInterface& m_reports;
   bool m_isLoaded = false;
-  HelpWindow* m_help = nullptr;  // made when first opened
 };
 
 }  // namespace folionet

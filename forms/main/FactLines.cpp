@@ -107,6 +107,8 @@ void FactLines::ShowRange() {
       if (std::string_view(fact.kind) == kRemovesPages) {
         lines << tr("The pages of %1 will be deleted: %2.")
                      .arg(BooksText(0, request.cboStartBook - 1), ToQt(fact.what.arguments.at(0)));
+      } else if (std::string_view(fact.kind) == kEndsBeforeStart) {
+        lines << tr("The ending book stands before the starting book: the index will be empty.");
       } else {
         lines << InDesktopLanguage(fact.what);
       }

@@ -114,9 +114,8 @@ void frmMain::ConnectCommands() {
   connect(m_ui->cmdCustomHeader, &QPushButton::clicked, this, [this] { Open<frmCustomHeader>(); });
   connect(m_ui->cmdCustomFooter, &QPushButton::clicked, this, [this] { Open<frmCustomizeFooter>(); });
   connect(m_ui->cmdPageEncoding, &QPushButton::clicked, this, &frmMain::OpenEncoding);
-  connect(m_ui->cmdHelp, &QPushButton::clicked, this, [this] { ShowHelp(nullptr); });
-  connect(new QShortcut(QKeySequence(Qt::Key_F1), this), &QShortcut::activated, this,
-          [this] { ShowHelp(focusWidget()); });
+  connect(m_ui->cmdHelp, &QPushButton::clicked, this, [this] { HelpWindow::Open(*this, nullptr); });
+  HelpWindow::OpenByKey(*this);
   // Not the buttons' own shortcuts, which setting their translated texts clears.
   for (const auto& [key, button] : {std::pair{QKeySequence(Qt::CTRL | Qt::Key_O), m_ui->cmdOpenIndex},
                                     std::pair{QKeySequence(Qt::Key_F7), m_ui->cmdPreviewPage},
@@ -262,11 +261,6 @@ void frmMain::OpenEncoding() {
 void frmMain::OpenLinkToMain() {
   m_dialogs.Get<frmLinkToMAin>().SetSizeEnabled(!m_state.options.chkCSS);
   Open<frmLinkToMAin>();
-}
-
-void frmMain::ShowHelp(const QWidget* control) {
-  if (m_help == nullptr) m_help = new HelpWindow(this);
-  m_help->ShowTopicOf(control);
 }
 
 bool frmMain::SaveDefaults() {

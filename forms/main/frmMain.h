@@ -18,7 +18,6 @@ class frmMain;
 class FactLines;
 class FolderPickers;
 class FormMemory;
-class HelpWindow;
 class LibraryLists;
 class PagePreview;
 class StatusPanels;
@@ -76,7 +75,6 @@ class frmMain : public QMainWindow {
   void OpenLinkToMain();
   void OpenIndexPage();
   void VerifyCompiledSite();
-  void ShowHelp(const QWidget* control);
   bool SaveDefaults();
   bool LeavesUnsaved();
   void RestoreAll();
@@ -101,12 +99,11 @@ class frmMain : public QMainWindow {
   FactLines* m_facts;
   FormMemory* m_memory;
   std::unique_ptr<PagePreview> m_preview;
-  HelpWindow* m_help = nullptr;  // made when first opened
-  std::string m_indexPage;       // that folder and address name, when it is there
-  std::size_t m_nextStep = 0;    // of StartSteps; those before it are done
-  bool m_hasStopped = false;     // at a failure, since when the person may have changed what was read
-  std::string m_startFailure;    // what stopped the start-up, as it was told; empty when nothing did
-  bool m_exitFailed = false;     // the settings could not be saved when the form was last to be closed
+  std::string m_indexPage;     // that folder and address name, when it is there
+  std::size_t m_nextStep = 0;  // of StartSteps; those before it are done
+  bool m_hasStopped = false;   // at a failure, since when the person may have changed what was read
+  std::string m_startFailure;  // what stopped the start-up, as it was told; empty when nothing did
+  bool m_exitFailed = false;   // the settings could not be saved when the form was last to be closed
   bool m_hasEnded = false;
 };
 

@@ -1,22 +1,69 @@
 #include "HelpWindow.h"
 
 #include <QDialogButtonBox>
+#include <QImage>
 #include <QPushButton>
+#include <QShortcut>
 #include <QTextBrowser>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <map>
 
 // Outside of every namespace, as Qt needs it for resources of a library.
 static void InitHelpResource() { Q_INIT_RESOURCE(help); }
 
 namespace folionet {
+namespace {
 
-HelpWindow::HelpWindow(QWidget* parent) : QDialog(parent), m_page(new QTextBrowser(this)) {
+// Shows pictures no wider than the text should be, sharp on every screen.
+class HelpPage : public QTextBrowser {
+ public:
+  using QTextBrowser::QTextBrowser;
+
+  QVariant loadResource(int type, const QUrl& name) override {
+    const QVariant found = QTextBrowser::loadResource(type, name);
+    if (type != QTextDocument::ImageResource) return found;
+    constexpr int kWidest = 640;
+    QImage picture = QImage::fromData(found.toByteArray());
+    const int width = qRound(std::min(picture.width(), kWidest) * devicePixelRatioF());
+    picture = picture.scaledToWidth(width, Qt::SmoothTransformation);
+    picture.setDevicePixelRatio(devicePixelRatioF());
+    return picture;
+  }
+};
+
+// What the help tells about a control, or about the innermost thing that it is in.
+QString TopicOf(const QWidget* control) {
+  static const std::map<QString, QString> topics{
+      {"frmBible", "bible"},           {"frmLanguage", "language"},   {"frmOutput", "output"},
+      {"frmSample", "text"},           {"frmAlignment", "alignment"}, {"frmOptions", "options"},
+      {"frmDialogs", "details"},       {"frmPAgeTitles", "titles"},   {"frmKeywords", "meta"},
+      {"frmEffects", "effects"},       {"frmCustomHeader", "header"}, {"frmCustomizeFooter", "header"},
+      {"frmEncoding", "encoding"},     {"frmAddnew", "encoding"},     {"frmLinkToMAin", "link"},
+      {"frmBackground", "background"}, {"cmdCompile", "compile"},     {"cmdOpenIndex", "compile"},
+      {"cmdVerifySite", "compile"},    {"cmdHelp", "buttons"},        {"cmdRestoreAll", "buttons"},
+      {"cmdClose", "buttons"},         {"cmdPageTitles", "titles"},   {"cmdKeyWords", "meta"},
+      {"cmdEffects", "effects"},       {"cmdCustomHeader", "header"}, {"cmdCustomFooter", "header"},
+      {"cmdPageEncoding", "encoding"}, {"cmdLinkToMain", "link"},     {"frmErr", "report"},
+      {"frmImport", "import"},         {"cmdImport", "import"}};
+  // The ways out of a dialog bear the names of the main form's.
+  if (control != nullptr && qobject_cast<const QDialog*>(control->window()) != nullptr) control = control->window();
+  for (; control != nullptr; control = control->parentWidget()) {
+    const auto topic = topics.find(control->objectName());
+    if (topic != topics.end()) return topic->second;
+  }
+  return {};
+}
+
+}  // namespace
+
+HelpWindow::HelpWindow(QWidget* parent) : QDialog(parent), m_page(new HelpPage(this)) {
   InitHelpResource();
+  constexpr QSize kSize(760, 560);
   setObjectName(QStringLiteral("HelpWindow"));
   setWindowTitle(tr("Folionet Help"));
   setMinimumSize(200, 150);
-  resize(720, 460);
+  resize(kSize);
   m_page->setObjectName(QStringLiteral("helpPage"));
   m_page->setAccessibleName(tr("Help"));
   m_page->setOpenExternalLinks(true);
@@ -24,41 +71,33 @@ HelpWindow::HelpWindow(QWidget* parent) : QDialog(parent), m_page(new QTextBrows
   buttons->button(QDialogButtonBox::Close)->setText(tr("&Close"));
   QPushButton* contents = buttons->addButton(tr("C&ontents"), QDialogButtonBox::ActionRole);
   contents->setAutoDefault(false);
-  connect(contents, &QPushButton::clicked, this, &HelpWindow::ShowContents);
+  connect(contents, &QPushButton::clicked, this, [this] { ShowTopic({}); });
   connect(buttons, &QDialogButtonBox::rejected, this, &HelpWindow::reject);
   auto* layout = new QVBoxLayout(this);
   layout->addWidget(m_page);
   layout->addWidget(buttons);
 }
 
-void HelpWindow::ShowTopicOf(const QWidget* control) {
-  static const std::map<QString, QString> topics{
-      {"frmBible", "bible"},        {"frmLanguage", "language"},   {"frmOutput", "output"},
-      {"frmSample", "text"},        {"frmAlignment", "alignment"}, {"frmOptions", "options"},
-      {"frmDialogs", "details"},    {"frmPAgeTitles", "titles"},   {"frmKeywords", "meta"},
-      {"frmEffects", "effects"},    {"frmCustomHeader", "header"}, {"frmCustomizeFooter", "header"},
-      {"frmEncoding", "encoding"},  {"frmAddnew", "encoding"},     {"frmImport", "import"},
-      {"cmdImport", "import"},      {"frmLinkToMAin", "link"},     {"frmBackground", "background"},
-      {"cmdCompile", "compile"},    {"cmdOpenIndex", "compile"},   {"cmdVerifySite", "compile"},
-      {"cmdRestoreAll", "buttons"}, {"cmdClose", "buttons"}};
-  for (; control != nullptr; control = control->parentWidget()) {
-    const auto topic = topics.find(control->objectName());
-    if (topic != topics.end()) return ShowTopic(topic->second);
-  }
-  ShowTopic({});
+void HelpWindow::Open(QWidget& window, const QWidget* control) {
+  auto* help = window.findChild<HelpWindow*>(QString(), Qt::FindDirectChildrenOnly);
+  if (help == nullptr) help = new HelpWindow(&window);
+  help->ShowTopic(TopicOf(control));
 }
 
-void HelpWindow::ShowTopic(const QString& anchor) {
-  m_page->setSource(QUrl(QStringLiteral("qrc:/help/index.html")));
-  m_page->setFocus();
+void HelpWindow::OpenByKey(QWidget& window) {
+  connect(new QShortcut(QKeySequence(Qt::Key_F1), &window), &QShortcut::activated, &window,
+          [&window] { Open(window, window.focusWidget() != nullptr ? window.focusWidget() : &window); });
+}
+
+void HelpWindow::ShowTopic(const QString& topic) {
   show();
   raise();
   activateWindow();
-  if (anchor.isEmpty()) {
-    m_page->moveCursor(QTextCursor::Start);
-  } else {
-    m_page->scrollToAnchor(anchor);
-  }
+  QUrl place(QStringLiteral("qrc:/help/") + tr("index.html", "the help in this language"));
+  if (!topic.isEmpty()) place.setFragment(topic);
+  m_page->setSource(place);
+  if (topic.isEmpty()) m_page->moveCursor(QTextCursor::Start);
+  m_page->setFocus();
 }
 
 }  // namespace folionet

@@ -1,6 +1,10 @@
 #include "FormRunsTest.h"
 
+#include <QApplication>
+#include <QDialog>
+#include <QKeySequence>
 #include <QTest>
+#include <QTextBrowser>
 #include <functional>
 #include <map>
 #include <utility>
@@ -94,6 +98,26 @@ class FormRuns : public FormTest {
     return lines;
   }
 
+  void Press(QWidget& control, const std::string& name) const {
+    QApplication::setActiveWindow(control.window());
+    control.setFocus();
+    const QKeyCombination key = QKeySequence(ToQt(name))[0];
+    QTest::keyClick(&control, key.key(), key.keyboardModifiers());
+  }
+
+  // Where F1 opens the help, when there is such a place.
+  std::string Topic(const std::string& control) const {
+    QWidget& window = *Get(control).window();
+    window.show();
+    Press(Get(control), "F1");
+    auto* help = window.findChild<QDialog*>(QStringLiteral("HelpWindow"), Qt::FindDirectChildrenOnly);
+    if (help == nullptr || !help->isVisible()) return "no help";
+    const auto* page = help->findChild<QTextBrowser*>();
+    const QString topic = page->source().fragment();
+    help->hide();
+    return page->toHtml().contains("<a name=\"" + topic + '"') ? FromQt(topic) : "no topic";
+  }
+
   std::string Told(const std::string& text) const { return test::Visible(m_case.Named(text)); }
 
   // A control, or a text that the pages are made with, as "=LinkAlignment".
@@ -132,6 +156,11 @@ const std::map<std::string, FormRuns::Act>& FormRuns::Actions() {
       {"click", Each([](Test& t, const std::string& n) { t.Click(n); })},
       {"give", [](Test& t, const Line& l) { t.Give(l.name, l.text); }},
       {"press", [](Test& t, const Line& l) { Key(t.Get(l.name), QEvent::KeyPress, Qt::Key_Return); }},
+      {"keys",  // one after the other, in what has the focus
+       Each([](Test& t, const std::string& n) {
+         QWidget* focus = t.m_form->focusWidget();
+         t.Press(focus != nullptr ? *focus : *t.m_form, n);
+       })},
       {"release", Each([](Test& t, const std::string& n) { Key(t.Get(n), QEvent::KeyRelease, Qt::Key_A); })},
       {"bring", [](Test& t, const Line& l) { t.Get(l.name).show(); }},
       {"close", [](Test& t, const Line& l) { t.Get(l.name).close(); }},
@@ -157,6 +186,7 @@ const std::map<std::string, FormRuns::Look>& FormRuns::Looks() {
   using Test = FormRuns;
   static const std::map<std::string, Look> looks{
       {"shows", [](Test& t, const std::string& n) { return t.Seen(n); }},
+      {"topic", [](Test& t, const std::string& n) { return t.Topic(n); }},  // of the help, by F1
       {"lists", [](Test& t, const std::string& n) { return t.Items(n); }},
       {"stored", [](Test& t, const std::string& n) { return t.Stored(n); }},
   };

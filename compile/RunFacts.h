@@ -11,9 +11,11 @@ namespace folionet {
 // What a compile run will do that a person may not expect, found without running it: a warning, or a note of what is
 // only good to know.
 
+// The kind of the fact that the ending book stands before the starting one.
+inline constexpr char kEndsBeforeStart[] = "ends-before-start";
+
 // The kinds of the two facts that tell of deletions; their first argument is the number of pages. Of the books before
 // the starting one it is a warning where some of the pages are there now.
-inline constexpr char kEndsBeforeStart[] = "ends-before-start";
 inline constexpr char kRemovesPages[] = "removes-pages";
 inline constexpr char kRemovesLaterPages[] = "removes-later-pages";
 

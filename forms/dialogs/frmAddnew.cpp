@@ -4,10 +4,13 @@
 #include <utility>
 
 #include "EncodingLists.h"
+#include "HelpWindow.h"
+#include "LabelColumn.h"
 #include "OneLine.h"
 #include "PageEncoding.h"
 #include "QtText.h"
 #include "RunTimeError.h"
+#include "ShownBoxes.h"
 #include "ui_frmAddnew.h"
 
 namespace folionet {
@@ -15,6 +18,7 @@ namespace folionet {
 frmAddnew::frmAddnew(AppState& state, QWidget* parent)
     : QDialog(parent), m_state(state), m_ui(std::make_unique<Ui::frmAddnew>()) {
   m_ui->setupUi(this);
+  HelpWindow::OpenByKey(*this);
   connect(m_ui->cmdUpdLang, &QPushButton::clicked, this,
           [this] { AddRecord(kLanguageList, Procedure::kUpdateLanguages, *m_ui->txtLangAbbr, *m_ui->txtLangLang); });
   connect(m_ui->cmdUpdEnc, &QPushButton::clicked, this,
@@ -37,6 +41,12 @@ frmAddnew::~frmAddnew() = default;
 void frmAddnew::keyPressEvent(QKeyEvent* event) {
   const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
   if (!isEnter) QDialog::keyPressEvent(event);
+}
+
+void frmAddnew::showEvent(QShowEvent* event) {
+  AlignLabels({m_ui->lblLangAbbr, m_ui->lblLangLang, m_ui->lblEncAbbr, m_ui->lblEncLang});
+  DressBoxes(*this);
+  QDialog::showEvent(event);
 }
 
 void frmAddnew::reject() {

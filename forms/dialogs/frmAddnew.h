@@ -35,6 +35,8 @@ class frmAddnew : public QDialog {
   void RecordsAdded();
 
  protected:
+  void showEvent(QShowEvent* event) override;
+
   // Enter adds the record that is being typed; a dialog's own would press one and the same button for both.
   void keyPressEvent(QKeyEvent* event) override;
 

@@ -1,11 +1,9 @@
 #include "FormLooks.h"
 
-#include <QLabel>
 #include <QPushButton>
-#include <algorithm>
-#include <initializer_list>
 
 #include "Contrast.h"
+#include "LabelColumn.h"
 #include "QtText.h"
 #include "ShownBoxes.h"
 #include "ui_frmMain.h"
@@ -37,22 +35,14 @@ void DressCompile(const QPalette& desktop, QPushButton& compile) {
   compile.setPalette(button);
 }
 
-// One column of labels through all groups of the left side.
-void AlignLabels(const Ui::frmMain& controls) {
-  const std::initializer_list<QLabel*> labels{
-      controls.lblBibleName, controls.lblBibleSel, controls.lblFilename, controls.lblStartBook,  controls.lblEndBook,
-      controls.lblLang,      controls.lblDrive,    controls.lblDir1,     controls.lblOutputPath, controls.lblhttpRoot};
-  int widest = 0;
-  for (const QLabel* label : labels) widest = std::max(widest, label->sizeHint().width());
-  for (QLabel* label : labels) label->setMinimumWidth(widest);
-}
-
 }  // namespace
 
 void DressForm(QWidget& form, const Ui::frmMain& controls) {
   DressCompile(form.palette(), *controls.cmdCompile);
   DressBoxes(form);
-  AlignLabels(controls);
+  AlignLabels({controls.lblBibleName, controls.lblBibleSel, controls.lblFilename, controls.lblStartBook,
+               controls.lblEndBook, controls.lblLang, controls.lblDrive, controls.lblDir1, controls.lblOutputPath,
+               controls.lblhttpRoot});
 }
 
 }  // namespace folionet

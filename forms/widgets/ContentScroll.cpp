@@ -7,6 +7,11 @@
 #include <algorithm>
 
 namespace folionet {
+namespace {
+
+constexpr int kGap = 6;  // between the content and its scroll bar
+
+}  // namespace
 
 ContentScroll::ContentScroll(QWidget* parent) : QScrollArea(parent) {
   setWidgetResizable(true);
@@ -16,22 +21,45 @@ ContentScroll::ContentScroll(QWidget* parent) : QScrollArea(parent) {
   setBackgroundRole(QPalette::Window);
 }
 
-QSize ContentScroll::sizeHint() const { return widget() == nullptr ? QSize() : widget()->sizeHint(); }
+// What changed in the content while it was hidden counts once its layout has heard of it.
+QSize ContentScroll::sizeHint() const {
+  if (widget() == nullptr) return {};
+  if (QLayout* layout = widget()->layout()) layout->activate();
+  return widget()->sizeHint();
+}
 
 // As wide as the content where the screen has room for that, so that nothing is scrolled sideways without need.
 QSize ContentScroll::minimumSizeHint() const {
   if (widget() == nullptr) return {};
   constexpr int kLines = 6;
   const QSize content = widget()->minimumSizeHint();
-  const int bar = verticalScrollBar()->sizeHint().width();
+  const int bar = verticalScrollBar()->sizeHint().width() + kGap;
   const int widest = screen()->availableSize().width() * 9 / 10;
   const int height = std::min(content.height(), kLines * fontMetrics().lineSpacing());
   return {std::min(content.width() + bar, widest), height};
 }
 
 bool ContentScroll::eventFilter(QObject* watched, QEvent* event) {
-  if (watched == widget() && event->type() == QEvent::LayoutRequest) updateGeometry();
-  return QScrollArea::eventFilter(watched, event);
+  const bool isChanged = watched == widget() && event->type() == QEvent::LayoutRequest;
+  if (isChanged) updateGeometry();
+  const bool isDone = QScrollArea::eventFilter(watched, event);
+  if (isChanged) KeepOffBar();
+  return isDone;
+}
+
+void ContentScroll::resizeEvent(QResizeEvent* event) {
+  QScrollArea::resizeEvent(event);
+  KeepOffBar();
+}
+
+// By what the content needs without a bar: the gap itself could make it need one.
+void ContentScroll::KeepOffBar() {
+  if (widget() == nullptr) return;
+  const QSize least = widget()->minimumSizeHint();
+  const bool wraps = widget()->hasHeightForWidth();
+  const int needed = wraps ? widget()->heightForWidth(std::max(width(), least.width())) : least.height();
+  const int gap = needed > height() ? kGap : 0;
+  if (viewportMargins().right() != gap) setViewportMargins(0, 0, gap, 0);
 }
 
 void ScrollAllButButtons(QDialog& dialog) {

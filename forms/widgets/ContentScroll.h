@@ -18,6 +18,10 @@ class ContentScroll : public QScrollArea {
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;  // the content's size hint is this one's
+  void resizeEvent(QResizeEvent* event) override;
+
+ private:
+  void KeepOffBar();  // room between the content and a scroll bar that is there
 };
 
 // Makes all of a dialog scroll but the last row of its layout, which holds its buttons.

@@ -7,6 +7,9 @@
 #include <QStyleOption>
 #include <algorithm>
 
+#include "Contrast.h"
+#include "QtText.h"
+
 namespace folionet {
 namespace {
 
@@ -56,7 +59,50 @@ class OutlineStyle : public QProxyStyle {
     if (option != nullptr && (option->state & State_HasFocus) != 0) DrawFocus(element, *option, *painter, widget);
   }
 
+  // A text keeps the order of its own script on a mirrored desktop: a full stop stays behind its sentence.
+  void drawItemText(QPainter* painter, const QRect& rect, int flags, const QPalette& palette, bool isEnabled,
+                    const QString& text, QPalette::ColorRole role) const override {
+    constexpr int kForced = Qt::TextForceLeftToRight | Qt::TextForceRightToLeft;
+    const bool isMirrored = (flags & kForced) != 0 ? (flags & Qt::TextForceRightToLeft) != 0
+                                                   : painter->layoutDirection() == Qt::RightToLeft;
+    constexpr int kPlaces = Qt::AlignHorizontal_Mask;
+    const Qt::Alignment place =
+        visualAlignment(isMirrored ? Qt::RightToLeft : Qt::LeftToRight, Qt::Alignment(flags & kPlaces));
+    const int order = text.isRightToLeft() ? Qt::TextForceRightToLeft : Qt::TextForceLeftToRight;
+    const int kept = flags & ~(kForced | kPlaces);
+    QProxyStyle::drawItemText(painter, rect, kept | static_cast<int>(place) | order, palette, isEnabled, text, role);
+  }
+
+  // The style leaves a caption next to no room beside it.
+  QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
+                         const QWidget* widget) const override {
+    constexpr int kBeside = 4;
+    const QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
+    return type == CT_PushButton ? size + QSize(2 * kBeside, 0) : size;
+  }
+
+  // The buttons of boxes look like those of the forms, which have none.
+  int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                QStyleHintReturn* more) const override {
+    return hint == SH_DialogButtonBox_ButtonsHaveIcons ? 0 : QProxyStyle::styleHint(hint, option, widget, more);
+  }
+
  private:
+  // The highlight, so near to the text's colour that the frame which it takes the place of is another one.
+  static QColor RingColour(const QPalette& palette) {
+    constexpr double kEnough = 3.2;
+    constexpr int kDarkening = 140;  // the style's, in percent
+    const QColor window = palette.color(QPalette::Window);
+    const QColor text = palette.color(QPalette::WindowText);
+    const QColor frame = IsDark(palette) ? Between(window, text, kFrameOutline) : window.darker(kDarkening);
+    QColor ring = palette.color(QPalette::Highlight);
+    for (const float part : {0.2F, 0.35F, 0.5F, 0.65F, 0.8F, 1.0F}) {
+      ring = Between(palette.color(QPalette::Highlight), text, part);
+      if (ContrastRatio(FromQt(ring), FromQt(frame)) >= kEnough) break;
+    }
+    return ring;
+  }
+
   // The style draws no focus around what scrolls, and one that cannot be seen on a button in another colour.
   static void DrawFocus(ControlElement element, const QStyleOption& option, QPainter& painter, const QWidget* widget) {
     constexpr qreal kWidth = 2;
@@ -68,9 +114,7 @@ class OutlineStyle : public QProxyStyle {
     if (!isButton && !isFrame) return;
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
-    const QColor ring = isButton
-                            ? palette.color(QPalette::ButtonText)
-                            : Between(palette.color(QPalette::Highlight), palette.color(QPalette::WindowText), 0.2F);
+    const QColor ring = isButton ? palette.color(QPalette::ButtonText) : RingColour(palette);
     painter.setPen(QPen(ring, isButton ? 1 : kWidth));
     const qreal inside = isButton ? kInside : kWidth / 2;
     painter.drawRoundedRect(QRectF(option.rect).adjusted(inside, inside, -inside, -inside), 2, 2);

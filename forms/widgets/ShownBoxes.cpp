@@ -1,5 +1,6 @@
 #include "ShownBoxes.h"
 
+#include <QLabel>
 #include <QLineEdit>
 
 #include "TextBox.h"
@@ -34,9 +35,22 @@ void Dress(const QWidget& form) {
   }
 }
 
+// Texts of the other direction would stand at the far end of what they belong to.
+template <typename Text>
+void KeepToTheStart(const QWidget& form) {
+  if (form.layoutDirection() != Qt::RightToLeft) return;
+  for (Text* text : form.findChildren<Text*>()) {
+    const Qt::Alignment alignment = text->alignment();
+    if ((alignment & (Qt::AlignRight | Qt::AlignHCenter | Qt::AlignAbsolute)) != 0) continue;
+    text->setAlignment((alignment & Qt::AlignVertical_Mask) | Qt::AlignRight | Qt::AlignAbsolute);
+  }
+}
+
 }  // namespace
 
 void DressBoxes(QWidget& form) {
+  KeepToTheStart<QLabel>(form);
+  KeepToTheStart<QLineEdit>(form);
   Dress<QLineEdit>(form);
   Dress<TextBox>(form);
 }

@@ -1,8 +1,12 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QProgressBar>
+#include <QProgressDialog>
+#include <QPushButton>
 #include <QTest>
+#include <QTimer>
 
+#include "FactLines.h"
 #include "FolderContent.h"
 #include "FormTest.h"
 #include "ProgramRun.h"
@@ -120,6 +124,30 @@ TEST_F(CompileFromForm, ShowsProgressAndThenTheSite) {
   Remove("site/index.html");
   Click("cmdVerifySite");
   EXPECT_EQ(m_ui.log.back(), "53 cmdVerifySite_Click");
+}
+
+TEST_F(CompileFromForm, AStoppedCheckSaysSoAndRemovesNothing) {
+  ASSERT_TRUE(Start());
+  ChooseOutput();
+  Click("cmdCompile");
+  std::string index;
+  for (int i = 0; i < 400; ++i) {
+    const std::string page = "own_" + std::to_string(i) + ".html";
+    index += "<a href=" + page + ">";
+    m_home.Write("site/" + page, std::string(100000, '\n'));
+  }
+  m_home.Write("site/index.html", index);
+  QTimer stop;
+  QObject::connect(&stop, &QTimer::timeout, [this] {
+    if (auto* box = m_form->findChild<QProgressDialog*>(QStringLiteral("frmVerify"))) {
+      box->findChild<QPushButton*>()->click();
+    }
+  });
+  stop.start(0);
+  Click("cmdVerifySite");
+  EXPECT_EQ(m_ui.log.back(), "Verify site") << "nothing was asked after it";
+  EXPECT_EQ(m_ui.icon, MessageIcon::kWarning);
+  EXPECT_TRUE(m_ui.said.back().starts_with("Stopped before all pages were read.\r\nPages: ")) << m_ui.said.back();
 }
 
 // The keys of the two buttons, which setting their texts must not clear, do nothing before there is a site.

@@ -6,6 +6,7 @@
 #include <cstdlib>
 
 #include "FormRunsTest.h"
+#include "FormStyle.h"
 
 // Forms need an application, but no display. FOLIONET_TEST_TRANSLATION names a .qm file to run the tests in.
 int main(int argc, char** argv) {
@@ -13,6 +14,7 @@ int main(int argc, char** argv) {
   testing::InitGoogleTest(&argc, argv);
   QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
   const QApplication app(argc, argv);
+  folionet::DressApplication();
   QTranslator translator;
   if (const char* file = std::getenv("FOLIONET_TEST_TRANSLATION"); file != nullptr) {
     if (!translator.load(QString::fromLocal8Bit(file))) {

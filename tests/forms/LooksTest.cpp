@@ -1,9 +1,11 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QFontDatabase>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QPushButton>
+#include <QStyle>
 #include <QTest>
 #include <algorithm>
 
@@ -13,6 +15,7 @@
 #include "SampleLink.h"
 #include "SampleTextBox.h"
 #include "Swatches.h"
+#include "frmMain.h"
 
 namespace folionet {
 namespace {
@@ -157,6 +160,64 @@ TEST_F(Looks, ButtonAndBoxesSuitThePalette) {
     EXPECT_NE(ColourOf("frmKeywords.txtKeyWords", QPalette::Base), window);
   }
   QApplication::setPalette(before);
+}
+
+// How well two colours can be told apart where a line of a picture goes through the mark of a box.
+double MarkContrast(const QWidget& control, const QImage& picture) {
+  const int end = control.style()->pixelMetric(QStyle::PM_IndicatorWidth);
+  const int middle = picture.height() / 2;
+  const Colour around = FromQt(control.palette().color(QPalette::Window));
+  const Colour within = FromQt(picture.pixelColor(end / 2, middle));
+  double best = 0;
+  for (int x = 0; x < end; ++x) {
+    const Colour line = FromQt(picture.pixelColor(x, middle));
+    best = std::max(best, std::min(ContrastRatio(line, around), ContrastRatio(line, within)));
+  }
+  return best;
+}
+
+TEST_F(Looks, MarksAndFocusCanBeSeen) {
+  constexpr double kEnough = 3;
+  const QPalette before = QApplication::palette();
+  ASSERT_TRUE(Start());
+  QApplication::setActiveWindow(m_form.get());
+  for (const Colour window : {kLight, kDark}) {
+    QApplication::setPalette(QPalette(ToQt(window)));
+    QApplication::processEvents();
+    Get("cboLang").setFocus();
+    for (const char* mark : {"chkUse83", "OptAlignCenter"}) {
+      EXPECT_GE(MarkContrast(Get(mark), Get(mark).grab().toImage()), kEnough) << mark << window;
+    }
+    for (const char* name : {"txtSample", "Dir1", "cmdCompile"}) {
+      Get("cboLang").setFocus();
+      const QImage without = Get(name).grab().toImage();
+      Get(name).setFocus();
+      const QImage with = Get(name).grab().toImage();
+      int seen = 0;
+      for (int y = 0; y < with.height(); ++y) {
+        for (int x = 0; x < with.width(); ++x) {
+          const double contrast = ContrastRatio(FromQt(with.pixelColor(x, y)), FromQt(without.pixelColor(x, y)));
+          if (contrast >= kEnough) ++seen;
+        }
+      }
+      EXPECT_GE(seen, with.width() + with.height()) << name << window;
+    }
+  }
+  QApplication::setPalette(before);
+}
+
+TEST_F(Looks, AMirroredFormKeepsTheOrderOfSentences) {
+  ASSERT_TRUE(Start());
+  auto& button = Get("cmdBrowse");
+  const QImage picture = button.grab().toImage();
+  QApplication::setLayoutDirection(Qt::RightToLeft);
+  QApplication::processEvents();
+  EXPECT_EQ(button.layoutDirection(), Qt::RightToLeft);
+  EXPECT_EQ(button.grab().toImage(), picture) << "the dots stand behind the word";
+  ASSERT_TRUE(Start());
+  EXPECT_TRUE(Get<QLabel>("lblWarning").alignment().testFlags(Qt::AlignRight | Qt::AlignAbsolute));
+  EXPECT_TRUE(Get<QLineEdit>("txtBibleSel").alignment().testFlags(Qt::AlignRight | Qt::AlignAbsolute));
+  QApplication::setLayoutDirection(Qt::LeftToRight);
 }
 
 TEST(Contrast, AdvisesOnColoursThatAreHardToRead) {

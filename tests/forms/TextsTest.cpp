@@ -1,10 +1,15 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QDialog>
+#include <QFile>
 #include <QLabel>
 #include <QLayout>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QTextBrowser>
 #include <QTreeWidget>
 #include <cstdlib>
 #include <fstream>
@@ -139,6 +144,17 @@ TEST_F(Texts, AreHeardAsTheyAreSeen) {
   EXPECT_NE(FromQt(Get<QTreeWidget>("Dir1").headerItem()->text(0)), "1");
 }
 
+TEST_F(Texts, AreHelpedInTheirLanguage) {
+  const char* translation = std::getenv("FOLIONET_TEST_TRANSLATION");  // as folionet_de.qm
+  const QString language =
+      translation == nullptr ? "en" : QString::fromLocal8Bit(translation).section('_', -1).chopped(3);
+  ASSERT_TRUE(Start());
+  Click("cmdHelp");
+  QFile page(':' + m_form->findChild<QTextBrowser*>(QStringLiteral("helpPage"))->source().path());
+  EXPECT_TRUE(page.open(QIODevice::ReadOnly)) << FromQt(page.fileName());
+  EXPECT_TRUE(page.readAll().contains("<html lang=\"" + language.toLatin1() + '"')) << FromQt(page.fileName());
+}
+
 // A screen of 1366 x 768 at 125 %, and one of 1920 x 1080 at 200 %, has room for every window.
 TEST_F(Texts, OpenWithinTheScreen) {
   ASSERT_TRUE(Start());
@@ -150,6 +166,13 @@ TEST_F(Texts, OpenWithinTheScreen) {
   for (QDialog* dialog : m_form->findChildren<QDialog*>()) {
     const QSize least = dialog->minimumSizeHint();
     EXPECT_EQ(least.boundedTo(kSmallest - kAround), least) << FromQt(dialog->objectName());
+    dialog->show();
+    QApplication::processEvents();
+    const auto* content = dialog->findChild<QScrollArea*>(QStringLiteral("scrContent"));
+    if (content == nullptr) continue;
+    const QSize wanted = dialog->sizeHint() + kAround;
+    const bool hasRoom = wanted.boundedTo(dialog->screen()->availableSize()) == wanted;
+    EXPECT_EQ(hasRoom ? content->verticalScrollBar()->maximum() : 0, 0) << FromQt(dialog->objectName());
   }
   m_form->resize(kSmallest - kAround);
   QApplication::processEvents();

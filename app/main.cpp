@@ -1,27 +1,20 @@
 #include <unistd.h>
 
-#include <CLI/CLI.hpp>
 #include <QApplication>
 #include <QDir>
 #include <QIcon>
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QTranslator>
-#include <algorithm>
-#include <array>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
-#include <filesystem>
 #include <string>
-#include <string_view>
-#include <system_error>
-#include <utility>
-#include <vector>
+#include <variant>
 
 #include "AppState.h"
 #include "BuildInfo.h"
-#include "CodePage.h"
+#include "FormArguments.h"
 #include "FormStyle.h"
 #include "FormUi.h"
 #include "ProgramFolder.h"
@@ -32,89 +25,6 @@
 
 namespace folionet {
 namespace {
-
-enum ExitStatus { kExitDone = 0, kExitUsage = 2, kExitFailed = 3 };
-
-struct Arguments {
-  GivenFolders folders;
-  std::string programFolder;
-};
-
-// The arguments without those that every Qt program takes, with one or two hyphens: the application reads them itself.
-std::vector<std::string> WithoutThoseOfQt(int argc, char** argv) {
-  constexpr std::array kWithValue{"style",           "stylesheet",  "platform",     "platformpluginpath",
-                                  "platformtheme",   "plugin",      "display",      "geometry",
-                                  "qwindowgeometry", "qwindowicon", "qwindowtitle", "session"};
-  constexpr std::string_view kReverse = "reverse";
-  std::vector<std::string> own;
-  for (int i = 1; i < argc; ++i) {
-    const std::string_view argument = argv[i];
-    const bool isOption = argument.starts_with('-');
-    const std::string_view name = argument.substr(std::min(argument.find_first_not_of('-'), argument.size()));
-    if (isOption && name == kReverse) continue;
-    if (isOption && std::any_of(kWithValue.begin(), kWithValue.end(), [&](std::string_view taken) {
-          return name == taken || (name.starts_with(taken) && name.substr(taken.size()).starts_with('='));
-        })) {
-      if (name.find('=') == std::string_view::npos) ++i;
-      continue;
-    }
-    own.emplace_back(argument);
-  }
-  return own;
-}
-
-// A folder as it is meant where the program is started: the form works in another one.
-void MakeWhole(std::string& folder) {
-  std::error_code ignored;
-  const std::filesystem::path whole = std::filesystem::absolute(folder, ignored);
-  if (!folder.empty() && !ignored) folder = whole.string();
-}
-
-// True when the form is to be opened; otherwise `status` holds.
-bool Parse(int argc, char** argv, Arguments& arguments, int& status) {
-  CLI::App app("Turns a Bible translation installed by Versalia into a static web site.", "folionet");
-  app.set_version_flag("--version", std::string("folionet ") + kVersion);
-  app.add_option("--versalia-path", arguments.folders.versaliaPath, "Holds Sysdefs and Index (default: Versalia's own)")
-      ->type_name("FOLDER");
-  app.add_option("--module-path", arguments.folders.modulePath,
-                 "Holds Bible (default: Modules in a given Versalia\nfolder, else Versalia's own)")
-      ->type_name("FOLDER");
-  app.add_option("--program-folder", arguments.programFolder,
-                 "Holds default.css (default: the program's if\nwritable, else ~/.local/share/Folionet)")
-      ->type_name("FOLDER");
-  app.footer(
-      "The folders count for this run only. F1 in the form explains every control.\n\n"
-      "Example:\n"
-      "  folionet --versalia-path ~/library");
-  const auto refuseEmpty = [](const std::string& value) {
-    return value.empty() ? std::string("a value was expected, but the text given is empty") : std::string();
-  };
-  for (const char* option : {"--versalia-path", "--module-path", "--program-folder"}) {
-    app.get_option(option)->check(refuseEmpty, "");
-  }
-  app.get_option("--program-folder")->check(MissingFolder, "");
-  app.failure_message([](const CLI::App* /*app*/, const CLI::Error& error) {
-    return std::string(error.what()) + "\nSee \"folionet --help\".\n";
-  });
-  for (int i = 1; i < argc; ++i) {
-    if (!IsUtf8(argv[i])) {
-      std::fprintf(stderr, "Argument %d is not UTF-8 text: give it in UTF-8.\n", i);
-      status = kExitUsage;
-      return false;
-    }
-  }
-  std::vector<std::string> own = WithoutThoseOfQt(argc, argv);
-  std::reverse(own.begin(), own.end());  // as the parser wants them
-  try {
-    app.parse(std::move(own));
-    for (std::string* folder : {&arguments.folders.versaliaPath, &arguments.folders.modulePath}) MakeWhole(*folder);
-    MakeWhole(arguments.programFolder);
-    return true;
-  } catch (const CLI::ParseError& error) {
-    status = app.exit(error) == 0 ? kExitDone : kExitUsage;
-    return false;
-  }
-}
 
 // Qt ends a program that finds no display by abort(); a person is told what to do instead, last. What Qt has to say
 // helps only where there should be a display.
@@ -182,9 +92,8 @@ int OpenForm(QApplication& app, const Arguments& arguments) {
 int main(int argc, char** argv) {
   // A limit on the size of files is a failure of the write that meets it, like a full disk.
   std::signal(SIGXFSZ, SIG_IGN);
-  int status = 0;
-  folionet::Arguments arguments;
-  if (!folionet::Parse(argc, argv, arguments, status)) return status;
+  const auto arguments = folionet::ParseArguments(argc, argv);
+  if (const auto* status = std::get_if<folionet::ExitStatus>(&arguments)) return *status;
   const QtMessageHandler handler = qInstallMessageHandler(folionet::TellNoDisplay);
   QApplication app(argc, argv);
   qInstallMessageHandler(handler);
@@ -197,5 +106,5 @@ int main(int argc, char** argv) {
   QTranslator ours;
   QTranslator qts;
   folionet::SpeakDesktopLanguage(ours, qts);
-  return folionet::OpenForm(app, arguments);
+  return folionet::OpenForm(app, std::get<folionet::Arguments>(arguments));
 }

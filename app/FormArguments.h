@@ -1,0 +1,23 @@
+#pragma once
+
+#include <string>
+#include <variant>
+
+#include "AppState.h"
+
+namespace folionet {
+
+enum ExitStatus { kExitDone = 0, kExitUsage = 2, kExitFailed = 3 };
+
+// The arguments of "folionet", beside those that every Qt program takes; an empty text stands for one that was not
+// given.
+struct Arguments {
+  GivenFolders folders;
+  std::string programFolder;
+};
+
+// The arguments, or the status to end with where that was asked for, or where they cannot be used: what there is to say
+// has been printed then.
+std::variant<Arguments, ExitStatus> ParseArguments(int argc, char** argv);
+
+}  // namespace folionet

@@ -8,31 +8,37 @@
 namespace folionet {
 namespace {
 
-// Takes a number and the letter behind it off the front of `rest`; 0 when there is none.
-int TakeVerse(std::string_view& rest, std::string& part) {
+struct TakenVerse {
+  int number = 0;  // 0 when there was none
+  std::string_view part{};
+};
+
+// Takes a number and the letter behind it off the front of `rest`.
+TakenVerse TakeVerse(std::string_view& rest) {
   const std::size_t length = std::min(rest.find_first_not_of("0123456789"), rest.size());
   const IntegerReading number = ReadInteger(rest.substr(0, length), 1, kInt16Max);
   rest.remove_prefix(length);
-  if (number.error != 0) return 0;
+  if (number.error != 0) return {};
   const bool hasLetter = !rest.empty() && AsciiLower(rest.front()) >= 'a' && AsciiLower(rest.front()) <= 'z';
-  part = rest.substr(0, hasLetter ? 1 : 0);
+  const std::string_view part = rest.substr(0, hasLetter ? 1 : 0);
   rest.remove_prefix(part.size());
-  return static_cast<int>(number.value);
+  return {static_cast<int>(number.value), part};
 }
 
 }  // namespace
 
 std::optional<VerseSpan> ReadVerseSpan(std::string_view field) {
   std::string_view rest = TrimBlanks(field);
+  const TakenVerse first = TakeVerse(rest);
   VerseSpan span;
-  span.first = TakeVerse(rest, span.part);
+  span.first = first.number;
   span.last = span.first;
+  span.part = first.part;
   if (span.first == 0) return std::nullopt;
   if (rest.empty()) return span;
   if (rest.front() != '-') return std::nullopt;
   rest.remove_prefix(1);
-  std::string part;
-  span.last = TakeVerse(rest, part);
+  span.last = TakeVerse(rest).number;
   if (!rest.empty() || span.last <= span.first) return std::nullopt;
   span.part.clear();
   return span;

@@ -25,11 +25,11 @@ void ShowAll(const Findings& findings, ConsoleUi& ui) {
     ui.Show(finding);
   }
   const std::size_t unlisted = findings.Count() - findings.Kept().size();
-  if (unlisted > 0) ui.Sum(std::to_string(unlisted) + " more are not listed.", false);
+  if (unlisted > 0) ui.Sum(std::to_string(unlisted) + " more are not listed.", Severity::kFault);
   const std::size_t warnings = findings.Count(Severity::kWarning);
   ui.Sum(Counted(findings.Count(Severity::kFault), "fault") +
              (warnings > 0 ? ", " + Counted(warnings, "warning") : "") + " found.",
-         findings.Count() == 0);
+         findings.Count() == 0 ? Severity::kNote : Severity::kFault);
 }
 
 }  // namespace

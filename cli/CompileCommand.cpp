@@ -34,8 +34,8 @@ std::string OutputPath(const CompileArguments& arguments, const Session& session
 }
 
 // A folder that cannot be made, as in a home that is read only, does not matter where nothing of it is needed.
-std::string ProgramFolderOf(Session& session, bool dryRun) {
-  if (dryRun) return ProgramFolderToRead(session.chosenProgramFolder);
+std::string ProgramFolderOf(Session& session, const CompileArguments& arguments) {
+  if (arguments.dryRun) return ProgramFolderToRead(session.chosenProgramFolder);
   try {
     return FindProgramFolder(session.chosenProgramFolder);
   } catch (const RunTimeError& error) {
@@ -102,7 +102,7 @@ void PrintChanges(const CompileArguments& arguments, const SiteChanges& changes,
     ui.Sum(std::to_string(changes.New().size()) + " new, " + std::to_string(changes.Changed().size()) + " changed, " +
                std::to_string(changes.Same().size()) + " the same, " + std::to_string(changes.Removed().size()) +
                " removed. Nothing was written.",
-           false);
+           Severity::kWarning);
     return;
   }
   TellKept(changes.Kept(), ui);
@@ -159,7 +159,7 @@ ExitStatus RunCompile(const CommonOptions& common, const CompileArguments& argum
     session.store.Override("cboLang", arguments.languageFile);
   }
   session.LoadOptions();
-  session.LoadLists(true);
+  session.LoadLists();
 
   CompileRequest request;
   request.options = session.options;
@@ -171,7 +171,7 @@ ExitStatus RunCompile(const CommonOptions& common, const CompileArguments& argum
   request.onlyChosen = arguments.onlyChosen;
   request.isTranslationNamed = !arguments.translation.empty();
   request.cboLang = BookTitlesFile(session.store, session.glob);
-  request.programFolder = ProgramFolderOf(session, arguments.dryRun);
+  request.programFolder = ProgramFolderOf(session, arguments);
   session.LoadOwnHtml(request.programFolder);
   request.texts = session.texts;
   const LinkEffects effects = Effects(request.options.frmEffects);
@@ -185,7 +185,9 @@ ExitStatus RunCompile(const CommonOptions& common, const CompileArguments& argum
   request.isStopped = [] { return StopSignal() != 0; };
   request.sitemapAddress = arguments.sitemap;
   request.dryRun = arguments.dryRun;
-  if (request.cboBibleName >= 0) TellFacts(FindRunFacts(request, session.glob), arguments.dryRun, ui);
+  if (request.cboBibleName >= 0) {
+    (arguments.dryRun ? TellPlannedFacts : TellFacts)(FindRunFacts(request, session.glob), ui);
+  }
   NoteStopSignals();
   const CompileOutcome outcome = cmdCompile_Click(request, session.glob, session.ui);
   // What has changed by the time of a failure is to be uploaded all the same: the next run finds it as it should be.

@@ -81,8 +81,8 @@ void ConsoleUi::Warn(Finding finding) {
   Tell(PlainLine(finding) + (finding.remedy.IsEmpty() ? "" : " " + finding.remedy.InEnglish()));
 }
 
-void ConsoleUi::Sum(const std::string& line, bool isWell) {
-  if (!m_common.json && !(m_common.quiet && isWell)) Print(line);
+void ConsoleUi::Sum(const std::string& line, Severity worst) {
+  if (!m_common.json && !(m_common.quiet && worst == Severity::kNote)) Print(line);
 }
 
 bool ConsoleUi::Finish() {

@@ -50,9 +50,9 @@ class ConsoleUi : public UserInterface {
   // What nobody looked for: on standard error, with the remedy, or with the others as JSON.
   void Warn(Finding finding);
 
-  // The last line of what was asked for, that counts it; not where all goes well and nothing is to be said, nor in
-  // JSON.
-  void Sum(const std::string& line, bool isWell);
+  // The last line of what was asked for, that counts it, the worst of it being `worst`; not where all goes well and
+  // nothing is to be said, nor in JSON.
+  void Sum(const std::string& line, Severity worst);
 
   // Hands all of standard output on. False, having said so, when it cannot be written.
   bool Finish();

@@ -75,8 +75,8 @@ ExitStatus RunImport(const CommonOptions& common, const ImportArguments& argumen
     const LibraryPlan plan = PlanLibrary(bible, request);
     if (!arguments.dryRun) WriteLibrary(plan);
     if (!common.quiet || common.json) TellFindings(bible, ui);
-    ui.Sum(ResultLine(plan), true);
-    if (arguments.dryRun) ui.Sum("Nothing was written.", true);
+    ui.Sum(ResultLine(plan), Severity::kNote);
+    if (arguments.dryRun) ui.Sum("Nothing was written.", Severity::kNote);
     if (!arguments.dryRun && !common.quiet) TellHowToChoose(common, plan, ui);
     return ui.Done();
   } catch (const RunTimeError& error) {

@@ -83,8 +83,12 @@ ExitStatus RunList(const CommonOptions& common, const std::string& subject, Cons
   if (subject == "books") session.ChooseFirst();
   session.LoadCodePage();
   if (subject == "charsets") return ListCharsets(session);
-  session.LoadLists(subject == "translations");
-  return subject == "translations" ? ListTranslations(common, session) : ListBooks(session);
+  if (subject == "books") {
+    session.LoadBookTitles();
+    return ListBooks(session);
+  }
+  session.LoadLists();
+  return ListTranslations(common, session);
 }
 
 }  // namespace folionet

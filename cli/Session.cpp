@@ -105,7 +105,7 @@ void Session::Choose(std::size_t place) {
   ChooseImported(glob, place);
   if (!glob.Imported.IsThere()) return;
   LoadCodePage();
-  LoadLists(false);
+  LoadBookTitles();
 }
 
 void Session::ChooseFirst() {
@@ -117,15 +117,19 @@ void Session::ChooseFirst() {
   ChooseImported(glob, 0);
 }
 
-void Session::LoadLists(bool withCatalogue) {
-  if (PopulateCombos(withCatalogue ? 1 : 0, BookTitlesFile(store, glob), glob, codePage, ui) != Outcome::kDone) {
-    throw ExitWith(kExitFailed);
-  }
-  if (const auto why = withCatalogue ? WhyNoTranslation(glob) : std::nullopt) {
-    ui.Tell(why->InEnglish());
-  }
+void Session::LoadBookTitles() { Populate(0); }
+
+void Session::LoadLists() {
+  Populate(1);
+  if (const auto why = WhyNoTranslation(glob)) ui.Tell(why->InEnglish());
   for (const std::string& text : glob.unreadableTexts) {
     ui.Tell("A translation is left out, for its text cannot be read: " + text);
+  }
+}
+
+void Session::Populate(int which) {
+  if (PopulateCombos(which, BookTitlesFile(store, glob), glob, codePage, ui) != Outcome::kDone) {
+    throw ExitWith(kExitFailed);
   }
 }
 

@@ -6,11 +6,11 @@
 #include "BookChoice.h"
 #include "CodePage.h"
 #include "CommonOptions.h"
-#include "CompileContext.h"
 #include "ConsoleUi.h"
 #include "ExitStatus.h"
 #include "Installation.h"
 #include "PageOptions.h"
+#include "PageTexts.h"
 #include "StoredSettings.h"
 #include "modGlob.h"
 
@@ -43,9 +43,11 @@ class Session {
   // pass.
   void ChooseFirst();
 
-  // Fills the lists from the catalogue, when `withCatalogue`, and from the book-title file of the setting "cboLang".
-  // Ends the command when that fails.
-  void LoadLists(bool withCatalogue);
+  // Fills the lists of books from the book-title file of the setting "cboLang". Ends the command when that fails.
+  void LoadBookTitles();
+
+  // The same, and those of translations from the catalogue; tells which translations are missing.
+  void LoadLists();
 
   // Ends the command when Versalia's folder of definitions is there, but no file of book titles of the name that this
   // option gives.
@@ -66,6 +68,9 @@ class Session {
   PageOptions options;
   PageTexts texts;
   std::string chosenProgramFolder;
+
+ private:
+  void Populate(int which);
 };
 
 }  // namespace folionet

@@ -5,20 +5,34 @@
 #include "RunFacts.h"
 
 namespace folionet {
+namespace {
 
-void TellFacts(const std::vector<Finding>& facts, bool dryRun, ConsoleUi& ui) {
-  for (const Finding& fact : facts) {
-    const std::string_view kind = fact.kind;
-    const bool isRemoval = kind == kRemovesPages || kind == kRemovesLaterPages;
-    const bool isWarning = fact.severity == Severity::kWarning;
-    if (dryRun && (isRemoval || (ui.IsJson() && !isWarning))) {
-      Finding note = fact;
-      note.severity = Severity::kNote;
-      ui.Show(note);
-    } else if (isWarning) {
-      ui.Warn(fact);
-    } else if (!isRemoval && !ui.IsQuiet()) {
-      ui.Tell(fact.what.InEnglish() + " " + fact.remedy.InEnglish());
+bool IsRemoval(const Finding& fact) {
+  const std::string_view kind = fact.kind;
+  return kind == kRemovesPages || kind == kRemovesLaterPages;
+}
+
+void Tell(const Finding& fact, ConsoleUi& ui) {
+  if (fact.severity == Severity::kWarning) {
+    ui.Warn(fact);
+  } else if (!IsRemoval(fact) && !ui.IsQuiet()) {
+    ui.Tell(fact.what.InEnglish() + " " + fact.remedy.InEnglish());
+  }
+}
+
+}  // namespace
+
+void TellFacts(const std::vector<Finding>& facts, ConsoleUi& ui) {
+  for (const Finding& fact : facts) Tell(fact, ui);
+}
+
+void TellPlannedFacts(const std::vector<Finding>& facts, ConsoleUi& ui) {
+  for (Finding fact : facts) {
+    if (!IsRemoval(fact) && (!ui.IsJson() || fact.severity == Severity::kWarning)) {
+      Tell(fact, ui);
+    } else {
+      fact.severity = Severity::kNote;
+      ui.Show(fact);
     }
   }
 }

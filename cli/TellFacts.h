@@ -8,7 +8,9 @@
 namespace folionet {
 
 // Tells what a run will do before it is run: warnings as such, what is only good to know unless little is to be said.
-// A plan has what will be removed in it in any case.
-void TellFacts(const std::vector<Finding>& facts, bool dryRun, ConsoleUi& ui);
+void TellFacts(const std::vector<Finding>& facts, ConsoleUi& ui);
+
+// The same of a plan, which has what will be removed in it in any case.
+void TellPlannedFacts(const std::vector<Finding>& facts, ConsoleUi& ui);
 
 }  // namespace folionet

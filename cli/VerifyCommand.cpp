@@ -5,6 +5,7 @@
 #include <string_view>
 #include <vector>
 
+#include "GeneratorLine.h"
 #include "Paths.h"
 #include "RunTimeError.h"
 #include "SiteVerification.h"
@@ -23,12 +24,12 @@ void ShowReport(const SiteReport& report, ConsoleUi& ui) {
   ui.Sum(Counted(report.pages, "page") + ", " + Counted(report.links, "link") + ": " +
              std::to_string(report.brokenLinks) + " broken, " + Counted(report.unreached.size(), "page") +
              " not reached.",
-         report.findings.empty());
+         report.findings.empty() ? Severity::kNote : Severity::kFault);
   if (report.leadOut > 0) {
     ui.Sum(Counted(report.leadOut, "link") +
                (report.leadOut == 1 ? " leads out of the folder and was" : " lead out of the folder and were") +
                " not followed.",
-           true);
+           Severity::kNote);
   }
   for (const Sentence& remedy : report.remedies) ui.Tell(remedy.InEnglish());
 }

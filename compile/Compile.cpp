@@ -43,7 +43,6 @@ class CompileRun {
         m_glob(glob),
         m_ui(ui),
         m_options(EncodePageOptions(request.options, codePage)),
-        m_indexFileName(IndexFileName(request.options.txthttpRoot)),
         m_names(glob.cboStartBook, request.options.chkUse83, codePage),
         m_counts(glob),
         m_titles(m_options),
@@ -73,6 +72,7 @@ class CompileRun {
     const auto [base, extension] = SplitIndexAddress(m_options.txthttpRoot, m_options.chkUse83);
     m_context.IndexBaseName = base;
     m_context.IndexExtension = extension;
+    m_indexFileName = IndexFileName(m_codePage.Decode(base + "." + extension));
     if (m_options.chkUseNames) {
       for (std::size_t book = 1; book <= kBooks; ++book) m_labels[book] = m_codePage.ToUpper(m_glob.BookCodes[book]);
     }
@@ -95,11 +95,10 @@ class CompileRun {
   void WriteIndex() {
     m_context.PageTitle = IndexText(m_inputs, m_options.frmKeywords.txtDescriptionI);
     m_context.PageMeta = IndexText(m_inputs, m_options.frmKeywords.txtKeywordsI);
-    WriteIndexPage(
-        {m_context.PageLanguage, m_context.PageCharset, m_context.FontName, m_context.FontSizeNumber,
-         m_context.BackColourHex, m_context.TextColourHex, m_context.PageMeta, m_context.PageTitle,
-         static_cast<std::int16_t>(m_request.cboStartBook + 1), static_cast<std::int16_t>(m_request.cboEndBook + 1)},
-        m_inputs, m_codePage, m_context);
+    WriteIndexPage({.values = Values(),
+                    .firstBook = static_cast<std::int16_t>(m_request.cboStartBook + 1),
+                    .lastBook = static_cast<std::int16_t>(m_request.cboEndBook + 1)},
+                   m_inputs, m_codePage, m_context);
     Note(m_indexFileName, WritePageFoot(m_options, m_context));
     m_kept.insert(m_indexFileName);
     if (!m_request.sitemapAddress.empty()) WriteSitemap();
@@ -242,10 +241,22 @@ class CompileRun {
     m_context.BookTitle = BookName(m_inputs, book);
     m_context.PageTitle = PageText(m_inputs, m_titles.description, m_context.BookTitle, chapterText);
     m_context.PageMeta = PageText(m_inputs, m_titles.keywords, m_context.BookTitle, chapterText);
-    WriteChapterHead({m_context.BookTitle, m_context.PageLanguage, m_context.PageCharset, m_context.FontName,
-                      m_context.FontSizeNumber, m_context.BackColourHex, m_context.TextColourHex, m_context.PageMeta,
-                      m_context.PageTitle, m_context.BookNumber, m_context.ChapterNumber},
+    WriteChapterHead({.bookName = m_context.BookTitle,
+                      .values = Values(),
+                      .bookNumber = m_context.BookNumber,
+                      .chapterNumber = m_context.ChapterNumber},
                      m_inputs, m_context);
+  }
+
+  PageValues Values() const {
+    return {.language = m_context.PageLanguage,
+            .charset = m_context.PageCharset,
+            .fontFace = m_context.FontName,
+            .fontSize = m_context.FontSizeNumber,
+            .backColour = m_context.BackColourHex,
+            .textColour = m_context.TextColourHex,
+            .keywords = m_context.PageMeta,
+            .description = m_context.PageTitle};
   }
 
   const CompileRequest& m_request;
@@ -254,7 +265,7 @@ class CompileRun {
   ModGlob& m_glob;
   UserInterface& m_ui;
   PageOptions m_options;
-  std::string m_indexFileName;
+  std::string m_indexFileName;  // UTF-8; empty before Prepare
   PageNames m_names;
   VerseCounts m_counts;
   std::string m_linkToMain;
@@ -274,8 +285,14 @@ class CompileRun {
   std::set<std::string> m_kept;     // what the clean-up leaves
 };
 
-CompileOutcome Run(const CompileRequest& request, ModGlob& glob, UserInterface& ui, RunFolder& folder,
-                   std::string& lastValues) {
+// A failure of the run, with the last values seen.
+struct RunFailure {
+  RunTimeError error;
+  std::string lastValues;
+};
+
+// Throws RunFailure, and RunTimeError before there are values.
+CompileOutcome Run(const CompileRequest& request, ModGlob& glob, UserInterface& ui, RunFolder& folder) {
   if (request.options.chkCSS) CopyCSS(request, folder);
   if (const auto refusal = Validate(request)) {
     ui.ShowMessage(refusal->message);
@@ -298,9 +315,8 @@ CompileOutcome Run(const CompileRequest& request, ModGlob& glob, UserInterface& 
     OpenOutputFolder(request, folder);
     run.WriteChapters();
     run.WriteIndex();
-  } catch (const RunTimeError&) {
-    lastValues = run.LastValues();
-    throw;
+  } catch (const RunTimeError& error) {
+    throw RunFailure{error, run.LastValues()};
   }
   run.TellCounts();
   return CompileOutcome::kDone;
@@ -309,21 +325,24 @@ CompileOutcome Run(const CompileRequest& request, ModGlob& glob, UserInterface& 
 }  // namespace
 
 CompileOutcome cmdCompile_Click(const CompileRequest& request, ModGlob& glob, UserInterface& ui) {
-  std::string lastValues = "INDEX: \r\nSL: \r\nSR: ";
+  constexpr char kNoValues[] = "INDEX: \r\nSL: \r\nSR: ";
   RunFolder folder;
   CompileOutcome outcome = CompileOutcome::kFailed;
   try {
-    outcome = Run(request, glob, ui, folder, lastValues);
+    outcome = Run(request, glob, ui, folder);
   } catch (const Stopped&) {
     outcome = CompileOutcome::kStopped;
+  } catch (const RunFailure& failure) {
+    ui.ShowErrorReport({Procedure::kCompile, failure.error, failure.lastValues + "\r\n"});
   } catch (const RunTimeError& error) {
-    ui.ShowErrorReport({Procedure::kCompile, error, lastValues + "\r\n"});
+    ui.ShowErrorReport({Procedure::kCompile, error, std::string(kNoValues) + "\r\n"});
   } catch (const AlreadyReported&) {
     outcome = CompileOutcome::kFailed;  // and has been told
   } catch (const std::bad_alloc&) {
-    ui.ShowErrorReport({Procedure::kCompile, kOutOfMemory, lastValues});
+    ui.ShowErrorReport({Procedure::kCompile, kOutOfMemory, kNoValues});
   }
-  EndRun(request, folder, outcome == CompileOutcome::kDone);
+  EndRun(request, folder);
+  if (outcome == CompileOutcome::kDone) ForgetChanges(request, folder);
   return outcome;
 }
 

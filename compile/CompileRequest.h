@@ -3,8 +3,8 @@
 #include <functional>
 #include <string>
 
-#include "CompileContext.h"
 #include "PageOptions.h"
+#include "PageTexts.h"
 #include "SiteChanges.h"
 
 namespace folionet {

@@ -30,6 +30,9 @@ std::string_view Between(std::string_view text, std::string_view before, std::st
   return end == std::string_view::npos ? std::string_view() : text.substr(0, end);
 }
 
+// What is to be read of a file: whether it is an index page of ours, whose name is then told, or the name in any case.
+enum class Look { kKind, kName };
+
 // A file of the folder, as far as it has been read.
 struct OldFile {
   bool isFolder = false;
@@ -41,15 +44,14 @@ struct OldFile {
 // The pages of chapters have this version whatever the program has; index pages have the program's.
 constexpr std::string_view kChapterVersion = "1.0";
 
-// An index page has the name as its heading; another one's link back to it does, in its first form.
-std::string_view NameIn(std::string_view page, bool isIndex) {
-  if (!isIndex) return Between(page, "Main Index: ", "<");
+// An index page has the name as its heading.
+std::string_view NameInIndex(std::string_view page) {
   const std::string_view body = page.substr(std::min(page.find("<p>&nbsp;</p>"), page.size()));
   const std::string_view heading = Between(body, "<h1>", "</h1>");
   return heading.empty() ? Between(body, "<u>", "<br><br></u>") : heading;
 }
 
-OldFile ReadOldFile(int folder, const char* name, bool wantsName) {
+OldFile ReadOldFile(int folder, const char* name, Look look) {
   constexpr std::size_t kLongestHead = std::size_t{64} << 10;
   OldFile old;
   const FileHandle file = FileHandle::OpenAt(folder, name, O_RDONLY | O_NONBLOCK | O_NOFOLLOW);
@@ -60,18 +62,14 @@ OldFile ReadOldFile(int folder, const char* name, bool wantsName) {
   if (!S_ISREG(status.st_mode) || !ReadAll(file.Get(), head, kGeneratorHead, 0)) return old;
   old.isOurs = IsOurPage(head);
   old.isIndex = old.isOurs && Between(head, kGenerator, "\"") != kChapterVersion;
-  if (!old.isOurs || (!wantsName && !old.isIndex) ||
+  if (!old.isOurs || (look == Look::kKind && !old.isIndex) ||
       !ReadAll(file.Get(), head, std::min(kLongestHead, static_cast<std::size_t>(status.st_size)), 0)) {
     return old;
   }
   const CodePage codePage{std::string(Between(head, "charset=", "\""))};
-  old.translation = codePage.DecodeForDisplay(NameIn(head, old.isIndex));
+  // The link of another page back to the index page tells it, in its first form.
+  old.translation = codePage.DecodeForDisplay(old.isIndex ? NameInIndex(head) : Between(head, "Main Index: ", "<"));
   return old;
-}
-
-bool IsPageByName(std::string_view name) {
-  return EqualIgnoringCase(name.substr(name.rfind('.') + 1), "html") ||
-         EqualIgnoringCase(name.substr(name.rfind('.') + 1), "htm");
 }
 
 }  // namespace
@@ -91,8 +89,9 @@ std::optional<FolderFacts> LookIntoFolder(const std::string& folder, const std::
     const bool isWritten = written.contains(name);
     OldFile old;
     const bool isFile = entry->d_type == DT_REG || entry->d_type == DT_UNKNOWN;
-    if (isFile && (isWritten || IsPageByName(name))) {
-      old = ReadOldFile(dirfd(handle.get()), entry->d_name, facts.translations.empty() && facts.pages < kAskedPages);
+    if (isFile && (isWritten || IsHtmlName(name))) {
+      const bool isNameWanted = facts.translations.empty() && facts.pages < kAskedPages;
+      old = ReadOldFile(dirfd(handle.get()), entry->d_name, isNameWanted ? Look::kName : Look::kKind);
     }
     if (old.isFolder) continue;
     if (old.isOurs) {
@@ -127,7 +126,7 @@ std::string TranslationOfSite(const CompileRequest& request, const PageNames& na
   for (const std::string& name :
        {IndexFileName(request.options.txthttpRoot), names.OnDisk(request.cboStartBook + 1, 1)}) {
     if (name.empty() || name.find('/') != std::string::npos) continue;
-    const OldFile old = ReadOldFile(folder.Get(), name.c_str(), true);
+    const OldFile old = ReadOldFile(folder.Get(), name.c_str(), Look::kName);
     if (!old.translation.empty()) return old.translation;
   }
   return {};

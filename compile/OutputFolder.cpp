@@ -43,22 +43,28 @@ void MakeOutputFolder(const CompileRequest& request) {
 void OpenOutputFolder(const CompileRequest& request, RunFolder& folder) {
   if (folder.site.IsOpen()) return;
   MakeOutputFolder(request);
-  folder.site.Open(request.txtOutputPath, request.dryRun);
+  if (request.dryRun) {
+    folder.site.OpenToPlan(request.txtOutputPath);
+  } else {
+    folder.site.Open(request.txtOutputPath);
+  }
   folder.site.Lock();
   folder.journal.emplace(request.stateFolder, folder.site.Path());
   folder.site.SetWatch(&*folder.journal);
 }
 
-void EndRun(const CompileRequest& request, RunFolder& folder, bool isDone) {
-  if (!folder.journal) return;
-  if (request.changes != nullptr) {
+void EndRun(const CompileRequest& request, RunFolder& folder) {
+  if (folder.journal && request.changes != nullptr) {
     request.changes->knowsPending = true;
     request.changes->trouble = folder.journal->Trouble();
     for (const std::string& name : folder.journal->Pending()) {
       if (!request.changes->IsTold(name) && folder.site.Has(name)) request.changes->pending.push_back(name);
     }
   }
-  if (isDone && !request.listsChanges) folder.journal->Forget();
+}
+
+void ForgetChanges(const CompileRequest& request, RunFolder& folder) {
+  if (folder.journal && !request.listsChanges) folder.journal->Forget();
 }
 
 void CopyCSS(const CompileRequest& request, RunFolder& folder) {

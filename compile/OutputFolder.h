@@ -31,9 +31,11 @@ void CopyCSS(const CompileRequest& request, RunFolder& folder);
 // Writes a file that is no page into the open folder, in the manner of pages. Throws RunTimeError.
 void WriteOtherFile(const CompileRequest& request, RunFolder& folder, const std::string& name, std::string_view bytes);
 
-// To be called when the run has ended: hands on what earlier runs left to tell, and has this one's changes told later
-// unless they need not be.
-void EndRun(const CompileRequest& request, RunFolder& folder, bool isDone);
+// To be called when the run has ended: hands on what earlier runs left to tell, and has this one's changes told later.
+void EndRun(const CompileRequest& request, RunFolder& folder);
+
+// To be called behind it for a run that is done: its changes need not be told later, unless the request lists them.
+void ForgetChanges(const CompileRequest& request, RunFolder& folder);
 
 // Notes what became of a file, where the request says so.
 void NoteWritten(const CompileRequest& request, const RunFolder& folder, const std::string& name, PageChange change);

@@ -14,7 +14,6 @@
 #include "FolderFacts.h"
 #include "GeneratorLine.h"
 #include "OutputFolder.h"
-#include "PageFile.h"
 #include "PageNames.h"
 #include "Paths.h"
 #include "TypedFindings.h"
@@ -40,8 +39,6 @@ ChapterCounts CountChapters(const ModGlob& glob) {
   }
   return counts;
 }
-
-bool IsPageByName(const std::string& name) { return name.ends_with(".html") || name.ends_with(".htm"); }
 
 bool IsPageOfOurs(const std::string& path) {
   const FileHandle file = FileHandle::Open(path.c_str(), O_RDONLY | O_NONBLOCK);
@@ -91,7 +88,7 @@ class FactFinder {
     const std::unordered_set<std::string> known = NamesOfRun();
     std::set<std::string> old;
     for (std::string& name : FolderEntries(folder)) {
-      if (IsPageByName(name) && !known.contains(name) && IsPageOfOurs(folder + name)) old.insert(std::move(name));
+      if (IsHtmlName(name) && !known.contains(name) && IsPageOfOurs(folder + name)) old.insert(std::move(name));
     }
     if (old.empty()) return;
     facts.push_back(

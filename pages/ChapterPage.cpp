@@ -2,7 +2,6 @@
 
 #include "BuildInfo.h"
 #include "ChapterNav.h"
-#include "PageHead.h"
 
 namespace folionet {
 namespace {
@@ -12,13 +11,13 @@ void PrintHeading(PageFile& page, const ChapterHead& head, const PageOptions& op
   if (options.chkCSS) {
     page.Print("<h2>", name, "</h2>");
   } else {
-    PrintStyledHeading(page, options.txtSample, head.fontFace, head.fontSize, name);
+    PrintStyledHeading(page, options.txtSample, head.values, name);
   }
 }
 
 // Three font tags are opened and one is closed, and the first has no blank before "size=": that is meant.
-void PrintCreditLine(PageFile& page, bool useStyleSheet) {
-  if (useStyleSheet) {
+void PrintCreditLine(PageFile& page, const PageOptions& options) {
+  if (options.chkCSS) {
     page.Print("<address align=\"center\"><font face=\"Verdana\">Created with <a href=\"", kProductPage,
                "\">Folionet</a> by <a href=\"", kMakerSite, "\">Versalia</a></font></address><br>");
     return;
@@ -37,9 +36,7 @@ void WriteChapterHead(const ChapterHead& head, const PageInputs& inputs, Compile
 
   const std::string title =
       PageText(inputs, inputs.titles.title, BookName(inputs, head.bookNumber), std::to_string(head.chapterNumber));
-  PrintDocumentHead({kShortVersion, head.language, head.charset, head.keywords, head.description, title,
-                     head.backColour, head.textColour},
-                    options, context);
+  PrintDocumentHead({kShortVersion, title, head.values}, options, context);
   if (!context.CustomHeader.empty()) page.Print(context.CustomHeader);
   page.Print(inputs.linkToMain);
   page.Print("<p>&nbsp;</p>");
@@ -52,7 +49,7 @@ void WriteChapterHead(const ChapterHead& head, const PageInputs& inputs, Compile
   page.Print(context.Navigation);
   page.Print("\r\n");
   page.Print("<blockquote>");
-  if (!options.chkCSS) PrintJustifiedParagraph(page, head.fontFace, head.fontSize);
+  if (!options.chkCSS) PrintJustifiedParagraph(page, head.values);
 }
 
 void BuildVerseLine(const VerseLine& verse, const PageOptions& options, CompileContext& context) {
@@ -67,7 +64,7 @@ void PrintPageFoot(const PageOptions& options, CompileContext& context) {
   if (options.txtSample.FontBold && !options.chkCSS) page.Print("</B>");
   if (options.txtSample.FontItalic && !options.chkCSS) page.Print("</I>");
   page.Print("</blockquote><p>&nbsp;</p>\r\n");
-  PrintCreditLine(page, options.chkCSS);
+  PrintCreditLine(page, options);
   if (!context.CustomFooter.empty()) page.Print(context.CustomFooter);
   page.Print("</body>\r\n</html>");
 }

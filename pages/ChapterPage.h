@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "CompileContext.h"
+#include "PageHead.h"
 #include "PageInputs.h"
 
 namespace folionet {
@@ -12,14 +13,7 @@ namespace folionet {
 // What a chapter page's head is made of.
 struct ChapterHead {
   std::string_view bookName;
-  std::string_view language;
-  std::string_view charset;
-  std::string_view fontFace;
-  std::int16_t fontSize;
-  std::string_view backColour;  // RRGGBB
-  std::string_view textColour;  // RRGGBB
-  std::string_view keywords;
-  std::string_view description;
+  PageValues values;
   std::int16_t bookNumber;  // 1 to 66
   std::int16_t chapterNumber;
 };

@@ -3,27 +3,18 @@
 #include <cstdint>
 #include <string>
 
+#include "Html.h"
 #include "PageFile.h"
+#include "PageTexts.h"
 
 namespace folionet {
-
-// The texts of pages that the main form keeps for the whole run of the program. UTF-8.
-struct PageTexts {
-  std::string RolloverStyle;           // one-line style block, or empty
-  std::string BodyLinkTag;             // the opening of a body tag with link colours, or empty
-  std::string CustomHeader;            // HTML for every page's top, or empty
-  std::string CustomFooter;            // HTML for every page's foot, or empty
-  std::string PageCharset;             // such as "windows-1252"
-  std::string PageLanguage;            // such as "en-us"
-  std::string LinkAlignment = "Left";  // "Left", "Center" or "Justify"
-};
 
 // The values of one compile run that the page writers read. Texts, those of PageTexts too, are bytes in the page's code
 // page; OutputFolder is a path.
 struct CompileContext : PageTexts {
   // Set before the first page.
   std::string OutputFolder;         // ends in the folder separator
-  std::string QuoteChar = "\"";     // encloses every attribute value
+  std::string QuoteChar{kQuote};    // encloses every attribute value
   std::string StyleSheetLink;       // the line that links default.css
   std::string FontName;             // the font of the sample text
   std::int16_t FontSizeNumber = 0;  // HTML font size: the sample's points minus 9
@@ -38,8 +29,9 @@ struct CompileContext : PageTexts {
   std::int16_t BookNumber = 0;
   std::int16_t ChapterNumber = 0;
   std::string BookTitle;
-  std::string PageTitle;  // the META description
-  std::string PageMeta;   // the META keywords
+  std::string
+      PageTitle;  // the META description: frmKeywords.txtDescription filled in, on the index page txtDescriptionI
+  std::string PageMeta;  // the META keywords: frmKeywords.txtKeyWords filled in, on the index page txtKeywordsI
   std::int16_t PagesCreated = 2;
 
   // The block of chapter links of NavigationBook (0 for none yet), which all pages of a book carry.

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "CodePage.h"
-#include "CompileContext.h"
 #include "PageOptions.h"
+#include "PageTexts.h"
 
 namespace folionet {
 

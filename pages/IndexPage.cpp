@@ -3,7 +3,6 @@
 #include "BuildInfo.h"
 #include "ChapterNav.h"
 #include "Html.h"
-#include "PageHead.h"
 
 namespace folionet {
 namespace {
@@ -12,8 +11,8 @@ namespace {
 void PrintListing(const IndexPage& index, const PageInputs& inputs, const CodePage& codePage, CompileContext& context) {
   PageFile& page = context.PageFile;
   if (!inputs.options.chkCSS) {
-    page.Add("<font face=", context.QuoteChar, index.fontFace, " size=", context.QuoteChar,
-             std::to_string(index.fontSize), ">");
+    page.Add("<font face=", context.QuoteChar, index.values.fontFace, " size=", context.QuoteChar,
+             std::to_string(index.values.fontSize), ">");
   }
   std::string link;
   for (int book = index.firstBook; book <= index.lastBook; ++book) {
@@ -41,20 +40,18 @@ void WriteIndexPage(const IndexPage& index, const PageInputs& inputs, const Code
   page.Open(context.OutputFolder, inputs.indexFileName);
 
   const std::string title = IndexText(inputs, options.frmPAgeTitles.txtIndex_html);
-  PrintDocumentHead({kVersion, index.language, index.charset, index.keywords, index.description, title,
-                     index.backColour, index.textColour},
-                    options, context);
+  PrintDocumentHead({kVersion, title, index.values}, options, context);
   page.Print(context.CustomHeader);  // also when empty, unlike on chapter pages
   page.Print("<p>&nbsp;</p>");
   if (options.chkCSS) {
-    page.Print("<h1>", options.txtBibleSel, "</h1>");
+    page.Print("<h1>", context.BibleTitle, "</h1>");
   } else {
-    PrintStyledHeading(page, options.txtSample, index.fontFace, index.fontSize, options.txtBibleSel);
+    PrintStyledHeading(page, options.txtSample, index.values, context.BibleTitle);
   }
   page.Print("<blockquote>");
   if (!options.chkCSS) page.Print("<p align=" + InQuotes(context.LinkAlignment) + ">");
   PrintListing(index, inputs, codePage, context);
-  if (!options.chkCSS) PrintJustifiedParagraph(page, index.fontFace, index.fontSize);
+  if (!options.chkCSS) PrintJustifiedParagraph(page, index.values);
 }
 
 }  // namespace folionet

@@ -1,23 +1,16 @@
 #pragma once
 
 #include <cstdint>
-#include <string_view>
 
 #include "CompileContext.h"
+#include "PageHead.h"
 #include "PageInputs.h"
 
 namespace folionet {
 
 // What the index page is made of.
 struct IndexPage {
-  std::string_view language;
-  std::string_view charset;
-  std::string_view fontFace;
-  std::int16_t fontSize;
-  std::string_view backColour;  // RRGGBB
-  std::string_view textColour;  // RRGGBB
-  std::string_view keywords;
-  std::string_view description;
+  PageValues values;
   std::int16_t firstBook;
   std::int16_t lastBook;  // below firstBook, nothing is listed
 };

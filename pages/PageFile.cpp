@@ -3,19 +3,11 @@
 #include <memory>
 #include <utility>
 
+#include "PageNames.h"
 #include "Paths.h"
 #include "RunTimeError.h"
-#include "Text.h"
 
 namespace folionet {
-
-bool IsPageName(std::string_view name) {
-  if (name.empty() || name == "." || name == "..") return false;
-  for (std::size_t i = 0; i < name.size(); ++i) {
-    if (name[i] == '/' || name[i] == '\\' || IsControl(name, i)) return false;
-  }
-  return true;
-}
 
 void PageFile::Open(const std::string& folder, const std::string& name) {
   m_folder = folder;

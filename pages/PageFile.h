@@ -73,7 +73,4 @@ class PageFile {
   SiteFolder* m_site = nullptr;
 };
 
-// Whether a page may have this name (UTF-8): not empty, no folder separator, no control character, not "." or "..".
-bool IsPageName(std::string_view name);
-
 }  // namespace folionet

@@ -13,7 +13,7 @@ void PrintMeta(PageFile& page, std::string_view kind, std::string_view name, con
 
 // With link colours the word "body" stands a second time, as an attribute; without them a blank begins the line. With
 // an image the text colour goes without "#". All of it is meant.
-void PrintBodyLine(const DocumentHead& head, const PageOptions& options, CompileContext& context) {
+void PrintBodyLine(const PageValues& values, const PageOptions& options, CompileContext& context) {
   PageFile& page = context.PageFile;
   if (options.chkCSS) {
     page.Print("<body>");
@@ -24,34 +24,37 @@ void PrintBodyLine(const DocumentHead& head, const PageOptions& options, Compile
     page.Add(" background=\"", options.frmBackground.txtImagepath, "\"");
     if (options.frmBackground.chkWaterMark) page.Add(" bgproperties=\"fixed\"");
   }
-  page.Print(" bgcolor=\"#", head.background, options.chkBack ? "\" text=\"" : "\" text=\"#", head.textColour, "\">");
+  page.Print(" bgcolor=\"#", values.backColour, options.chkBack ? "\" text=\"" : "\" text=\"#", values.textColour,
+             "\">");
 }
 
 }  // namespace
 
 void PrintDocumentHead(const DocumentHead& head, const PageOptions& options, CompileContext& context) {
   PageFile& page = context.PageFile;
+  const PageValues& values = head.values;
   page.Print("<html>\r\n<head>");
   PrintMeta(page, "name", "GENERATOR", kGenerator, head.version);
-  page.Print("<meta http-equiv=\"Content-Type\" content=\"text/html; charset=", head.charset, "\">");
-  PrintMeta(page, "http-equiv", "Content-Language", head.language);
-  PrintMeta(page, "name", "DESCRIPTION", head.description);
-  PrintMeta(page, "name", "KEYWORDS", head.keywords);
+  page.Print("<meta http-equiv=\"Content-Type\" content=\"text/html; charset=", values.charset, "\">");
+  PrintMeta(page, "http-equiv", "Content-Language", values.language);
+  PrintMeta(page, "name", "DESCRIPTION", values.description);
+  PrintMeta(page, "name", "KEYWORDS", values.keywords);
   page.Print("<meta name=\"ProgId\" content=\"By Versalia: ", kMakerSite, "\">");
   page.Print("<title>", head.title, "</title>");
   page.Print(options.chkCSS ? context.StyleSheetLink : context.RolloverStyle);
   page.Print("</head>\r\n");
-  PrintBodyLine(head, options, context);
+  PrintBodyLine(values, options, context);
 }
 
-void PrintStyledHeading(PageFile& page, const SampleText& sample, std::string_view fontFace, int fontSize,
-                        std::string_view heading) {
-  page.Add(sample.FontItalic ? "<I><B>" : "<B>", "<p><font face=\"", fontFace, "\" size=\"", std::to_string(fontSize));
+void PrintStyledHeading(PageFile& page, const SampleText& sample, const PageValues& values, std::string_view heading) {
+  page.Add(sample.FontItalic ? "<I><B>" : "<B>", "<p><font face=\"", values.fontFace, "\" size=\"",
+           std::to_string(values.fontSize));
   page.Print("\"><u>", heading, "<br><br></u>", sample.FontBold ? "" : "</B>");
 }
 
-void PrintJustifiedParagraph(PageFile& page, std::string_view fontFace, int fontSize) {
-  page.Print("<p align=\"justify\"><font face=\"", fontFace, "\" size= \"", std::to_string(fontSize), "\">");
+void PrintJustifiedParagraph(PageFile& page, const PageValues& values) {
+  page.Print("<p align=\"justify\"><font face=\"", values.fontFace, "\" size= \"", std::to_string(values.fontSize),
+             "\">");
 }
 
 }  // namespace folionet

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -8,16 +9,23 @@
 
 namespace folionet {
 
+// What every page of a run is made of.
+struct PageValues {
+  std::string_view language;
+  std::string_view charset;
+  std::string_view fontFace;
+  std::int16_t fontSize;        // of HTML
+  std::string_view backColour;  // RRGGBB
+  std::string_view textColour;  // RRGGBB
+  std::string_view keywords;
+  std::string_view description;
+};
+
 // What chapter pages and the index page have in common at their top.
 struct DocumentHead {
   std::string_view version;  // chapter pages name two parts of the version, the index page three
-  std::string_view language;
-  std::string_view charset;
-  std::string_view keywords;
-  std::string_view description;
   std::string_view title;
-  std::string_view background;  // RRGGBB
-  std::string_view textColour;  // RRGGBB
+  const PageValues& values;
 };
 
 // Prints the lines from "<html>" to the body tag.
@@ -25,11 +33,10 @@ void PrintDocumentHead(const DocumentHead& head, const PageOptions& options, Com
 
 // Prints a heading without a style sheet, enclosed as the sample's font asks: bold in either case, but a bold font
 // leaves its tag open so that the whole page is bold, and so does an italic one; PrintPageFoot closes both.
-void PrintStyledHeading(PageFile& page, const SampleText& sample, std::string_view fontFace, int fontSize,
-                        std::string_view heading);
+void PrintStyledHeading(PageFile& page, const SampleText& sample, const PageValues& values, std::string_view heading);
 
 // Prints the line that opens the verses of a chapter, and stands again at the end of the index page. The blank after
 // "size=" is meant.
-void PrintJustifiedParagraph(PageFile& page, std::string_view fontFace, int fontSize);
+void PrintJustifiedParagraph(PageFile& page, const PageValues& values);
 
 }  // namespace folionet

@@ -4,6 +4,7 @@
 #include <cstdlib>
 
 #include "CharacterReferences.h"
+#include "Text.h"
 
 namespace folionet {
 namespace {
@@ -29,6 +30,14 @@ void AddWithChapter(std::string& text, const std::string& bookPart, int chapter,
 }
 
 }  // namespace
+
+bool IsPageName(std::string_view name) {
+  if (name.empty() || name == "." || name == "..") return false;
+  for (std::size_t i = 0; i < name.size(); ++i) {
+    if (name[i] == '/' || name[i] == '\\' || IsControl(name, i)) return false;
+  }
+  return true;
+}
 
 std::string UnderscoreSpaces(std::string_view text) {
   std::string result(text);

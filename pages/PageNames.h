@@ -20,6 +20,9 @@ std::string ChapterPageName(std::string_view bookName, int bookNumber, int chapt
 // references stand for, as a browser asks for it.
 std::string IndexFileName(std::string_view httpRoot);
 
+// Whether a page may have this name (UTF-8): not empty, no folder separator, no control character, not "." or "..".
+bool IsPageName(std::string_view name);
+
 // The page names of one compile run, with what depends on the book only worked out once.
 class PageNames {
  public:

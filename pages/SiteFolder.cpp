@@ -47,14 +47,18 @@ void SiteFolder::Check(int systemError, const std::string& name) const {
   if (systemError != 0) throw RunTimeError::FromErrno(systemError, m_path + name);
 }
 
-void SiteFolder::Open(const std::string& path, bool dryRun) {
+void SiteFolder::Open(const std::string& path) {
   m_path = NativePath(path);
-  m_dryRun = dryRun;
   m_folder = FileHandle::Open(m_path.c_str(), O_RDONLY | O_DIRECTORY);
-  if (!m_folder.IsOpen() && !(dryRun && errno == ENOENT)) {
+  if (!m_folder.IsOpen() && !(m_dryRun && errno == ENOENT)) {
     throw RunTimeError::FromErrno(errno, m_path).About(Subject::kOutputFolder);
   }
   m_isOpen = true;
+}
+
+void SiteFolder::OpenToPlan(const std::string& path) {
+  m_dryRun = true;
+  Open(path);
 }
 
 void SiteFolder::Lock() const {

@@ -40,9 +40,11 @@ class ChangeWatch {
 // where a file of ours goes is kept beside as "<name>.before-folionet", the first time.
 class SiteFolder {
  public:
-  // Opens the folder `path`, which ends in the separator. With `dryRun` nothing will be written, and a folder that is
-  // not there is as good as an empty one. Throws RunTimeError.
-  void Open(const std::string& path, bool dryRun);
+  // Opens the folder `path`, which ends in the separator. Throws RunTimeError.
+  void Open(const std::string& path);
+
+  // The same for a dry run: nothing will be written, and a folder that is not there is as good as an empty one.
+  void OpenToPlan(const std::string& path);
 
   bool IsOpen() const { return m_isOpen; }
 

@@ -14,4 +14,7 @@ inline constexpr std::size_t kGeneratorHead = 512;
 // Whether a file that begins like this is a page of ours, also one that an editor has been at.
 bool IsOurPage(std::string_view head);
 
+// Whether a file of this name is a page, ours or not: its ending is .html or .htm, in letters of any case.
+bool IsHtmlName(std::string_view name);
+
 }  // namespace folionet

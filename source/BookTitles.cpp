@@ -3,6 +3,7 @@
 #include <string_view>
 
 #include "CodePage.h"
+#include "Installation.h"
 #include "LineReader.h"
 #include "Paths.h"
 #include "RunTimeError.h"

@@ -4,8 +4,8 @@
 #include <string_view>
 #include <vector>
 
-#include "Installation.h"
 #include "LineReader.h"
+#include "Outcome.h"
 #include "UserInterface.h"
 #include "modGlob.h"
 

@@ -8,6 +8,7 @@
 #include "BuildInfo.h"
 #include "FolderLister.h"
 #include "ImportedText.h"
+#include "Installation.h"
 #include "Numbers.h"
 #include "Paths.h"
 #include "RunTimeError.h"

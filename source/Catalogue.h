@@ -5,7 +5,7 @@
 #include <string>
 
 #include "CodePage.h"
-#include "Installation.h"
+#include "Outcome.h"
 #include "RecordReader.h"
 #include "Sentence.h"
 #include "UserInterface.h"

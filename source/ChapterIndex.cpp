@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "BuildInfo.h"
+#include "Installation.h"
 #include "Numbers.h"
 #include "Paths.h"
 #include "RecordReader.h"

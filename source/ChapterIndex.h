@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "CodePage.h"
-#include "Installation.h"
+#include "Outcome.h"
 #include "UserInterface.h"
 #include "modGlob.h"
 

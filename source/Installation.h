@@ -11,13 +11,6 @@ namespace folionet {
 
 class StoredSettings;
 
-// How a routine that can end the program went on.
-enum class Outcome {
-  kDone,
-  kReported,    // it failed and said so; the program goes on
-  kEndProgram,  // it failed and said so; the program must end at once, saving nothing
-};
-
 // Folders that were given for one run; each is empty when it was not, and may lack its trailing separator.
 struct GivenFolders {
   std::string versaliaPath;

@@ -345,8 +345,6 @@ class SiteReader {
 
 }  // namespace
 
-bool IsHtmlName(std::string_view name) { return HasExtension(name, ".html") || HasExtension(name, ".htm"); }
-
 SiteReport VerifySite(const SiteRequest& request) { return SiteReader(request).Read(); }
 
 std::string FindIndexPage(const std::string& folder) {

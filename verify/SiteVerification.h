@@ -28,9 +28,6 @@ struct SiteRequest {
 // cannot be read, or when there is no such index page.
 SiteReport VerifySite(const SiteRequest& request);
 
-// Whether a file name is one of a page: ".html" or ".htm" at its end, in any letter case.
-bool IsHtmlName(std::string_view name);
-
 // The index page of a folder: "index.html" or "index.htm"; empty when there is neither.
 std::string FindIndexPage(const std::string& folder);
 

@@ -3,9 +3,9 @@
 #include <string>
 
 #include "CodePage.h"
-#include "CompileContext.h"
 #include "Installation.h"
 #include "PageOptions.h"
+#include "PageTexts.h"
 #include "SettingsStore.h"
 #include "UserInterface.h"
 #include "modGlob.h"

@@ -5,7 +5,7 @@
 #include <string>
 
 #include "AppState.h"
-#include "Installation.h"
+#include "Outcome.h"
 
 namespace folionet {
 

@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include "PageFile.h"
 #include "PageNames.h"
 
 namespace folionet {

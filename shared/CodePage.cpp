@@ -75,6 +75,27 @@ std::string IcuName(const std::string& encoding) {
   return encoding;
 }
 
+// iso-8859-16 from 0xA0 on, which ICU lacks and browsers know. The bytes before stand for themselves.
+constexpr std::array<char16_t, 96> kIso8859_16{
+    0xA0,  0x104, 0x105, 0x141, 0x20AC, 0x201E, 0x160, 0xA7,  0x161, 0xA9,  0x218, 0xAB, 0x179, 0xAD,  0x17A, 0x17B,
+    0xB0,  0xB1,  0x10C, 0x142, 0x17D,  0x201D, 0xB6,  0xB7,  0x17E, 0x10D, 0x219, 0xBB, 0x152, 0x153, 0x178, 0x17C,
+    0xC0,  0xC1,  0xC2,  0x102, 0xC4,   0x106,  0xC6,  0xC7,  0xC8,  0xC9,  0xCA,  0xCB, 0xCC,  0xCD,  0xCE,  0xCF,
+    0x110, 0x143, 0xD2,  0xD3,  0xD4,   0x150,  0xD6,  0x15A, 0x170, 0xD9,  0xDA,  0xDB, 0xDC,  0x118, 0x21A, 0xDF,
+    0xE0,  0xE1,  0xE2,  0x103, 0xE4,   0x107,  0xE6,  0xE7,  0xE8,  0xE9,  0xEA,  0xEB, 0xEC,  0xED,  0xEE,  0xEF,
+    0x111, 0x144, 0xF2,  0xF3,  0xF4,   0x151,  0xF6,  0x15B, 0x171, 0xF9,  0xFA,  0xFB, 0xFC,  0x119, 0x21B, 0xFF};
+constexpr unsigned char kFirstOfTable = 0xA0;
+
+// A letter that browsers read otherwise than ICU.
+struct Difference {
+  std::string_view encoding;
+  std::string_view bytes;
+  UChar32 character;
+};
+constexpr std::array<Difference, 4> kDifferences{{{"gbk", "\xA2\xE3", 0x20AC},
+                                                  {"koi8-u", "\xAE", 0x45E},
+                                                  {"koi8-u", "\xBE", 0x40E},
+                                                  {"windows-1255", "\xCA", 0x5BA}}};
+
 bool IsStatelessType(UConverterType type) {
   return type == UCNV_SBCS || type == UCNV_MBCS || type == UCNV_DBCS || type == UCNV_UTF8 || type == UCNV_LATIN_1 ||
          type == UCNV_US_ASCII;
@@ -86,7 +107,12 @@ bool IsStatelessType(UConverterType type) {
 class CodePage::Converter {
  public:
   explicit Converter(std::string name)
-      : m_name(std::move(name)), m_icuName(IcuName(m_name)), m_isUtf8(m_name == "utf-8") {}
+      : m_name(std::move(name)),
+        m_icuName(IcuName(m_name)),
+        m_isUtf8(m_name == "utf-8"),
+        m_hasTable(m_name == "iso-8859-16"),
+        m_differs(std::any_of(kDifferences.begin(), kDifferences.end(),
+                              [&](const Difference& row) { return row.encoding == m_name; })) {}
 
   const std::string& Name() const { return m_name; }
   bool IsUtf8() const { return m_isUtf8; }
@@ -101,6 +127,7 @@ class CodePage::Converter {
   // Whether pages can be in it. Opens the converter.
   bool IsUsable() const {
     if (m_name.empty()) return false;
+    if (m_hasTable) return true;
     UErrorCode error = U_ZERO_ERROR;
     const std::unique_ptr<UConverter, Close> converter(ucnv_open(m_icuName.c_str(), &error));
     return U_SUCCESS(error) && IsStatelessType(ucnv_getType(converter.get())) && HoldsAscii(converter.get());
@@ -110,6 +137,13 @@ class CodePage::Converter {
   void ForEach(std::string_view bytes, Take take) const {
     if (m_isUtf8) {
       ForEachUtf8(bytes, take);
+      return;
+    }
+    if (m_hasTable) {
+      for (std::size_t i = 0; i < bytes.size(); ++i) {
+        const auto byte = static_cast<unsigned char>(bytes[i]);
+        take(Piece{byte < kFirstOfTable ? byte : kIso8859_16[byte - kFirstOfTable], bytes.substr(i, 1)});
+      }
       return;
     }
     UConverter* converter = Handle();
@@ -130,7 +164,9 @@ class CodePage::Converter {
         character = kUndecodable;
         next = at + 1;
       }
-      take(Piece{character, {at, static_cast<std::size_t>(next - at)}});
+      const std::string_view read(at, static_cast<std::size_t>(next - at));
+      const Difference* const other = m_differs ? FindDifference(read) : nullptr;
+      take(Piece{other != nullptr ? other->character : character, read});
       at = next;
     }
   }
@@ -140,6 +176,16 @@ class CodePage::Converter {
     if (m_isUtf8 || character < 0x80) {
       AppendUtf8(bytes, character);
       return true;
+    }
+    if (m_hasTable) return AppendOfTable(bytes, character);
+    if (m_differs) {
+      const auto* const row = std::find_if(kDifferences.begin(), kDifferences.end(), [&](const Difference& difference) {
+        return difference.encoding == m_name && difference.character == character;
+      });
+      if (row != kDifferences.end()) {
+        bytes += row->bytes;
+        return true;
+      }
     }
     std::array<UChar, 2> units{};
     int32_t length = 0;
@@ -152,7 +198,9 @@ class CodePage::Converter {
         ucnv_fromUChars(converter, buffer.data(), static_cast<int32_t>(buffer.size()), units.data(), length, &error);
     // ICU passes over a character without a shape of its own that the code page lacks, as if that were a success.
     if (U_FAILURE(error) || written == 0) return false;
-    bytes.append(buffer.data(), static_cast<std::size_t>(written));
+    const std::string_view made(buffer.data(), static_cast<std::size_t>(written));
+    if (m_differs && FindDifference(made) != nullptr) return false;
+    bytes += made;
     return true;
   }
 
@@ -160,6 +208,21 @@ class CodePage::Converter {
   struct Close {
     void operator()(UConverter* converter) const { ucnv_close(converter); }
   };
+
+  const Difference* FindDifference(std::string_view bytes) const {
+    const auto* const row = std::find_if(kDifferences.begin(), kDifferences.end(), [&](const Difference& difference) {
+      return difference.encoding == m_name && difference.bytes == bytes;
+    });
+    return row == kDifferences.end() ? nullptr : row;
+  }
+
+  static bool AppendOfTable(std::string& bytes, UChar32 character) {
+    const auto* const found = std::find(kIso8859_16.begin(), kIso8859_16.end(), character);
+    const bool isBelow = character < kFirstOfTable;
+    if (found == kIso8859_16.end() && !isBelow) return false;
+    bytes += static_cast<char>(isBelow ? character : kFirstOfTable + (found - kIso8859_16.begin()));
+    return true;
+  }
 
   // Looks at the characters that texts are made of, and passes over the control characters: ICU's shift_jis and ibm866
   // exchange 0x1A, 0x1C and 0x7F.
@@ -189,6 +252,8 @@ class CodePage::Converter {
   std::string m_name;
   std::string m_icuName;
   bool m_isUtf8;
+  bool m_hasTable;  // kIso8859_16
+  bool m_differs;   // in one of kDifferences
   mutable std::unique_ptr<UConverter, Close> m_handle;
 };
 

@@ -52,6 +52,8 @@ TEST(CodePageTest, EncodesWhatTheCodePageHoldsAndReferencesTheRest) {
       {"shift_jis", "表", "\x95\x5C"},
       {"windows-1252", "a\xFF", "a\xFF"},
       {"windows-1251", "a\u200Db", "a&#8205;b"},
+      {"iso-8859-16", "ȚÿЖ\u0085", "\xDE\xFF&#1046;\x85"},
+      {"koi8-u", "ў╝", "\xAE&#9565;"},
   };
   for (const auto& c : cases) EXPECT_EQ(CodePage(c.charset).Encode(c.text), c.bytes) << c.charset << " " << c.text;
 }
@@ -72,6 +74,9 @@ TEST(CodePageTest, DecodesAndKeepsWhatDoesNotDecode) {
       {"big5", "\x87\x40", "䏰", "䏰", std::string::npos},
       {"utf-8", "a\xE9o", "a\xE9o", "a\uFFFDo", 1},
       {"big5", "\xA4", "\xA4", "\uFFFD", 0},
+      {"koi8-u", "\xBE\xC1", "Ўа", "Ўа", std::string::npos},
+      {"gb2312", "\xA2\xE3", "€", "€", std::string::npos},
+      {"iso-8859-16", "\xA4\xFE\x85", "€ț\u0085", "€ț\u0085", 2},
   };
   for (const auto& c : cases) {
     const CodePage codePage(c.charset);

@@ -68,8 +68,9 @@ class UserInterface {
   // Puts the focus on the control of that name; only a form has one.
   virtual void FocusControl(std::string_view /*name*/) {}
 
-  // The choosers. Each gives back what it was given when the person cancels or where there is nobody to choose.
-  virtual Colour ChooseColour(Colour initial) { return initial; }
+  // The choosers. Each gives back what it was given when the person cancels or where there is nobody to choose; of
+  // colours, nothing: to choose the one that is shown is a choice.
+  virtual std::optional<Colour> ChooseColour(Colour /*initial*/) { return std::nullopt; }
   virtual SampleText ChooseFont(const SampleText& initial) { return initial; }
   virtual std::string ChooseFile(const std::string& /*filter*/, const std::string& previous) { return previous; }
   virtual std::string ChooseFolder(const std::string& initial, const std::string& /*title*/) { return initial; }

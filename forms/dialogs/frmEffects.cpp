@@ -37,10 +37,7 @@ frmEffects::frmEffects(AppState& state, QWidget* parent)
   ScrollAllButButtons(*this);
   ConnectRecord();
   const auto pick = [this](const QPushButton* button, const char* key, Swatch& swatch) {
-    connect(button, &QPushButton::clicked, this, [this, key, &swatch] {
-      PickColour(swatch);
-      MarkChosen(key, m_state.options);
-    });
+    connect(button, &QPushButton::clicked, this, [this, key, &swatch] { PickColour(key, swatch); });
   };
   pick(m_ui->cmdHyperlink, "lblHyperlink", m_record.lblHyperlink);
   pick(m_ui->cmdActive, "lblActive", m_record.lblActive);
@@ -86,8 +83,11 @@ void frmEffects::showEvent(QShowEvent* event) {
   ShowLooks();  // the page's colours may be others than when the dialog was last open
 }
 
-void frmEffects::PickColour(Swatch& swatch) {
-  swatch = {m_state.ui.ChooseColour(swatch.colour), false};
+// The caption goes whatever becomes of the choice.
+void frmEffects::PickColour(const char* key, Swatch& swatch) {
+  const std::optional<Colour> picked = m_state.ui.ChooseColour(swatch.colour);
+  swatch = {picked.value_or(swatch.colour), false};
+  if (picked) MarkChosen(key, m_state.options);
   ShowLooks();
 }
 

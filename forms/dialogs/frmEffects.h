@@ -29,7 +29,7 @@ class frmEffects : public LoadedDialog {
 
  private:
   void ConnectRecord();
-  void PickColour(Swatch& swatch);
+  void PickColour(const char* key, Swatch& swatch);
   void RestoreDefaults();
   void SetDefaultHyperlinkColors(int ask);
   void BuildEffects();

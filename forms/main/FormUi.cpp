@@ -160,9 +160,9 @@ void FormUi::FocusControl(std::string_view name) {
   if (m_form != nullptr) m_form->FocusControl(name);
 }
 
-Colour FormUi::ChooseColour(Colour initial) {
+std::optional<Colour> FormUi::ChooseColour(Colour initial) {
   const QColor chosen = QColorDialog::getColor(ToQt(initial), Owner());
-  return chosen.isValid() ? FromQt(chosen) : initial;
+  return chosen.isValid() ? std::optional(FromQt(chosen)) : std::nullopt;
 }
 
 SampleText FormUi::ChooseFont(const SampleText& initial) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "LibraryBoxes.h"
@@ -29,7 +30,7 @@ class FormUi : public UserInterface {
   void ShowErrorReport(const ErrorReport& report) override;
   void SetPanel(int panel, std::string_view text) override;
   void FocusControl(std::string_view name) override;
-  Colour ChooseColour(Colour initial) override;
+  std::optional<Colour> ChooseColour(Colour initial) override;
   SampleText ChooseFont(const SampleText& initial) override;
   std::string ChooseFile(const std::string& filter, const std::string& previous) override;
   std::string ChooseFolder(const std::string& initial, const std::string& title) override;

@@ -11,8 +11,10 @@ namespace folionet {
 
 StyleOptions::StyleOptions(AppState& state, Ui::frmMain& controls, QObject* parent)
     : QObject(parent), m_state(state), m_controls(controls) {
-  connect(m_controls.cmdBackColour, &QPushButton::clicked, this, [this] { PickColour(&SampleText::BackColor); });
-  connect(m_controls.cmdForeColour, &QPushButton::clicked, this, [this] { PickColour(&SampleText::ForeColor); });
+  connect(m_controls.cmdBackColour, &QPushButton::clicked, this,
+          [this] { PickColour("BackColor", &SampleText::BackColor); });
+  connect(m_controls.cmdForeColour, &QPushButton::clicked, this,
+          [this] { PickColour("ForeColor", &SampleText::ForeColor); });
   connect(m_controls.cmdFont, &QPushButton::clicked, this, &StyleOptions::PickFont);
   connect(m_controls.optAlignLeft, &QRadioButton::clicked, this, [this] { SetAlignment("Left"); });
   connect(m_controls.OptAlignCenter, &QRadioButton::clicked, this, [this] { SetAlignment("Center"); });
@@ -45,9 +47,12 @@ void StyleOptions::EnableDisableOptions() {
   m_controls.cmdBackColour->setEnabled(isFree && !m_state.options.chkBack);
 }
 
-void StyleOptions::PickColour(Colour SampleText::*colour) {
-  Colour& picked = m_state.options.txtSample.*colour;
-  picked = m_state.ui.ChooseColour(picked);
+void StyleOptions::PickColour(const char* key, Colour SampleText::*colour) {
+  Colour& shown = m_state.options.txtSample.*colour;
+  const std::optional<Colour> picked = m_state.ui.ChooseColour(shown);
+  if (!picked) return;
+  shown = *picked;
+  MarkChosen(key, m_state.options);
   ShowSample();
 }
 

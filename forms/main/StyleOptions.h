@@ -32,7 +32,7 @@ class StyleOptions : public QObject {
   void EnableDisableOptions();
 
  private:
-  void PickColour(Colour SampleText::*colour);
+  void PickColour(const char* key, Colour SampleText::*colour);
   void PickFont();
   void SetAlignment(const std::string& text);
 

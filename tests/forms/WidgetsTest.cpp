@@ -125,7 +125,7 @@ TEST(FormUiTest, AChooserThatIsCancelledKeepsWhatThereIs) {
       box.setCurrentColor(QColor(4, 0, 0));
       isAccepted ? box.accept() : box.reject();
     });
-    EXPECT_EQ(ui.ChooseColour(0x030201), isAccepted ? 4 : 0x030201);
+    EXPECT_EQ(ui.ChooseColour(0x030201), isAccepted ? std::optional<Colour>(4) : std::nullopt);
     WhenShown<QFileDialog>([&](QFileDialog& box) {
       EXPECT_EQ(box.nameFilters(), QStringList({"*.gif - Compuserve GIF (*.gif)", "*.* - All Files (*.*)"}));
       EXPECT_EQ(box.directory().path(), ToQt(folder.Path()).chopped(1));

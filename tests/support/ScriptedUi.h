@@ -33,7 +33,10 @@ class ScriptedUi : public UserInterface {
   void SetPanel(int panel, std::string_view text) override { onPanel(panel, text); }
   void FocusControl(std::string_view name) override { onFocus(name); }
 
-  Colour ChooseColour(Colour initial) override { return Take(colours, Offer(initial, std::to_string(initial))); }
+  std::optional<Colour> ChooseColour(Colour initial) override {
+    Offer(initial, std::to_string(initial));
+    return colours.empty() ? std::nullopt : std::optional(Take(colours, initial));
+  }
   SampleText ChooseFont(const SampleText& initial) override { return Take(fonts, Offer(initial, initial.FontName)); }
   std::string ChooseFile(const std::string& filter, const std::string& previous) override {
     return Take(texts, Offer(previous, filter));

@@ -79,6 +79,7 @@ class FactFinder {
   void FindNames(std::vector<Finding>& facts) const {
     FindSharedIndex(facts);
     FindMeetingBooks(facts);
+    FindLostBooks(facts);
   }
 
   // Pages of ours in the output folder that this run neither writes nor deletes.
@@ -158,6 +159,24 @@ class FactFinder {
                    {name, numbers}},
                   {"Give other titles with --language-file, or short names: --set \"Use83=1\"."}));
     }
+  }
+
+  void FindLostBooks(std::vector<Finding>& facts) const {
+    std::string first;
+    std::string numbers;
+    for (int book = m_request.cboStartBook + 1; book <= Books(); ++book) {
+      if (ChaptersOf(book) == 0 || m_names.AreReached(book)) continue;
+      if (first.empty()) first = m_names.OnDisk(book, 1);
+      numbers += (numbers.empty() ? "" : ", ") + std::to_string(book);
+    }
+    if (first.empty()) return;
+    facts.push_back(
+        Warning("pages-not-found",
+                {Words("QObject",
+                       "No browser finds the pages of the books %2, such as %1: \"?\", \"#\" and \":\" have another "
+                       "meaning in a link."),
+                 {first, numbers}},
+                {"Give other titles with --language-file, or short names: --set \"Use83=1\"."}));
   }
 
   const CompileRequest& m_request;

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdlib>
 
+#include "Addresses.h"
 #include "CharacterReferences.h"
 #include "Text.h"
 
@@ -54,13 +55,17 @@ std::string ChapterPageName(std::string_view bookName, int bookNumber, int chapt
 
 std::string IndexFileName(std::string_view httpRoot) {
   const std::size_t slash = httpRoot.rfind('/');
-  return WithoutCharacterReferences(slash == std::string_view::npos ? httpRoot : httpRoot.substr(slash + 1));
+  const std::string name =
+      WithoutCharacterReferences(slash == std::string_view::npos ? httpRoot : httpRoot.substr(slash + 1));
+  return AsFileName(TrimmedAsHtml(name));
 }
 
 PageNames::PageNames(const std::vector<std::string>& titles, bool use83, const CodePage& codePage) : m_use83(use83) {
   for (std::size_t i = 0; i < titles.size(); ++i) {
     m_inLink.push_back(BookPart(titles[i], static_cast<int>(i) + 1, use83, codePage));
-    m_onDisk.push_back(WithoutCharacterReferences(codePage.Decode(m_inLink.back())));
+    const std::string asked = WithoutCharacterReferences(codePage.Decode(m_inLink.back()));
+    m_onDisk.push_back(AsFileName(asked));
+    m_areReached.push_back(LocalTarget(asked) == m_onDisk.back());
   }
 }
 

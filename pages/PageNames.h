@@ -16,8 +16,8 @@ std::string UnderscoreSpaces(std::string_view text);
 std::string ChapterPageName(std::string_view bookName, int bookNumber, int chapter, bool use83,
                             const CodePage& codePage);
 
-// The file name in the address of the index page (UTF-8): what follows its last "/", with the letters that character
-// references stand for, as a browser asks for it.
+// The file name in the address of the index page (UTF-8): what follows its last "/", as a browser asks for it: without
+// blanks around it, and with what character references and percent-encoding stand for.
 std::string IndexFileName(std::string_view httpRoot);
 
 // Whether a page may have this name (UTF-8): not empty, no folder separator, no control character, not "." or "..".
@@ -32,12 +32,16 @@ class PageNames {
   // Adds the name as it stands in a link to the text. `book` is 1 to 66.
   void AddInLink(std::string& text, int book, int chapter) const { AddJoined(text, m_inLink[Index(book)], chapter); }
 
-  // The name of the file, as Unicode in UTF-8 and with the letters that character references stand for, so that a link
-  // and its file agree in a browser whatever the charset.
+  // The name of the file, as Unicode in UTF-8 and with what character references and percent-encoding stand for, so
+  // that a link and its file agree in a browser whatever the charset.
   std::string OnDisk(int book, int chapter) const;
 
   // What the names of all files of a book begin with.
   const std::string& BookOnDisk(int book) const { return m_onDisk[Index(book)]; }
+
+  // Whether browsers find the book's pages: they do not where its title holds a "?", a "#" or, like another address, a
+  // ":" behind its first word.
+  bool AreReached(int book) const { return m_areReached[Index(book)]; }
 
   bool Use83() const { return m_use83; }
 
@@ -48,6 +52,7 @@ class PageNames {
   bool m_use83;
   std::vector<std::string> m_inLink;
   std::vector<std::string> m_onDisk;
+  std::vector<bool> m_areReached;
 };
 
 }  // namespace folionet

@@ -398,6 +398,10 @@
         <source>No translation is named: of %2, the first is taken, %1.</source>
         <translation>Es ist keine Übersetzung genannt: Von %2 wird die erste genommen, %1.</translation>
     </message>
+    <message>
+        <source>No browser finds the pages of the books %2, such as %1: &quot;?&quot;, &quot;#&quot; and &quot;:&quot; have another meaning in a link.</source>
+        <translation>Kein Browser findet die Seiten der Bücher %2, etwa %1: „?“, „#“ und „:“ haben in einem Link eine andere Bedeutung.</translation>
+    </message>
 </context>
 <context>
     <name>folionet::CustomHtmlDialog</name>

@@ -398,6 +398,10 @@
         <source>No translation is named: of %2, the first is taken, %1.</source>
         <translation>No se ha nombrado ninguna traducción: de %2 se toma la primera, %1.</translation>
     </message>
+    <message>
+        <source>No browser finds the pages of the books %2, such as %1: &quot;?&quot;, &quot;#&quot; and &quot;:&quot; have another meaning in a link.</source>
+        <translation>Ningún navegador encuentra las páginas de los libros %2, como %1: «?», «#» y «:» tienen otro significado en un enlace.</translation>
+    </message>
 </context>
 <context>
     <name>folionet::CustomHtmlDialog</name>

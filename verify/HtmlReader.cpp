@@ -10,6 +10,7 @@
 #include <memory>
 #include <utility>
 
+#include "CharacterReferences.h"
 #include "LateLibrary.h"
 
 namespace folionet {
@@ -94,8 +95,10 @@ class AttributeCounter {
   int m_count = 0;
 };
 
+constexpr std::string_view kEscapedAmpersand = "&amp;";
+
 // The page as the library must have it to read it as browsers do, and in good time: to them "<!-->" is a whole comment,
-// and a zero byte is no end.
+// and a zero byte is no end. Character references are left to us, for the library knows those of HTML 4.
 std::string Prepared(std::string_view page) {
   std::string prepared;
   prepared.reserve(page.size());
@@ -105,11 +108,24 @@ std::string Prepared(std::string_view page) {
     if (c == '>') prepared += prepared.ends_with("<!--") ? "--" : prepared.ends_with("<!---") ? "-" : "";
     if (c == '\0') {
       prepared += "\uFFFD";
+    } else if (c == '&') {
+      prepared += kEscapedAmpersand;
     } else {
       prepared += c;
     }
   }
   return prepared;
+}
+
+// What Prepared made a text of before.
+std::string AsItWas(std::string_view prepared) {
+  std::string text;
+  for (std::size_t at = prepared.find(kEscapedAmpersand); at != std::string_view::npos;
+       at = prepared.find(kEscapedAmpersand)) {
+    text += prepared.substr(0, at + 1);
+    prepared.remove_prefix(at + kEscapedAmpersand.size());
+  }
+  return text.append(prepared);
 }
 
 class TagReader {
@@ -156,7 +172,7 @@ class TagReader {
       // A tag without its end may be cut within a character.
       while (content < m_page.size() && (static_cast<unsigned char>(m_page[content]) & 0xC0U) == 0x80U) ++content;
       const std::string_view passed = m_page.substr(content, EndTag(tag.element, content) - content);
-      if (element == "style") tag.style = passed;
+      if (element == "style") tag.style = AsItWas(passed);
       Skip(content + passed.size() - m_lastEnd);
     }
     return m_take(tag);
@@ -186,7 +202,7 @@ class TagReader {
     const auto* const start = std::find_end(text.begin(), text.end(), opening.begin(), opening.end(), SameLower);
     text.remove_prefix(start == text.end() ? 0 : static_cast<std::size_t>(start - text.begin()));
     for (; *attributes != nullptr; attributes += 2) {
-      tag.attributes.push_back({std::string(Text(attributes[0])), std::string(Text(attributes[1])), 0});
+      tag.attributes.push_back({std::string(Text(attributes[0])), WithoutCharacterReferences(Text(attributes[1])), 0});
     }
     SetLines(tag, text);
   }

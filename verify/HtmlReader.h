@@ -17,9 +17,9 @@ struct HtmlAttribute {
 struct HtmlTag {
   std::string element;  // in lower case
   std::vector<HtmlAttribute> attributes;
-  std::size_t line;        // where its content begins
-  std::size_t end;         // the byte behind it
-  std::string_view style;  // what a <style> element holds
+  std::size_t line;   // where its content begins
+  std::size_t end;    // the byte behind it
+  std::string style;  // what a <style> element holds
 
   // The value of an attribute; nullptr when the tag lacks it.
   const std::string* Find(std::string_view name) const;

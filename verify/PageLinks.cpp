@@ -56,7 +56,7 @@ std::vector<PageLink> FindPageLinks(std::string_view page) {
       if (known == kAttributes.end() || (known->form == LinkForm::kRefresh && !IsRefresh(tag))) continue;
       links.push_back({attribute.value, attribute.line, FormInTag(tag, known->form)});
     }
-    if (!tag.style.empty()) links.push_back({std::string(tag.style), tag.line, LinkForm::kStyle});
+    if (!tag.style.empty()) links.push_back({tag.style, tag.line, LinkForm::kStyle});
     return true;
   });
   return links;

@@ -38,7 +38,12 @@ TEST(PageNamesTest, ReferencesNameTheirLettersOnDisk) {
                {"&Eacute;xode &amp; Co", "&eacute;xode_&amp;_co_1.html", "éxode_&_co_1.html"},
                {"&Psi;alm&#146;s", "&psi;alm&#146;s_1.html", "ψalm’s_1.html"},
                {"n&#233mero &#xE9", "n&#233mero_&#xe9_1.html", "némero_é_1.html"},
-               {"A&B &none; &#9999999;", "a&b_&none;_&#9999999;_1.html", "a&b_&none;_&#9999999;_1.html"}};
+               {"A&B &none; &#9999999;", "a&b_&none;_&#9999999;_1.html", "a&b_&none;_\uFFFD_1.html"},
+               {"&ccaron;&NotEqualTilde;", "&ccaron;&notequaltilde;_1.html", "č&notequaltilde;_1.html"},
+               {"&acE;&bne;", "&ace;&bne;_1.html", "&ace;=\u20E5_1.html"},
+               {"&copy &copyx &copy=", "&copy_&copyx_&copy=_1.html", "©_&copyx_&copy=_1.html"},
+               {"&#0;&#128;&#xD800;", "&#0;&#128;&#xd800;_1.html", "\uFFFD€\uFFFD_1.html"},
+               {"a%20b%&#10;%C3%A9", "a%20b%&#10;%c3%a9_1.html", "a b%é_1.html"}};
   for (const auto& c : cases) {
     const PageNames names({c.title}, false, CodePage());
     std::string link;
@@ -46,7 +51,8 @@ TEST(PageNamesTest, ReferencesNameTheirLettersOnDisk) {
     EXPECT_EQ(link, c.inLink);
     EXPECT_EQ(names.OnDisk(1, 1), c.onDisk);
   }
-  EXPECT_EQ(IndexFileName("https://a.b/caf&eacute;.html"), "café.html");
+  EXPECT_EQ(IndexFileName("https://a.b/caf&eacute;%20x.html"), "café x.html");
+  EXPECT_EQ(IndexFileName(" a.html"), "a.html");
 }
 
 TEST(PageNamesTest, NamesThatLeadElsewhereAreRefused) {

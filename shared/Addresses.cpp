@@ -1,6 +1,7 @@
 #include "Addresses.h"
 
 #include <algorithm>
+#include <iterator>
 
 #include "Text.h"
 
@@ -9,27 +10,30 @@ namespace {
 
 constexpr std::string_view kBlanks = " \t\r\n\f";
 
-std::string PercentDecoded(std::string_view text) {
-  std::string decoded;
-  for (std::size_t i = 0; i < text.size(); ++i) {
-    const int high = text[i] == '%' && i + 2 < text.size() ? HexDigit(text[i + 1]) : -1;
-    const int low = high >= 0 ? HexDigit(text[i + 2]) : -1;
-    if (low >= 0) {
-      decoded += static_cast<char>(high * 16 + low);
-      i += 2;
-    } else {
-      decoded += text[i];
-    }
-  }
-  return decoded;
-}
-
 bool HasScheme(std::string_view link) {
   const std::size_t end = link.find_first_of(":/?#");
   return end != std::string_view::npos && end > 0 && link[end] == ':';
 }
 
 }  // namespace
+
+std::string AsFileName(std::string_view part) {
+  std::string text;
+  std::copy_if(part.begin(), part.end(), std::back_inserter(text),
+               [](char c) { return c != '\t' && c != '\r' && c != '\n'; });
+  std::string name;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    const int high = text[i] == '%' && i + 2 < text.size() ? HexDigit(text[i + 1]) : -1;
+    const int low = high >= 0 ? HexDigit(text[i + 2]) : -1;
+    if (low >= 0) {
+      name += static_cast<char>(high * 16 + low);
+      i += 2;
+    } else {
+      name += text[i];
+    }
+  }
+  return name;
+}
 
 std::string_view TrimmedAsHtml(std::string_view text) { return Trimmed(text, kBlanks); }
 
@@ -57,7 +61,7 @@ bool IsElsewhere(std::string_view address) {
 std::string LocalTarget(std::string_view address) {
   const std::string_view trimmed = TrimmedAsHtml(address);
   if (IsElsewhere(trimmed)) return {};
-  return PercentDecoded(trimmed.substr(0, trimmed.find_first_of("?#")));
+  return AsFileName(trimmed.substr(0, trimmed.find_first_of("?#")));
 }
 
 }  // namespace folionet

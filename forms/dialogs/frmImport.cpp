@@ -43,6 +43,7 @@ frmImport::frmImport(UserInterface& ui, QWidget* parent)
   ConnectImport();
   setAcceptDrops(true);
   ShowStep();
+  m_ui->txtPath->setFocus();
 }
 
 frmImport::~frmImport() = default;

@@ -188,7 +188,7 @@ ExitStatus RunCompile(const CommonOptions& common, const CompileArguments& argum
   if (request.cboBibleName >= 0) {
     (arguments.dryRun ? TellPlannedFacts : TellFacts)(FindRunFacts(request, session.glob), ui);
   }
-  NoteStopSignals();
+  const StopSignals noted;
   const CompileOutcome outcome = cmdCompile_Click(request, session.glob, session.ui);
   // What has changed by the time of a failure is to be uploaded all the same: the next run finds it as it should be.
   if (outcome == CompileOutcome::kDone || !arguments.dryRun) PrintChanges(arguments, changes, ui);

@@ -404,6 +404,17 @@
     </message>
 </context>
 <context>
+    <name>folionet::CommandCopy</name>
+    <message>
+        <source>Copy as command line</source>
+        <translation>Als Befehlszeile kopieren</translation>
+    </message>
+    <message>
+        <source>The command is on the clipboard.</source>
+        <translation>Der Befehl steht in der Zwischenablage.</translation>
+    </message>
+</context>
+<context>
     <name>folionet::CustomHtmlDialog</name>
     <message>
         <source>HTML code</source>

@@ -404,6 +404,17 @@
     </message>
 </context>
 <context>
+    <name>folionet::CommandCopy</name>
+    <message>
+        <source>Copy as command line</source>
+        <translation>Copiar como línea de órdenes</translation>
+    </message>
+    <message>
+        <source>The command is on the clipboard.</source>
+        <translation>La orden está en el portapapeles.</translation>
+    </message>
+</context>
+<context>
     <name>folionet::CustomHtmlDialog</name>
     <message>
         <source>HTML code</source>

@@ -9,9 +9,12 @@
 #include <QMimeData>
 #include <QShortcut>
 #include <QTime>
+#include <optional>
 #include <utility>
 
 #include "BuildInfo.h"
+#include "ChangeJournal.h"
+#include "CommandCopy.h"
 #include "Compile.h"
 #include "FactLines.h"
 #include "FolderPickers.h"
@@ -30,6 +33,7 @@
 #include "RunTimeError.h"
 #include "SiteVerifier.h"
 #include "StatusPanels.h"
+#include "StopSignals.h"
 #include "StyleOptions.h"
 #include "TrySave.h"
 #include "ui_frmMain.h"
@@ -66,11 +70,14 @@ frmMain::frmMain(AppState& state, QWidget* parent)
   OfferAddresses();
   OfferFolders();
   connect(m_ui->cmdRecentFolders, &QToolButton::clicked, this, &frmMain::ListFolders);
-  auto* import = new ImportButton(state, *m_ui, *m_lists, m_dialogs, this);
-  import->mayOpen = [this] { return TellAndGoOn();
-};
-setAcceptDrops(true);
-}  // namespace folionet
+  auto* importing = new ImportButton(state, *m_ui, *m_lists, m_dialogs, this);
+  importing->mayOpen = [this] { return TellAndGoOn(); };
+  new CommandCopy(state, *m_ui->cmdCompile, this, [this]() -> std::optional<CompileRequest> {
+    if (!TellAndGoOn()) return std::nullopt;
+    return GatherRequest(m_state, *m_ui, *m_lists, *m_folders);
+  });
+  setAcceptDrops(true);
+}
 
 frmMain::~frmMain() = default;
 
@@ -162,14 +169,17 @@ void frmMain::Compile() {
   CompileRequest request = GatherRequest(m_state, *m_ui, *m_lists, *m_folders);
   SiteChanges changes;
   request.changes = &changes;
+  request.stateFolder = UserStateFolder();
+  request.isStopped = [] { return StopSignal() != 0; };
   CompileOutcome outcome = CompileOutcome::kFailed;
   {
+    const StopSignals noted;
     const RunGuard guard(*this);
     m_panels->BeginRun(static_cast<int>(m_state.glob.ChapterIndex.size()) - 1);
     outcome = cmdCompile_Click(request, m_state.glob, m_state.ui);
     m_panels->EndRun(outcome == CompileOutcome::kDone);
   }
-  if (outcome == CompileOutcome::kEndProgram) End();
+  if (outcome == CompileOutcome::kEndProgram || outcome == CompileOutcome::kStopped) End();
   if (outcome != CompileOutcome::kDone) return;
   m_dialogs.Get<frmLinkToMAin>().SetString();
   m_memory->Add(FormMemory::kAddresses, ToQt(request.options.txthttpRoot));

@@ -1,10 +1,13 @@
 #include "FormRunsTest.h"
 
+#include <QAction>
 #include <QApplication>
+#include <QClipboard>
 #include <QDialog>
 #include <QKeySequence>
 #include <QTest>
 #include <QTextBrowser>
+#include <csignal>
 #include <functional>
 #include <map>
 #include <utility>
@@ -133,6 +136,7 @@ class FormRuns : public FormTest {
         {"=PageCharset", texts.PageCharset},
         {"=CodePage", std::string(m_state->codePage.Name())},
         {"=page", m_ui.pageShown.substr(m_ui.pageShown.rfind('/') + 1)},
+        {"=clipboard", FromQt(QApplication::clipboard()->text())},
         {"=startBook", m_state->startBookText},
         {"=txtBibleSel", m_state->options.txtBibleSel},
         {"=chapters", std::to_string(m_state->glob.ChapterIndex.size() - 1)}};
@@ -175,6 +179,13 @@ const std::map<std::string, FormRuns::Act>& FormRuns::Actions() {
        [](Test& t, const Line&) {
          const auto& dialog = t.Get<frmImport>("frmImport.");
          EXPECT_TRUE(QTest::qWaitFor([&] { return !dialog.IsBusy(); }));
+       }},
+      {"trigger", [](Test& t, const Line& l) { t.m_form->findChild<QAction*>(ToQt(l.name))->trigger(); }},
+      {"stopat",  // the step of a run, as panel 1 tells it
+       [](Test& t, const Line& l) {
+         t.m_ui.onPanel = [step = l.text.empty() ? l.name : l.name + " " + l.text](int panel, std::string_view text) {
+           if (panel == 1 && text == step) std::raise(SIGTERM);
+         };
        }},
       {"startbook", [](Test& t, const Line& l) { t.m_state->startBookText = l.name; }},
   };

@@ -43,6 +43,7 @@ void WriteLibrary(const test::TemporaryFolder& home) {
 
 FormTest::FormTest() {
   setenv("XDG_DATA_HOME", (m_home.Path() + "data").c_str(), 1);
+  setenv("XDG_STATE_HOME", (m_home.Path() + "state").c_str(), 1);
   WriteLibrary(m_home);
   const std::string library = m_home.Path() + "library/";
   m_home.Write("config/Versalia.ini",

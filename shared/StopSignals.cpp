@@ -1,6 +1,5 @@
 #include "StopSignals.h"
 
-#include <csignal>
 #include <initializer_list>
 
 namespace folionet {
@@ -12,15 +11,20 @@ void Note(int signal) { noted = signal; }
 
 }  // namespace
 
-void NoteStopSignals() {
+StopSignals::StopSignals() {
+  noted = 0;
   for (const int signal : {SIGINT, SIGTERM, SIGHUP}) {
     struct sigaction old {};
     if (sigaction(signal, nullptr, &old) != 0 || old.sa_handler == SIG_IGN) continue;
     struct sigaction action {};
     action.sa_handler = Note;
     action.sa_flags = static_cast<int>(SA_RESETHAND) | SA_RESTART;
-    sigaction(signal, &action, nullptr);
+    if (sigaction(signal, &action, nullptr) == 0) m_before.emplace_back(signal, old);
   }
+}
+
+StopSignals::~StopSignals() {
+  for (const auto& [signal, before] : m_before) sigaction(signal, &before, nullptr);
 }
 
 int StopSignal() { return noted; }

@@ -1,0 +1,105 @@
+#include "CommandLine.h"
+
+#include <algorithm>
+#include <string_view>
+
+#include "Installation.h"
+#include "OptionTable.h"
+#include "PageEncoding.h"
+#include "ProgramFolder.h"
+
+namespace folionet {
+namespace {
+
+// The arguments of a command for a shell, each quoted where it must be.
+class Command {
+ public:
+  void Add(std::string_view word) {
+    if (!m_text.empty()) m_text += ' ';
+    const auto isPlain = [](char c) {
+      return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') ||
+             std::string_view("_./:=@%+,-").find(c) != std::string_view::npos;
+    };
+    if (!word.empty() && std::all_of(word.begin(), word.end(), isPlain)) {
+      m_text += word;
+      return;
+    }
+    m_text += '\'';
+    for (const char c : word) {
+      if (c == '\'') {
+        m_text += "'\\''";
+      } else {
+        m_text += c;
+      }
+    }
+    m_text += '\'';
+  }
+
+  // One word, so that a value may begin with "-".
+  void Add(std::string_view option, std::string_view value) { Add(std::string(option).append("=").append(value)); }
+
+  const std::string& Text() const { return m_text; }
+
+ private:
+  std::string m_text;
+};
+
+void AddFolders(const AppState& state, Command& command) {
+  ModGlob found;
+  LocateInstallation(state.store, {}, found);
+  if (found.InstallPath != state.glob.InstallPath || found.ModulesPath != state.glob.ModulesPath) {
+    command.Add("--versalia-path", state.glob.InstallPath);
+    command.Add("--module-path", state.glob.ModulesPath);
+  }
+  if (state.programFolder != ProgramFolderToRead({})) command.Add("--program-folder", state.programFolder);
+}
+
+// A code that was typed into Page Encoding is in use and in no entry.
+std::string ValueOf(const Option& option, const AppState& state) {
+  std::string text = OptionText(option, state.options);
+  const bool isCharset = option.key == "Charset";
+  if (state.glob.Imported.IsThere() || (!isCharset && option.key != "Lang")) return text;
+  const std::string& code = isCharset ? state.texts.PageCharset : state.texts.PageLanguage;
+  return EncodingCode(text, option.key) == code ? text : code + " ";
+}
+
+void AddOptions(const AppState& state, Command& command) {
+  for (const Option& option : OptionTable()) {
+    // Those that have an option of their own.
+    if (option.part == OptionPart::kFolders || option.part == OptionPart::kLanguageFile) continue;
+    const std::string value = ValueOf(option, state);
+    if (value == option.defaultText && value == state.store.Text(option.key)) continue;
+    command.Add("--set");
+    command.Add(std::string(option.key).append("=").append(value));
+  }
+}
+
+}  // namespace
+
+std::string CompileCommandLine(const CompileRequest& request, const AppState& state) {
+  constexpr int kLastBook = kBooks - 1;
+  const PageOptions untouched;
+  Command command;
+  command.Add("folionet-cli");
+  command.Add("compile");
+  AddFolders(state, command);
+  if (request.cboBibleName >= 0) {
+    const std::string& stem = state.glob.BibleFiles[static_cast<std::size_t>(request.cboBibleName)];
+    command.Add("--translation", state.codePage.Decode(stem));
+  }
+  if (request.cboLang != untouched.main.cboLang || request.cboLang != state.store.Text("cboLang")) {
+    command.Add("--language-file", request.cboLang);
+  }
+  if (request.cboStartBook != 0 || request.cboEndBook != kLastBook || state.glob.Imported.IsThere()) {
+    command.Add("--start-book", std::to_string(request.cboStartBook + 1));
+    command.Add("--end-book", std::to_string(request.cboEndBook + 1));
+  }
+  if (!state.glob.OutputFolder.empty()) command.Add("--output", request.txtOutputPath);
+  if (request.options.txthttpRoot != untouched.txthttpRoot) {
+    command.Add("--index-address", request.options.txthttpRoot);
+  }
+  AddOptions(state, command);
+  return command.Text();
+}
+
+}  // namespace folionet

@@ -6,6 +6,7 @@
 #include <QInputDialog>
 #include <QLabel>
 #include <QPushButton>
+#include <QScreen>
 #include <QVBoxLayout>
 
 #include "QtText.h"
@@ -55,6 +56,7 @@ std::string LibraryBoxes::Ask(const InputBox& box, QWidget* owner) {
       m_imported = folder;
       dialog.accept();
     });
+    form.resize(form.size().boundedTo(dialog.screen()->availableSize()));
     form.exec();
   });
   AddExplanation(dialog);

@@ -1,5 +1,6 @@
 #include "CheckCommand.h"
 
+#include "Counted.h"
 #include "LibraryCheck.h"
 #include "OptionLoading.h"
 #include "ProgramFolder.h"
@@ -10,10 +11,6 @@ namespace {
 
 // What to do about a finding that does not say so itself.
 constexpr char kCorrectPlace[] = "Correct this place, or let Versalia install the translation anew.";
-
-std::string Counted(std::size_t number, const char* thing) {
-  return std::to_string(number) + " " + thing + (number == 1 ? "" : "s");
-}
 
 void ShowAll(const Findings& findings, ConsoleUi& ui) {
   for (Finding finding : findings.Kept()) {

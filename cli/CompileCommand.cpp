@@ -10,6 +10,7 @@
 #include "Effects.h"
 #include "ImportedText.h"
 #include "Installation.h"
+#include "OptionLoading.h"
 #include "Paths.h"
 #include "ProgramFolder.h"
 #include "RunFacts.h"
@@ -28,9 +29,8 @@ void EndUnless(bool good) {
 
 std::string OutputPath(const CompileArguments& arguments, const Session& session) {
   if (!arguments.output.empty()) return WithSeparator(NativePath(arguments.output));
-  const bool isStored =
-      session.store.Has("Dir1") && session.options.main.Dir1 != "C:" && !session.options.main.Dir1.empty();
-  return isStored ? WithSeparator(NativePath(session.options.main.Dir1)) : CompileRequest().txtOutputPath;
+  return IsChosenFolder(session.options.main.Dir1) ? WithSeparator(NativePath(session.options.main.Dir1))
+                                                   : CompileRequest().txtOutputPath;
 }
 
 // A folder that cannot be made, as in a home that is read only, does not matter where nothing of it is needed.

@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <system_error>
 
+#include "Counted.h"
 #include "Finding.h"
 #include "ImportText.h"
 #include "LibraryWriter.h"
@@ -12,10 +13,6 @@
 
 namespace folionet {
 namespace {
-
-std::string Counted(std::size_t number, const char* thing) {
-  return std::to_string(number) + " " + thing + (number == 1 ? "" : "s");
-}
 
 ExitStatus TellError(const RunTimeError& error, ConsoleUi& ui) {
   std::string text = error.Item();

@@ -5,6 +5,7 @@
 #include <string_view>
 #include <vector>
 
+#include "Counted.h"
 #include "GeneratorLine.h"
 #include "Paths.h"
 #include "RunTimeError.h"
@@ -13,10 +14,6 @@
 
 namespace folionet {
 namespace {
-
-std::string Counted(std::size_t number, const std::string& thing) {
-  return std::to_string(number) + " " + thing + (number == 1 ? "" : "s");
-}
 
 // Prints the counts, after all that was found.
 void ShowReport(const SiteReport& report, ConsoleUi& ui) {

@@ -101,10 +101,8 @@ void ChangeJournal::Forget() {
 }
 
 std::string UserStateFolder() {
-  const char* state = std::getenv("XDG_STATE_HOME");
-  if (state != nullptr && state[0] == '/') return WithSeparator(state) + kApplicationTitle;
-  const char* home = std::getenv("HOME");
-  return home != nullptr && home[0] == '/' ? WithSeparator(home) + ".local/state/" + kApplicationTitle : std::string();
+  const std::string folder = UserFolder("XDG_STATE_HOME", ".local/state");
+  return folder.empty() ? folder : folder + kApplicationTitle;
 }
 
 void ChangesDelivered(const std::string& stateFolder, const std::string& outputFolder) {

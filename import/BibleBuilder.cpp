@@ -49,7 +49,7 @@ void BibleBuilder::SetName(std::string_view name) {
 void BibleBuilder::SetLanguage(std::string_view code) {
   if (!m_bible.language.empty()) return;
   for (const char c : TrimBlanks(code)) {
-    const char lower = c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+    const char lower = AsciiLower(c);
     if (!IsDigit(lower) && lower != '-' && (lower < 'a' || lower > 'z')) break;
     m_bible.language += lower;
   }

@@ -77,7 +77,7 @@ std::string StemOf(std::string_view name) {
       isStart = isStart || c == ' ' || c == '-';
       continue;
     }
-    const char upper = c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
+    const char upper = AsciiUpper(c);
     if (isStart || (c >= '0' && c <= '9')) initials += upper;
     all += upper;
     isStart = false;

@@ -4,6 +4,7 @@
 
 #include "LinesForm.h"
 #include "OsisForm.h"
+#include "Text.h"
 #include "UsfmForm.h"
 #include "UsfxForm.h"
 #include "UsxForm.h"
@@ -25,10 +26,7 @@ std::string RootOf(std::string_view head) {
     }
     if (head.starts_with('?') || head.starts_with('!')) continue;
     const std::string_view name = head.substr(0, head.find_first_of(" \t\r\n/>"));
-    std::string lower(name.substr(name.find(':') + 1));
-    std::transform(lower.begin(), lower.end(), lower.begin(),
-                   [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; });
-    return lower;
+    return AsciiLower(name.substr(name.find(':') + 1));
   }
   return {};
 }

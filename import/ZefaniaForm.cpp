@@ -5,6 +5,7 @@
 
 #include "LineReader.h"
 #include "Numbers.h"
+#include "Text.h"
 
 namespace folionet {
 namespace {
@@ -17,9 +18,7 @@ bool IsLeftOut(std::string_view name) {
 }  // namespace
 
 XmlForm::Part ZefaniaForm::Begin(const XmlElement& element) {
-  std::string name(element.Name());
-  std::transform(name.begin(), name.end(), name.begin(),
-                 [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; });
+  const std::string name = AsciiLower(element.Name());
   if (name == "vers" || name == "verse") {
     Builder().BeginVerse(element.Get("vnumber"));
     return Part::kVerse;

@@ -128,7 +128,7 @@ std::optional<std::string> PageTitles::Build(std::string_view book, std::string_
 
 std::string_view FindWord(std::string_view text) {
   const auto isLetter = [](char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); };
-  const auto isHexDigit = [](char c) { return (c >= 'a' && c <= 'f') || (c >= 'A' && c <= 'F'); };
+  const auto isHexDigit = [](char c) { return HexDigit(c) >= 0; };
   for (std::size_t at = text.find('%'); at != std::string_view::npos; at = text.find('%', at + 1)) {
     const std::string_view rest = text.substr(at + 1);
     const auto end = std::find_if_not(rest.begin(), rest.end(), isLetter);

@@ -88,6 +88,8 @@ void LoadMissingOptions(const StoredSettings& store, PageOptions& options) {
   }
 }
 
+bool IsChosenFolder(std::string_view text) { return !text.empty() && text != FindOption("Dir1")->defaultText; }
+
 bool IsKnownAlignment(std::string_view text) { return text == "Left" || text == "Center" || text == "Justify"; }
 
 std::string SelectedAlignment(const MainOptions& main) {

@@ -36,4 +36,7 @@ bool IsKnownAlignment(std::string_view text);
 // The alignment word of an "LCR" value: "left", "center", "right"; empty for any other value.
 std::string_view AlignmentWord(int justification);
 
+// Whether the text of "Drive1" or "Dir1" is a folder that was chosen: its default stands for none.
+bool IsChosenFolder(std::string_view text);
+
 }  // namespace folionet

@@ -1,9 +1,9 @@
 #include "CharsetLabels.h"
 
-#include <algorithm>
-#include <array>
 #include <string>
 #include <utility>
+
+#include "Text.h"
 
 namespace folionet {
 namespace {
@@ -68,9 +68,7 @@ constexpr std::pair<std::string_view, std::string_view> kEncodings[] = {
 
 std::string_view BrowserEncoding(std::string_view label) {
   if (label.find(' ') != std::string_view::npos) return {};
-  std::string wanted = " ";
-  for (const char c : label) wanted += c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-  wanted += ' ';
+  const std::string wanted = " " + AsciiLower(label) + " ";
   for (const auto& [encoding, labels] : kEncodings) {
     if (labels.find(wanted) != std::string_view::npos) return encoding;
   }

@@ -10,6 +10,7 @@
 
 #include "CharsetLabels.h"
 #include "RunTimeError.h"
+#include "Text.h"
 
 namespace folionet {
 namespace {
@@ -21,17 +22,7 @@ bool IsAscii(std::string_view text) {
   return std::all_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; });
 }
 
-char MapAscii(char c, bool upper) {
-  if (upper) return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
-  return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-}
-
-void AppendUtf8(std::string& text, UChar32 character) {
-  std::array<char, U8_MAX_LENGTH> buffer{};
-  int32_t length = 0;
-  U8_APPEND_UNSAFE(buffer.data(), length, character);
-  text.append(buffer.data(), static_cast<std::size_t>(length));
-}
+void AppendUtf8(std::string& text, UChar32 character) { folionet::AppendUtf8(text, static_cast<char32_t>(character)); }
 
 // One character of a text, or one byte of it that is no character.
 struct Piece {
@@ -261,8 +252,7 @@ CodePage::CodePage(std::string_view charset) {
   std::string name(BrowserEncoding(charset));
   if (name.empty()) {
     m_use = CharsetUse::kNotKnown;
-    name = charset;
-    std::transform(name.begin(), name.end(), name.begin(), [](char c) { return MapAscii(c, false); });
+    name = AsciiLower(charset);
   }
   m_converter = std::make_shared<Converter>(name);
   // The two names that nearly every site uses need no asking.
@@ -339,18 +329,17 @@ std::size_t CodePage::FindUndecodable(std::string_view bytes) const {
 
 namespace {
 
+// `ascii` maps a character of ASCII, `any` one of any kind.
 template <typename Converter>
-std::string MapCase(const Converter& converter, std::string_view bytes, bool upper) {
+std::string MapCase(const Converter& converter, std::string_view bytes, char (*ascii)(char), UChar32 (*any)(UChar32)) {
   std::string mapped;
   mapped.reserve(bytes.size());
   if (IsAscii(bytes)) {
-    for (const char c : bytes) mapped += MapAscii(c, upper);
+    for (const char c : bytes) mapped += ascii(c);
     return mapped;
   }
   converter.ForEach(bytes, [&](const Piece& piece) {
-    const UChar32 other = piece.character == kUndecodable ? kUndecodable
-                          : upper                         ? u_toupper(piece.character)
-                                                          : u_tolower(piece.character);
+    const UChar32 other = piece.character == kUndecodable ? kUndecodable : any(piece.character);
     if (other == piece.character || !converter.Append(mapped, other)) mapped += piece.bytes;
   });
   return mapped;
@@ -358,9 +347,13 @@ std::string MapCase(const Converter& converter, std::string_view bytes, bool upp
 
 }  // namespace
 
-std::string CodePage::ToLower(std::string_view bytes) const { return MapCase(*m_converter, bytes, false); }
+std::string CodePage::ToLower(std::string_view bytes) const {
+  return MapCase(*m_converter, bytes, AsciiLower, u_tolower);
+}
 
-std::string CodePage::ToUpper(std::string_view bytes) const { return MapCase(*m_converter, bytes, true); }
+std::string CodePage::ToUpper(std::string_view bytes) const {
+  return MapCase(*m_converter, bytes, AsciiUpper, u_toupper);
+}
 
 bool IsUtf8(std::string_view text) {
   bool wellFormed = true;

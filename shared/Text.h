@@ -13,6 +13,7 @@ std::string_view Trimmed(std::string_view text, std::string_view blanks);
 // Of ASCII alone; every other character stays as it is.
 inline char AsciiLower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c; }
 std::string AsciiLower(std::string_view text);
+inline char AsciiUpper(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - ('a' - 'A')) : c; }
 
 // The value of a hexadecimal digit, -1 for any other character.
 int HexDigit(char c);

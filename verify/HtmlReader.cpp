@@ -12,6 +12,7 @@
 
 #include "CharacterReferences.h"
 #include "LateLibrary.h"
+#include "Text.h"
 
 namespace folionet {
 namespace {
@@ -43,7 +44,7 @@ struct Library {
 constexpr std::array<std::string_view, 8> kRawElements{"script", "style",   "title",    "textarea",
                                                        "iframe", "noembed", "noframes", "xmp"};
 
-bool SameLower(char a, char lower) { return (a >= 'A' && a <= 'Z' ? a - 'A' + 'a' : a) == lower; }
+bool SameLower(char a, char lower) { return AsciiLower(a) == lower; }
 
 std::string_view Text(const xmlChar* text) {
   return text == nullptr ? std::string_view() : reinterpret_cast<const char*>(text);

@@ -5,11 +5,12 @@
 #include <algorithm>
 #include <utility>
 
+#include "Text.h"
+
 namespace folionet {
 namespace {
 
 constexpr std::string_view kBlanks = " \t\r\n\f";
-constexpr std::string_view kHexDigits = "0123456789abcdefABCDEF";
 
 bool IsStyleBlank(char c) { return kBlanks.find(c) != std::string_view::npos; }
 
@@ -74,7 +75,7 @@ class StyleReader {
   std::string TakeCharacter() {
     if (m_sheet[m_at] != '\\' || m_at + 1 == m_sheet.size()) return std::string(1, m_sheet[m_at++]);
     const std::size_t start = ++m_at;
-    while (m_at < m_sheet.size() && m_at < start + 6 && kHexDigits.find(m_sheet[m_at]) != std::string_view::npos) {
+    while (m_at < m_sheet.size() && m_at < start + 6 && HexDigit(m_sheet[m_at]) >= 0) {
       ++m_at;
     }
     if (m_at == start) return std::string(m_sheet[m_at++] == '\n' ? 0 : 1, m_sheet[start]);

@@ -16,11 +16,6 @@
 namespace folionet {
 namespace {
 
-// The stored text that stands for no choice: the person's home.
-constexpr char kDefaultDrive[] = "C:";
-
-bool IsStored(const std::string& text) { return !text.empty() && text != kDefaultDrive; }
-
 void ReportDrive(UserInterface& ui, const RunTimeError& error) {
   ui.ShowErrorReport({Procedure::kDriveChange, error, "Drive not Ready or Drive not Available.\r\n"});
 }
@@ -68,7 +63,7 @@ void FolderPickers::ListVolumes() {
 }
 
 void FolderPickers::RestoreDrive() {
-  if (!IsStored(m_state.options.main.Drive1)) return;
+  if (!IsChosenFolder(m_state.options.main.Drive1)) return;
   const int item = m_controls.Drive1->findData(CleanPath(m_state.options.main.Drive1));
   try {
     if (item < 0) throw RunTimeError::FromErrno(ENODEV, m_state.options.main.Drive1);
@@ -80,7 +75,7 @@ void FolderPickers::RestoreDrive() {
 }
 
 void FolderPickers::RestoreFolder() {
-  if (!IsStored(m_state.options.main.Dir1)) return;
+  if (!IsChosenFolder(m_state.options.main.Dir1)) return;
   const QString folder = CleanPath(m_state.options.main.Dir1);
   if (ShowFolder(folder)) {
     Dir1_Change(folder);

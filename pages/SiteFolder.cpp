@@ -127,9 +127,12 @@ FileHandle SiteFolder::OpenThroughLink(const std::string& name, int flags) const
 // Asking for the end takes less time than fstat; only what is written into must be known to be a regular file. Where
 // the file before was changed, a look at the beginning of this one mostly shows that it is too.
 bool SiteFolder::HasText(const std::string& name, const FileHandle& file, std::string_view text) {
-  m_old.clear();
-  if (m_watch != nullptr && m_watch->IsDoubtful(name)) return false;
-  if (lseek(file.Get(), 0, SEEK_END) != static_cast<off_t>(text.size())) return false;
+  const bool isDoubtful = m_watch != nullptr && m_watch->IsDoubtful(name);
+  if (isDoubtful || lseek(file.Get(), 0, SEEK_END) != static_cast<off_t>(text.size())) {
+    m_old.clear();
+    return false;
+  }
+  // What was read of the file before stays until this one is read: clearing the room for it would cost as much again.
   std::size_t end = m_expected == PageChange::kChanged ? std::min(kHead, text.size()) : text.size();
   for (std::size_t start = 0;; start = std::exchange(end, text.size())) {
     if (!ReadAll(file.Get(), m_old, end - start, start)) Check(errno, name);

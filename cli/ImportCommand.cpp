@@ -10,6 +10,7 @@
 #include "Paths.h"
 #include "RunTimeError.h"
 #include "Session.h"
+#include "StoredSettings.h"
 
 namespace folionet {
 namespace {
@@ -68,6 +69,7 @@ ExitStatus RunImport(const CommonOptions& common, const ImportArguments& argumen
   request.replace = arguments.replace;
   if (const Sentence refusal = RefusalOf(request); !refusal.IsEmpty()) RefuseUsage(refusal.InEnglish());
   try {
+    StoredSettings(StoredSettings::DefaultFolder()).FinishChange();
     const ImportedBible bible = ReadBible({arguments.paths, arguments.charset});
     const LibraryPlan plan = PlanLibrary(bible, request);
     if (!arguments.dryRun) WriteLibrary(plan);

@@ -13,14 +13,15 @@
 #include "CatalogueText.h"
 #include "CodePage.h"
 #include "FileHandle.h"
-#include "FileSet.h"
 #include "FlowingText.h"
 #include "ImportedText.h"
+#include "JointChange.h"
 #include "LibraryTitles.h"
 #include "LineReader.h"
 #include "OwnLibrary.h"
 #include "Paths.h"
 #include "RunTimeError.h"
+#include "StoredSettings.h"
 #include "Text.h"
 #include "TitleLanguages.h"
 #include "WholeFile.h"
@@ -173,6 +174,15 @@ void MakeFolder(const std::string& path) {
   if (!FolderExists(path)) throw RunTimeError::FromErrno(error ? error.value() : ENOTDIR, path);
 }
 
+// Where the change is noted: with the person's settings, as every start looks there; where they have none, in the
+// library, where nobody completes it.
+std::string NotePath(const std::string& sysdefs) {
+  const StoredSettings settings(StoredSettings::DefaultFolder());
+  if (StoredSettings::DefaultFolder().empty()) return sysdefs + "/.import";
+  MakeFolder(StoredSettings::DefaultFolder());
+  return settings.ImportNote();
+}
+
 std::string NameFor(const ImportedBible& bible, const LibraryRequest& request) {
   std::string name = WithSingleBlanks(!request.name.empty() ? request.name
                                       : !bible.name.empty() ? bible.name
@@ -245,9 +255,9 @@ void WriteLibrary(const LibraryPlan& plan) {
   if (isTaken || ReadIfThere(plan.catalogue).value_or("") != plan.catalogueBefore) {
     throw RunTimeError(kPermissionDenied, plan.folder, "Another import is writing into this library. Import again.");
   }
-  FileSet files;
-  for (const auto& [path, content] : plan.files) files.Add(path, content);
-  files.Commit();
+  JointChange change(NotePath(sysdefs));
+  for (const auto& [path, content] : plan.files) change.Replace(path, content);
+  change.Commit();
 }
 
 }  // namespace folionet

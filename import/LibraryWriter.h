@@ -59,7 +59,8 @@ Sentence RefusalOf(const LibraryRequest& request);
 // that cannot be read, and for a translation that is there and not to be replaced.
 LibraryPlan PlanLibrary(const ImportedBible& bible, const LibraryRequest& request);
 
-// Writes the plan. Throws RunTimeError; the library is then as it was.
+// Writes the plan, all of it or nothing (JointChange.h). Throws RunTimeError; the library is then as it was. What a
+// killed program left half done is completed by StoredSettings::FinishChange.
 void WriteLibrary(const LibraryPlan& plan);
 
 }  // namespace folionet

@@ -19,8 +19,16 @@ std::string StoredSettings::FilePath(std::string_view application) const {
 
 std::string StoredSettings::UnfinishedNote() const { return m_folder + "." + kApplicationTitle + ".unfinished"; }
 
+std::string StoredSettings::ImportNote() const { return m_folder + "." + kApplicationTitle + ".import"; }
+
 void StoredSettings::FinishChange() const {
-  if (!m_folder.empty()) WorkAbout(Subject::kSettingsFile, [&] { FinishJointChange(UnfinishedNote()); });
+  if (m_folder.empty()) return;
+  try {
+    FinishJointChange(ImportNote());
+  } catch (const RunTimeError&) {
+    // A library on a disk that is not there now may be on one later.
+  }
+  WorkAbout(Subject::kSettingsFile, [&] { FinishJointChange(UnfinishedNote()); });
 }
 
 std::string StoredSettings::GetSetting(std::string_view application, std::string_view section, std::string_view key,

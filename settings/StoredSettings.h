@@ -36,7 +36,11 @@ class StoredSettings {
   // The path of the note of a change of several files that is not finished; see JointChange.h.
   std::string UnfinishedNote() const;
 
-  // Completes such a change, which a program that was killed has left. Throws RunTimeError.
+  // The path of the same for the library that an import writes.
+  std::string ImportNote() const;
+
+  // Completes such changes, which a program that was killed has left. Throws RunTimeError for that of our own files;
+  // that of a library, which may be gone, stays when it cannot be made.
   void FinishChange() const;
 
   // Gives a key of our own a value for this run only: it is read as if stored and never written.

@@ -114,13 +114,15 @@ std::string BookLabel(int number) {
 }
 
 std::string BookKey(std::string_view name) {
-  constexpr std::pair<std::string_view, char> kRoman[] = {{"i ", '1'}, {"ii ", '2'}, {"iii ", '3'}};
+  constexpr std::pair<std::string_view, char> kNumbers[] = {
+      {"i ", '1'},   {"ii ", '2'},  {"iii ", '3'}, {"i. ", '1'},    {"ii. ", '2'},    {"iii. ", '3'},
+      {"1st ", '1'}, {"2nd ", '2'}, {"3rd ", '3'}, {"first ", '1'}, {"second ", '2'}, {"third ", '3'}};
   static const CodePage utf8("utf-8");
   std::string lower = utf8.ToLower(name);
   std::replace(lower.begin(), lower.end(), '\t', ' ');
-  for (const auto& [roman, digit] : kRoman) {
-    if (lower.starts_with(roman)) {
-      lower.replace(0, roman.size(), 1, digit);
+  for (const auto& [word, digit] : kNumbers) {
+    if (lower.starts_with(word)) {
+      lower.replace(0, word.size(), 1, digit);
       break;
     }
   }

@@ -69,9 +69,15 @@ XmlForm::Part OsisForm::Begin(const XmlElement& element) {
     return Part::kBlock;
   }
   if (name == "chapter") {
-    const OsisReference place = ParseReference(element.Get("osisID"));
+    const std::string_view id = element.Get("osisID");
+    const OsisReference place = ParseReference(id.empty() ? element.Get("sID") : id);
     if (!place.chapter.empty()) GoTo(place.book, place.chapter);
     return Part::kBlock;
+  }
+  if (name == "milestone") {
+    // Titles of a table of contents, as texts that were made of USFM have them.
+    if (element.Get("type") == "x-usfm-toc1") Builder().AddTitle(TitleKind::kLong, element.Get("n"));
+    if (element.Get("type") == "x-usfm-toc2") Builder().AddTitle(TitleKind::kMiddle, element.Get("n"));
   }
   if (name == "work") m_isInWork = true;
   if (name == "osisText") {
@@ -114,11 +120,14 @@ XmlForm::Part OsisForm::BeginTitle(const XmlElement& element) {
     m_captured = Captured::kName;
     return Part::kCaptured;
   }
-  if (type == "psalm" || element.Get("canonical") == "true") return Part::kCanonicalTitle;
-  const bool isOfBook = !m_book.empty() && m_chapter.empty() && (type.empty() || type == "main");
-  if (!isOfBook) return Part::kLeftOut;
+  if (IsCapturing()) return Part::kBlock;  // a line of a title
+  const bool isOfBook = !m_book.empty() && m_chapter.empty();
+  if (!isOfBook || type == "psalm") {
+    return type == "psalm" || element.Get("canonical") == "true" ? Part::kCanonicalTitle : Part::kLeftOut;
+  }
+  if (!type.empty() && type != "main" && type != "runningHead") return Part::kLeftOut;
   Builder().AddTitle(TitleKind::kShort, element.Get("short"));
-  m_captured = type == "main" ? Captured::kMainTitle : Captured::kTitle;
+  m_captured = type == "main" ? Captured::kMainTitle : type.empty() ? Captured::kTitle : Captured::kRunningHead;
   return Part::kCaptured;
 }
 
@@ -126,6 +135,8 @@ void OsisForm::EndCaptured(const std::string& text) {
   switch (m_captured) {
     case Captured::kName:
       return Builder().SetName(text);
+    case Captured::kRunningHead:
+      return Builder().AddTitle(TitleKind::kShort, text);
     case Captured::kMainTitle:
       return Builder().AddTitle(TitleKind::kMiddle, text);
     case Captured::kTitle:

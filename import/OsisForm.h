@@ -26,7 +26,7 @@ class OsisForm : public XmlForm {
   Part BeginVerse(const XmlElement& element);
   void GoTo(std::string_view book, std::string_view chapter);
 
-  enum class Captured { kName, kMainTitle, kTitle };
+  enum class Captured { kName, kRunningHead, kMainTitle, kTitle };
   Captured m_captured = Captured::kName;
   bool m_isInWork = false;
   std::string m_book;     // as osisID has it; empty for none

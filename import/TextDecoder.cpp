@@ -111,7 +111,8 @@ void TextDecoder::ChooseEncoding(const std::string& charset) {
     OpenConverter(named);
   } else if (const std::string page = EncodingOfUsfm(m_raw); !page.empty()) {
     // Many a text that was turned into UTF-8 still names the code page that it was in before.
-    const std::string_view head = std::string_view(m_raw).substr(0, m_raw.size() - UnfinishedLength(m_raw));
+    const std::size_t unfinished = m_isAtEnd ? 0 : UnfinishedLength(m_raw);
+    const std::string_view head = std::string_view(m_raw).substr(0, m_raw.size() - unfinished);
     if (!IsUtf8(head)) OpenConverter(page);
   }
 }
@@ -171,9 +172,16 @@ void TextDecoder::Decode() {
   UErrorCode status = U_ZERO_ERROR;
   ucnv_convertEx(m_to.get(), m_from.get(), &target, m_text.data() + m_text.size(), &source, m_raw.data() + m_raw.size(),
                  pivot, &pivotSource, &pivotTarget, pivot + kPivot, false, m_isAtEnd ? 1 : 0, &status);
+  const bool isFault = U_FAILURE(status);
+  if (isFault) {
+    // What is good stands still between the two converters.
+    const UChar* good = pivotSource;
+    status = U_ZERO_ERROR;
+    ucnv_fromUnicode(m_to.get(), &target, m_text.data() + m_text.size(), &good, pivotTarget, nullptr, 1, &status);
+  }
   m_text.resize(static_cast<std::size_t>(target - m_text.data()));
   m_raw.clear();
-  if (U_FAILURE(status)) NoteFault(m_text.size());
+  if (isFault) NoteFault(m_text.size());
 }
 
 void TextDecoder::DecodeUtf8() {

@@ -22,6 +22,7 @@ XmlForm::Part UsfxForm::Begin(const XmlElement& element) {
     Builder().BeginBook(element.Get("id"));
     return Part::kPass;
   }
+  if (name == "generated") return Part::kLeftOut;
   if (name == "languageCode") {
     m_captured = Captured::kLanguage;
     return Part::kCaptured;

@@ -14,7 +14,7 @@ void XmlForm::Start(const XmlElement& element) {
       m_leftOut = 1;
       return;
     case Part::kBlock:
-      m_builder.AddBreak();
+      AddBreak();
       break;
     case Part::kCanonicalTitle:
       m_builder.BeginCanonicalTitle();
@@ -38,7 +38,7 @@ void XmlForm::End(std::string_view /*name*/) {
   m_parts.pop_back();
   switch (part) {
     case Part::kBlock:
-      m_builder.AddBreak();
+      AddBreak();
       break;
     case Part::kVerse:
       m_builder.EndVerse();
@@ -53,6 +53,11 @@ void XmlForm::End(std::string_view /*name*/) {
     case Part::kLeftOut:
       break;
   }
+}
+
+void XmlForm::AddBreak() {
+  if (m_capturing == 0) return m_builder.AddBreak();
+  m_captured += ' ';
 }
 
 bool XmlForm::NoteEnd(std::string_view name) {

@@ -38,10 +38,14 @@ class XmlForm : public TextForm, protected XmlHandler {
 
   BibleBuilder& Builder() { return m_builder; }
 
+  // Whether an element that is kCaptured is open.
+  bool IsCapturing() const { return m_capturing != 0; }
+
  private:
   void Start(const XmlElement& element) override;
   void End(std::string_view name) override;
   void Text(std::string_view text) override;
+  void AddBreak();
 
   BibleBuilder& m_builder;
   XmlReader m_reader;

@@ -108,5 +108,78 @@ TEST(Lines, AreReadOrToldWithTheirNumber) {
   for (const auto& [content, expected] : cases) EXPECT_EQ(Outcome(content), expected) << content;
 }
 
+// Each byte of a text of ASCII with a zero behind it, or before it.
+std::string Wide(const std::string& text, bool isLittle) {
+  std::string wide;
+  for (const char c : text) wide += isLittle ? std::string{c, '\0'} : std::string{'\0', c};
+  return wide;
+}
+
+TEST(Text, IsInTheCharsetThatTheFileTells) {
+  const std::pair<std::string, std::string> cases[] = {
+      {"\xFF\xFE" + Wide("Ge1:1 a", true), "1 1:1 a|"},
+      {"\xFE\xFF" + Wide("Ge1:1 a", false), "1 1:1 a|"},
+      {Wide("\\id GEN\n\\c 1\n\\v 1 a", true), "1 1:1 a|"},
+      {Wide("<?xml version='1.0' encoding='UTF-16'?><usx><book code='GEN'/><chapter number='1'/><verse "
+            "number='1'/>a</usx>",
+            false),
+       "1 1:1 a|"},
+      {"\\id GEN\n\\ide 1251 - Cyrillic\n\\c 1\n\\v 1 \xC1", "1 1:1 Б|"},
+      {"\\id GEN\n\\ide 1251\n\\c 1\n\\v 1 é", "1 1:1 é|"},  // turned into UTF-8 since
+      {"<?xml version='1.0' encoding='iso-8859-1'?><XMLBIBLE><BIBLEBOOK bnumber='1'><CHAPTER cnumber='1'><VERS "
+       "vnumber='1'>"
+       "\x93\xE9</VERS></CHAPTER></BIBLEBOOK></XMLBIBLE>",
+       "1 1:1 “é|"},
+      {"Ge1:1 a\nGe1:2 \xE9",
+       "2: Genesis 1:1: text in UTF-8 was expected; give the charset of the file with --charset NAME"},
+      {"\xFF\xFE" + Wide("Ge1:1 a\nGe", true) + "b",
+       "2: Genesis 1:1: text in UTF-16LE was expected; give the charset of the file with "
+       "--charset NAME"}};
+  for (const auto& [content, expected] : cases) EXPECT_EQ(Outcome(content), expected);
+}
+
+TEST(Forms, GiveTheTextOfEachVerse) {
+  const std::string usx = "<usx version='3.0'><book code='PSA' style='id'/><chapter number='3' style='c'/>";
+  const std::string osis = "<osis><osisText><div type='book' osisID='Ps'><chapter osisID='Ps.3'>";
+  const std::string usfx = "<usfx><book id='PSA'><c id='3'/>";
+  const std::string zefania = "<XMLBIBLE><BIBLEBOOK bnumber='19'><CHAPTER cnumber='3'><VERS vnumber='1'>";
+  const std::pair<std::string, std::string> cases[] = {
+      {"\\id PSA\n\\c 3\n\\d Of \\nd D\\nd*\\f + \\ft n\\f*.\n\\q1 \\v 1 a\n\\q2 b\\va 2\\va*\n\\qa "
+       "Aleph\n\\b\n\\q~c//d \\qs S\\qs*\n"
+       "\\tr \\th1 e\\tc2 f\n\\p \\v 2-3 \\wj g \\+add h\\+add*\\wj* \\rb i|gloss=\"j\"\\rb*\\qt-s |sid=\"x\"\\* "
+       "k\\ts-s\\*|l\n"
+       "\\s no\n\\v 4a \\zx m\\zx*\\x - \\xo 3 \\xt n\\x*\\ef - \\ft n\\ef*\\esb\n\\p no\n\\esbe\n\\p o",
+       "19 3:1 Of D. a b \u00A0c d S e f|19 3:2-3 g h i k|l|19 3:4a m o|"},
+      {usx +
+           "<para style='d'>Of <char style='nd'>D</char><note style='f'>n</note></para><para style='q1'><verse "
+           "number='1'/>a "
+           "<char style='add'>b <char style='nd'>c</char></char></para><para style='q2'>d<optbreak/>e<ms style='qt-s'/>"
+           "<figure style='fig'>no</figure><verse eid='x'/> no</para><table><row style='tr'><cell style='tc1'><verse "
+           "number='2'/>"
+           "f</cell><cell style='tc2'>g</cell></row></table><para style='s1'>no</para><para style='p'>h</para></usx>",
+       "19 3:1 Of D a b c d e|19 3:2 f g h|"},
+      {osis +
+           "<title type='psalm'>Of D<note>n</note></title><verse sID='x' "
+           "osisID='Ps.3.1'/><lg><l>a</l><l>b<lb/>c</l></lg>"
+           "<w lemma='x'>d</w> <transChange>e</transChange><rdg>n</rdg><verse eID='x'/>no<verse osisID='Ps.3.2 Ps.3.3'>"
+           "<title canonical='true'>f</title><seg>g</seg><title>no</title></verse><verse osisID='Ps.3.4!a'>h</verse>"
+           "</chapter></div></osisText></osis>",
+       "19 3:1 Of D a b c d e|19 3:2-3 f g|19 3:4a h|"},
+      {usfx +
+           "<d>Of D</d><q><v id='1'/>a<f>n</f><add>b</add></q><q>c<optionalLineBreak/>d<ve/></q><p sfm='ip'>no</p><p "
+           "sfm='d'>e</p><p><v id='2'/>f <wj>g</wj><x>n</x><generated>no</generated></p></book></usfx>",
+       "19 3:1 Of D ab c d|19 3:2 e f g|"},
+      {zefania + "<STYLE fs='italic'>a</STYLE> <gr str='1'>b</gr><NOTE>n<STYLE>n</STYLE></NOTE><XREF/><BR/>c &amp; "
+                 "&lt;</VERS>"
+                 "<CAPTION>no</CAPTION></CHAPTER></BIBLEBOOK></XMLBIBLE>",
+       "19 3:1 a b c &amp; &lt;|"},
+      {"\"Book\";\"Chapter\";\"Verse\";\"Text\"\r\n\"Jude\";1;1;\"a; \"\"b\"\"\"\r\n", "65 1:1 a; \"b\"|"},
+      {"id\tb\tc\tv\tt\n1001001\t1\t1\t1\ta\n", "1 1:1 a|"},
+      {"<usx><book code='GEN'/><para style='p'><verse number='1'/>a</para></usx>",
+       "1: Genesis: a chapter was expected before verse \"1\""},
+      {"\\id JUD\n\\v 1 a\n\\v x b", "3: Jude 1: the number of a verse was expected: \"x\""}};
+  for (const auto& [content, expected] : cases) EXPECT_EQ(Outcome(content), expected) << content;
+}
+
 }  // namespace
 }  // namespace folionet::test

@@ -3,6 +3,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
+#include <QWidget>
 #include <utility>
 
 #include "CommandLine.h"

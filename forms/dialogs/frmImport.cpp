@@ -9,6 +9,7 @@
 #include "ContentScroll.h"
 #include "ImportReport.h"
 #include "QtText.h"
+#include "ShownBoxes.h"
 #include "ui_frmImport.h"
 
 namespace folionet {
@@ -177,6 +178,7 @@ void frmImport::Fail(const RunTimeError& error) {
 void frmImport::ShowFound() {
   const LibraryPlan& plan = *m_import.CurrentPlan();
   m_ui->txtStem->setPlaceholderText(ToQt(plan.stem));
+  DressBoxes(*this);  // it has a hint only now
   m_ui->txtFound->setPlainText(FoundInText(*m_import.Bible(), plan));
 }
 

@@ -20,17 +20,22 @@ void GiveRoom(QLineEdit& box) {
 void GiveRoom(TextBox& /*box*/) {}
 
 template <typename Box>
+void DressBox(Box& box, const QPalette& form) {
+  QPalette colours;  // with nothing of its own, so that the rest follows the form's
+  QColor hint = form.color(QPalette::Active, QPalette::Text);
+  hint.setAlphaF(0.6F);  // not every desktop's palette has a colour for hints that can be read on its ground
+  for (const auto group : {QPalette::Active, QPalette::Inactive}) {
+    colours.setColor(group, QPalette::PlaceholderText, hint);
+  }
+  if (box.isReadOnly()) colours.setColor(QPalette::Base, form.color(QPalette::Active, QPalette::Window));
+  box.setPalette(colours);
+}
+
+template <typename Box>
 void Dress(const QWidget& form) {
   for (Box* box : form.findChildren<Box*>()) {
     if (!box->isReadOnly() && box->placeholderText().isEmpty()) continue;
-    QPalette colours;  // with nothing of its own, so that the rest follows the form's
-    QColor hint = form.palette().color(QPalette::Active, QPalette::Text);
-    hint.setAlphaF(0.6F);  // not every desktop's palette has a colour for hints that can be read on its ground
-    for (const auto group : {QPalette::Active, QPalette::Inactive}) {
-      colours.setColor(group, QPalette::PlaceholderText, hint);
-    }
-    if (box->isReadOnly()) colours.setColor(QPalette::Base, form.palette().color(QPalette::Active, QPalette::Window));
-    box->setPalette(colours);
+    DressBox(*box, form.palette());
     GiveRoom(*box);
   }
 }
@@ -53,6 +58,10 @@ void DressBoxes(QWidget& form) {
   KeepToTheStart<QLineEdit>(form);
   Dress<QLineEdit>(form);
   Dress<TextBox>(form);
+  // Of plain boxes those with a hint alone: the sample of the page's text has colours of its own.
+  for (QPlainTextEdit* box : form.findChildren<QPlainTextEdit*>()) {
+    if (!box->placeholderText().isEmpty()) DressBox(*box, form.palette());
+  }
 }
 
 }  // namespace folionet

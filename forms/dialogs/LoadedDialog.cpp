@@ -1,7 +1,9 @@
 #include "LoadedDialog.h"
 
 #include <QEvent>
+#include <utility>
 
+#include "ContentScroll.h"
 #include "HelpWindow.h"
 #include "OneLine.h"
 #include "RunTimeError.h"
@@ -23,6 +25,11 @@ void LoadedDialog::LoadForm() {
     throw;
   }
   ShowRecord();
+}
+
+void LoadedDialog::setVisible(bool isVisible) {
+  if (isVisible && std::exchange(m_isToScroll, false)) ScrollAllButButtons(*this);
+  QDialog::setVisible(isVisible);
 }
 
 void LoadedDialog::showEvent(QShowEvent* event) {

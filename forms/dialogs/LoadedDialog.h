@@ -16,10 +16,15 @@ class LoadedDialog : public QDialog {
   // what was read by then is shown.
   void LoadForm();
 
+  void setVisible(bool isVisible) override;
+
   bool IsLoaded() const { return m_isLoaded; }
 
  protected:
   LoadedDialog(UserInterface& ui, QWidget* parent);
+
+  // All but the buttons scrolls from the first showing on. To lay out what is hidden would cost a start-up dearly.
+  void LetContentScroll() { m_isToScroll = true; }
 
   virtual void Load() = 0;
   virtual void ShowRecord() {}  // gives the controls what Load has read, all of it or less
@@ -29,6 +34,7 @@ class LoadedDialog : public QDialog {
  private:
   UserInterface& m_reports;
   bool m_isLoaded = false;
+  bool m_isToScroll = false;
 };
 
 }  // namespace folionet

@@ -2,7 +2,6 @@
 
 #include <exception>
 
-#include "ContentScroll.h"
 #include "Follow.h"
 #include "OptionLoading.h"
 #include "OptionSaving.h"
@@ -25,7 +24,7 @@ frmBackground::frmBackground(AppState& state, QWidget* parent)
       m_record(state.options.frmBackground),
       m_ui(std::make_unique<Ui::frmBackground>()) {
   m_ui->setupUi(this);
-  ScrollAllButButtons(*this);
+  LetContentScroll();
   Follow(m_ui->txtImagepath, m_record.txtImagepath);
   Follow(m_ui->chkWaterMark, m_record.chkWaterMark);
   connect(m_ui->chkWaterMark, &QCheckBox::clicked, this, [this] {

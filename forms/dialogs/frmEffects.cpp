@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <utility>
 
-#include "ContentScroll.h"
 #include "Effects.h"
 #include "Follow.h"
 #include "OptionLoading.h"
@@ -34,7 +33,7 @@ frmEffects::frmEffects(AppState& state, QWidget* parent)
   m_ui->setupUi(this);
   // Text and link are one sentence, in the direction of its words.
   m_ui->fraSample->setLayoutDirection(m_ui->lblSampleText->text().isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
-  ScrollAllButButtons(*this);
+  LetContentScroll();
   ConnectRecord();
   const auto pick = [this](const QPushButton* button, const char* key, Swatch& swatch) {
     connect(button, &QPushButton::clicked, this, [this, key, &swatch] { PickColour(key, swatch); });

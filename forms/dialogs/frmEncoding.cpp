@@ -3,7 +3,6 @@
 #include <utility>
 #include <vector>
 
-#include "ContentScroll.h"
 #include "EncodingLists.h"
 #include "PageEncoding.h"
 #include "QtText.h"
@@ -18,7 +17,7 @@ namespace folionet {
 frmEncoding::frmEncoding(AppState& state, QWidget* parent)
     : LoadedDialog(state.ui, parent), m_state(state), m_ui(std::make_unique<Ui::frmEncoding>()) {
   m_ui->setupUi(this);
-  ScrollAllButButtons(*this);
+  LetContentScroll();
   connect(m_ui->cboLang, &QComboBox::textActivated, m_ui->txtLang, &QLineEdit::setText);
   connect(m_ui->cboCharset, &QComboBox::textActivated, m_ui->txtCharset, &QLineEdit::setText);
   connect(m_ui->cmdAddNew, &QPushButton::clicked, this, &frmEncoding::AddNew);

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <array>
 
-#include "ContentScroll.h"
 #include "Follow.h"
 #include "KeyReleases.h"
 #include "OptionLoading.h"
@@ -17,7 +16,7 @@ namespace folionet {
 frmKeywords::frmKeywords(AppState& state, QWidget* parent)
     : LoadedDialog(state.ui, parent), m_state(state), m_ui(std::make_unique<Ui::frmKeywords>()) {
   m_ui->setupUi(this);
-  ScrollAllButButtons(*this);
+  LetContentScroll();
   MetaOptions& record = m_state.options.frmKeywords;
   Follow(m_ui->txtKeywordsI, record.txtKeywordsI);
   Follow(m_ui->txtDescriptionI, record.txtDescriptionI);

@@ -4,7 +4,6 @@
 #include <array>
 
 #include "ChapterIndex.h"
-#include "ContentScroll.h"
 #include "EncodeOptions.h"
 #include "Follow.h"
 #include "LinkBack.h"
@@ -23,7 +22,7 @@ frmLinkToMAin::frmLinkToMAin(AppState& state, QWidget* parent)
       m_record(state.options.frmLinkToMAin),
       m_ui(std::make_unique<Ui::frmLinkToMAin>()) {
   m_ui->setupUi(this);
-  ScrollAllButButtons(*this);
+  LetContentScroll();
   Follow(m_ui->txtLinkToMain, m_record.txtLinkToMain);
   int justification = 0;
   for (const QRadioButton* option : {m_ui->OLeft, m_ui->OCenter, m_ui->ORight}) {

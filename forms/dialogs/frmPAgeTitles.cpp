@@ -1,6 +1,5 @@
 #include "frmPAgeTitles.h"
 
-#include "ContentScroll.h"
 #include "Follow.h"
 #include "KeyReleases.h"
 #include "OptionLoading.h"
@@ -14,7 +13,7 @@ namespace folionet {
 frmPAgeTitles::frmPAgeTitles(AppState& state, QWidget* parent)
     : LoadedDialog(state.ui, parent), m_state(state), m_ui(std::make_unique<Ui::frmPAgeTitles>()) {
   m_ui->setupUi(this);
-  ScrollAllButButtons(*this);
+  LetContentScroll();
   Follow(m_ui->txtIndex_html, m_state.options.frmPAgeTitles.txtIndex_html);
   Follow(m_ui->txtPageTitles, m_state.options.frmPAgeTitles.txtPageTitles);
   connect(m_ui->cmdCheck, &QPushButton::clicked, this, [this] {

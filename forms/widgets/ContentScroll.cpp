@@ -65,7 +65,7 @@ void ContentScroll::KeepOffBar() {
 void ScrollAllButButtons(QDialog& dialog) {
   auto* outer = qobject_cast<QVBoxLayout*>(dialog.layout());
   if (outer == nullptr || outer->count() < 2) return;
-  auto* content = new QWidget;
+  auto* content = new QWidget(&dialog);  // in the same window all the time, which keeps the order of the Tab key
   auto* inner = new QVBoxLayout(content);
   inner->setContentsMargins(0, 0, 0, 0);
   while (outer->count() > 1) {

@@ -3,6 +3,7 @@
 #include <QDialogButtonBox>
 #include <QImage>
 #include <QPushButton>
+#include <QScreen>
 #include <QShortcut>
 #include <QTextBrowser>
 #include <QVBoxLayout>
@@ -60,10 +61,11 @@ QString TopicOf(const QWidget* control) {
 HelpWindow::HelpWindow(QWidget* parent) : QDialog(parent), m_page(new HelpPage(this)) {
   InitHelpResource();
   constexpr QSize kSize(760, 560);
+  constexpr QSize kAround(8, 60);  // of a frame and a title bar
   setObjectName(QStringLiteral("HelpWindow"));
   setWindowTitle(tr("Folionet Help"));
   setMinimumSize(200, 150);
-  resize(kSize);
+  resize(kSize.boundedTo(screen()->availableSize() - kAround));
   m_page->setObjectName(QStringLiteral("helpPage"));
   m_page->setAccessibleName(tr("Help"));
   m_page->setOpenExternalLinks(true);

@@ -9,6 +9,7 @@
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QTest>
 #include <QTextBrowser>
 #include <QTreeWidget>
 #include <cstdlib>
@@ -17,6 +18,7 @@
 #include <set>
 
 #include "Escapes.h"
+#include "FactLines.h"
 #include "FormTest.h"
 #include "frmMain.h"
 
@@ -121,6 +123,8 @@ TEST_F(Texts, AreHeardAsTheyAreSeen) {
   ASSERT_TRUE(Start());
   Get("frmEffects.").show();
   m_form->ShowPanel(1, "Compiling file 3 Book1");
+  ChooseOutput();
+  ASSERT_TRUE(QTest::qWaitFor([this] { return !m_form->Facts().IsLooking(); }));
   const struct {
     const char* control;
     QAccessible::Text what;
@@ -132,6 +136,9 @@ TEST_F(Texts, AreHeardAsTheyAreSeen) {
       {"frmKeywords.txtKeywordsI", QAccessible::Name, "META Keywords of the index page"},
       {"frmKeywords.txtDescription", QAccessible::Name, "META Description of all other pages"},
       {"frmPAgeTitles.txtPrevOther", QAccessible::Name, "Preview of the title of all other pages"},
+      {"progressCompile", QAccessible::Name, "Pages compiled"},
+      {"Dir1", QAccessible::Description, "Empty folder."},
+      {"cmdCompile", QAccessible::Description, "Empty folder."},
       {"txtBibleSel", QAccessible::Value, "Small Bible"},
       {"txtBibleSel", QAccessible::Description, ""},
   };
@@ -164,12 +171,15 @@ TEST_F(Texts, OpenWithinTheScreen) {
   EXPECT_TRUE(m_form->minimumSizeHint().boundedTo(kSmallest - kAround) == m_form->minimumSizeHint())
       << m_form->minimumSizeHint().width() << " x " << m_form->minimumSizeHint().height();
   for (QDialog* dialog : m_form->findChildren<QDialog*>()) {
-    const QSize least = dialog->minimumSizeHint();
-    EXPECT_EQ(least.boundedTo(kSmallest - kAround), least) << FromQt(dialog->objectName());
     dialog->show();
     QApplication::processEvents();
+    const QSize least = dialog->minimumSizeHint();
+    EXPECT_EQ(least.boundedTo(kSmallest - kAround), least) << FromQt(dialog->objectName());
     const auto* content = dialog->findChild<QScrollArea*>(QStringLiteral("scrContent"));
     if (content == nullptr) continue;
+    const QWidget* first = dialog->nextInFocusChain();
+    while ((first->focusPolicy() & Qt::TabFocus) == 0 || !first->isVisible()) first = first->nextInFocusChain();
+    EXPECT_TRUE(content->isAncestorOf(first)) << FromQt(first->objectName()) << " comes before what it is about";
     const QSize wanted = dialog->sizeHint() + kAround;
     const bool hasRoom = wanted.boundedTo(dialog->screen()->availableSize()) == wanted;
     EXPECT_EQ(hasRoom ? content->verticalScrollBar()->maximum() : 0, 0) << FromQt(dialog->objectName());

@@ -12,6 +12,7 @@
 #include <QTest>
 #include <QTextBrowser>
 #include <QTreeWidget>
+#include <QUrl>
 #include <cstdlib>
 #include <fstream>
 #include <map>
@@ -157,9 +158,17 @@ TEST_F(Texts, AreHelpedInTheirLanguage) {
       translation == nullptr ? "en" : QString::fromLocal8Bit(translation).section('_', -1).chopped(3);
   ASSERT_TRUE(Start());
   Click("cmdHelp");
-  QFile page(':' + m_form->findChild<QTextBrowser*>(QStringLiteral("helpPage"))->source().path());
+  const QUrl place = m_form->findChild<QTextBrowser*>(QStringLiteral("helpPage"))->source();
+  QFile page(':' + place.path());
   EXPECT_TRUE(page.open(QIODevice::ReadOnly)) << FromQt(page.fileName());
-  EXPECT_TRUE(page.readAll().contains("<html lang=\"" + language.toLatin1() + '"')) << FromQt(page.fileName());
+  const QString text = QString::fromUtf8(page.readAll());
+  EXPECT_TRUE(text.contains("<html lang=\"" + language + '"')) << FromQt(page.fileName());
+  const QStringList pictures = text.split(QStringLiteral("<img src=\"")).mid(1);
+  EXPECT_GE(pictures.size(), 7);
+  for (const QString& picture : pictures) {
+    const QString file = ':' + place.resolved(QUrl(picture.section('"', 0, 0))).path();
+    EXPECT_TRUE(QFile::exists(file)) << FromQt(file);
+  }
 }
 
 // A screen of 1366 x 768 at 125 %, and one of 1920 x 1080 at 200 %, has room for every window.

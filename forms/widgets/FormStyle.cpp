@@ -60,6 +60,7 @@ class OutlineStyle : public QProxyStyle {
   }
 
   // A text keeps the order of its own script on a mirrored desktop: a full stop stays behind its sentence.
+  // NOLINTNEXTLINE(readability-function-size): the parameters are Qt's
   void drawItemText(QPainter* painter, const QRect& rect, int flags, const QPalette& palette, bool isEnabled,
                     const QString& text, QPalette::ColorRole role) const override {
     constexpr int kForced = Qt::TextForceLeftToRight | Qt::TextForceRightToLeft;

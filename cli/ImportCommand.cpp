@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <system_error>
 
+#include "BookTable.h"
 #include "Counted.h"
 #include "Finding.h"
 #include "ImportText.h"
@@ -44,6 +45,26 @@ std::string ResultLine(const LibraryPlan& plan) {
          ", in " + plan.folder;
 }
 
+// What was read, as JSON: each book with its numbers, and the translation that becomes of it.
+void ShowPlan(const ImportedBible& bible, const LibraryPlan& plan, ConsoleUi& ui) {
+  const auto show = [&ui](const char* kind, int book, const std::string& text) {
+    ui.Show({.kind = kind, .severity = Severity::kNote, .place = {book, 0, {}}, .what = {"%1", {text}}});
+  };
+  for (std::size_t i = 0; i < bible.VerseCount();) {
+    const int book = bible.VerseAt(i).book;
+    std::size_t verses = 0;
+    std::size_t chapters = 0;
+    for (int last = -1; i < bible.VerseCount() && bible.VerseAt(i).book == book; ++i, ++verses) {
+      const int chapter = bible.VerseAt(i).chapter;
+      if (chapter != last) ++chapters;
+      last = chapter;
+    }
+    show("book", book,
+         std::string(BookAt(book).title) + ": " + Counted(chapters, "chapter") + ", " + Counted(verses, "verse"));
+  }
+  show("import", 0, ResultLine(plan));
+}
+
 // How the library that was written is chosen, where another one is used without a word.
 void TellHowToChoose(const CommonOptions& common, const LibraryPlan& plan, ConsoleUi& ui) {
   const Session session(common, ui);
@@ -74,6 +95,7 @@ ExitStatus RunImport(const CommonOptions& common, const ImportArguments& argumen
     const LibraryPlan plan = PlanLibrary(bible, request);
     if (!arguments.dryRun) WriteLibrary(plan);
     if (!common.quiet || common.json) TellFindings(bible, ui);
+    if (common.json) ShowPlan(bible, plan, ui);
     ui.Sum(ResultLine(plan), Severity::kNote);
     if (arguments.dryRun) ui.Sum("Nothing was written.", Severity::kNote);
     if (!arguments.dryRun && !common.quiet) TellHowToChoose(common, plan, ui);

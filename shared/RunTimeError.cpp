@@ -102,6 +102,11 @@ RunTimeError RunTimeError::About(Subject subject) const {
   return error;
 }
 
+bool IsSameFailure(const RunTimeError& left, const RunTimeError& right) {
+  return left.Number() == right.Number() && left.About() == right.About() && left.Item() == right.Item() &&
+         left.Line() == right.Line();
+}
+
 std::string RunTimeError::Extra() const {
   std::string text = Escaped(m_item);
   if (m_line != 0) text += "\r\nLine " + std::to_string(m_line);

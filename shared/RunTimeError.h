@@ -47,7 +47,6 @@ enum class Subject {
   kBookTitles,
   kChapterIndex,
   kVerseFile,
-  kImportedFile,  // a text to import, or the archive that holds it
 };
 
 // A statement that failed. Only the routines that carry a report label catch it: they hand it to
@@ -87,6 +86,9 @@ class RunTimeError : public std::exception {
   Subject m_subject = Subject::kNone;
   std::string m_what;
 };
+
+// Whether these are one failure to a person: of the same number, about the same thing, at the same place.
+bool IsSameFailure(const RunTimeError& left, const RunTimeError& right);
 
 // Runs `work`, which may know no more of a file than its path: an error that it throws without a subject is about this.
 template <typename Work>

@@ -1,11 +1,13 @@
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "CodePage.h"
 #include "Installation.h"
 #include "PageOptions.h"
 #include "PageTexts.h"
+#include "RunTimeError.h"
 #include "SettingsStore.h"
 #include "UserInterface.h"
 #include "modGlob.h"
@@ -25,7 +27,7 @@ struct AppState {
   PageTexts texts{};                  // UTF-8; RolloverStyle and BodyLinkTag change only where Effects is run
   CodePage codePage{"windows-1252"};  // of texts.PageCharset
   std::string startBookText{};        // the title shown in the main form's cboStartBook, in the bytes of its file
-  std::string lastSaveFailure{};      // set by TrySave; empty after a save that went well
+  std::optional<RunTimeError> lastSaveFailure{};  // set by TrySave; none after a save that went well
 };
 
 }  // namespace folionet

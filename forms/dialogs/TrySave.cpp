@@ -7,13 +7,12 @@ namespace folionet {
 bool TrySave(AppState& state, Procedure procedure, const std::function<void(SettingsStore&)>& save) {
   try {
     save(state.store);
-    state.lastSaveFailure.clear();
+    state.lastSaveFailure.reset();
     return true;
   } catch (const RunTimeError& error) {
-    if (state.lastSaveFailure != error.what()) {
-      state.lastSaveFailure = error.what();
-      state.ui.ShowErrorReport({procedure, error});
-    }
+    const bool isTold = state.lastSaveFailure && IsSameFailure(*state.lastSaveFailure, error);
+    state.lastSaveFailure = error;
+    if (!isTold) state.ui.ShowErrorReport({procedure, error});
     return false;
   }
 }

@@ -3,6 +3,7 @@
 #include <QMainWindow>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -99,11 +100,11 @@ class frmMain : public QMainWindow {
   FactLines* m_facts;
   FormMemory* m_memory;
   std::unique_ptr<PagePreview> m_preview;
-  std::string m_indexPage;     // that folder and address name, when it is there
-  std::size_t m_nextStep = 0;  // of StartSteps; those before it are done
-  bool m_hasStopped = false;   // at a failure, since when the person may have changed what was read
-  std::string m_startFailure;  // what stopped the start-up, as it was told; empty when nothing did
-  bool m_exitFailed = false;   // the settings could not be saved when the form was last to be closed
+  std::string m_indexPage;                     // that folder and address name, when it is there
+  std::size_t m_nextStep = 0;                  // of StartSteps; those before it are done
+  bool m_hasStopped = false;                   // at a failure, since when the person may have changed what was read
+  std::optional<RunTimeError> m_startFailure;  // what stopped the start-up, as it was told; none when nothing did
+  bool m_exitFailed = false;                   // the settings could not be saved when the form was last to be closed
   bool m_hasEnded = false;
 };
 

@@ -47,10 +47,10 @@ bool frmMain::GoOnWithStart() {
       }
     }
   } catch (const RunTimeError& error) {
-    if (m_startFailure == error.Extra()) return true;
+    if (m_startFailure && IsSameFailure(*m_startFailure, error)) return true;
     if (!m_hasStopped) LoadMissingOptions(m_state.store, m_state.options);
     m_hasStopped = true;
-    m_startFailure = error.Extra();
+    m_startFailure = error;
     std::string extra = FromQt(m_ui->txtFilename->text());
     if (!extra.empty()) extra += "\r\n";
     m_state.ui.ShowErrorReport({Procedure::kFormLoad, error, extra});
@@ -67,7 +67,7 @@ bool frmMain::IsStarted() {
 
 // As IsStarted, and what stopped the start-up is told again.
 bool frmMain::TellAndGoOn() {
-  m_startFailure.clear();
+  m_startFailure.reset();
   return IsStarted();
 }
 

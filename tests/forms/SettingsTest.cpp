@@ -231,7 +231,7 @@ TEST_F(Settings, AFailureToSaveIsToldOnce) {
   BlockSettings();
   for (const auto& [control, label] : cases) {
     m_ui.log.clear();
-    m_state->lastSaveFailure.clear();
+    m_state->lastSaveFailure.reset();
     m_ui.yesNo = {true};
     Give(control, control == "cboLang" ? "BOOKS_DUTCH.TXT" : "4");
     Give("chkUseNames", "");

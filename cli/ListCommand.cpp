@@ -47,9 +47,10 @@ ExitStatus ListLanguages(Session& session) {
 }
 
 ExitStatus ListCharsets(Session& session) {
-  std::vector<std::string> entries;
-  ReadEncodingList({ProgramFolderToRead(session.chosenProgramFolder), session.codePage}, kCharsetList, entries);
-  for (const std::string& entry : entries) session.ui.Print(entry);
+  const EncodingList list =
+      ReadEncodingList({ProgramFolderToRead(session.chosenProgramFolder), session.codePage}, kCharsetList);
+  if (list.failure) throw RunTimeError(*list.failure);
+  for (const std::string& entry : list.entries) session.ui.Print(entry);
   return kExitDone;
 }
 

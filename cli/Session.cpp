@@ -1,5 +1,8 @@
 #include "Session.h"
 
+#include <optional>
+#include <utility>
+
 #include "Catalogue.h"
 #include "CustomHtml.h"
 #include "ImportedText.h"
@@ -95,9 +98,11 @@ void Session::LoadCodePage() {
 
 void Session::LoadOwnHtml(const std::string& programFolder) {
   const OwnFolder own = OwnFolderOfRun(store, programFolder);
-  if (!LoadCustomHtml(own, kCustomHeader, texts.CustomHeader, ui) ||
-      !LoadCustomHtml(own, kCustomFooter, texts.CustomFooter, ui)) {
-    throw ExitWith(kExitFailed);
+  for (const auto& [kind, text] :
+       {std::pair{&kCustomHeader, &texts.CustomHeader}, {&kCustomFooter, &texts.CustomFooter}}) {
+    std::optional<std::string> loaded = LoadCustomHtml(own, *kind, *text, ui);
+    if (!loaded) throw ExitWith(kExitFailed);
+    *text = *std::move(loaded);
   }
 }
 

@@ -1,8 +1,5 @@
 #include "CustomHtml.h"
 
-#include <optional>
-#include <utility>
-
 #include "RunTimeError.h"
 
 namespace folionet {
@@ -14,13 +11,13 @@ void Report(const RunTimeError& error, const CustomHtmlKind& kind, Procedure pro
 
 }  // namespace
 
-bool LoadCustomHtml(const OwnFolder& folder, const CustomHtmlKind& kind, std::string& text, UserInterface& ui) {
+std::optional<std::string> LoadCustomHtml(const OwnFolder& folder, const CustomHtmlKind& kind,
+                                          const std::string& unsaved, UserInterface& ui) {
   try {
-    if (std::optional<std::string> read = ReadOwnText(folder, kind.fileName)) text = std::move(*read);
-    return true;
+    return ReadOwnText(folder, kind.fileName).value_or(unsaved);
   } catch (const RunTimeError& error) {
     Report(error, kind, kind.load, ui);
-    return false;
+    return std::nullopt;
   }
 }
 

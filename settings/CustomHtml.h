@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -17,9 +18,10 @@ struct CustomHtmlKind {
 inline constexpr CustomHtmlKind kCustomHeader{"CustomHeader.txt", Procedure::kLoadCustomHeader};
 inline constexpr CustomHtmlKind kCustomFooter{"CustomFooter.txt", Procedure::kLoadCustomFooter};
 
-// Reads the custom HTML from its file, whole, into `text` as UTF-8; a missing file is no failure and leaves `text` as
-// it was. A failure is reported by the load. False when it was.
-bool LoadCustomHtml(const OwnFolder& folder, const CustomHtmlKind& kind, std::string& text, UserInterface& ui);
+// The custom HTML of its file, whole, as UTF-8; `unsaved` where there is no file. A failure is reported by the load,
+// and then there is none.
+std::optional<std::string> LoadCustomHtml(const OwnFolder& folder, const CustomHtmlKind& kind,
+                                          const std::string& unsaved, UserInterface& ui);
 
 // Writes the text and one further CR LF, in the code page; the old file stays whole until the new one is. A failure is
 // reported by Procedure::kUnloadCustomHtml. False when it was.

@@ -6,13 +6,19 @@
 
 namespace folionet {
 
-void ReadEncodingList(const OwnFolder& folder, std::string_view name, std::vector<std::string>& entries) {
-  const OwnTextSource source = WorkAbout(Subject::kEncodingList, [&] { return FindOwnText(folder, name); });
-  RecordReader records(source.path, Subject::kEncodingList);
-  std::array<std::string_view, 2> fields;
-  while (records.Next(fields)) {
-    entries.push_back(source.codePage.Decode(std::string(fields[0]).append(" ").append(fields[1])));
+EncodingList ReadEncodingList(const OwnFolder& folder, std::string_view name) {
+  EncodingList list;
+  try {
+    const OwnTextSource source = WorkAbout(Subject::kEncodingList, [&] { return FindOwnText(folder, name); });
+    RecordReader records(source.path, Subject::kEncodingList);
+    std::array<std::string_view, 2> fields;
+    while (records.Next(fields)) {
+      list.entries.push_back(source.codePage.Decode(std::string(fields[0]).append(" ").append(fields[1])));
+    }
+  } catch (const RunTimeError& error) {
+    list.failure = error;
   }
+  return list;
 }
 
 void AppendEncodingRecord(const OwnFolder& folder, std::string_view name, const EncodingRecord& record) {

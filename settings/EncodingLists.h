@@ -1,10 +1,12 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "OwnText.h"
+#include "RunTimeError.h"
 
 namespace folionet {
 
@@ -17,9 +19,12 @@ namespace folionet {
 inline constexpr char kLanguageList[] = "lang.txt";
 inline constexpr char kCharsetList[] = "enc.txt";
 
-// Adds every record of the list to `entries`, in the file's order, as its two fields joined by a blank (UTF-8). Throws
-// RunTimeError for a missing file or a bad record; the entries before it are there.
-void ReadEncodingList(const OwnFolder& folder, std::string_view name, std::vector<std::string>& entries);
+struct EncodingList {
+  std::vector<std::string> entries;     // the two fields of each record, joined by a blank (UTF-8), in the file's order
+  std::optional<RunTimeError> failure;  // a missing file or a bad record; the entries before it are there
+};
+
+EncodingList ReadEncodingList(const OwnFolder& folder, std::string_view name);
 
 struct EncodingRecord {
   std::string code;

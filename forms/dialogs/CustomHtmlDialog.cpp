@@ -21,11 +21,12 @@ CustomHtmlDialog::CustomHtmlDialog(AppState& state, const CustomHtmlDialogKind& 
 CustomHtmlDialog::~CustomHtmlDialog() = default;
 
 void CustomHtmlDialog::Load() {
-  std::string text = m_ui->Text1->Text();
-  m_isUnread = !LoadCustomHtml(StoredOwnFolder(m_state.store, m_state.programFolder), m_kind.file, text, m_state.ui);
+  const std::optional<std::string> text = LoadCustomHtml(StoredOwnFolder(m_state.store, m_state.programFolder),
+                                                         m_kind.file, m_ui->Text1->Text(), m_state.ui);
+  m_isUnread = !text;
   if (m_isUnread) return;
-  m_ui->Text1->SetText(text);
-  m_state.texts.*m_kind.sharedText = text;
+  m_ui->Text1->SetText(*text);
+  m_state.texts.*m_kind.sharedText = *text;
   m_ui->Label1->setText(QLatin1String(m_kind.note));
 }
 

@@ -44,17 +44,9 @@ void frmEncoding::PopCombo() {
 }
 
 void frmEncoding::Fill(const char* fileName, const char* key, TextCombo& list, QLineEdit& box) {
-  std::vector<std::string> entries;
-  const auto show = [&] {
-    for (const std::string& entry : entries) list.addItem(ToQt(entry));
-  };
-  try {
-    ReadEncodingList(StoredOwnFolder(m_state.store, m_state.programFolder), fileName, entries);
-  } catch (const RunTimeError&) {
-    show();
-    throw;
-  }
-  show();
+  const EncodingList read = ReadEncodingList(StoredOwnFolder(m_state.store, m_state.programFolder), fileName);
+  for (const std::string& entry : read.entries) list.addItem(ToQt(entry));
+  if (read.failure) throw RunTimeError(*read.failure);
   const QString stored = ToQt(m_state.store.Text(key));
   list.SetText(stored);
   box.setText(stored);
@@ -64,15 +56,11 @@ void frmEncoding::Fill(const char* fileName, const char* key, TextCombo& list, Q
 void frmEncoding::ShowListsAnew() {
   for (const auto& [fileName, list] :
        {std::pair{kCharsetList, m_ui->cboCharset}, std::pair{kLanguageList, m_ui->cboLang}}) {
-    std::vector<std::string> entries;
-    try {
-      ReadEncodingList(StoredOwnFolder(m_state.store, m_state.programFolder), fileName, entries);
-    } catch (const RunTimeError&) {
-      continue;  // was told when the lists were filled; the old entries serve
-    }
+    const EncodingList read = ReadEncodingList(StoredOwnFolder(m_state.store, m_state.programFolder), fileName);
+    if (read.failure) continue;  // was told when the lists were filled; the old entries serve
     const QString chosen = list->Text();
     list->clear();
-    for (const std::string& entry : entries) list->addItem(ToQt(entry));
+    for (const std::string& entry : read.entries) list->addItem(ToQt(entry));
     list->SetText(chosen);
   }
 }

@@ -15,8 +15,8 @@ TEST(DeliveredListsTest, ReadWholeAndHoldTheDefaults) {
   for (const auto& [name, entry] :
        {std::pair{kLanguageList, "en-us English USA"}, {kCharsetList, "windows-1252 (ANSI Latin 1)"}}) {
     const std::string path = std::string(DELIVERED_FOLDER) + "/" + name;
-    std::vector<std::string> entries;
-    ReadEncodingList({std::string(DELIVERED_FOLDER) + "/"}, name, entries);
+    const auto [entries, failure] = ReadEncodingList({std::string(DELIVERED_FOLDER) + "/"}, name);
+    EXPECT_FALSE(failure) << failure->what();
     std::ifstream file(path);
     std::size_t lines = 0;
     for (std::string line; std::getline(file, line);) lines += line.size() > 1 ? 1 : 0;

@@ -26,8 +26,7 @@ constexpr std::size_t kLongest = std::size_t{16} << 20;
 
 // One number for each folder, whatever way leads to it (FNV-1a of its real path).
 std::string JournalPath(const std::string& stateFolder, const std::string& outputFolder) {
-  const std::unique_ptr<char, decltype(&std::free)> real(realpath(NativePath(outputFolder).c_str(), nullptr),
-                                                         &std::free);
+  const std::unique_ptr<char, decltype(&std::free)> real(realpath(outputFolder.c_str(), nullptr), &std::free);
   if (stateFolder.empty() || real == nullptr) return {};
   std::uint64_t number = 0xCBF29CE484222325U;
   for (const char c : std::string_view(real.get())) {

@@ -14,12 +14,16 @@ namespace folionet {
 struct CompileRequest {
   PageOptions options;
   PageTexts texts;
-  std::string txtOutputPath = "txtOutputPath";  // the chosen folder; this initial text stands for none
-  std::string txtFilename;                      // the verse file
-  std::string cboLang;                          // the file name of the book titles; "Default" stands for none
-  int cboBibleName = -1;                        // the chosen translation's place in BibleNames; -1 for none
-  bool isTranslationNamed = true;               // by the person, or else it is the first of all
-  int cboStartBook = 0;                         // places in the book lists
+
+  // The chosen folder, as NativePath gives it and with a separator at its end: it stands so from here on. This initial
+  // text stands for none.
+  std::string txtOutputPath = "txtOutputPath";
+
+  std::string txtFilename;         // the verse file
+  std::string cboLang;             // the file name of the book titles; "Default" stands for none
+  int cboBibleName = -1;           // the chosen translation's place in BibleNames; -1 for none
+  bool isTranslationNamed = true;  // by the person, or else it is the first of all
+  int cboStartBook = 0;            // places in the book lists
   int cboEndBook = 65;
   std::string programFolder;       // where default.css is; ends in the folder separator
   bool makeOutputFolder = false;   // whether a missing output folder is made

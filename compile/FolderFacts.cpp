@@ -11,7 +11,6 @@
 #include "FileHandle.h"
 #include "GeneratorLine.h"
 #include "PageNames.h"
-#include "Paths.h"
 #include "WholeFile.h"
 
 namespace folionet {
@@ -78,7 +77,7 @@ std::optional<FolderFacts> LookIntoFolder(const std::string& folder, const std::
                                           const std::function<bool()>& isWanted) {
   constexpr std::size_t kAskedPages = 100;  // one in its first form among them is enough
   FolderFacts facts;
-  const std::unique_ptr<DIR, CloseFolder> handle(opendir(NativePath(folder).c_str()));
+  const std::unique_ptr<DIR, CloseFolder> handle(opendir(folder.c_str()));
   if (handle == nullptr) return facts;
   facts.isThere = true;
   std::set<std::string> ofIndexPages;
@@ -120,8 +119,7 @@ std::set<std::string> FilesOfSite(const CompileRequest& request, const ModGlob& 
 }
 
 std::string TranslationOfSite(const CompileRequest& request, const PageNames& names) {
-  const FileHandle folder =
-      FileHandle::Open(NativePath(request.txtOutputPath).c_str(), O_RDONLY | O_DIRECTORY | O_NONBLOCK);
+  const FileHandle folder = FileHandle::Open(request.txtOutputPath.c_str(), O_RDONLY | O_DIRECTORY | O_NONBLOCK);
   if (!folder.IsOpen()) return {};
   for (const std::string& name :
        {IndexFileName(request.options.txthttpRoot), names.OnDisk(request.cboStartBook + 1, 1)}) {

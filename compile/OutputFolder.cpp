@@ -29,7 +29,7 @@ void Remove(const CompileRequest& request, RunFolder& folder, const std::string&
 
 void MakeOutputFolder(const CompileRequest& request) {
   if (!request.makeOutputFolder || !IsFolderChosen(request) || request.dryRun) return;
-  const std::string folder = NativePath(request.txtOutputPath);
+  const std::string& folder = request.txtOutputPath;
   if (FolderExists(folder)) return;
   std::error_code error;
   std::filesystem::create_directories(folder, error);

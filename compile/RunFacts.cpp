@@ -60,31 +60,37 @@ class FactFinder {
         m_index(IndexFileName(request.options.txthttpRoot)) {}
 
   // What is only good to know of the books becomes a warning where pages of theirs are there now.
-  void WarnOfRemoval(std::vector<Finding>& facts) const {
-    if (m_request.txtOutputPath.empty()) return;
+  std::vector<Finding> WarnOfRemoval(std::vector<Finding> facts) const {
+    if (m_request.txtOutputPath.empty()) return facts;
     for (Finding& fact : facts) {
       if (std::string_view(fact.kind) == kRemovesPages && ArePagesThere()) fact.severity = Severity::kWarning;
     }
+    return facts;
   }
 
-  void FindOtherTranslation(std::vector<Finding>& facts) const {
+  // What is there of others in the output folder, and what the names of the pages lead to.
+  std::vector<Finding> Find() {
+    FindOtherTranslation();
+    FindSharedIndex();
+    FindMeetingBooks();
+    FindLostBooks();
+    FindOldPages();
+    return std::move(m_facts);
+  }
+
+ private:
+  void FindOtherTranslation() {
     const CodePage codePage(m_request.texts.PageCharset);
     const std::string there = TranslationOfSite(m_request, m_names);
     if (there.empty() || there == codePage.DecodeForDisplay(m_request.options.txtBibleSel)) return;
-    facts.push_back(Warning(
+    m_facts.push_back(Warning(
         "other-translation", {Words("QObject", "The folder holds pages of another translation: %1."), {there}},
         {"Pages of the same names are written over; choose another folder with --output if that is not meant."}));
   }
 
-  void FindNames(std::vector<Finding>& facts) const {
-    FindSharedIndex(facts);
-    FindMeetingBooks(facts);
-    FindLostBooks(facts);
-  }
-
   // Pages of ours in the output folder that this run neither writes nor deletes.
-  void FindOldPages(std::vector<Finding>& facts) const {
-    const std::string folder = NativePath(m_request.txtOutputPath);
+  void FindOldPages() {
+    const std::string& folder = m_request.txtOutputPath;
     if (folder.empty() || !FolderExists(folder)) return;
     const std::unordered_set<std::string> known = NamesOfRun();
     std::set<std::string> old;
@@ -92,7 +98,7 @@ class FactFinder {
       if (IsHtmlName(name) && !known.contains(name) && IsPageOfOurs(folder + name)) old.insert(std::move(name));
     }
     if (old.empty()) return;
-    facts.push_back(
+    m_facts.push_back(
         Warning("old-pages",
                 {Words("QObject",
                        "%1 pages of earlier compiles, such as %2, lie in the folder. This one does not write "
@@ -101,7 +107,6 @@ class FactFinder {
                 {"\"folionet-cli verify FOLDER\" names them: delete them where nobody needs them."}));
   }
 
- private:
   int Books() const { return static_cast<int>(m_glob.cboStartBook.size()); }
   int ChaptersOf(int book) const { return m_chapters[static_cast<std::size_t>(book)]; }
 
@@ -119,7 +124,7 @@ class FactFinder {
   }
 
   bool ArePagesThere() const {
-    const std::string folder = NativePath(m_request.txtOutputPath);
+    const std::string& folder = m_request.txtOutputPath;
     for (int book = 1; book <= m_request.cboStartBook; ++book) {
       for (int chapter = 1; chapter <= ChaptersOf(book); ++chapter) {
         const std::string name = m_names.OnDisk(book, chapter);
@@ -130,20 +135,20 @@ class FactFinder {
   }
 
   // The pages of the books before the starting one are deleted in any case, and those that stay are not.
-  void FindSharedIndex(std::vector<Finding>& facts) const {
+  void FindSharedIndex() {
     for (int book = m_request.cboStartBook + 1; book <= Books(); ++book) {
       if (!m_index.starts_with(m_names.BookOnDisk(book))) continue;
       for (int chapter = 1; chapter <= ChaptersOf(book); ++chapter) {
         if (m_names.OnDisk(book, chapter) != m_index) continue;
-        facts.push_back(Warning("index-takes-page",
-                                {Words("QObject", "The index page %1 takes the place of a chapter's page."), {m_index}},
-                                {"Give it a name of its own with --index-address."}));
+        m_facts.push_back(Warning(
+            "index-takes-page", {Words("QObject", "The index page %1 takes the place of a chapter's page."), {m_index}},
+            {"Give it a name of its own with --index-address."}));
         return;
       }
     }
   }
 
-  void FindMeetingBooks(std::vector<Finding>& facts) const {
+  void FindMeetingBooks() {
     std::map<std::string, std::vector<int>> booksOfName;
     for (int book = m_request.cboStartBook + 1; book <= Books(); ++book) {
       if (ChaptersOf(book) > 0) booksOfName[m_names.OnDisk(book, 1)].push_back(book);
@@ -152,7 +157,7 @@ class FactFinder {
       if (books.size() < 2) continue;
       std::string numbers;
       for (const int book : books) numbers += (numbers.empty() ? "" : ", ") + std::to_string(book);
-      facts.push_back(
+      m_facts.push_back(
           Warning("pages-meet",
                   {Words("QObject",
                          "The books %2 have the same page names, such as %1: only the pages of the last one are kept."),
@@ -161,7 +166,7 @@ class FactFinder {
     }
   }
 
-  void FindLostBooks(std::vector<Finding>& facts) const {
+  void FindLostBooks() {
     std::string first;
     std::string numbers;
     for (int book = m_request.cboStartBook + 1; book <= Books(); ++book) {
@@ -170,7 +175,7 @@ class FactFinder {
       numbers += (numbers.empty() ? "" : ", ") + std::to_string(book);
     }
     if (first.empty()) return;
-    facts.push_back(
+    m_facts.push_back(
         Warning("pages-not-found",
                 {Words("QObject",
                        "No browser finds the pages of the books %2, such as %1: \"?\", \"#\" and \":\" have another "
@@ -184,6 +189,7 @@ class FactFinder {
   PageNames m_names;
   ChapterCounts m_chapters;
   std::string m_index;
+  std::vector<Finding> m_facts;
 };
 
 void Append(std::vector<Finding>& facts, std::vector<Finding> more) {
@@ -237,12 +243,9 @@ std::vector<Finding> FindRunFacts(const CompileRequest& request, const ModGlob& 
                                std::to_string(translations)}},
                      .remedy = {"Name one with --translation NAME."}});
   }
-  Append(facts, FindRangeFacts(request, glob));
-  const FactFinder finder(request, glob);
-  finder.WarnOfRemoval(facts);
-  finder.FindOtherTranslation(facts);
-  finder.FindNames(facts);
-  finder.FindOldPages(facts);
+  FactFinder finder(request, glob);
+  Append(facts, finder.WarnOfRemoval(FindRangeFacts(request, glob)));
+  Append(facts, finder.Find());
   Append(facts, FindCharsetFacts(request, glob));
   Append(facts, FindInTypedTexts({request.options, request.texts, request.programFolder}));
   return facts;

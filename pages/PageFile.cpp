@@ -4,7 +4,6 @@
 #include <utility>
 
 #include "PageNames.h"
-#include "Paths.h"
 #include "RunTimeError.h"
 
 namespace folionet {
@@ -22,7 +21,7 @@ void PageFile::Open(const std::string& folder, const std::string& name) {
 
 void PageFile::Grow(std::size_t size) {
   if (size > kLongest) {
-    throw RunTimeError(kOutOfMemory, NativePath(m_folder) + m_name,
+    throw RunTimeError(kOutOfMemory, m_folder + m_name,
                        "The page is longer than " + std::to_string(kLongest) + " bytes.")
         .About(Subject::kPage);
   }

@@ -48,7 +48,7 @@ void SiteFolder::Check(int systemError, const std::string& name) const {
 }
 
 void SiteFolder::Open(const std::string& path) {
-  m_path = NativePath(path);
+  m_path = path;
   m_folder = FileHandle::Open(m_path.c_str(), O_RDONLY | O_DIRECTORY);
   if (!m_folder.IsOpen() && !(m_dryRun && errno == ENOENT)) {
     throw RunTimeError::FromErrno(errno, m_path).About(Subject::kOutputFolder);

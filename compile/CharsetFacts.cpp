@@ -9,20 +9,35 @@
 namespace folionet {
 namespace {
 
-Finding Mismatch(bool isOfTitles, const CharsetMismatch& mismatch, const CodePage& codePage) {
-  Finding fact{.kind = isOfTitles ? "titles-charset" : "text-charset", .severity = Severity::kWarning};
+// The words of a text whose charset is not that of the pages.
+struct MismatchWords {
+  const char* kind;
+  const char* isUtf8;
+  const char* isNot;
+  const char* remedy;
+};
+
+constexpr MismatchWords kOfText{
+    .kind = "text-charset",
+    .isUtf8 = Words("QObject", "The text of the translation is UTF-8, the pages %1."),
+    .isNot = Words("QObject", "The text of the translation is not UTF-8, the pages are."),
+    .remedy = "Give the charset that it is in: --set \"%1\".",
+};
+constexpr MismatchWords kOfTitles{
+    .kind = "titles-charset",
+    .isUtf8 = Words("QObject", "The book titles are UTF-8, the pages %1."),
+    .isNot = Words("QObject", "The book titles are not UTF-8, the pages are."),
+    .remedy = "Give the charset that they are in: --set \"%1\".",
+};
+
+Finding Mismatch(const MismatchWords& words, const CharsetMismatch& mismatch, const CodePage& codePage) {
+  Finding fact{.kind = words.kind, .severity = Severity::kWarning};
   if (mismatch.kind == TextKind::kUtf8) {
-    fact.what = {isOfTitles ? Words("QObject", "The book titles are UTF-8, the pages %1.")
-                            : Words("QObject", "The text of the translation is UTF-8, the pages %1."),
-                 {codePage.Name()}};
+    fact.what = {words.isUtf8, {codePage.Name()}};
   } else {
-    fact.what = {isOfTitles ? Words("QObject", "The book titles are not UTF-8, the pages are.")
-                            : Words("QObject", "The text of the translation is not UTF-8, the pages are."),
-                 {}};
+    fact.what = {words.isNot, {}};
   }
-  fact.remedy = CharsetRemedy(
-      isOfTitles ? "Give the charset that they are in: --set \"%1\"." : "Give the charset that it is in: --set \"%1\".",
-      mismatch.charsetEntry);
+  fact.remedy = CharsetRemedy(words.remedy, mismatch.charsetEntry);
   return fact;
 }
 
@@ -59,8 +74,10 @@ std::vector<Finding> FindCharsetFacts(const CompileRequest& request, const ModGl
     facts.push_back(Difference(ofVerses.kind == TextKind::kUtf8));
     return facts;
   }
-  if (const auto wrong = FindMismatch(ofVerses, codePage, language)) facts.push_back(Mismatch(false, *wrong, codePage));
-  if (const auto wrong = FindMismatch(ofTitles, codePage, language)) facts.push_back(Mismatch(true, *wrong, codePage));
+  if (const auto wrong = FindMismatch(ofVerses, codePage, language))
+    facts.push_back(Mismatch(kOfText, *wrong, codePage));
+  if (const auto wrong = FindMismatch(ofTitles, codePage, language))
+    facts.push_back(Mismatch(kOfTitles, *wrong, codePage));
   return facts;
 }
 

@@ -61,12 +61,13 @@ class OpenFile : public ByteSource {
 
 using Take = std::function<void(const InputFile&)>;
 
-void TakeFile(const std::string& name, FileHandle file, bool isGiven, const Take& take) {
+// One that is named itself may be an archive.
+void TakeGiven(const std::string& name, FileHandle file, const Take& take) {
   OpenFile open(name, std::move(file));
-  if (isGiven && IsArchive(open.Head())) {
+  if (IsArchive(open.Head())) {
     ForEachEntry(name, open, take);
   } else {
-    take({name, isGiven, &open});
+    take({.name = name, .isGiven = true, .bytes = &open});
   }
 }
 
@@ -91,7 +92,10 @@ void TakeFolder(const std::string& folder, const Take& take) {
   }
   if (error) throw RunTimeError::FromErrno(error.value(), folder);
   std::sort(files.begin(), files.end());
-  for (const std::string& file : files) TakeFile(file, OpenRegular(file), false, take);
+  for (const std::string& file : files) {
+    OpenFile open(file, OpenRegular(file));
+    take({.name = file, .isGiven = false, .bytes = &open});
+  }
 }
 
 }  // namespace
@@ -100,11 +104,11 @@ void ForEachInput(const std::vector<std::string>& paths, const Take& take) {
   for (const std::string& path : paths) {
     std::error_code ignored;
     if (path == "-") {
-      TakeFile("standard input", FileHandle(fcntl(STDIN_FILENO, F_DUPFD_CLOEXEC, 0)), true, take);
+      TakeGiven("standard input", FileHandle(fcntl(STDIN_FILENO, F_DUPFD_CLOEXEC, 0)), take);
     } else if (fs::is_directory(path, ignored)) {
       TakeFolder(path, take);
     } else {
-      TakeFile(path, OpenRegular(path), true, take);
+      TakeGiven(path, OpenRegular(path), take);
     }
   }
 }

@@ -21,11 +21,11 @@ bool IsOfName(char c) {
 
 void UsfmForm::Read(std::string_view piece) {
   m_rest += piece;
-  ReadRest(false);
+  ReadRest(Piece::kMoreFollows);
 }
 
 void UsfmForm::Finish() {
-  ReadRest(true);
+  ReadRest(Piece::kLast);
   EndArgument();
   if (!m_note.empty()) BeginLine(MarkerKind::kParagraph, "p");
 }
@@ -35,7 +35,8 @@ void UsfmForm::CountLines(std::string_view text) {
   m_builder.SetLine(m_line);
 }
 
-void UsfmForm::ReadRest(bool isLast) {
+void UsfmForm::ReadRest(Piece piece) {
+  const bool isLast = piece == Piece::kLast;
   std::string_view rest = m_rest;
   while (!rest.empty()) {
     const std::size_t slash = std::min(rest.find('\\'), rest.size());

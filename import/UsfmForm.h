@@ -33,8 +33,10 @@ class UsfmForm : public TextForm {
     bool isLeftOut = false;
   };
 
-  // Reads what is complete of m_rest; `isLast` when nothing follows.
-  void ReadRest(bool isLast);
+  enum class Piece { kMoreFollows, kLast };
+
+  // Reads what is complete of m_rest; of the last piece, all.
+  void ReadRest(Piece piece);
   void TakeText(std::string_view text);
   void TakeVerseText(std::string_view text);
   void TakeArgument(std::string_view text);

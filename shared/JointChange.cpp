@@ -41,10 +41,9 @@ std::optional<std::string> TakeText(std::string_view& rest) {
   return text;
 }
 
-void Complete(const std::string& path, bool isNew, const std::string& oldBytes, const std::string& newBytes) {
-  const std::optional<std::string> now = ReadIfThere(path);
-  const bool isOld = isNew ? !now : now == oldBytes;
-  if (isOld) ReplaceWholeFile(path, newBytes);
+// Gives the file its new content where it has its old one still; none stands for no file.
+void Complete(const std::string& path, const std::optional<std::string>& oldBytes, const std::string& newBytes) {
+  if (ReadIfThere(path) == oldBytes) ReplaceWholeFile(path, newBytes);
 }
 
 // Applies a note; false when it is no note.
@@ -58,7 +57,8 @@ bool Apply(std::string_view rest) {
       if (!taken) return false;
       text = std::move(*taken);
     }
-    Complete(texts[0], texts[1] == "new", texts[2], texts[3]);
+    const auto oldBytes = texts[1] == "new" ? std::optional<std::string>() : std::move(texts[2]);
+    Complete(texts[0], oldBytes, texts[3]);
   }
   return true;
 }

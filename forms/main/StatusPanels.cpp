@@ -59,7 +59,8 @@ void StatusPanels::BeginRun(int steps) {
   m_sinceShown.start();
 }
 
-void StatusPanels::EndRun(bool isComplete) {
+void StatusPanels::EndRun(CompileOutcome outcome) {
+  const bool isComplete = outcome == CompileOutcome::kDone;
   if (m_steps > 0) ShowProgress();
   m_late.stop();
   if (isComplete) m_progress.setValue(m_progress.maximum());

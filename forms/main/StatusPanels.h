@@ -7,6 +7,8 @@
 #include <array>
 #include <string_view>
 
+#include "Compile.h"
+
 class QLabel;
 class QProgressBar;
 class QStatusBar;
@@ -27,7 +29,7 @@ class StatusPanels : public QObject {
 
   // The progress bar shows with the first text that a run sets: one that is refused sets none.
   void BeginRun(int steps);
-  void EndRun(bool isComplete);
+  void EndRun(CompileOutcome outcome);
   bool IsRunning() const { return m_isRunning; }
 
  private:

@@ -177,7 +177,7 @@ void frmMain::Compile() {
     const RunGuard guard(*this);
     m_panels->BeginRun(static_cast<int>(m_state.glob.ChapterIndex.size()) - 1);
     outcome = cmdCompile_Click(request, m_state.glob, m_state.ui);
-    m_panels->EndRun(outcome == CompileOutcome::kDone);
+    m_panels->EndRun(outcome);
   }
   if (outcome == CompileOutcome::kEndProgram || outcome == CompileOutcome::kStopped) End();
   if (outcome != CompileOutcome::kDone) return;
@@ -336,7 +336,7 @@ void frmMain::closeEvent(QCloseEvent* event) {
     return;
   }
   if (!m_hasEnded) {
-    m_state.lastSaveFailure.clear();
+    m_state.lastSaveFailure.reset();
     if (!SaveDefaults() && !LeavesUnsaved()) {
       event->ignore();
       return;

@@ -161,7 +161,7 @@ TEST(StatusPanelsTest, TellTheStepAtHandAndMoveTheBar) {
     EXPECT_EQ(FromQt(label->text()), "step " + std::to_string(step));
   }
   EXPECT_LE(moves, time.elapsed() / 30) << "a timer may be early";
-  panels.EndRun(false);
+  panels.EndRun(CompileOutcome::kFailed);
   EXPECT_TRUE(progress.isHidden());
 }
 

@@ -22,7 +22,7 @@ class TextForm {
  public:
   virtual ~TextForm() = default;
 
-  // Takes the next piece of the file's text, in UTF-8, cut anywhere. Throws RunTimeError, which
+  // Takes the next piece of the file's text, in UTF-8, cut between any two characters. Throws RunTimeError, which
   // names file and line, and TextFault.
   virtual void Read(std::string_view piece) = 0;
   virtual void Finish() = 0;

@@ -17,6 +17,12 @@ bool IsOfName(char c) {
   return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '-' || c == '_';
 }
 
+// How long the first half of a "//" is at the end of a text: 1 behind an even number of "/".
+std::size_t HalfBreak(std::string_view text) {
+  const std::size_t last = text.find_last_not_of('/');
+  return (text.size() - (last == std::string_view::npos ? 0 : last + 1)) % 2;
+}
+
 }  // namespace
 
 void UsfmForm::Read(std::string_view piece) {
@@ -41,8 +47,7 @@ void UsfmForm::ReadRest(Piece piece) {
   while (!rest.empty()) {
     const std::size_t slash = std::min(rest.find('\\'), rest.size());
     if (slash > 0) {
-      // A "/" at the end may be the first half of "//".
-      const std::size_t length = slash == rest.size() && !isLast && rest.back() == '/' ? slash - 1 : slash;
+      const std::size_t length = slash == rest.size() && !isLast ? slash - HalfBreak(rest) : slash;
       TakeText(rest.substr(0, length));
       rest.remove_prefix(length);
       if (length < slash) break;

@@ -219,7 +219,7 @@ void BibleBuilder::NameOddities() {
                           {}});
   };
   const auto number = LeadingInteger(m_field).value_or(0);
-  if (!m_seen.insert(std::to_string(m_book * 256 + m_chapter) + ":" + m_field).second) {
+  if (!m_seen.insert(std::string{static_cast<char>(m_book), static_cast<char>(m_chapter)} + m_field).second) {
     name("doubled-verse", Words("Import", "%1 comes twice; both are kept."));
   } else if (number < m_lastNumber) {
     name("verse-order", Words("Import", "%1 is out of order."));

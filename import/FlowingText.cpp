@@ -17,6 +17,17 @@ constexpr std::array<bool, 256> MakeSpecial() {
 }
 constexpr std::array<bool, 256> kSpecial = MakeSpecial();
 
+bool IsSpecial(char c) { return kSpecial[static_cast<unsigned char>(c)]; }
+
+// Where the next byte is that is not simply passed on: a single blank between others is.
+std::size_t FindSpecial(std::string_view text, std::size_t at) {
+  for (; at < text.size(); ++at) {
+    if (!IsSpecial(text[at])) continue;
+    if (text[at] != ' ' || at + 1 == text.size() || IsSpecial(text[at + 1])) break;
+  }
+  return at;
+}
+
 std::string_view Reference(char c) { return c == '&' ? "&amp;" : c == '<' ? "&lt;" : "&gt;"; }
 
 }  // namespace
@@ -24,8 +35,7 @@ std::string_view Reference(char c) { return c == '&' ? "&amp;" : c == '<' ? "&lt
 bool FlowingText::Add(std::string_view piece) {
   std::size_t at = 0;
   while (at < piece.size()) {
-    std::size_t end = at;
-    while (end < piece.size() && !kSpecial[static_cast<unsigned char>(piece[end])]) ++end;
+    std::size_t end = IsSpecial(piece[at]) ? at : FindSpecial(piece, at);
     const char c = end < piece.size() ? piece[end] : ' ';
     const bool isReference = c == '&' || c == '<' || c == '>';
     const bool isOther = static_cast<unsigned char>(c) == kBomStart && piece.substr(end, kBom.size()) != kBom;

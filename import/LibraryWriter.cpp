@@ -129,17 +129,20 @@ void MakeTexts(const ImportedBible& bible, LibraryPlan& plan, std::string& verse
   verses.reserve(bible.AllText().size() + bible.VerseCount() * std::size_t{20});
   plan.verses = bible.VerseCount();
   int lastBook = 0;
+  std::string lines;  // of a chapter, in UTF-8
   for (std::size_t i = 0; i < plan.verses;) {
     const auto [book, chapter, firstField, firstText] = bible.VerseAt(i);
     const std::size_t offset = verses.size();
     const std::size_t first = i;
+    lines.clear();
     const std::string place = "\t" + std::to_string(book) + "\t" + std::to_string(chapter) + "\t";
     for (; i < plan.verses; ++i) {
       const ImportedBible::Verse verse = bible.VerseAt(i);
       if (verse.book != book || verse.chapter != chapter) break;
-      verses.append(std::to_string(i + 1)).append(place).append(Bytes(plan, verse.field)).append("\t");
-      verses.append(Bytes(plan, verse.text)).append("\r\n");
+      lines.append(std::to_string(i + 1)).append(place).append(verse.field).append("\t");
+      lines.append(verse.text).append("\r\n");
     }
+    verses += Bytes(plan, lines);
     if (book != lastBook) ++plan.books;
     lastBook = book;
     index.append(std::to_string(++plan.chapters)).append(",").append(std::to_string(offset)).append(",");

@@ -17,8 +17,10 @@ struct OsisReference {
   std::string verse;
 };
 
+bool IsBetween(char c) { return c == ' ' || c == '-'; }
+
 OsisReference ParseReference(std::string_view id) {
-  id = id.substr(0, id.find_first_of(" -"));
+  id = id.substr(0, static_cast<std::size_t>(std::find_if(id.begin(), id.end(), IsBetween) - id.begin()));
   if (const std::size_t work = id.find(':'); work != std::string_view::npos) id.remove_prefix(work + 1);
   OsisReference reference;
   const std::size_t first = id.find('.');
@@ -35,11 +37,10 @@ OsisReference ParseReference(std::string_view id) {
 }
 
 // The verse number of one that holds several: "Gen.1.1 Gen.1.2" gives "1-2".
-std::string FieldOf(std::string_view id) {
-  const OsisReference first = ParseReference(id);
-  const std::size_t last = id.find_last_of(" -");
-  if (last == std::string_view::npos) return first.verse;
-  const OsisReference end = ParseReference(id.substr(last + 1));
+std::string FieldOf(const OsisReference& first, std::string_view id) {
+  const auto last = std::find_if(id.rbegin(), id.rend(), IsBetween);
+  if (last == id.rend()) return first.verse;
+  const OsisReference end = ParseReference(id.substr(static_cast<std::size_t>(id.rend() - last)));
   const bool isSameChapter = end.book == first.book && end.chapter == first.chapter;
   return isSameChapter && end.verse != first.verse ? first.verse + "-" + end.verse : first.verse;
 }
@@ -110,7 +111,7 @@ XmlForm::Part OsisForm::BeginVerse(const XmlElement& element) {
   const OsisReference place = ParseReference(id);
   if (place.verse.empty()) Builder().Fail("the osisID of a verse, such as \"Gen.1.1\", was expected: " + Quoted(id));
   GoTo(place.book, place.chapter);
-  Builder().BeginVerse(FieldOf(id));
+  Builder().BeginVerse(FieldOf(place, id));
   return start.empty() ? Part::kVerse : Part::kPass;
 }
 

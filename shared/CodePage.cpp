@@ -6,6 +6,8 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
+#include <cstring>
 #include <utility>
 
 #include "CharsetLabels.h"
@@ -18,9 +20,19 @@ namespace {
 constexpr char kDefaultName[] = "windows-1252";
 constexpr UChar32 kUndecodable = -1;
 
-bool IsAscii(std::string_view text) {
-  return std::all_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+// How many characters of ASCII a text begins with; eight are looked at together.
+std::size_t AsciiLength(std::string_view text) {
+  constexpr std::uint64_t kHighBits = 0x8080808080808080;
+  std::size_t length = 0;
+  for (std::uint64_t eight = 0; length + sizeof eight <= text.size(); length += sizeof eight) {
+    std::memcpy(&eight, text.data() + length, sizeof eight);
+    if ((eight & kHighBits) != 0) break;
+  }
+  while (length < text.size() && static_cast<unsigned char>(text[length]) < 0x80) ++length;
+  return length;
 }
+
+bool IsAscii(std::string_view text) { return AsciiLength(text) == text.size(); }
 
 void AppendUtf8(std::string& text, UChar32 character) { folionet::AppendUtf8(text, static_cast<char32_t>(character)); }
 
@@ -279,10 +291,9 @@ std::string CodePage::Encode(std::string_view utf8) const {
 }
 
 bool CodePage::Holds(std::string_view utf8) const {
-  const auto isAscii = [](char c) { return static_cast<unsigned char>(c) < 0x80; };
   std::string bytes;
   while (!m_converter->IsUtf8()) {
-    utf8.remove_prefix(static_cast<std::size_t>(std::find_if_not(utf8.begin(), utf8.end(), isAscii) - utf8.begin()));
+    utf8.remove_prefix(AsciiLength(utf8));
     if (utf8.empty()) break;
     int32_t length = 0;
     const UChar32 character = FirstUtf8(utf8.substr(0, U8_MAX_LENGTH), length);
@@ -356,9 +367,13 @@ std::string CodePage::ToUpper(std::string_view bytes) const {
 }
 
 bool IsUtf8(std::string_view text) {
-  bool wellFormed = true;
-  ForEachUtf8(text, [&](const Piece& piece) { wellFormed = wellFormed && piece.character != kUndecodable; });
-  return wellFormed;
+  for (;;) {
+    text.remove_prefix(AsciiLength(text));
+    if (text.empty()) return true;
+    int32_t length = 0;
+    if (FirstUtf8(text.substr(0, U8_MAX_LENGTH), length) < 0) return false;
+    text.remove_prefix(static_cast<std::size_t>(length));
+  }
 }
 
 std::string FoldCase(std::string_view text) {

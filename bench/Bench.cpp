@@ -2,12 +2,14 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <CLI/CLI.hpp>
 #include <cstdio>
 #include <cstring>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <stdexcept>
+#include <string>
+#include <vector>
 
 #include "Measure.h"
 
@@ -201,17 +203,12 @@ class Bench {
 }  // namespace
 }  // namespace folionet::bench
 
+// The program folionet-cli, a folder in a memory file system that holds library/, and the runs of each measurement.
 int main(int argc, char** argv) {
-  CLI::App app("Measures Folionet against the bare writing of the same files.", "folionet-bench");
-  std::string cli;
-  std::string work;
-  int runs = 21;
-  app.add_option("--cli", cli, "The program folionet-cli")->required();
-  app.add_option("--work", work, "A folder in a memory file system that holds library/")->required();
-  app.add_option("--runs", runs, "Runs of each measurement")->check(CLI::Range(1, 1000));
-  CLI11_PARSE(app, argc, argv);
   try {
-    folionet::bench::Bench(cli, work, runs).All();
+    const std::vector<std::string> given(argv + 1, argv + argc);
+    if (given.size() != 3) throw std::runtime_error("folionet-bench CLI WORK RUNS");
+    folionet::bench::Bench(given[0], given[1], folionet::bench::ReadRuns(given[2])).All();
   } catch (const std::exception& error) {
     std::fprintf(stderr, "folionet-bench: %s\n", error.what());
     return 3;

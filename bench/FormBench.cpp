@@ -1,7 +1,6 @@
 // Measures the form: from the start of its process to the end of one that ends when the first frame is painted, and
 // Compile pressed in it against the same run of the engine without a window.
 
-#include <CLI/CLI.hpp>
 #include <QApplication>
 #include <QComboBox>
 #include <QLineEdit>
@@ -9,6 +8,9 @@
 #include <QTimer>
 #include <cstdio>
 #include <filesystem>
+#include <stdexcept>
+#include <string>
+#include <vector>
 
 #include "AppState.h"
 #include "Compile.h"
@@ -25,8 +27,7 @@ namespace {
 struct Arguments {
   std::string library;
   std::string work;
-  int runs = 21;
-  bool open = false;
+  int runs = 0;
 };
 
 // Chooses the folder for the site and wants nothing read.
@@ -137,10 +138,9 @@ class Form {
 };
 
 void Measure(const std::string& self, const Arguments& arguments) {
-  const auto opening = Interleave(
-      arguments.runs, {[&] {
-        return RunProcess({self, "--open", "--library", arguments.library, "--work", arguments.work}).milliseconds;
-      }});
+  const auto opening = Interleave(arguments.runs, {[&] {
+                                    return RunProcess({self, arguments.library, arguments.work}).milliseconds;
+                                  }});
   std::printf("%-58s %8.2f ms\n", "form, start to first painted frame", opening[0]);
   Form form(arguments);
   form.Prepare();
@@ -153,18 +153,18 @@ void Measure(const std::string& self, const Arguments& arguments) {
 }  // namespace
 }  // namespace folionet::bench
 
+// A folder that holds Sysdefs, Index and Modules, a folder in a memory file system, and the runs of each measurement;
+// without them the form is only opened, painted and ended.
 int main(int argc, char** argv) {
-  folionet::bench::Arguments arguments;
-  CLI::App cli("Measures the form.", "folionet-form-bench");
-  cli.add_option("--library", arguments.library, "A folder that holds Sysdefs, Index and Modules")->required();
-  cli.add_option("--work", arguments.work, "A folder in a memory file system")->required();
-  cli.add_option("--runs", arguments.runs, "Runs of each measurement")->check(CLI::Range(1, 1000));
-  cli.add_flag("--open", arguments.open, "Only open the form, paint it and end");
-  CLI11_PARSE(cli, argc, argv);
-  const QApplication app(argc, argv);
-  folionet::DressApplication();
   try {
-    if (arguments.open) return folionet::bench::Form(arguments).ShowOneFrame();
+    const std::vector<std::string> given(argv + 1, argv + argc);
+    if (given.size() != 2 && given.size() != 3) throw std::runtime_error("folionet-form-bench LIBRARY WORK [RUNS]");
+    const bool isMeasured = given.size() == 3;
+    const folionet::bench::Arguments arguments{given[0], given[1],
+                                               isMeasured ? folionet::bench::ReadRuns(given[2]) : 0};
+    const QApplication app(argc, argv);
+    folionet::DressApplication();
+    if (!isMeasured) return folionet::bench::Form(arguments).ShowOneFrame();
     folionet::bench::Measure(argv[0], arguments);
   } catch (const std::exception& error) {
     std::fprintf(stderr, "folionet-form-bench: %s\n", error.what());

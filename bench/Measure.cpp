@@ -6,6 +6,7 @@
 #include <sys/wait.h>
 
 #include <algorithm>
+#include <charconv>
 #include <chrono>
 #include <cstring>
 #include <stdexcept>
@@ -44,6 +45,16 @@ ProcessRun RunProcess(const std::vector<std::string>& command, bool mayRefuse) {
   }
   run.peakKiB = usage.ru_maxrss;
   return run;
+}
+
+int ReadRuns(const std::string& argument) {
+  int runs = 0;
+  const char* end = argument.data() + argument.size();
+  const auto [stop, error] = std::from_chars(argument.data(), end, runs);
+  if (error != std::errc() || stop != end || runs < 1 || runs > 1000) {
+    throw std::runtime_error("a number of runs from 1 to 1000 was expected: " + argument);
+  }
+  return runs;
 }
 
 double Median(std::vector<double> values) {

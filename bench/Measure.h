@@ -16,6 +16,9 @@ struct ProcessRun {
 // `mayRefuse`, 1.
 ProcessRun RunProcess(const std::vector<std::string>& command, bool mayRefuse = false);
 
+// The runs that an argument asks for, from 1 to 1000; throws std::runtime_error for another.
+int ReadRuns(const std::string& argument);
+
 double Median(std::vector<double> values);
 
 // The medians of measurements that were made in turn, A B C A B C ..., so that a drift of the machine meets all alike.

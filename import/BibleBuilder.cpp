@@ -29,7 +29,7 @@ std::string CleanField(std::string_view field) {
 
 bool IsVerseField(std::string_view field) {
   const auto isOdd = [](char c) {
-    return static_cast<unsigned char>(c) <= ' ' || c == '<' || c == '>' || c == '&' || c == '"';
+    return static_cast<unsigned char>(c) <= ' ' || c == '\x7F' || c == '<' || c == '>' || c == '&' || c == '"';
   };
   return !field.empty() && field.size() <= kLongestField && IsDigit(field[0]) &&
          std::none_of(field.begin(), field.end(), isOdd);

@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "Measure.h"
+#include "ReadAlone.h"
 
 namespace folionet::bench {
 namespace {
@@ -53,10 +54,13 @@ class Bench {
         m_library(work + "/library"),
         m_site(work + "/site"),
         m_bare(work + "/bare"),
+        m_text(work + "/text.osis.xml"),
+        m_imported(work + "/imported"),
         m_runs(runs) {}
 
   // Peak memory is measured while this program itself is small: a child starts with its parent's peak.
   void All() {
+    Import();
     Growth();
     Fresh();
     Again();
@@ -130,6 +134,24 @@ class Bench {
     Print("compile with an option changed : bare rewriting in place", changed[0], changed[1]);
   }
 
+  // Of a whole Bible in OSIS.
+  void Import() {
+    const auto import = [&] {
+      fs::remove_all(m_imported);
+      const ProcessRun run = RunProcess({m_cli, "import", m_text, "--into", m_imported, "--quiet"});
+      m_peakKiB = std::max(m_peakKiB, run.peakKiB);
+      return run.milliseconds;
+    };
+    const auto read = [&] {
+      return Time([&] {
+        if (ReadXmlAlone(m_text) == 0) throw std::runtime_error("the text has no text");
+      });
+    };
+    const auto medians = Interleave(m_runs, {import, read});
+    Print("import of OSIS : reading it through libxml2 alone", medians[0], medians[1]);
+    std::printf("import: peak memory %.1f MiB\n", static_cast<double>(m_peakKiB) / 1024);
+  }
+
   // Each verse stands so many times in its chapter.
   void Growth() {
     const fs::path text = fs::path(m_library) / "Modules/Bible/KJV.TXT";
@@ -195,6 +217,8 @@ class Bench {
   std::string m_library;
   std::string m_site;
   std::string m_bare;
+  std::string m_text;
+  std::string m_imported;
   int m_runs;
   long m_peakKiB = 0;
   double m_freshLimit = 0;
@@ -203,7 +227,8 @@ class Bench {
 }  // namespace
 }  // namespace folionet::bench
 
-// The program folionet-cli, a folder in a memory file system that holds library/, and the runs of each measurement.
+// The program folionet-cli, a folder in a memory file system that holds library/ and text.osis.xml, and the runs of
+// each measurement.
 int main(int argc, char** argv) {
   try {
     const std::vector<std::string> given(argv + 1, argv + argc);

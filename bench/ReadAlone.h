@@ -1,0 +1,11 @@
+#pragma once
+
+#include <string>
+
+namespace folionet::bench {
+
+// Reads an XML file through libxml2, piece by piece, and does nothing with what it tells. Gives the number of bytes of
+// text; throws std::runtime_error for a file that is no XML.
+std::size_t ReadXmlAlone(const std::string& path);
+
+}  // namespace folionet::bench

@@ -7,6 +7,7 @@
 #include "PageEncoding.h"
 #include "RunTimeError.h"
 #include "SilentUi.h"
+#include "Text.h"
 
 namespace folionet::fuzz {
 namespace {
@@ -33,8 +34,9 @@ void LoadAll(const std::string& folder) {
   });
   PageOptions options;
   for (const Option& option : OptionTable()) {
-    // A text has its option's form when it reads, and only then.
-    const bool isGood = CheckOption(option.form, store.Text(option.key)) == 0;
+    // A text has its option's form when it reads, and only then; free ones are read as one line.
+    const std::string text = store.Text(option.key);
+    const bool isGood = CheckOption(option.form, IsFreeText(option.form) ? InOneLine(text) : text) == 0;
     Try([&] { LoadOption(store, option, options); });
     if (options.maySave.test(PlaceOf(option)) != isGood) std::abort();
     if (CheckOption(option.form, OptionText(option, options)) != 0) std::abort();

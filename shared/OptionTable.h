@@ -76,6 +76,9 @@ std::size_t PlaceOf(const Option& option);
 // What a text of this form looks like, for messages: "0 or 1".
 std::string_view Describe(OptionForm form);
 
+// Whether a person types it as he likes, not as a number or one of a few words.
+constexpr bool IsFreeText(OptionForm form) { return form == OptionForm::kText || form == OptionForm::kEntry; }
+
 // 0 when `text` has the form; otherwise the number of the run-time error that reading it is.
 int CheckOption(OptionForm form, std::string_view text);
 

@@ -16,7 +16,7 @@ std::vector<std::string> OddNames() {
                                  "bell\x07",    "line\x01", "del\x7F",    "\xC2\x85",     " ",
                                  "    ",        "%bk%",     "~",          "$HOME",        "-rf",
                                  "default.css", "*"};
-  for (const std::size_t length : {300, 4000}) names.emplace_back(length, 'n');
+  for (const std::size_t length : {std::size_t{300}, std::size_t{4000}}) names.emplace_back(length, 'n');
   return names;
 }
 

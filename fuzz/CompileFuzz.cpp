@@ -7,6 +7,7 @@
 #include "ChapterIndex.h"
 #include "Compile.h"
 #include "FuzzFiles.h"
+#include "Installation.h"
 #include "RunTimeError.h"
 #include "SilentUi.h"
 

@@ -4,6 +4,7 @@
 #include "Catalogue.h"
 #include "ChapterIndex.h"
 #include "FuzzFiles.h"
+#include "Installation.h"
 #include "RunTimeError.h"
 #include "SilentUi.h"
 #include "VerseFileReader.h"

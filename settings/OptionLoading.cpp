@@ -32,7 +32,7 @@ void FinishLinkToMain(LinkToMainOptions& link) {
 // The names of folders and of files of titles stand in no page, and may hold anything; numbers and words of fixed forms
 // are refused as they stand.
 std::string TextOf(const StoredSettings& store, const Option& option) {
-  std::string text = store.Text(option.key);
+  const std::string text = store.Text(option.key);
   const bool isName = option.part == OptionPart::kFolders || option.part == OptionPart::kLanguageFile;
   return isName || !IsFreeText(option.form) ? text : InOneLine(text);
 }

@@ -93,8 +93,8 @@ void TextImport::Begin(Step step, const std::shared_ptr<Shared>& shared, const T
 }
 
 void TextImport::End() {
-  if (m_shared->failure) {
-    emit Failed(*m_shared->failure);
+  if (const std::optional<RunTimeError>& failure = m_shared->failure) {
+    emit Failed(*failure);
     return;
   }
   m_bible = m_shared->bible;

@@ -96,7 +96,7 @@ class ArchiveReader : public ByteSource {
 
   std::size_t Read(char* bytes, std::size_t size) override {
     const la_ssize_t count = Library().readData(m_archive.get(), bytes, size);
-    if (count < 0) Check(static_cast<int>(count));
+    if (count < 0) Unsound();  // a warning too tells that there are no bytes
     m_unpacked += static_cast<std::size_t>(count);
     if (m_unpacked > kMostBytes) Fail("An archive that unpacks into at most 512 MiB was expected.");
     return static_cast<std::size_t>(count);
@@ -106,8 +106,11 @@ class ArchiveReader : public ByteSource {
   [[noreturn]] void Fail(const std::string& detail) const { throw RunTimeError(kPathFileAccessError, m_file, detail); }
 
   void Check(int status) {
+    if (status < ARCHIVE_WARN || m_thrown) Unsound();
+  }
+
+  [[noreturn]] void Unsound() {
     if (m_thrown) std::rethrow_exception(std::exchange(m_thrown, nullptr));
-    if (status >= ARCHIVE_WARN) return;
     const char* const text = Library().errorText(m_archive.get());
     Fail(std::string("A sound archive was expected: ") + (text != nullptr ? text : "it cannot be read"));
   }

@@ -15,4 +15,7 @@ struct PageTexts {
   std::string LinkAlignment = "Left";  // "Left", "Center" or "Justify"
 };
 
+// Whether charset and language of the pages were read or chosen. A start that stopped may not have come to them.
+inline bool HasEncoding(const PageTexts& texts) { return !texts.PageCharset.empty() && !texts.PageLanguage.empty(); }
+
 }  // namespace folionet

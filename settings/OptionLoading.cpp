@@ -42,6 +42,7 @@ std::string TextOf(const StoredSettings& store, const Option& option) {
 void LoadOption(const StoredSettings& store, const Option& option, PageOptions& options) {
   const std::size_t place = PlaceOf(option);
   const bool isChosen = options.maySave.test(place) || OptionText(option, options) != option.defaultText;
+  if (isChosen && options.areKept) return;
   const std::string text = TextOf(store, option);
   const int error = CheckOption(option.form, text);
   if (error != 0 && isChosen) return;

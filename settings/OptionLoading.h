@@ -11,7 +11,7 @@ namespace folionet {
 // Reads one option. What the pages show of a stored text is one line, a blank for each break. A stored text that has
 // not its form leaves the field as it is and throws RunTimeError (kTypeMismatch, kOverflow or kInvalidProcedureCall)
 // that names file, key and text; so does a settings file that cannot be read. Once the field was given another value, a
-// text that has not its form is no failure: the field stands.
+// text that has not its form is no failure: the field stands, as it does in any case for options that are kept.
 void LoadOption(const StoredSettings& store, const Option& option, PageOptions& options);
 
 // Reads each option of a part by itself, as LoadOption does, and with them what follows from them: the alignment word

@@ -109,6 +109,9 @@ struct PageOptions {
   // By an option's place in the table, whether its field was read, saved, reset or chosen. What is stored for any other
   // is kept by every saving as long as the field has its default.
   std::bitset<kMostOptions> maySave;
+
+  // What was read, or has another value than its default, is not read again: the rest of a start that stopped is read.
+  bool areKept = false;
 };
 
 }  // namespace folionet

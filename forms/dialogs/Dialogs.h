@@ -31,10 +31,12 @@ class Dialogs {
     return *dialog;
   }
 
-  // Runs the dialog's loading routine while it is hidden. Throws RunTimeError for a setting that does not convert.
+  // Runs the dialog's loading routine while it is hidden, unless it has run. Throws RunTimeError for a setting that does
+  // not convert.
   template <typename Dialog>
   void Load() {
-    Get<Dialog>().LoadForm();
+    Dialog& dialog = Get<Dialog>();
+    if (!dialog.IsRead()) dialog.LoadForm();
   }
 
   // Unloads the dialog, makes it anew and loads it.

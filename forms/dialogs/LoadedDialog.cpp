@@ -20,6 +20,7 @@ void LoadedDialog::LoadForm() {
   m_isLoaded = true;
   try {
     Load();
+    m_isRead = true;
   } catch (const RunTimeError&) {
     ShowRecord();
     throw;

@@ -20,6 +20,9 @@ class LoadedDialog : public QDialog {
 
   bool IsLoaded() const { return m_isLoaded; }
 
+  // Whether it was loaded without a failure.
+  bool IsRead() const { return m_isRead; }
+
  protected:
   LoadedDialog(UserInterface& ui, QWidget* parent);
 
@@ -34,6 +37,7 @@ class LoadedDialog : public QDialog {
  private:
   UserInterface& m_reports;
   bool m_isLoaded = false;
+  bool m_isRead = false;
   bool m_isToScroll = false;
 };
 

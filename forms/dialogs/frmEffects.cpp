@@ -29,7 +29,6 @@ frmEffects::frmEffects(AppState& state, QWidget* parent)
       m_state(state),
       m_record(state.options.frmEffects),
       m_ui(std::make_unique<Ui::frmEffects>()) {
-  m_record = PageOptions().frmEffects;
   m_ui->setupUi(this);
   // Text and link are one sentence, in the direction of its words.
   m_ui->fraSample->setLayoutDirection(m_ui->lblSampleText->text().isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);

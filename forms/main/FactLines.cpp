@@ -101,7 +101,7 @@ void FactLines::ShowRange() {
   const ModGlob& glob = m_state.glob;
   CompileRequest request = GatherRequest(m_state, m_controls, m_lists, m_folders);
   QStringList lines;
-  if (request.cboBibleName >= 0 && HasAllBooks(glob)) {
+  if (request.cboBibleName >= 0 && HasAllBooks(glob) && HasEncoding(m_state.texts)) {
     request.txtOutputPath.clear();  // what is on the disk is found beside the form
     for (const Finding& fact : FindRunFacts(request, glob)) {
       if (std::string_view(fact.kind) == kRemovesPages) {

@@ -66,17 +66,21 @@ Outcome LibraryLists::ReadLists(int which) {
   return outcome;
 }
 
+// The choice of a person who had the form when its start had stopped stands, and so does the range of books.
 Outcome LibraryLists::SelectFirst() {
-  int item = 0;
-  const int count = m_controls.cboBibleName->count();
-  while (item < count && !TranslationAt(m_state.glob, static_cast<std::size_t>(item))) ++item;
-  m_chosen = item < count ? item : -1;
-  m_controls.cboBibleName->setCurrentIndex(m_chosen);
+  const bool isChosen = m_chosen >= 0;
+  if (!isChosen) {
+    int item = 0;
+    const int count = m_controls.cboBibleName->count();
+    while (item < count && !TranslationAt(m_state.glob, static_cast<std::size_t>(item))) ++item;
+    m_controls.cboBibleName->setCurrentIndex(item < count ? item : -1);
+  }
   const int place = SelectedTranslation();
   if (place < 0) return Outcome::kDone;
-  if (TakeImported(static_cast<std::size_t>(place)) != Outcome::kDone) return Outcome::kEndProgram;
+  if (!isChosen && TakeImported(static_cast<std::size_t>(place)) != Outcome::kDone) return Outcome::kEndProgram;
+  m_chosen = m_controls.cboBibleName->currentIndex();
   const Outcome outcome = BooksInChapters(m_state.glob, static_cast<std::size_t>(place), m_state.codePage, m_state.ui);
-  SelectBooksOfText();
+  if (!isChosen) SelectBooksOfText();
   return outcome;
 }
 

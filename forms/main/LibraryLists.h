@@ -24,7 +24,8 @@ class LibraryLists : public QObject {
   // Finds the library and fills every list; the stored language is shown, and no translation is selected yet.
   Outcome Fill();
 
-  // Selects the first translation that can be read and counts its chapters. To have none is no failure.
+  // Selects the first translation that can be read, when none is chosen, and counts the chapters. To have none is no
+  // failure.
   Outcome SelectFirst();
 
   // Reads the verse counts of the selected translation.

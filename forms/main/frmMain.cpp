@@ -249,7 +249,7 @@ void frmMain::ListFolders() {
 }
 
 void frmMain::PreviewPage() {
-  if (!IsStarted()) return;
+  if (!TellAndGoOn()) return;
   const RunGuard guard(*this);
   m_preview->Show(GatherRequest(m_state, *m_ui, *m_lists, *m_folders), m_state.glob, m_state.ui);
 }
@@ -307,6 +307,7 @@ void frmMain::Restore() {
   try {
     m_state.store.DeleteSetting(kApplicationTitle);
     m_memory->Forget();
+    m_state.options.areKept = false;
     m_dialogs.Renew<frmEffects>();
     m_dialogs.Renew<frmPAgeTitles>();
   } catch (const RunTimeError& error) {

@@ -66,6 +66,7 @@ class frmMain : public QMainWindow {
   void Open();
   std::vector<std::function<bool()>> StartSteps();
   bool GoOnWithStart();
+  bool TakeSteps();
   bool IsStarted();
   bool TellAndGoOn();
   void ReadEncoding();

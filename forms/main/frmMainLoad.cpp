@@ -29,14 +29,22 @@ bool frmMain::LoadForm() {
   setWindowTitle(Caption());
   m_folders->ListVolumes();
   const bool goesOn = GoOnWithStart();
-  m_facts->Show();
   // What is still to be said, when the rest is as it was.
   if (!m_state.glob.OutputFolder.empty()) m_ui->txthttpRoot->setFocus();
   return goesOn;
 }
 
-// A failure that was told is not told again. False when the program must end.
+// Takes the steps that are to be taken. What a person has set since the start stopped is not read over. False when the
+// program must end.
 bool frmMain::GoOnWithStart() {
+  const bool goesOn = TakeSteps();
+  m_state.options.areKept = m_nextStep < StartSteps().size();
+  m_facts->Show();
+  return goesOn;
+}
+
+// A failure that was told is not told again.
+bool frmMain::TakeSteps() {
   const auto steps = StartSteps();
   try {
     for (; m_nextStep < steps.size(); ++m_nextStep) {
@@ -99,7 +107,7 @@ std::vector<std::function<bool()>> frmMain::StartSteps() {
       }),
       [this, &store] {
         // Names and files are read in it long before the charset is shown and a bad one reported.
-        m_state.codePage = StoredCodePage(store);
+        if (m_state.texts.PageCharset.empty()) m_state.codePage = StoredCodePage(store);
         return m_lists->Fill() != Outcome::kEndProgram;
       },
       plain([this] { m_style->LoadAlignment(); }),
@@ -117,7 +125,9 @@ std::vector<std::function<bool()>> frmMain::StartSteps() {
       plain([this] { m_dialogs.Load<frmKeywords>(); }),
       [this] { return m_lists->LoadVerses() != Outcome::kEndProgram; },
       plain([this] { m_style->GetDefaults(); }),
-      plain([this] { ReadEncoding(); }),
+      plain([this] {
+        if (!HasEncoding(m_state.texts)) ReadEncoding();
+      }),
       plain([this] { m_dialogs.Load<frmLinkToMAin>(); }),
       plain([this, &options, &store] {
         LoadOptions(store, OptionPart::kLooks, options);

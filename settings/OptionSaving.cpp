@@ -2,9 +2,27 @@
 
 #include "JointChange.h"
 #include "OptionLoading.h"
+#include "RunTimeError.h"
 
 namespace folionet {
 namespace {
+
+// Notes for which options the saving is refused, and throws what refuses it.
+template <typename Wanted, typename Save>
+void NoteRefused(PageOptions& options, const Wanted& wanted, const Save& save) {
+  const auto note = [&](bool isRefused) {
+    for (const Option& option : OptionTable()) {
+      if (wanted(option)) options.isRefused.set(PlaceOf(option), isRefused);
+    }
+  };
+  try {
+    save();
+  } catch (const RunTimeError&) {
+    note(true);
+    throw;
+  }
+  note(false);
+}
 
 // Stores the options for which `wanted` holds by `together`, which calls what it is given.
 template <typename Wanted, typename Together>
@@ -28,12 +46,18 @@ auto IsOfDialog(OptionPart part) {
 
 }  // namespace
 
-void SaveOption(SettingsStore& store, std::string_view key, const PageOptions& options) {
-  store.SaveText(key, OptionText(*FindOption(key), options));
+void SaveOption(SettingsStore& store, std::string_view key, PageOptions& options) {
+  const Option& chosen = *FindOption(key);
+  NoteRefused(
+      options, [&](const Option& option) { return &option == &chosen; },
+      [&] { store.SaveText(key, OptionText(chosen, options)); });
 }
 
 void SaveOptions(SettingsStore& store, OptionPart part, PageOptions& options) {
-  SaveWhere(store, options, IsOfDialog(part), [&](const auto& saves) { store.SaveTogether(saves); });
+  const auto wanted = IsOfDialog(part);
+  const auto save = [&] { SaveWhere(store, options, wanted, [&](const auto& saves) { store.SaveTogether(saves); }); };
+  if (part == OptionPart::kEncoding) return save();  // what is refused of it is taken back
+  NoteRefused(options, wanted, save);
 }
 
 void SaveOptions(SettingsStore& store, OptionPart part, PageOptions& options, JointChange& change) {
@@ -42,6 +66,7 @@ void SaveOptions(SettingsStore& store, OptionPart part, PageOptions& options, Jo
 
 void SaveDefaults(SettingsStore& store, PageOptions& options) {
   const auto isOfExit = [&](const Option& option) {
+    if (options.isRefused.test(PlaceOf(option))) return true;
     return option.saving == OptionSaving::kAtExit &&
            (option.key != "alignmentLR" || IsKnownAlignment(options.main.alignment));
   };

@@ -110,6 +110,9 @@ struct PageOptions {
   // is kept by every saving as long as the field has its default.
   std::bitset<kMostOptions> maySave;
 
+  // In the same order, whether its last saving was refused. It is saved at exit.
+  std::bitset<kMostOptions> isRefused;
+
   // What was read, or has another value than its default, is not read again: the rest of a start that stopped is read.
   bool areKept = false;
 };

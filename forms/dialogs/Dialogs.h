@@ -31,8 +31,8 @@ class Dialogs {
     return *dialog;
   }
 
-  // Runs the dialog's loading routine while it is hidden, unless it has run. Throws RunTimeError for a setting that does
-  // not convert.
+  // Runs the dialog's loading routine while it is hidden, unless it has run. Throws RunTimeError for a setting that
+  // does not convert.
   template <typename Dialog>
   void Load() {
     Dialog& dialog = Get<Dialog>();

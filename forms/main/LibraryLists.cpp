@@ -12,6 +12,7 @@
 #include "OptionSaving.h"
 #include "PageEncoding.h"
 #include "QtText.h"
+#include "RunTimeError.h"
 #include "TrySave.h"
 #include "ui_frmMain.h"
 
@@ -90,12 +91,16 @@ Outcome LibraryLists::TakeImported(std::size_t place) {
   const bool wasImported = glob.Imported.IsThere();
   ChooseImported(glob, place);
   if (!wasImported && !glob.Imported.IsThere()) return Outcome::kDone;
-  PageEncoding encoding;
-  LoadPageEncoding(m_state.store, m_state.options, encoding, m_state.ui);
-  TakeEncodingOf(glob.Imported, m_state.store, encoding, m_state.ui);
-  m_state.texts.PageCharset = encoding.PageCharset;
-  m_state.texts.PageLanguage = encoding.PageLanguage;
-  m_state.codePage = CodePage(encoding.PageCharset);
+  try {
+    PageEncoding encoding;
+    LoadPageEncoding(m_state.store, m_state.options, encoding, m_state.ui);
+    TakeEncodingOf(glob.Imported, m_state.store, encoding, m_state.ui);
+    m_state.texts.PageCharset = encoding.PageCharset;
+    m_state.texts.PageLanguage = encoding.PageLanguage;
+    m_state.codePage = CodePage(encoding.PageCharset);
+  } catch (const RunTimeError&) {
+    // The start has not come to the charset, and tells this when it does.
+  }
   m_state.options.main.cboLang = BookTitlesFile(m_state.store, glob);
   m_controls.cboLang->SetText(ToQt(m_state.options.main.cboLang));
   if (PopulateCombos(0, m_state.options.main.cboLang, glob, m_state.codePage, m_state.ui) == Outcome::kEndProgram) {

@@ -126,7 +126,9 @@ std::vector<std::function<bool()>> frmMain::StartSteps() {
       [this] { return m_lists->LoadVerses() != Outcome::kEndProgram; },
       plain([this] { m_style->GetDefaults(); }),
       plain([this] {
-        if (!HasEncoding(m_state.texts)) ReadEncoding();
+        if (HasEncoding(m_state.texts)) return;
+        ReadEncoding();
+        if (m_state.glob.Imported.IsThere()) m_lists->ShowNames();
       }),
       plain([this] { m_dialogs.Load<frmLinkToMAin>(); }),
       plain([this, &options, &store] {

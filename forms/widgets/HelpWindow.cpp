@@ -1,10 +1,10 @@
 #include "HelpWindow.h"
 
+#include <QAction>
 #include <QDialogButtonBox>
 #include <QImage>
 #include <QPushButton>
 #include <QScreen>
-#include <QShortcut>
 #include <QTextBrowser>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -87,7 +87,8 @@ void HelpWindow::Open(QWidget& window, const QWidget* control) {
 }
 
 void HelpWindow::OpenByKey(QWidget& window) {
-  connect(new QShortcut(QKeySequence(Qt::Key_F1), &window), &QShortcut::activated, &window,
+  const QAction* help = window.addAction(QString(), QKeySequence(Qt::Key_F1));
+  connect(help, &QAction::triggered, &window,
           [&window] { Open(window, window.focusWidget() != nullptr ? window.focusWidget() : &window); });
 }
 

@@ -7,6 +7,7 @@
 #include "EncodingLists.h"
 #include "ImportedText.h"
 #include "OptionTable.h"
+#include "PageEncoding.h"
 #include "Paths.h"
 #include "ProgramFolder.h"
 
@@ -56,10 +57,9 @@ ExitStatus ListCharsets(Session& session) {
 
 // A setting as a compile of the first translation finds it.
 std::string SettingOf(const Session& session, std::string_view key) {
-  const ImportedText& text = session.glob.Imported;
   if (key == "cboLang") return BookTitlesFile(session.store, session.glob);
-  const std::string code = key == "Charset" ? text.charset : key == "Lang" ? text.language : std::string();
-  return code.empty() || session.store.Has(key) ? session.store.Text(key) : code + " (of the text)";
+  const std::string code = CodeOfText(session.glob.Imported, session.store, key);
+  return code.empty() ? session.store.Text(key) : code + " (of the text)";
 }
 
 ExitStatus ListSettings(Session& session) {

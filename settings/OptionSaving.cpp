@@ -1,6 +1,5 @@
 #include "OptionSaving.h"
 
-#include "JointChange.h"
 #include "OptionLoading.h"
 #include "RunTimeError.h"
 
@@ -55,13 +54,8 @@ void SaveOption(SettingsStore& store, std::string_view key, PageOptions& options
 
 void SaveOptions(SettingsStore& store, OptionPart part, PageOptions& options) {
   const auto wanted = IsOfDialog(part);
-  const auto save = [&] { SaveWhere(store, options, wanted, [&](const auto& saves) { store.SaveTogether(saves); }); };
-  if (part == OptionPart::kEncoding) return save();  // what is refused of it is taken back
-  NoteRefused(options, wanted, save);
-}
-
-void SaveOptions(SettingsStore& store, OptionPart part, PageOptions& options, JointChange& change) {
-  SaveWhere(store, options, IsOfDialog(part), [&](const auto& saves) { store.SaveTogether(saves, change); });
+  NoteRefused(options, wanted,
+              [&] { SaveWhere(store, options, wanted, [&](const auto& saves) { store.SaveTogether(saves); }); });
 }
 
 void SaveDefaults(SettingsStore& store, PageOptions& options) {

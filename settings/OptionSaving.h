@@ -7,8 +7,6 @@
 
 namespace folionet {
 
-class JointChange;
-
 // A routine stores all that it is to store or, when it throws RunTimeError, nothing. What the first two could not store
 // is noted in the record, and stored at exit.
 
@@ -17,9 +15,6 @@ void SaveOption(SettingsStore& store, std::string_view key, PageOptions& options
 
 // Stores the options of a part that are saved together, but what could not be read and was not changed since.
 void SaveOptions(SettingsStore& store, OptionPart part, PageOptions& options);
-
-// The same as a part of a change of several files, which it makes.
-void SaveOptions(SettingsStore& store, OptionPart part, PageOptions& options, JointChange& change);
 
 // In the same way the twelve options that are stored at exit, and those whose own saving was refused.
 void SaveDefaults(SettingsStore& store, PageOptions& options);

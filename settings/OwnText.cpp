@@ -2,14 +2,18 @@
 
 #include <unistd.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <system_error>
+#include <utility>
 
 #include "LineReader.h"
 #include "WholeFile.h"
 
 namespace folionet {
 namespace {
+
+constexpr std::size_t kLongestText = std::size_t{64} << 20;
 
 std::string PathOf(const OwnFolder& folder, std::string_view name) { return folder.path + std::string(name); }
 
@@ -36,6 +40,13 @@ bool HoldsAllLetters(const CodePage& codePage, std::string_view text) {
 
 bool HasLettersFile(const OwnFolder& folder, std::string_view name) {
   return ReadIfThere(LettersPath(folder, name)).has_value();
+}
+
+// A text with another line, on a line of its own, at its end, which is a Ctrl+Z where there is one.
+std::string WithLine(std::string text, std::string_view line) {
+  const std::size_t end = std::min(text.find('\x1A'), text.size());
+  const bool isLineOpen = end > 0 && text[end - 1] != '\n';
+  return text.insert(end, (isLineOpen ? "\r\n" : "") + std::string(line));
 }
 
 }  // namespace
@@ -68,11 +79,11 @@ void SaveOwnText(const OwnFolder& folder, std::string_view name, std::string_vie
 
 void AddToOwnText(const OwnFolder& folder, std::string_view name, std::string_view line) {
   if (HoldsAllLetters(folder.codePage, line) && !HasLettersFile(folder, name)) {
-    return AppendToFile(PathOf(folder, name), folder.codePage.Encode(line));
+    return EditWholeFile(PathOf(folder, name), kLongestText, [&](std::string content) {
+      return WithLine(std::move(content), folder.codePage.Encode(line));
+    });
   }
-  std::string text = ReadOwnText(folder, name).value_or("");
-  if (!text.empty() && text.back() != '\n') text += "\r\n";
-  SaveOwnText(folder, name, text.append(line));
+  SaveOwnText(folder, name, WithLine(ReadOwnText(folder, name).value_or(""), line));
 }
 
 void RecodeOwnText(const OwnFolder& folder, std::string_view name, const CodePage& to, JointChange& change) {

@@ -2,23 +2,24 @@
 
 #include <optional>
 
+#include "BuildInfo.h"
 #include "CustomHtml.h"
 #include "EncodingLists.h"
 #include "JointChange.h"
 #include "OptionLoading.h"
-#include "OptionSaving.h"
 #include "RunTimeError.h"
 
 namespace folionet {
 
 std::string EncodingCode(std::string_view entry, std::string_view what) {
-  const std::size_t blank = entry.find(' ');
+  const std::size_t start = entry.find_first_not_of(" \t");
+  const std::size_t blank = start == std::string_view::npos ? start : entry.find(' ', start);
   if (blank == std::string_view::npos) {
     throw RunTimeError(kInvalidProcedureCall, std::string(what),
                        "A code, a blank and a description were expected: \"" + std::string(entry) + "\"")
         .About(Subject::kSetting);
   }
-  return std::string(entry.substr(0, blank));
+  return std::string(entry.substr(start, blank - start));
 }
 
 namespace {
@@ -28,6 +29,14 @@ CodePage CodePageOf(const std::string& entry) {
     return CodePage(EncodingCode(entry, "Charset"));
   } catch (const RunTimeError&) {
     return CodePage();
+  }
+}
+
+// Adds to a change that all texts of a person's own come over to another code page.
+void RecodeOwnTexts(const OwnFolder& own, const CodePage& to, JointChange& change) {
+  for (const std::string_view name : {kCustomHeader.fileName, kCustomFooter.fileName, std::string_view(kCharsetList),
+                                      std::string_view(kLanguageList)}) {
+    RecodeOwnText(own, name, to, change);
   }
 }
 
@@ -51,16 +60,26 @@ OwnFolder OwnFolderOfRun(const StoredSettings& store, const std::string& program
   return own;
 }
 
-void SaveEncoding(SettingsStore& store, const std::string& programFolder, PageOptions& options) {
+void SaveEncoding(SettingsStore& store, const std::string& programFolder, const EncodingOptions& chosen) {
+  const auto save = [&] {
+    if (!chosen.cboCharset.empty()) store.SaveText("Charset", chosen.cboCharset);
+    if (!chosen.cboLang.empty()) store.SaveText("Lang", chosen.cboLang);
+  };
   const OwnFolder own = StoredOwnFolder(store, programFolder);
-  const CodePage chosen = CodePageOf(options.frmEncoding.cboCharset);
-  if (own.codePage.Name() == chosen.Name()) return SaveOptions(store, OptionPart::kEncoding, options);
+  const CodePage to = chosen.cboCharset.empty() ? own.codePage : CodePageOf(chosen.cboCharset);
+  if (own.codePage.Name() == to.Name()) return store.SaveTogether(save);
   JointChange change(own.note);
-  for (const std::string_view name : {kCustomHeader.fileName, kCustomFooter.fileName, std::string_view(kCharsetList),
-                                      std::string_view(kLanguageList)}) {
-    RecodeOwnText(own, name, chosen, change);
-  }
-  SaveOptions(store, OptionPart::kEncoding, options, change);
+  RecodeOwnTexts(own, to, change);
+  store.SaveTogether(save, change);
+}
+
+void RestoreSettings(SettingsStore& store, const std::string& programFolder) {
+  const OwnFolder own = StoredOwnFolder(store, programFolder);
+  const CodePage to;
+  if (own.codePage.Name() == to.Name()) return store.DeleteSetting(kApplicationTitle);
+  JointChange change(own.note);
+  RecodeOwnTexts(own, to, change);
+  store.DeleteSettings(change);
 }
 
 void LoadPageEncoding(const StoredSettings& store, PageOptions& options, PageEncoding& encoding, UserInterface& ui) {
@@ -80,14 +99,19 @@ void LoadPageEncoding(const StoredSettings& store, PageOptions& options, PageEnc
   ui.SetPanel(2, "Language: " + encoding.PageLanguage);
 }
 
+std::string CodeOfText(const ImportedText& text, const StoredSettings& store, std::string_view key) {
+  if (store.Has(key)) return {};
+  return key == "Charset" ? text.charset : key == "Lang" ? text.language : std::string();
+}
+
 void TakeEncodingOf(const ImportedText& text, const StoredSettings& store, PageEncoding& encoding, UserInterface& ui) {
-  if (!text.charset.empty() && !store.Has("Charset")) {
-    encoding.PageCharset = text.charset;
-    ui.SetPanel(3, "Charset: " + encoding.PageCharset);
+  if (const std::string code = CodeOfText(text, store, "Charset"); !code.empty()) {
+    encoding.PageCharset = code;
+    ui.SetPanel(3, "Charset: " + code);
   }
-  if (!text.language.empty() && !store.Has("Lang")) {
-    encoding.PageLanguage = text.language;
-    ui.SetPanel(2, "Language: " + encoding.PageLanguage);
+  if (const std::string code = CodeOfText(text, store, "Lang"); !code.empty()) {
+    encoding.PageLanguage = code;
+    ui.SetPanel(2, "Language: " + code);
   }
 }
 

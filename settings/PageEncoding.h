@@ -18,8 +18,8 @@ struct PageEncoding {
   std::string PageCharset;
 };
 
-// The code that an entry begins with: "en-us English USA" gives "en-us". Throws RunTimeError (kInvalidProcedureCall)
-// when the entry holds no blank.
+// The code that an entry begins with: "en-us English USA" gives "en-us"; blanks before it do not count. Throws
+// RunTimeError (kInvalidProcedureCall) when no code and blank is there.
 std::string EncodingCode(std::string_view entry, std::string_view what);
 
 // The code page that the stored charset names, windows-1252 when it cannot be read. The custom header and footer are
@@ -32,13 +32,22 @@ OwnFolder StoredOwnFolder(const StoredSettings& store, const std::string& progra
 // The same for a run that may have another charset than the stored one, which a person's texts stay in.
 OwnFolder OwnFolderOfRun(const StoredSettings& store, const std::string& programFolder);
 
-// Stores the entries of `options.frmEncoding` and, when that changes the code page, brings the custom header and footer
-// and the lists of encodings over to it: one change, of which all is made or nothing. Throws RunTimeError.
-void SaveEncoding(SettingsStore& store, const std::string& programFolder, PageOptions& options);
+// Stores the entries that were chosen, those that are not empty, and, when that changes the code page, brings the
+// custom header and footer and the lists of encodings over to it: one change, of which all is made or nothing. Throws
+// RunTimeError.
+void SaveEncoding(SettingsStore& store, const std::string& programFolder, const EncodingOptions& chosen);
+
+// Removes all that is stored, as SettingsStore::DeleteSetting does; what is in another code page than the default one
+// comes over to that in the same change. Throws RunTimeError, and everything is as it was.
+void RestoreSettings(SettingsStore& store, const std::string& programFolder);
 
 // Reads both entries and shows their codes in panels 3 and 2 of the status bar. Throws RunTimeError for the first that
 // cannot be read; what comes before it is set and shown.
 void LoadPageEncoding(const StoredSettings& store, PageOptions& options, PageEncoding& encoding, UserInterface& ui);
+
+// The code that a translation which was imported brings for "Charset" or "Lang"; empty when it brings none, or the
+// person has set one.
+std::string CodeOfText(const ImportedText& text, const StoredSettings& store, std::string_view key);
 
 // Takes and shows the codes of an imported translation in the place of those that the person has not set.
 void TakeEncodingOf(const ImportedText& text, const StoredSettings& store, PageEncoding& encoding, UserInterface& ui);

@@ -96,6 +96,15 @@ void SettingsStore::DeleteSetting(std::string_view application) {
   Take(application, {});
 }
 
+void SettingsStore::DeleteSettings(JointChange& change) {
+  const std::string path = FilePath(kApplicationTitle);
+  change.Replace(path + ".before-restore", ReadIfThere(path, kLongestFile).value_or(""));
+  change.Replace(path, "");
+  change.Commit();
+  std::remove(path.c_str());  // an empty one that stays says the same
+  Take(kApplicationTitle, {});
+}
+
 void SettingsStore::SaveText(std::string_view key, std::string_view value) {
   SaveSetting(kApplicationTitle, kSettingsSection, key, value);
 }

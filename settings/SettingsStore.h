@@ -31,6 +31,9 @@ class SettingsStore : public StoredSettings {
   // that fails, and everything is as it was.
   void DeleteSetting(std::string_view application);
 
+  // The same of our own area as a part of a change of several files, which it makes.
+  void DeleteSettings(JointChange& change);
+
   // Stores one of our own keys.
   void SaveText(std::string_view key, std::string_view value);
 

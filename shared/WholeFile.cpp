@@ -102,11 +102,4 @@ void EditWholeFile(const std::string& path, std::size_t longest,
   replacement.Commit();
 }
 
-void AppendToFile(const std::string& path, std::string_view bytes) {
-  EditWholeFile(path, std::size_t{64} << 20, [&](std::string content) {
-    if (!content.empty() && content.back() != '\n') content += "\r\n";
-    return content.append(bytes);
-  });
-}
-
 }  // namespace folionet

@@ -28,9 +28,6 @@ void ReplaceWholeFile(const std::string& path, std::string_view bytes);
 void EditWholeFile(const std::string& path, std::size_t longest,
                    const std::function<std::string(std::string content)>& edit);
 
-// Adds bytes at the end of a file, which is made when missing, on a line of their own and with the same promise.
-void AppendToFile(const std::string& path, std::string_view bytes);
-
 // Writes all bytes to an open file at an offset, however often the system takes a part only. False with errno set.
 bool WriteAll(int descriptor, std::string_view bytes, std::size_t offset);
 

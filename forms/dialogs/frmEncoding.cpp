@@ -1,5 +1,6 @@
 #include "frmEncoding.h"
 
+#include <QShowEvent>
 #include <utility>
 #include <vector>
 
@@ -34,22 +35,59 @@ void frmEncoding::Load() {
   PopCombo();
 }
 
+void frmEncoding::showEvent(QShowEvent* event) {
+  const bool isLoaded = IsLoaded();
+  LoadedDialog::showEvent(event);
+  if (!isLoaded || event->spontaneous()) return;
+  if (!m_isFilled) return Load();
+  if (ShowInUse("Charset", m_state.texts.PageCharset, *m_ui->cboCharset, *m_ui->txtCharset)) {
+    m_shown.cboCharset = Entries().cboCharset;
+  }
+  if (ShowInUse("Lang", m_state.texts.PageLanguage, *m_ui->cboLang, *m_ui->txtLang))
+    m_shown.cboLang = Entries().cboLang;
+}
+
+EncodingOptions frmEncoding::Entries() const {
+  return {.cboCharset = FromQt(m_ui->cboCharset->Text()), .cboLang = FromQt(m_ui->cboLang->Text())};
+}
+
 void frmEncoding::PopCombo() {
+  m_isFilled = false;
   try {
     Fill(kCharsetList, "Charset", *m_ui->cboCharset, *m_ui->txtCharset);
     Fill(kLanguageList, "Lang", *m_ui->cboLang, *m_ui->txtLang);
+    m_isFilled = true;
   } catch (const RunTimeError& error) {
     m_state.ui.ShowErrorReport({Procedure::kPopulateCharset, error});
   }
+  m_shown = Entries();
 }
 
 void frmEncoding::Fill(const char* fileName, const char* key, TextCombo& list, QLineEdit& box) {
   const EncodingList read = ReadEncodingList(StoredOwnFolder(m_state.store, m_state.programFolder), fileName);
   for (const std::string& entry : read.entries) list.addItem(ToQt(entry));
   if (read.failure) throw RunTimeError(*read.failure);
-  const QString stored = ToQt(m_state.store.Text(key));
-  list.SetText(stored);
-  box.setText(stored);
+  const QString entry = EntryInUse(key, list);
+  list.SetText(entry);
+  box.setText(entry);
+}
+
+// The stored entry or, where none is stored, that of the code which the text was imported with.
+QString frmEncoding::EntryInUse(const char* key, const TextCombo& list) const {
+  const std::string code = CodeOfText(m_state.glob.Imported, m_state.store, key);
+  if (code.empty()) return ToQt(m_state.store.Text(key));
+  const QString start = ToQt(code + " ");
+  const int item = list.findText(start, Qt::MatchStartsWith);
+  return item < 0 ? start : list.itemText(item);
+}
+
+// A code that was typed and is in use stays as it was typed; false then.
+bool frmEncoding::ShowInUse(const char* key, const std::string& code, TextCombo& list, QLineEdit& box) {
+  if ((box.text().trimmed() + " ").startsWith(ToQt(code + " "))) return false;
+  const QString entry = EntryInUse(key, list);
+  list.SetText(entry);
+  box.setText(entry);
+  return true;
 }
 
 // The entries as the files have them now. What is chosen stays, letter for letter, and so does what was typed.
@@ -74,30 +112,31 @@ void frmEncoding::AddNew() {
   openModal(*m_addNew);
 }
 
-// A list that could not be filled shows nothing, and what is stored stays as it is.
-void frmEncoding::SaveLists() {
-  EncodingOptions& entries = m_state.options.frmEncoding;
-  const EncodingOptions before = entries;
-  const auto take = [](const TextCombo& list, std::string& entry) {
-    if (const std::string text = FromQt(list.Text()); !text.empty()) entry = text;
+// An entry that a text brings and that merely is shown is not stored: it must not stand in the way of the next text's.
+void frmEncoding::SaveChanged() {
+  const EncodingOptions entries = Entries();
+  EncodingOptions changed;
+  const auto isOfText = [this](const char* key) {
+    return !CodeOfText(m_state.glob.Imported, m_state.store, key).empty();
   };
-  take(*m_ui->cboLang, entries.cboLang);
-  take(*m_ui->cboCharset, entries.cboCharset);
-  const bool isSaved = TrySave(m_state, Procedure::kUnloadEncoding, [this](SettingsStore& store) {
-    SaveEncoding(store, m_state.programFolder, m_state.options);
-  });
-  if (!isSaved) entries = before;
+  if (entries.cboCharset != m_shown.cboCharset || !isOfText("Charset")) changed.cboCharset = entries.cboCharset;
+  if (entries.cboLang != m_shown.cboLang || !isOfText("Lang")) changed.cboLang = entries.cboLang;
+  if (changed.cboCharset.empty() && changed.cboLang.empty()) return;
+  const bool isSaved = TrySave(m_state, Procedure::kUnloadEncoding,
+                               [&](SettingsStore& store) { SaveEncoding(store, m_state.programFolder, changed); });
+  if (isSaved) m_shown = entries;
 }
 
 bool frmEncoding::SaveAndUse() {
   const std::string shownIn = StoredCodePage(m_state.store).Name();
-  SaveLists();
+  SaveChanged();
   const std::string typedLanguage = FromQt(m_ui->txtLang->text());
   const std::string typedCharset = FromQt(m_ui->txtCharset->text());
   PageEncoding encoding{m_state.texts.PageLanguage, m_state.texts.PageCharset};
   bool isDone = true;
   try {
     LoadPageEncoding(m_state.store, m_state.options, encoding, m_state.ui);
+    TakeEncodingOf(m_state.glob.Imported, m_state.store, encoding, m_state.ui);
     encoding.PageLanguage = EncodingCode(typedLanguage, "Lang");
     encoding.PageCharset = EncodingCode(typedCharset, "Charset");
   } catch (const RunTimeError& error) {

@@ -35,16 +35,24 @@ class frmEncoding : public LoadedDialog {
   // Fills the lists from enc.txt and lang.txt and shows the stored entries. A failure is reported.
   void Load() override;
 
+  // A dialog that is shown again shows what is in use by now; lists that could not be filled are read again.
+  void showEvent(QShowEvent* event) override;
+
  private:
   void PopCombo();
   void Fill(const char* fileName, const char* key, TextCombo& list, QLineEdit& box);
+  QString EntryInUse(const char* key, const TextCombo& list) const;
+  bool ShowInUse(const char* key, const std::string& code, TextCombo& list, QLineEdit& box);
   void ShowListsAnew();
   void AddNew();
-  void SaveLists();
+  EncodingOptions Entries() const;
+  void SaveChanged();
   bool SaveAndUse();
 
   AppState& m_state;
   std::unique_ptr<Ui::frmEncoding> m_ui;
+  EncodingOptions m_shown;        // the entries of the lists but for what the person has changed and is not stored
+  bool m_isFilled = false;        // both lists
   frmAddnew* m_addNew = nullptr;  // made when first opened
 };
 

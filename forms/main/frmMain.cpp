@@ -26,6 +26,7 @@
 #include "MainCompile.h"
 #include "OneLine.h"
 #include "OptionSaving.h"
+#include "PageEncoding.h"
 #include "PageNames.h"
 #include "PagePreview.h"
 #include "QtText.h"
@@ -305,7 +306,7 @@ void frmMain::OfferRestore() {
 
 void frmMain::Restore() {
   try {
-    m_state.store.DeleteSetting(kApplicationTitle);
+    RestoreSettings(m_state.store, m_state.programFolder);
     m_memory->Forget();
     m_state.options.areKept = false;
     m_dialogs.Renew<frmEffects>();

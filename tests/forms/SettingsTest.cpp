@@ -229,6 +229,7 @@ TEST_F(Settings, AFailureToSaveIsToldOnce) {
                                                        {"frmEncoding.cmdDone", "UnloadEncoding"}};
   ASSERT_TRUE(Start());
   Get("frmEncoding.").show();
+  Give("frmEncoding.cboLang", "el Greek");
   BlockSettings();
   for (const auto& [control, label] : cases) {
     m_ui.log.clear();

@@ -42,10 +42,7 @@ bool Save(const std::string& what, const std::string& folder, const std::string&
     SettingsStore store(folder);
     store.FinishChange();
     if (what == "finish") return true;
-    PageOptions options;
-    LoadAllOptions(store, options);
-    options.frmEncoding.cboCharset = text;
-    SaveEncoding(store, folder + "/", options);
+    SaveEncoding(store, folder + "/", {.cboCharset = text, .cboLang = {}});
   } else {
     return false;
   }

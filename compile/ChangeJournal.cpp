@@ -1,7 +1,5 @@
 #include "ChangeJournal.h"
 
-#include <fcntl.h>
-#include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -47,6 +45,7 @@ ChangeJournal::ChangeJournal(const std::string& stateFolder, const std::string& 
     return;  // a journal that cannot be read is told by what it was for: nothing is pending
   }
   // A line without an end was on its way when the program was killed, before its file was changed.
+  m_whole = text.rfind('\n') + 1;
   std::string_view rest = text;
   for (std::size_t end = rest.find('\n'); end != std::string_view::npos; end = rest.find('\n')) {
     const bool isDoubtful = rest.starts_with(kDoubtful);
@@ -66,15 +65,9 @@ void ChangeJournal::Add(const std::string& line) {
   if (!m_file.IsOpen()) {
     std::error_code ignored;
     std::filesystem::create_directories(std::filesystem::path(m_path).parent_path(), ignored);
-    m_file = FileHandle::Open(m_path.c_str(), O_WRONLY | O_CREAT | O_APPEND | O_NOFOLLOW | O_NONBLOCK, 0600);
   }
-  ssize_t written = -1;
-  if (m_file.IsOpen()) {
-    do {
-      written = write(m_file.Get(), line.data(), line.size());
-    } while (written < 0 && errno == EINTR);
-  }
-  if (written != static_cast<ssize_t>(line.size())) m_trouble = RunTimeError::FromErrno(errno, m_path).what();
+  const bool isOpen = m_file.IsOpen() || m_file.Open(m_path, m_whole);
+  if (!isOpen || !m_file.Add(line)) m_trouble = RunTimeError::FromErrno(errno, m_path).what();
 }
 
 void ChangeJournal::WillChange(const std::string& name) {

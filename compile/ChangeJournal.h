@@ -1,10 +1,12 @@
 #pragma once
 
-#include <map>
+#include <cstddef>
+#include <cstdint>
 #include <string>
+#include <unordered_map>
 #include <vector>
 
-#include "FileHandle.h"
+#include "JournalFile.h"
 #include "SiteFolder.h"
 
 namespace folionet {
@@ -34,10 +36,11 @@ class ChangeJournal : public ChangeWatch {
  private:
   void Add(const std::string& line);
 
-  std::string m_path;  // empty when nothing is kept
+  std::string m_path;              // empty when nothing is kept
+  std::size_t m_whole = SIZE_MAX;  // bytes of the journal before its last line's end
   std::vector<std::string> m_pending;
-  std::map<std::string, bool> m_doubtful;  // of each name that the journal holds
-  FileHandle m_file;
+  std::unordered_map<std::string, bool> m_doubtful;  // of each name that the journal holds
+  JournalFile m_file;
   std::string m_trouble;
 };
 

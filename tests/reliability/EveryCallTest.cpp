@@ -4,8 +4,10 @@
 #include <cerrno>
 #include <csignal>
 #include <functional>
+#include <iterator>
 #include <map>
 #include <set>
+#include <sstream>
 
 #include "FaultyRun.h"
 #include "FolderContent.h"
@@ -29,6 +31,8 @@ std::vector<std::string> KindsOf(const Call& struck) {
                                                               {"read", {EIO, EINTR}},
                                                               {"write", {ENOSPC, EIO, EINTR}},
                                                               {"ftruncate", {EIO, EINTR}},
+                                                              {"allocate", {ENOSPC, EOPNOTSUPP, EINTR}},
+                                                              {"map", {ENODEV}},
                                                               {"close", {EIO, ENOSPC, EINTR}},
                                                               {"fsync", {EIO, ENOSPC, EINTR}},
                                                               {"unlink", {EACCES, EIO}},
@@ -205,7 +209,8 @@ TEST_F(Compiles, IntoANewFolder) {
   TryCompile({"anew",
               ArrangeLibrary,
               [](const TemporaryFolder&) { return Compile({"--output=made/site"}); },
-              {"close", "create", "lock", "mkdir", "open", "opendir", "read", "readdir", "stat", "unlink", "write"}});
+              {"allocate", "close", "create", "ftruncate", "lock", "map", "mkdir", "open", "opendir", "read", "readdir",
+               "stat", "unlink", "write"}});
 }
 
 // With the books before the second one taken away.
@@ -223,8 +228,8 @@ TEST_F(Compiles, OverAnOlderSite) {
               [](const TemporaryFolder&) {
                 return Compile({"--output=site", "--start-book=2"});
               },
-              {"close", "create", "ftruncate", "lock", "mkdir", "open", "opendir", "read", "readdir", "rename", "stat",
-               "unlink", "write"}});
+              {"allocate", "close", "create", "ftruncate", "lock", "map", "mkdir", "open", "opendir", "read", "readdir",
+               "rename", "stat", "unlink", "write"}});
 }
 
 // With the names of the pages that it has changed by then, and no page in part.
@@ -262,6 +267,36 @@ TEST_F(Compiles, EndBetweenTwoPagesOnceTheyAreStopped) {
     ++stopped;
   }
   EXPECT_GT(stopped, 5);
+}
+
+// The list of the run that was killed is lost with it: the next one tells all that the two have changed.
+TEST_F(Compiles, ThatWereKilledAreToldByTheNextOne) {
+  const Job job{"killed",
+                [](const TemporaryFolder& home) {
+                  ArrangeLibrary(home);
+                  home.Write("site/exodus_1.html", std::string(5000, 'x'));
+                },
+                [](const TemporaryFolder&) {
+                  return Compile({"--output=site", "--list-changed"});
+                },
+                {}};
+  const TemporaryFolder first;
+  job.arrange(first);
+  const auto [whole, calls] = job.Run(first);
+  const auto lines = [](const std::string& text) {
+    std::istringstream rest(text);
+    return std::multiset<std::string>(std::istream_iterator<std::string>(rest), {});
+  };
+  ASSERT_GT(lines(whole.output).size(), 5U);
+  for (std::size_t at = 1; at <= calls.size(); ++at) {
+    if (!IsOneOf(calls[at - 1].name, {"create", "write", "link", "close", "map", "unlink"})) continue;
+    SCOPED_TRACE("call " + std::to_string(at) + ", " + calls[at - 1].name + " " + calls[at - 1].path);
+    const TemporaryFolder home;
+    job.arrange(home);
+    const FaultyRun killed = job.Run(home, {at, "kill"});
+    const bool isDelivered = killed.result.output == whole.output;
+    EXPECT_TRUE(isDelivered || lines(job.Run(home).result.output) == lines(whole.output));
+  }
 }
 
 // A check of the site says the same, or names what it could not read.

@@ -100,7 +100,7 @@ class CompileRun {
                     .lastBook = static_cast<std::int16_t>(m_request.cboEndBook + 1)},
                    m_inputs, m_codePage, m_context);
     Note(m_indexFileName, WritePageFoot(m_options, m_context));
-    m_kept.insert(m_indexFileName);
+    m_kept.push_back(m_indexFileName);
     if (!m_request.sitemapAddress.empty()) WriteSitemap();
   }
 
@@ -207,7 +207,7 @@ class CompileRun {
   // The pages of a book that stays are not deleted, whatever other book has their names too.
   void KeepPage(int book, const std::string& name) {
     const bool stays = book > m_request.cboStartBook && (!m_request.onlyChosen || book <= m_request.cboEndBook + 1);
-    if (stays) m_kept.insert(name);
+    if (stays) m_kept.push_back(name);
   }
 
   // A page that is written is whole; only between two of them a run ends before its time.
@@ -282,7 +282,7 @@ class CompileRun {
   std::string m_startName;
   bool m_isLeavingPage = false;     // the verse at hand is of the page that comes
   std::set<std::string> m_planned;  // the pages that a plan would write
-  std::set<std::string> m_kept;     // what the clean-up leaves
+  std::vector<std::string> m_kept;  // what the clean-up leaves, some names twice
 };
 
 // A failure of the run, with the last values seen.

@@ -104,7 +104,7 @@ std::vector<int> BooksRemovedAfter(const CompileRequest& request, const PageName
   return books;
 }
 
-std::int16_t CleanUp(const CompileRequest& request, const PageInputs& inputs, const std::set<std::string>& kept,
+std::int16_t CleanUp(const CompileRequest& request, const PageInputs& inputs, const std::vector<std::string>& kept,
                      RunFolder& folder) {
   std::unordered_multimap<std::string, std::string> keptNames;
   if (request.cboStartBook > 0 || request.onlyChosen) {

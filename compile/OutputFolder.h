@@ -1,7 +1,6 @@
 #pragma once
 
 #include <optional>
-#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -47,7 +46,7 @@ std::vector<int> BooksRemovedAfter(const CompileRequest& request, const PageName
 // Deletes the pages of the books before the start book, and of BooksRemovedAfter, but no file that one of the names of
 // `kept` leads to. Gives the number of these pages, which counts those that are kept or were not there; every failure
 // is passed over.
-std::int16_t CleanUp(const CompileRequest& request, const PageInputs& inputs, const std::set<std::string>& kept,
+std::int16_t CleanUp(const CompileRequest& request, const PageInputs& inputs, const std::vector<std::string>& kept,
                      RunFolder& folder);
 
 }  // namespace folionet

@@ -112,14 +112,18 @@ class FactFinder {
 
   // By the numbers of the index and by the order of its books: the one that the text has may be either.
   std::unordered_set<std::string> NamesOfRun() const {
-    std::unordered_set<std::string> names{m_index};
+    std::unordered_set<std::string> names{m_index, m_names.OnDisk(m_request.cboStartBook + 1, 1)};
+    names.reserve(m_glob.ChapterIndex.size());
     for (const ChapterEntry& entry : m_glob.ChapterIndex) {
       if (entry.Book >= 1 && entry.Book <= Books()) names.insert(m_names.OnDisk(entry.Book, entry.Chapter));
     }
+    std::size_t place = 0;
     for (int book = 1; book <= Books(); ++book) {
-      for (int chapter = 1; chapter <= ChaptersOf(book); ++chapter) names.insert(m_names.OnDisk(book, chapter));
+      for (int chapter = 1; chapter <= ChaptersOf(book); ++chapter, ++place) {
+        const ChapterEntry& entry = m_glob.ChapterIndex[std::min(place, m_glob.ChapterIndex.size() - 1)];
+        if (entry.Book != book || entry.Chapter != chapter) names.insert(m_names.OnDisk(book, chapter));
+      }
     }
-    names.insert(m_names.OnDisk(m_request.cboStartBook + 1, 1));
     return names;
   }
 

@@ -1,8 +1,5 @@
 #include "SiteChanges.h"
 
-#include <algorithm>
-#include <iterator>
-
 namespace folionet {
 
 void SiteChanges::Written(const std::string& name, PageChange change) {
@@ -10,7 +7,7 @@ void SiteChanges::Written(const std::string& name, PageChange change) {
                       : change == PageChange::kChanged ? State::kChanged
                                                        : State::kSame;
   const auto [entry, isFirst] = m_states.emplace(name, state);
-  if (isFirst) m_order.push_back(name);
+  if (isFirst) m_order.push_back(&entry->first);
   // A page that is written again is new, or has changed, as it was or had the first time.
   if (entry->second == State::kSame && state == State::kChanged) entry->second = state;
 }
@@ -19,7 +16,7 @@ void SiteChanges::Removed(const std::string& name, Removal removal) {
   const auto [entry, isFirst] =
       m_states.emplace(name, removal == Removal::kRemoved ? State::kRemoved : State::kNothing);
   if (isFirst) {
-    m_order.push_back(name);
+    m_order.push_back(&entry->first);
   } else if (removal != Removal::kFailed) {
     // A page that the run itself made was not there before it.
     entry->second = entry->second == State::kNew ? State::kNothing : State::kRemoved;
@@ -33,8 +30,9 @@ bool SiteChanges::IsTold(const std::string& name) const {
 
 std::vector<std::string> SiteChanges::Names(State state) const {
   std::vector<std::string> names;
-  std::copy_if(m_order.begin(), m_order.end(), std::back_inserter(names),
-               [&](const std::string& name) { return m_states.at(name) == state; });
+  for (const std::string* name : m_order) {
+    if (m_states.at(*name) == state) names.push_back(*name);
+  }
   return names;
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include <map>
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 #include "SiteFolder.h"
@@ -40,8 +40,8 @@ class SiteChanges {
   enum class State { kNew, kChanged, kSame, kRemoved, kNothing };
   std::vector<std::string> Names(State state) const;
 
-  std::map<std::string, State> m_states;
-  std::vector<std::string> m_order;
+  std::unordered_map<std::string, State> m_states;
+  std::vector<const std::string*> m_order;  // its keys
   std::vector<std::string> m_kept;
 };
 

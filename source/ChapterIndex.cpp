@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <bitset>
 #include <memory>
 #include <optional>
 #include <set>
@@ -26,25 +27,6 @@ constexpr std::size_t kChapterField = 3;
 constexpr std::size_t kVersesField = 4;
 constexpr std::int64_t kByteMax = 255;
 constexpr std::size_t kByteValues = 256;
-
-// Of an imported translation: by the books' own numbers, with the chapters that are missing.
-void CountImported(ModGlob& glob, const std::string& path) {
-  RecordReader records(path, Subject::kChapterIndex);
-  std::array<std::string_view, kFields> fields;
-  std::set<std::pair<int, int>> there;
-  while (records.Next(fields)) {
-    const auto book = static_cast<int>(records.Integer(fields[kBookField], 1, kBooks));
-    const auto chapter = static_cast<int>(records.Integer(fields[kChapterField], 1, kByteMax));
-    there.insert({book, chapter});
-    std::int16_t& last = glob.ChaptersInBook[static_cast<std::size_t>(book)];
-    last = std::max(last, static_cast<std::int16_t>(chapter));
-  }
-  for (int book = 1; book <= kBooks; ++book) {
-    for (int chapter = 1; chapter < glob.ChaptersInBook[static_cast<std::size_t>(book)]; ++chapter) {
-      if (!there.contains({book, chapter})) glob.missingChapters.insert({book, chapter});
-    }
-  }
-}
 
 // Tells whether a file is the one that was read: it is replaced or written anew in another state.
 struct FileStamp {
@@ -86,11 +68,12 @@ std::uint8_t ByteOf(const RecordReader& records, std::string_view field) {
 
 }  // namespace
 
-// Both tables of an index, read in one pass. Each has a failure of its own: what is no number of a verse count does not
-// keep chapters from being counted.
+// The tables of an index, read in one pass. Each has a failure of its own: what is no number of a verse count does not
+// keep chapters from being counted. In that of an imported translation books are counted by their own numbers.
 class IndexReading {
  public:
-  explicit IndexReading(const std::string& path) : m_path(path), m_stamp(StampOf(path)), lastInput(LastInput({})) {
+  IndexReading(const std::string& path, bool isImported)
+      : m_path(path), m_isImported(isImported), m_stamp(StampOf(path)), lastInput(LastInput({})) {
     try {
       RecordReader records(path, Subject::kChapterIndex);
       Fields fields;
@@ -102,13 +85,30 @@ class IndexReading {
     }
   }
 
-  bool IsOf(const std::string& path) const { return path == m_path && m_stamp && m_stamp == StampOf(path); }
+  bool IsOf(const std::string& path, bool isImported) const {
+    return path == m_path && isImported == m_isImported && m_stamp && m_stamp == StampOf(path);
+  }
+
+  // Those before a book's last one that an imported translation lacks: book and chapter.
+  std::set<std::pair<int, int>> MissingChapters() const {
+    std::set<std::pair<int, int>> missing;
+    if (!m_isImported) return missing;
+    for (int book = 1; book <= kBooks; ++book) {
+      const auto row = static_cast<std::size_t>(book);
+      for (int chapter = 1; chapter < chapters[row]; ++chapter) {
+        if (!m_isThere[row].test(static_cast<std::size_t>(chapter))) missing.insert({book, chapter});
+      }
+    }
+    return missing;
+  }
 
  private:
   using Fields = std::array<std::string_view, kFields>;
 
   std::string m_path;
+  bool m_isImported;
   std::optional<FileStamp> m_stamp;
+  std::array<std::bitset<kByteValues>, kBooks + 1> m_isThere;
   std::int64_t m_lastBook = kInt32Min;  // stands for none
   std::size_t m_bookCount = 0;
 
@@ -145,6 +145,13 @@ class IndexReading {
   }
 
   void Count(const RecordReader& records, const Fields& fields) {
+    if (m_isImported) {
+      const auto book = static_cast<std::size_t>(records.Integer(fields[kBookField], 1, kBooks));
+      const std::int64_t chapter = records.Integer(fields[kChapterField], 1, kByteMax);
+      m_isThere[book].set(static_cast<std::size_t>(chapter));
+      chapters[book] = std::max(chapters[book], static_cast<std::int16_t>(chapter));
+      return;
+    }
     const std::int64_t book = records.Integer(fields[kBookField], kInt32Min + 1, kInt32Max);
     if (book != m_lastBook) {
       m_lastBook = book;
@@ -168,8 +175,9 @@ class IndexReading {
 namespace {
 
 const IndexReading& ReadingOf(ModGlob& glob, const std::string& path) {
-  if (glob.indexReading == nullptr || !glob.indexReading->IsOf(path)) {
-    glob.indexReading = std::make_shared<const IndexReading>(path);
+  const bool isImported = glob.Imported.IsThere();
+  if (glob.indexReading == nullptr || !glob.indexReading->IsOf(path, isImported)) {
+    glob.indexReading = std::make_shared<const IndexReading>(path, isImported);
   }
   return *glob.indexReading;
 }
@@ -193,14 +201,9 @@ Outcome BooksInChapters(ModGlob& glob, std::size_t translation, const CodePage& 
                       Topic::kNoChapterIndex});
       return Outcome::kEndProgram;
     }
-    glob.missingChapters.clear();
-    if (glob.Imported.IsThere()) {
-      glob.ChaptersInBook.fill(0);
-      CountImported(glob, path);
-      return Outcome::kDone;
-    }
     const IndexReading& reading = ReadingOf(glob, path);
     glob.ChaptersInBook = reading.chapters;
+    glob.missingChapters = reading.MissingChapters();
     if (reading.countFailure) throw RunTimeError(*reading.countFailure);
     return Outcome::kDone;
   } catch (const RunTimeError& error) {

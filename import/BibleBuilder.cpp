@@ -205,6 +205,19 @@ void BibleBuilder::CloseChapter() {
   m_title.Clear();
   CloseVerse();
   m_lastNumber = 0;
+  m_seenHere = nullptr;
+}
+
+// Notes that the verse at hand is there, and tells whether it was before.
+bool BibleBuilder::IsSeenNow(int number) {
+  if (m_seenHere == nullptr) m_seenHere = &m_seen[{m_book, m_chapter}];
+  const bool isPlain =
+      m_field.size() <= 3 && number < kPlainVerses && std::all_of(m_field.begin(), m_field.end(), IsDigit);
+  if (!isPlain) return !m_seenHere->others.insert(m_field).second;
+  const auto place = static_cast<std::size_t>(number);
+  const bool isSeen = m_seenHere->plain[place];
+  m_seenHere->plain[place] = true;
+  return isSeen;
 }
 
 void BibleBuilder::NameOddities() {
@@ -219,7 +232,7 @@ void BibleBuilder::NameOddities() {
                           {}});
   };
   const auto number = LeadingInteger(m_field).value_or(0);
-  if (!m_seen.insert(std::string{static_cast<char>(m_book), static_cast<char>(m_chapter)} + m_field).second) {
+  if (IsSeenNow(number)) {
     name("doubled-verse", Words("Import", "%1 comes twice; both are kept."));
   } else if (number < m_lastNumber) {
     name("verse-order", Words("Import", "%1 is out of order."));

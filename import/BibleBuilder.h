@@ -1,12 +1,13 @@
 #pragma once
 
 #include <array>
+#include <bitset>
 #include <cstddef>
 #include <map>
 #include <set>
 #include <string>
 #include <string_view>
-#include <unordered_set>
+#include <utility>
 #include <vector>
 
 #include "FlowingText.h"
@@ -67,6 +68,14 @@ class BibleBuilder {
   ImportedBible Finish();
 
  private:
+  // The verses of a chapter so far.
+  static constexpr int kPlainVerses = 256;
+  struct SeenVerses {
+    std::bitset<kPlainVerses> plain;  // those whose field is just a number below that
+    std::set<std::string> others;
+  };
+
+  bool IsSeenNow(int number);
   void OpenBook(int number);
   void CloseVerse();
   void CloseChapter();
@@ -97,7 +106,8 @@ class BibleBuilder {
   std::vector<int> m_order;  // the books in the order of their first appearance
   bool m_mayNamesBeInOrder = false;
   std::set<std::string> m_noted;
-  std::unordered_set<std::string> m_seen;  // the verses so far
+  std::map<std::pair<int, int>, SeenVerses> m_seen;  // by book and chapter
+  SeenVerses* m_seenHere = nullptr;                  // of the chapter at hand; null when that is not known yet
   std::array<int, kBooks + 1> m_titleRank{};
 };
 

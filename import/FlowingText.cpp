@@ -1,6 +1,8 @@
 #include "FlowingText.h"
 
 #include <array>
+#include <cstdint>
+#include <cstring>
 
 namespace folionet {
 namespace {
@@ -19,8 +21,28 @@ constexpr std::array<bool, 256> kSpecial = MakeSpecial();
 
 bool IsSpecial(char c) { return kSpecial[static_cast<unsigned char>(c)]; }
 
+// Sixteen bytes that are looked at together.
+using Wide = unsigned char __attribute__((vector_size(16)));
+
+// Whether one of the sixteen bytes from `text` on is special, a blank only when a special one or another blank follows.
+// Reads seventeen.
+bool HasSpecial(const char* text) {
+  Wide here{};
+  Wide next{};
+  std::memcpy(&here, text, sizeof here);
+  std::memcpy(&next, text + 1, sizeof next);
+  const auto isBlank = (here == ' ') & ((next <= ' ') | (next == 0x7F) | (next == kBomStart));
+  const auto isOther = (here < ' ') | (here == 0x7F) | (here == kBomStart);
+  const auto isMarkup = (here == '&') | (here == '<') | (here == '>');
+  const auto found = isBlank | isOther | isMarkup;
+  std::array<std::uint64_t, 2> halves{};
+  std::memcpy(halves.data(), &found, sizeof halves);
+  return (halves[0] | halves[1]) != 0;
+}
+
 // Where the next byte is that is not simply passed on: a single blank between others is.
 std::size_t FindSpecial(std::string_view text, std::size_t at) {
+  while (at + sizeof(Wide) < text.size() && !HasSpecial(text.data() + at)) at += sizeof(Wide);
   for (; at < text.size(); ++at) {
     if (!IsSpecial(text[at])) continue;
     if (text[at] != ' ' || at + 1 == text.size() || IsSpecial(text[at + 1])) break;

@@ -9,24 +9,31 @@ namespace folionet {
 namespace {
 
 constexpr std::size_t kLongestText = std::size_t{64} << 20;
+constexpr std::size_t kBlock = std::size_t{1} << 20;
+constexpr std::size_t kUsualVerses = std::size_t{1} << 15;
 
 }  // namespace
 
 ImportedBible::Verse ImportedBible::VerseAt(std::size_t i) const {
   const Place& place = m_places[i];
-  const std::string_view all = m_text;
-  return {place.book, place.chapter, all.substr(place.start, place.fieldLength),
-          all.substr(place.start + place.fieldLength, place.textLength)};
+  const std::string_view block = m_blocks[place.block];
+  return {place.book, place.chapter, block.substr(place.start, place.fieldLength),
+          block.substr(place.start + place.fieldLength, place.textLength)};
 }
 
 void ImportedBible::Add(const Verse& verse) {
-  if (m_text.size() + verse.text.size() > kLongestText) {
-    throw RunTimeError(kOutOfMemory, "The text", "It is longer than 64 MiB.");
+  const std::size_t length = verse.field.size() + verse.text.size();
+  m_length += length;
+  if (m_length > kLongestText) throw RunTimeError(kOutOfMemory, "The text", "It is longer than 64 MiB.");
+  if (m_blocks.empty() || m_blocks.back().capacity() - m_blocks.back().size() < length) {
+    m_blocks.emplace_back().reserve(std::max(kBlock, length));
   }
-  m_places.push_back({static_cast<std::uint32_t>(m_text.size()), static_cast<std::uint32_t>(verse.text.size()),
-                      static_cast<std::uint8_t>(verse.field.size()), static_cast<std::uint8_t>(verse.book),
-                      static_cast<std::uint8_t>(verse.chapter)});
-  m_text.append(verse.field).append(verse.text);
+  if (m_places.empty()) m_places.reserve(kUsualVerses);
+  std::string& block = m_blocks.back();
+  m_places.push_back({static_cast<std::uint32_t>(block.size()), static_cast<std::uint32_t>(verse.text.size()),
+                      static_cast<std::uint16_t>(m_blocks.size() - 1), static_cast<std::uint8_t>(verse.field.size()),
+                      static_cast<std::uint8_t>(verse.book), static_cast<std::uint8_t>(verse.chapter)});
+  block.append(verse.field).append(verse.text);
 }
 
 void ImportedBible::Renumber(const NewNumbers& numbers) {
@@ -35,9 +42,12 @@ void ImportedBible::Renumber(const NewNumbers& numbers) {
 }
 
 void ImportedBible::Sort() {
-  std::stable_sort(m_places.begin(), m_places.end(), [](const Place& left, const Place& right) {
+  const auto isBefore = [](const Place& left, const Place& right) {
     return std::tie(left.book, left.chapter) < std::tie(right.book, right.chapter);
-  });
+  };
+  if (!std::is_sorted(m_places.begin(), m_places.end(), isBefore)) {
+    std::stable_sort(m_places.begin(), m_places.end(), isBefore);
+  }
 }
 
 }  // namespace folionet

@@ -46,20 +46,22 @@ class ImportedBible {
   // Sorts into books and chapters; within a chapter the order stays.
   void Sort();
 
-  // All characters of the verses, one behind the other.
-  std::string_view AllText() const { return m_text; }
+  // All characters of the verses, in runs that each begin and end with a verse.
+  const std::vector<std::string>& AllText() const { return m_blocks; }
 
  private:
-  // Where a verse's field begins in m_text; its text follows.
+  // Where a verse's field begins in a block; its text follows.
   struct Place {
     std::uint32_t start = 0;
     std::uint32_t textLength = 0;
+    std::uint16_t block = 0;
     std::uint8_t fieldLength = 0;
     std::uint8_t book = 0;
     std::uint8_t chapter = 0;
   };
 
-  std::string m_text;
+  std::vector<std::string> m_blocks;  // none grows beyond what it has reserved, so that no text is copied
+  std::size_t m_length = 0;           // of them all
   std::vector<Place> m_places;
 };
 

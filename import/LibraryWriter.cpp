@@ -126,7 +126,6 @@ std::string Bytes(const LibraryPlan& plan, std::string_view utf8) {
 
 // The verse file and its index.
 void MakeTexts(const ImportedBible& bible, LibraryPlan& plan, std::string& verses, std::string& index) {
-  verses.reserve(bible.AllText().size() + bible.VerseCount() * std::size_t{20});
   plan.verses = bible.VerseCount();
   int lastBook = 0;
   std::string lines;  // of a chapter, in UTF-8
@@ -230,8 +229,10 @@ LibraryPlan PlanLibrary(const ImportedBible& bible, const LibraryRequest& reques
 
   const BookTitleList titles = MakePageTitles(
       request.titlesFile.empty() ? bible.titles : ReadTitlesFile(request.titlesFile), plan.text.language);
-  bool fits = Windows1252().Holds(bible.AllText()) && Windows1252().Holds(plan.text.name);
-  for (const std::string& title : titles) fits = fits && Windows1252().Holds(title);
+  const auto holds = [](const std::string& text) { return Windows1252().Holds(text); };
+  const std::vector<std::string>& text = bible.AllText();
+  const bool fits = std::all_of(text.begin(), text.end(), holds) && std::all_of(titles.begin(), titles.end(), holds) &&
+                    holds(plan.text.name);
   plan.text.charset = fits ? "windows-1252" : "utf-8";
   plan.text.titles = "BOOKS_" + plan.stem + ".TXT";
 

@@ -103,6 +103,10 @@ void AddImport(CLI::App& app, Arguments& asked) {
       ->type_name("BOOKS_FILE");
   command.add_option("--charset", arguments->charset, "Of the files (default: what they tell, or UTF-8)")
       ->type_name("NAME");
+  command
+      .add_option("--language", arguments->language,
+                  "Code of its language (default: what the text\ntells, or its letters)")
+      ->type_name("CODE");
   command.add_flag("--replace", arguments->replace, "Replace the translation of this name or stem");
   CLI::Option* dryRun = command.add_flag("--dry-run", arguments->dryRun, "Write nothing; tell what would be imported");
   AddJson(command, asked.common)->needs(dryRun)->option_text(" ");

@@ -38,6 +38,24 @@ void TellFindings(const ImportedBible& bible, ConsoleUi& ui) {
   }
 }
 
+// Where the text did not name it.
+void TellLanguage(const LibraryPlan& plan, ConsoleUi& ui) {
+  const auto tell = [&](const char* pattern) {
+    ui.Remark({.kind = "language", .severity = Severity::kNote, .what = {pattern, {plan.text.language}}});
+  };
+  switch (plan.languageFrom) {
+    case LanguageSource::kNone:
+      return tell("The text names no language; its pages declare that of the settings. Name it with --language.");
+    case LanguageSource::kScript:
+      return tell("The text names no language; by its letters it is %1. Name another with --language.");
+    case LanguageSource::kTitles:
+      return tell("The text names no language; by its book titles it is %1. Name another with --language.");
+    case LanguageSource::kGiven:
+    case LanguageSource::kText:
+      break;
+  }
+}
+
 std::string ResultLine(const LibraryPlan& plan) {
   return plan.stem + ": " + plan.text.name + ": " + Counted(static_cast<std::size_t>(plan.books), "book") + ", " +
          Counted(static_cast<std::size_t>(plan.chapters), "chapter") + ", " + Counted(plan.verses, "verse") + ", " +
@@ -85,6 +103,7 @@ ExitStatus RunImport(const CommonOptions& common, const ImportArguments& argumen
   request.name = arguments.name;
   request.stem = arguments.stem;
   request.folder = NativePath(arguments.into);
+  request.language = arguments.language;
   request.titlesFile = NativePath(arguments.titles);
   request.fallbackName = NameOfPath(arguments.paths.front());
   request.replace = arguments.replace;
@@ -94,7 +113,10 @@ ExitStatus RunImport(const CommonOptions& common, const ImportArguments& argumen
     const ImportedBible bible = ReadBible({arguments.paths, arguments.charset});
     const LibraryPlan plan = PlanLibrary(bible, request);
     if (!arguments.dryRun) WriteLibrary(plan);
-    if (!common.quiet || common.json) TellFindings(bible, ui);
+    if (!common.quiet || common.json) {
+      TellFindings(bible, ui);
+      TellLanguage(plan, ui);
+    }
     if (common.json) ShowPlan(bible, plan, ui);
     ui.Sum(ResultLine(plan), Severity::kNote);
     if (arguments.dryRun) ui.Sum("Nothing was written.", Severity::kNote);

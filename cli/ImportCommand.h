@@ -16,6 +16,7 @@ struct ImportArguments {
   std::string into;
   std::string titles;
   std::string charset;
+  std::string language;
   bool replace = false;
   bool dryRun = false;
 };

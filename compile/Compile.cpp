@@ -251,6 +251,7 @@ class CompileRun {
   PageValues Values() const {
     return {.language = m_context.PageLanguage,
             .charset = m_context.PageCharset,
+            .isRightToLeft = m_glob.Imported.direction == "rtl",
             .fontFace = m_context.FontName,
             .fontSize = m_context.FontSizeNumber,
             .backColour = m_context.BackColourHex,

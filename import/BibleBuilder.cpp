@@ -13,7 +13,6 @@ namespace {
 
 constexpr int kHighestChapter = 255;  // more do not go into a chapter index
 constexpr std::size_t kLongestField = 32;
-constexpr int kOneChapterBooks[] = {31, 57, 63, 64, 65};
 
 bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 
@@ -78,6 +77,7 @@ void BibleBuilder::BeginBook(std::string_view name) {
   if (clean.empty()) Fail("the code or the name of a book was expected");
   const int number = FindBook(clean);
   OpenBook(number != 0 ? number : OutsideBook(clean));
+  if (number != 0) m_bible.names[static_cast<std::size_t>(number)] = clean;
 }
 
 void BibleBuilder::BeginBookNumber(int number, std::string_view name) {
@@ -130,10 +130,7 @@ void BibleBuilder::BeginChapter(std::string_view number) {
 void BibleBuilder::BeginVerse(std::string_view field) {
   CloseVerse();
   if (m_book == 0) Fail("a book was expected before verse " + Quoted(field));
-  if (m_chapter == 0 &&
-      std::find(std::begin(kOneChapterBooks), std::end(kOneChapterBooks), m_book) != std::end(kOneChapterBooks)) {
-    m_chapter = 1;
-  }
+  if (m_chapter == 0 && HasOneChapter(m_book)) m_chapter = 1;
   if (m_chapter == 0 && m_book <= kBooks) Fail("a chapter was expected before verse " + Quoted(field));
   m_field = CleanField(field);
   if (!IsVerseField(m_field)) {

@@ -107,6 +107,11 @@ std::map<std::string, int> MakeKeys() {
 
 const Book& BookAt(int number) { return kTable.at(static_cast<std::size_t>(number) - 1); }
 
+bool HasOneChapter(int number) {
+  constexpr std::array<int, 5> kOneChapterBooks{31, 57, 63, 64, 65};
+  return std::find(kOneChapterBooks.begin(), kOneChapterBooks.end(), number) != kOneChapterBooks.end();
+}
+
 std::string BookLabel(int number) {
   const std::string label(BookAt(number).code);
   const std::size_t letter = label.find_first_not_of("123") + 1;

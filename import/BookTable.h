@@ -17,6 +17,9 @@ struct Book {
 // Book `number`, 1 (Genesis) to 66 (Revelation).
 const Book& BookAt(int number);
 
+// Whether a book has one chapter only, whose number is often left out: "Jude 5".
+bool HasOneChapter(int number);
+
 // The short label that Versalia keeps for a book: its code in the form "Gen", "1Sa".
 std::string BookLabel(int number);
 

@@ -30,6 +30,7 @@ class ImportedBible {
   std::string name;                            // of the translation; empty when the text does not tell
   std::string language;                        // its code, lower case; empty when the text does not tell
   std::array<std::string, kBooks + 1> titles;  // element 0 is unused; empty for a book without
+  std::array<std::string, kBooks + 1> names;   // by which the text calls its books, or codes; element 0 is unused
   std::vector<LeftOutBook> leftOut;
   Findings findings;  // what is doubled, out of order, empty or missing
 

@@ -23,6 +23,7 @@
 #include "RunTimeError.h"
 #include "StoredSettings.h"
 #include "Text.h"
+#include "TextLanguage.h"
 #include "TitleLanguages.h"
 #include "WholeFile.h"
 
@@ -33,10 +34,13 @@ namespace fs = std::filesystem;
 
 constexpr std::size_t kLongestStem = 60;
 constexpr std::size_t kLongestName = 200;
+constexpr std::size_t kLongestLanguage = 35;
 
 bool IsOfStem(char c) {
   return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '-' || c == '_';
 }
+
+bool IsOfLanguage(char c) { return c != '_' && IsOfStem(c); }
 
 bool HasControl(std::string_view text) {
   return std::any_of(text.begin(), text.end(), [](unsigned char c) { return c < 0x20 || c == 0x7F; });
@@ -91,33 +95,97 @@ const CodePage& Windows1252() {
   return page;
 }
 
+std::string LanguageTitles(const TitleLanguage& language) { return "BOOKS_" + std::string(language.name) + ".TXT"; }
+
 // The name as the catalogue holds it: one that windows-1252 lacks a character of, in UTF-8.
 std::string CatalogueName(const std::string& name) {
   return Windows1252().Holds(name) ? Windows1252().Encode(name) : name;
 }
 
-std::string FreeStem(const std::string& wanted, const CatalogueText& catalogue) {
+std::string VerseFile(const LibraryPlan& plan, const std::string& stem) {
+  return FileOf(plan, "Modules/Bible", stem + ".TXT");
+}
+
+std::string IndexFile(const LibraryPlan& plan, const std::string& stem) {
+  return FileOf(plan, "Index", stem + ".TXT.INDEX");
+}
+
+bool IsThere(const std::string& path) {
+  std::error_code ignored;
+  return fs::exists(fs::symlink_status(path, ignored));
+}
+
+// The file that a translation of that stem would take the place of; empty when there is none.
+std::string FileInTheWay(const LibraryPlan& plan, const std::string& stem) {
+  for (const std::string& path : {VerseFile(plan, stem), IndexFile(plan, stem)}) {
+    if (IsThere(path)) return path;
+  }
+  return {};
+}
+
+std::string FreeStem(const LibraryPlan& plan, const CatalogueText& catalogue) {
+  const std::string wanted = StemOf(plan.text.name);
   const std::string base = wanted.empty() ? "TEXT" : wanted;
   std::string stem = base;
-  for (int number = 2; catalogue.WithStem(stem) != nullptr; ++number) stem = base + "-" + std::to_string(number);
+  for (int number = 2; catalogue.WithStem(stem) != nullptr || !FileInTheWay(plan, stem).empty(); ++number) {
+    stem = base + "-" + std::to_string(number);
+  }
   return stem;
 }
 
-// Chooses the stem, and refuses to take the place of a translation that is not to be replaced.
+// Chooses the stem, and refuses to take the place of a translation, or of a file, that is not to be replaced.
 void ChooseStem(const LibraryRequest& request, const CatalogueText& catalogue, LibraryPlan& plan) {
   const CatalogueEntry* sameName = catalogue.WithName(CatalogueName(plan.text.name));
   if (sameName == nullptr) sameName = catalogue.WithName(plan.text.name);
   if (request.stem.empty()) {
-    plan.stem = sameName != nullptr ? sameName->stem : FreeStem(StemOf(plan.text.name), catalogue);
+    plan.stem = sameName != nullptr ? sameName->stem : FreeStem(plan, catalogue);
   } else {
     plan.stem = request.stem;
   }
   const CatalogueEntry* const sameStem = catalogue.WithStem(plan.stem);
-  plan.replaces = sameStem != nullptr;
-  if (sameStem == nullptr || request.replace) return;
+  const std::string file = FileInTheWay(plan, plan.stem);
+  plan.replaces = sameStem != nullptr || !file.empty();
+  if (!plan.replaces || request.replace) return;
+  if (sameStem == nullptr) {
+    throw RunTimeError(kFileAlreadyOpen, file,
+                       "It is there already, though the library does not list it. Replace it with --replace, or give "
+                       "this translation another --stem.");
+  }
   throw RunTimeError(kFileAlreadyOpen, plan.folder,
                      "The library holds a translation with the stem " + sameStem->stem +
                          " already. Replace it with --replace, or give this one another --name and --stem.");
+}
+
+// A name for the file of titles that no other translation and no language has.
+std::string TitlesName(const LibraryPlan& plan) {
+  const auto before = plan.replaces ? ReadImportedText(VerseFile(plan, plan.stem)) : std::nullopt;
+  const auto isOfLanguage = [](const std::string& name) {
+    const std::vector<TitleLanguage>& languages = TitleLanguages();
+    return std::any_of(languages.begin(), languages.end(), [&](const TitleLanguage& language) {
+      return EqualIgnoringCase(name, LanguageTitles(language));
+    });
+  };
+  std::string name = "BOOKS_" + plan.stem + ".TXT";
+  for (int number = 2; !before || !EqualIgnoringCase(before->titles, name); ++number) {
+    if (!isOfLanguage(name) && !IsThere(FileOf(plan, "Sysdefs", name))) break;
+    name = "BOOKS_" + plan.stem + "-" + std::to_string(number) + ".TXT";
+  }
+  return name;
+}
+
+void ChooseLanguage(const ImportedBible& bible, const LibraryRequest& request, LibraryPlan& plan) {
+  const TextScript script = ScriptOf(bible);
+  const std::pair<LanguageSource, std::string> sources[] = {{LanguageSource::kGiven, request.language},
+                                                            {LanguageSource::kText, bible.language},
+                                                            {LanguageSource::kScript, script.language},
+                                                            {LanguageSource::kTitles, LanguageOfTitles(bible)}};
+  for (const auto& [source, code] : sources) {
+    if (code.empty()) continue;
+    plan.text.language = LanguageCode(code);
+    plan.languageFrom = source;
+    break;
+  }
+  if (script.isRightToLeft) plan.text.direction = "rtl";
 }
 
 std::string Bytes(const LibraryPlan& plan, std::string_view utf8) {
@@ -165,7 +233,7 @@ void AddDeliveredTitles(LibraryPlan& plan) {
     plan.files.emplace_back(path, Windows1252().Encode(TitleFileText(titles)));
   };
   for (const TitleLanguage& language : TitleLanguages()) {
-    add("BOOKS_" + std::string(language.name) + ".TXT", language);
+    add(LanguageTitles(language), language);
   }
   add("BOOKS.TXT", TitleLanguages().front());
 }
@@ -212,6 +280,11 @@ Sentence RefusalOf(const LibraryRequest& request) {
     return {Words("Import", "%1: at most 60 letters and digits of ASCII, \"-\" and \"_\" were expected: %2"),
             {"--stem", Quoted(request.stem)}};
   }
+  if (!std::all_of(request.language.begin(), request.language.end(), IsOfLanguage) ||
+      request.language.size() > kLongestLanguage) {
+    return {Words("Import", "%1: a code such as he or pt-br was expected: %2"),
+            {"--language", Quoted(request.language)}};
+  }
   if (HasControl(request.folder)) {
     return {Words("Import", "%1: a folder without control characters in its name was expected."), {"--into"}};
   }
@@ -222,7 +295,7 @@ LibraryPlan PlanLibrary(const ImportedBible& bible, const LibraryRequest& reques
   LibraryPlan plan;
   plan.folder = AbsoluteFolder(request.folder.empty() ? OwnLibraryFolder() : request.folder);
   plan.text.name = NameFor(bible, request);
-  plan.text.language = LanguageCode(bible.language);
+  ChooseLanguage(bible, request, plan);
   plan.catalogue = FileOf(plan, "Sysdefs", "Translations.txt");
   const CatalogueText catalogue(plan.catalogue);
   ChooseStem(request, catalogue, plan);
@@ -234,14 +307,14 @@ LibraryPlan PlanLibrary(const ImportedBible& bible, const LibraryRequest& reques
   const bool fits = std::all_of(text.begin(), text.end(), holds) && std::all_of(titles.begin(), titles.end(), holds) &&
                     holds(plan.text.name);
   plan.text.charset = fits ? "windows-1252" : "utf-8";
-  plan.text.titles = "BOOKS_" + plan.stem + ".TXT";
+  plan.text.titles = TitlesName(plan);
 
   std::string verses;
   std::string index;
   MakeTexts(bible, plan, verses, index);
-  const std::string verseFile = FileOf(plan, "Modules/Bible", plan.stem + ".TXT");
+  const std::string verseFile = VerseFile(plan, plan.stem);
   plan.files.emplace_back(verseFile, std::move(verses));
-  plan.files.emplace_back(FileOf(plan, "Index", plan.stem + ".TXT.INDEX"), std::move(index));
+  plan.files.emplace_back(IndexFile(plan, plan.stem), std::move(index));
   plan.files.emplace_back(ImportedTextFile(verseFile), WriteImportedText(plan.text));
   plan.files.emplace_back(FileOf(plan, "Sysdefs", plan.text.titles), TitlesContent(plan, titles));
   AddDeliveredTitles(plan);

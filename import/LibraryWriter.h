@@ -13,7 +13,7 @@
 //   Sysdefs/Translations.txt             the catalogue                     (CatalogueText.h)
 //   Sysdefs/BOOKS.TXT                    the book titles, English          (TitleLanguages.h)
 //   Sysdefs/BOOKS_<LANGUAGE>.TXT         the book titles of a language
-//   Sysdefs/BOOKS_<STEM>.TXT             the book titles of the translation
+//   Sysdefs/BOOKS_<STEM>.TXT             the book titles of the translation; with a number where that name is taken
 //   Index/<STEM>.TXT.INDEX               the chapter index
 //   Modules/Bible/<STEM>.TXT             the verses
 //   Modules/Bible/<STEM>.TXT.folionet    what else is known of it          (ImportedText.h)
@@ -33,9 +33,13 @@ struct LibraryRequest {
   std::string stem;        // stem of its files; empty for one made from the name
   std::string folder;      // where the library is or will be; empty for OwnLibraryFolder
   std::string titlesFile;  // path of a file of book titles to use; empty for the titles of the text
+  std::string language;    // code of the text's language; empty for the one that it tells
   std::string fallbackName;
-  bool replace = false;  // a translation of the same name or stem is replaced
+  bool replace = false;  // a translation of the same name or stem, and its files, are replaced
 };
+
+// Where the language of a text was taken from.
+enum class LanguageSource { kNone, kGiven, kText, kScript, kTitles };
 
 // What is to be written, whole.
 struct LibraryPlan {
@@ -46,6 +50,7 @@ struct LibraryPlan {
   int chapters = 0;
   std::size_t verses = 0;
   bool replaces = false;
+  LanguageSource languageFrom = LanguageSource::kNone;
 
   std::string catalogue;                                   // its path
   std::string catalogueBefore;                             // its content when the plan was made

@@ -35,36 +35,66 @@ std::size_t FieldLength(std::string_view text) {
   }
 }
 
-// A line's fields; one in double quotes may hold the separator, and quotes that are doubled. The last of `most` fields
-// is the rest of the line. Empty when a quote is not closed.
+// The length of a field in double quotes at the start of a line, with them; npos when they are not closed.
+std::size_t QuotedLength(std::string_view line) {
+  for (std::size_t at = 1; at < line.size(); ++at) {
+    if (line[at] != '"') continue;
+    if (at + 1 == line.size() || line[at + 1] != '"') return at + 1;
+    ++at;
+  }
+  return std::string_view::npos;
+}
+
+bool EndsField(std::string_view line, std::size_t at, char separator) {
+  return at == line.size() || (at < line.size() && line[at] == separator);
+}
+
+// A line's fields. One in double quotes may hold the separator, and quotes that are doubled. Where tabs separate and
+// the first field has no quotes, only one that holds either is taken for such a field: a verse may stand in quotes of
+// its own. The last of `most` fields is the rest of the line.
 std::vector<std::string> Split(std::string_view line, char separator, std::size_t most = std::string_view::npos) {
   std::vector<std::string> fields;
+  const bool isAnyQuoted = separator != '\t' || line.starts_with('"');
   for (;;) {
     std::string field;
-    if (line.starts_with('"')) {
-      std::size_t at = 1;
-      for (;; ++at) {
-        if (at >= line.size()) return {};
-        if (line[at] != '"') {
-          field += line[at];
-        } else if (at + 1 < line.size() && line[at + 1] == '"') {
-          field += line[at++];
-        } else {
-          break;
-        }
+    std::size_t end = line.starts_with('"') ? QuotedLength(line) : std::string_view::npos;
+    std::string_view inner = line.substr(0, end);
+    const bool needsQuotes = inner.find("\"\"") != std::string_view::npos || inner.find('\t') != std::string_view::npos;
+    if (EndsField(line, end, separator) && (isAnyQuoted || needsQuotes)) {
+      inner = inner.substr(1, inner.size() - 2);
+      for (std::size_t at = 0; at < inner.size(); ++at) {
+        field += inner[at];
+        if (inner[at] == '"') ++at;
       }
-      line.remove_prefix(at + 1);
-      const std::size_t end = std::min(line.find(separator), line.size());
-      field += line.substr(0, end);
-      line.remove_prefix(end);
     } else {
-      const std::size_t end = fields.size() + 1 == most ? line.size() : std::min(line.find(separator), line.size());
+      end = fields.size() + 1 == most ? line.size() : std::min(line.find(separator), line.size());
       field = line.substr(0, end);
-      line.remove_prefix(end);
     }
     fields.push_back(std::move(field));
+    line.remove_prefix(end);
     if (line.empty()) return fields;
     line.remove_prefix(1);
+  }
+}
+
+// How the quotes at the start of a record's fields end: not in this record, all before a separator, or else.
+enum class Quotes { kOpen, kClosed, kOdd };
+
+Quotes QuotesOf(std::string_view record, char separator) {
+  Quotes quotes = Quotes::kClosed;
+  for (;;) {
+    std::size_t end = std::min(record.find(separator), record.size());
+    if (record.starts_with('"')) {
+      const std::size_t length = QuotedLength(record);
+      if (length == std::string_view::npos) return Quotes::kOpen;
+      if (EndsField(record, length, separator)) {
+        end = length;
+      } else {
+        quotes = Quotes::kOdd;
+      }
+    }
+    if (end == record.size()) return quotes;
+    record.remove_prefix(end + 1);
   }
 }
 
@@ -117,8 +147,23 @@ std::optional<LinesForm::Columns> LinesForm::ColumnsOf(std::string_view line) {
   return std::nullopt;
 }
 
+// "Jude 5 text": a book of one chapter, which is left out.
+std::optional<LinesForm::Row> LinesForm::SplitShortReference(std::string_view line) {
+  const std::size_t number = line.find_first_of(kDigits, 1);  // that of "2 John" comes before
+  if (number == std::string_view::npos || !IsBlank(line[number - 1])) return std::nullopt;
+  Row row;
+  row.verse = line.substr(number, FieldLength(line.substr(number)));
+  row.text = line.substr(number + row.verse.size());
+  if (!row.text.empty() && !IsBlank(row.text.front())) return std::nullopt;
+  row.book = TrimBlanks(line.substr(0, number));
+  if (!HasOneChapter(FindBook(row.book))) return std::nullopt;
+  row.chapter = "1";
+  return row;
+}
+
 // The reference ends at the line's first colon and the verse number behind it, so a text may hold any character.
 std::optional<LinesForm::Row> LinesForm::SplitReference(std::string_view line) {
+  if (auto row = SplitShortReference(line)) return row;
   const std::size_t colon = line.find(':');
   if (colon == std::string_view::npos || colon == 0) return std::nullopt;
   const std::size_t before = line.find_last_not_of(kDigits, colon - 1);
@@ -181,11 +226,13 @@ void LinesForm::Read(std::string_view piece) {
 void LinesForm::Finish() {
   if (!m_rest.empty()) TakeLine(m_rest);
   m_rest.clear();
+  if (!m_record.empty()) FailQuote();
 }
 
 void LinesForm::TakeLine(std::string_view line) {
   ++m_line;
   if (line.ends_with('\r')) line.remove_suffix(1);
+  if (!m_record.empty()) return TakeMore(line);
   if (IsSkipped(line)) return;
   if (!m_columns) {
     m_columns = ColumnsOfHeader(line);
@@ -193,6 +240,34 @@ void LinesForm::TakeLine(std::string_view line) {
     m_columns = ColumnsOf(line);
   }
   m_builder.SetLine(m_line);
+  const char separator = m_columns ? m_columns->separator : '\0';
+  const bool mayGoOn = separator != '\0' && separator != '\t' && line.find('"') != std::string_view::npos;
+  if (mayGoOn && QuotesOf(line, separator) == Quotes::kOpen) {
+    m_record = line;
+    m_recordLine = m_line;
+    return;
+  }
+  TakeRecord(line);
+}
+
+// A further line of a record with a field over several lines.
+void LinesForm::TakeMore(std::string_view line) {
+  constexpr std::size_t kMostLines = 1000;
+  m_record.append("\n").append(line);
+  if (m_record.size() > LineReader::kLongestLine || m_line - m_recordLine > kMostLines) FailQuote();
+  const Quotes quotes = QuotesOf(m_record, m_columns->separator);
+  if (quotes == Quotes::kOpen) return;
+  if (quotes == Quotes::kOdd) FailQuote();
+  m_builder.SetLine(m_recordLine);
+  TakeRecord(std::exchange(m_record, {}));
+}
+
+void LinesForm::FailQuote() {
+  m_builder.SetLine(m_recordLine);
+  m_builder.Fail("a closing quote was expected: " + Quoted(m_record));
+}
+
+void LinesForm::TakeRecord(std::string_view line) {
   const auto row = m_columns ? SplitRow(line, *m_columns, m_fields) : std::nullopt;
   if (!row) m_builder.Fail("a verse such as \"GEN 1:1 In the beginning\" was expected: " + Quoted(line));
   TakeRow(*row);

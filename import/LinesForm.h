@@ -18,9 +18,11 @@ namespace folionet {
 //   Genesis<TAB>1<TAB>1<TAB>In the beginning
 //   1,1,1,"In the beginning God created"
 //   "Genesis 1:1","In the beginning"
+//   Jude 5 But I will remind you
 //
-// A table may begin with a line that names its columns (book, chapter, verse and text, or b, c, v and t; others are
-// passed over), and may have a running number before the book. Blank lines and those that begin with "#" are skipped.
+// A field in quotes may hold line breaks, where no tabs separate. A table may begin with a line that names its columns
+// (book, chapter, verse and text, or b, c, v and t; others are passed over), and may have a running number before the
+// book. Blank lines and those that begin with "#" are skipped.
 class LinesForm : public TextForm {
  public:
   explicit LinesForm(BibleBuilder& builder);
@@ -52,14 +54,20 @@ class LinesForm : public TextForm {
   static std::optional<Columns> ColumnsOfHeader(std::string_view line);
   static std::optional<Columns> ColumnsOf(std::string_view line);
   static std::optional<Row> SplitReference(std::string_view line);
+  static std::optional<Row> SplitShortReference(std::string_view line);
   static std::optional<Row> SplitRow(std::string_view line, const Columns& columns, std::vector<std::string>& fields);
 
   void TakeLine(std::string_view line);
+  void TakeMore(std::string_view line);
+  void TakeRecord(std::string_view line);
+  [[noreturn]] void FailQuote();
   void TakeRow(const Row& row);
 
   BibleBuilder& m_builder;
   std::string m_rest;
   std::size_t m_line = 0;
+  std::string m_record;  // one that goes on in the next line; empty for none
+  std::size_t m_recordLine = 0;
   std::optional<Columns> m_columns;
   std::vector<std::string> m_fields;
   std::string m_book;

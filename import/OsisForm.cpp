@@ -2,8 +2,9 @@
 
 #include <algorithm>
 #include <array>
-#include <vector>
+#include <utility>
 
+#include "BookTable.h"
 #include "LineReader.h"
 #include "Text.h"
 
@@ -36,11 +37,20 @@ OsisReference ParseReference(std::string_view id) {
   return reference;
 }
 
+// As ParseReference, of a verse: "Jude.5" has no chapter.
+OsisReference ParseVerseReference(std::string_view id) {
+  OsisReference reference = ParseReference(id);
+  if (reference.verse.empty() && HasOneChapter(FindBook(reference.book))) {
+    reference.verse = std::exchange(reference.chapter, "1");
+  }
+  return reference;
+}
+
 // The verse number of one that holds several: "Gen.1.1 Gen.1.2" gives "1-2".
 std::string FieldOf(const OsisReference& first, std::string_view id) {
   const auto last = std::find_if(id.rbegin(), id.rend(), IsBetween);
   if (last == id.rend()) return first.verse;
-  const OsisReference end = ParseReference(id.substr(static_cast<std::size_t>(id.rend() - last)));
+  const OsisReference end = ParseVerseReference(id.substr(static_cast<std::size_t>(id.rend() - last)));
   const bool isSameChapter = end.book == first.book && end.chapter == first.chapter;
   return isSameChapter && end.verse != first.verse ? first.verse + "-" + end.verse : first.verse;
 }
@@ -108,7 +118,7 @@ XmlForm::Part OsisForm::BeginVerse(const XmlElement& element) {
   }
   const std::string_view start = element.Get("sID");
   const std::string_view id = element.Get("osisID").empty() ? start : element.Get("osisID");
-  const OsisReference place = ParseReference(id);
+  const OsisReference place = ParseVerseReference(id);
   if (place.verse.empty()) Builder().Fail("the osisID of a verse, such as \"Gen.1.1\", was expected: " + Quoted(id));
   GoTo(place.book, place.chapter);
   Builder().BeginVerse(FieldOf(place, id));

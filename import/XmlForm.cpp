@@ -1,5 +1,7 @@
 #include "XmlForm.h"
 
+#include <utility>
+
 namespace folionet {
 
 void XmlForm::Start(const XmlElement& element) {
@@ -8,6 +10,7 @@ void XmlForm::Start(const XmlElement& element) {
     return;
   }
   m_builder.SetLine(m_reader.Line());
+  m_isJustBegun = true;
   const Part part = Begin(element);
   switch (part) {
     case Part::kLeftOut:
@@ -36,11 +39,14 @@ void XmlForm::End(std::string_view /*name*/) {
   }
   const Part part = m_parts.back();
   m_parts.pop_back();
+  const bool isEmpty = std::exchange(m_isJustBegun, false);
   switch (part) {
     case Part::kBlock:
       AddBreak();
       break;
     case Part::kVerse:
+      if (isEmpty && !m_doVersesHoldText) break;  // it marks where the verse begins
+      m_doVersesHoldText = true;
       m_builder.EndVerse();
       break;
     case Part::kCanonicalTitle:
@@ -69,6 +75,7 @@ bool XmlForm::NoteEnd(std::string_view name) {
 
 void XmlForm::Text(std::string_view text) {
   constexpr std::size_t kLongestCaptured = 10000;
+  m_isJustBegun = false;
   if (m_leftOut > 0) return;
   if (m_capturing == 0) {
     m_builder.AddText(text);

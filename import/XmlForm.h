@@ -22,7 +22,7 @@ class XmlForm : public TextForm, protected XmlHandler {
     kPass,            // its text belongs to what it stands in
     kLeftOut,         // with all that is in it
     kBlock,           // as kPass, between blanks
-    kVerse,           // a verse, which ends with it
+    kVerse,           // a verse, which ends with it; in a file where those that came so far hold nothing, with the next
     kCanonicalTitle,  // ends with it
     kCaptured,        // no text of a verse; given to EndCaptured
   };
@@ -49,8 +49,10 @@ class XmlForm : public TextForm, protected XmlHandler {
 
   BibleBuilder& m_builder;
   XmlReader m_reader;
-  std::vector<Part> m_parts;  // of the elements that are open
-  int m_leftOut = 0;          // how many open elements are left out
+  std::vector<Part> m_parts;        // of the elements that are open
+  int m_leftOut = 0;                // how many open elements are left out
+  bool m_isJustBegun = false;       // an element, and nothing of it has come yet
+  bool m_doVersesHoldText = false;  // those that are kVerse
   int m_capturing = 0;
   std::string m_captured;
 };

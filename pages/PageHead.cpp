@@ -33,7 +33,7 @@ void PrintBodyLine(const PageValues& values, const PageOptions& options, Compile
 void PrintDocumentHead(const DocumentHead& head, const PageOptions& options, CompileContext& context) {
   PageFile& page = context.PageFile;
   const PageValues& values = head.values;
-  page.Print("<html>\r\n<head>");
+  page.Print(values.isRightToLeft ? "<html dir=\"rtl\">" : "<html>", "\r\n<head>");
   PrintMeta(page, "name", "GENERATOR", kGenerator, head.version);
   page.Print("<meta http-equiv=\"Content-Type\" content=\"text/html; charset=", values.charset, "\">");
   PrintMeta(page, "http-equiv", "Content-Language", values.language);

@@ -13,6 +13,7 @@ namespace folionet {
 struct PageValues {
   std::string_view language;
   std::string_view charset;
+  bool isRightToLeft;  // a text that was imported and is written so
   std::string_view fontFace;
   std::int16_t fontSize;        // of HTML
   std::string_view backColour;  // RRGGBB

@@ -21,10 +21,11 @@ struct ChapterEntry {
 
 // What is known of a translation that was imported beside what Versalia's files can say; all UTF-8.
 struct ImportedText {
-  std::string name;      // display name
-  std::string language;  // code, such as "en"; empty when the text did not tell
-  std::string charset;   // that its text and its file of book titles are in: "windows-1252" or "utf-8"
-  std::string titles;    // name of its file of book titles
+  std::string name;       // display name
+  std::string language;   // code, such as "en"; empty when the text did not tell
+  std::string charset;    // that its text and its file of book titles are in: "windows-1252" or "utf-8"
+  std::string titles;     // name of its file of book titles
+  std::string direction;  // "rtl" for a text that is written from right to left; else empty
 
   // Whether there is such a translation: Versalia's own are none.
   bool IsThere() const { return !charset.empty(); }

@@ -14,10 +14,11 @@ namespace {
 
 using Field = std::string ImportedText::*;
 
-constexpr std::array<std::pair<std::string_view, Field>, 4> kFields{{{"name", &ImportedText::name},
+constexpr std::array<std::pair<std::string_view, Field>, 5> kFields{{{"name", &ImportedText::name},
                                                                      {"language", &ImportedText::language},
                                                                      {"charset", &ImportedText::charset},
-                                                                     {"titles", &ImportedText::titles}}};
+                                                                     {"titles", &ImportedText::titles},
+                                                                     {"direction", &ImportedText::direction}}};
 
 }  // namespace
 
@@ -44,6 +45,7 @@ std::optional<ImportedText> ReadImportedText(const std::string& verseFile) {
 std::string WriteImportedText(const ImportedText& text) {
   std::string content;
   for (const auto& [key, field] : kFields) {
+    if (field == &ImportedText::direction && text.direction.empty()) continue;
     content.append(key).append("=").append(text.*field).append("\r\n");
   }
   return content;

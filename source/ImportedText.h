@@ -20,6 +20,7 @@ class StoredSettings;
 //   language=en
 //   charset=windows-1252
 //   titles=BOOKS_OEB.TXT
+//   direction=rtl             only of a text that is written so
 
 // The path of the small file of a verse file.
 std::string ImportedTextFile(const std::string& verseFile);

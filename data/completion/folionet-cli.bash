@@ -72,7 +72,7 @@ _folionet_cli() {
       common+=" --only-chosen --list-changed --dry-run --json"
       ;;
     import)
-      common+=" --name --stem --into --titles --charset --replace --dry-run --json"
+      common+=" --name --stem --into --titles --charset --language --replace --dry-run --json"
       if [[ $word != -* ]]; then
         compopt -o filenames 2> /dev/null
         mapfile -t COMPREPLY < <(compgen -f -- "$word")

@@ -103,6 +103,14 @@ TEST(Lines, AreReadOrToldWithTheirNumber) {
       {"", "0: A Bible text was expected: USFM, USX, USFX, OSIS, Zefania XML, or one verse a line."},
       {"Ge1:1 In\n\r\nhello\r\n",
        "3: Genesis 1:1: a verse such as \"GEN 1:1 In the beginning\" was expected: \"hello\""},
+      {"Jude 5 a 3:4\nOBA 3-4 b\n2 John 6\nPhilemon 1:4 c\nJude 1:6 d\n",
+       "31 1:3-4 b|57 1:4 c|63 1:6 |65 1:5 a 3:4|65 1:6 d|"},
+      {"Jude,1,5,\"a, \"\"b\"\"\n\n#c\r\n2\"\nJude,1,6,\"d\" e\n", "65 1:5 a, \"b\" #c 2|65 1:6 \"d\" e|"},
+      {"Jude,1,5,a\nJude,1,6,\"b\nJude,1,7,c\n",
+       "2: Jude 1:5: a closing quote was expected: \"Jude,1,6,\"b\\nJude,1,7,c\""},
+      {"Jude,1,5,\"a\nJude,1,6,\"b\"\n", "1: a closing quote was expected: \"Jude,1,5,\"a\\nJude,1,6,\"b\"\""},
+      {"Jude\t1\t5\t\"a,\" b\nJude\t1\t6\t\"c\"\nJude\t1\t7\t\"d \"\"e\"\"\"\nJude\t1\t8\t\"f\n",
+       "65 1:5 \"a,\" b|65 1:6 \"c\"|65 1:7 d \"e\"|65 1:8 \"f|"},
       {"Ge0:1 In", "1: Genesis: a chapter from 1 to 255 was expected: \"0\""},
       {"Ge99999999999:1 In", "1: Genesis: a chapter from 1 to 255 was expected: \"99999999999\""}};
   for (const auto& [content, expected] : cases) EXPECT_EQ(Outcome(content), expected) << content;
@@ -165,6 +173,12 @@ TEST(Forms, GiveTheTextOfEachVerse) {
            "<title canonical='true'>f</title><seg>g</seg><title>no</title></verse><verse osisID='Ps.3.4!a'>h</verse>"
            "</chapter></div></osisText></osis>",
        "19 3:1 Of D a b c d e|19 3:2-3 f g|19 3:4a h|"},
+      {osis + "<verse osisID='Ps.3.1'/>a <divineName>b</divineName><title>no</title><verse osisID='Ps.3.2'></verse>c"
+              "</chapter></div></osisText></osis>",
+       "19 3:1 a b|19 3:2 c|"},
+      {osis + "<verse osisID='Ps.3.1'>a</verse>no<verse osisID='Ps.3.2'/>no<verse osisID='Jude.5 Jude.6'>b</verse>"
+              "</chapter></div></osisText></osis>",
+       "19 3:1 a|19 3:2 |65 1:5-6 b|"},
       {usfx +
            "<d>Of D</d><q><v id='1'/>a<f>n</f><add>b</add></q><q>c<optionalLineBreak/>d<ve/></q><p sfm='ip'>no</p><p "
            "sfm='d'>e</p><p><v id='2'/>f <wj>g</wj><x>n</x><generated>no</generated></p></book></usfx>",

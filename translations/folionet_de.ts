@@ -95,6 +95,10 @@
         <source>An element ends in the wrong place: %1</source>
         <translation>Ein Element endet an der falschen Stelle: %1</translation>
     </message>
+    <message>
+        <source>%1: a code such as he or pt-br was expected: %2</source>
+        <translation>%1: ein Kürzel wie he oder pt-br wurde erwartet: %2</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

@@ -95,6 +95,10 @@
         <source>An element ends in the wrong place: %1</source>
         <translation>Un elemento termina en un lugar equivocado: %1</translation>
     </message>
+    <message>
+        <source>%1: a code such as he or pt-br was expected: %2</source>
+        <translation>%1: se esperaba un código como he o pt-br: %2</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

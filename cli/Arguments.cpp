@@ -1,8 +1,10 @@
 #include "Arguments.h"
 
 #include <CLI/CLI.hpp>
+#include <filesystem>
 #include <memory>
 #include <sstream>
+#include <system_error>
 #include <vector>
 
 #include "BuildInfo.h"
@@ -12,6 +14,7 @@
 #include "ImportCommand.h"
 #include "ListCommand.h"
 #include "ProgramFolder.h"
+#include "SiteFile.h"
 #include "Text.h"
 #include "VerifyCommand.h"
 
@@ -43,6 +46,25 @@ void AddSettings(CLI::App& command, std::vector<std::string>& settings) {
       ->take_all();
 }
 
+// What cannot be a site's file is refused; an empty text is told of elsewhere.
+std::string WhatIsNoSite(const std::string& path) {
+  const auto why = path.empty() ? std::nullopt : WhyNoSite(path);
+  return why ? why->InEnglish() : std::string();
+}
+
+// A file of another kind is never replaced.
+std::string WhatCannotBecomeASite(const std::string& path) {
+  std::error_code ignored;
+  if (std::filesystem::exists(path, ignored)) return WhatIsNoSite(path);
+  return MissingFolder(std::filesystem::path(path).parent_path().string());
+}
+
+void AddSite(CLI::App& command, CommonOptions& common) {
+  command.add_option("--settings", common.site, "A site's file: its options, books, folder, ...")
+      ->type_name("FILE")
+      ->check(WhatIsNoSite, "");
+}
+
 CLI::Option* AddJson(CLI::App& command, CommonOptions& common) {
   return command.add_flag("--json", common.json, "Print JSON, an object a line");
 }
@@ -56,7 +78,7 @@ void AddCompile(CLI::App& app, Arguments& asked) {
       .add_option("--language-file", arguments->languageFile, "One of \"list languages\" (default: setting cboLang)")
       ->type_name("NAME");
   CLI::Option* first =
-      compile.add_option("--start-book", arguments->startBook, "First book of the index page (default: 1)");
+      compile.add_option("--start-book", arguments->startBook, "First book; pages of those before go (default: 1)");
   CLI::Option* last = compile.add_option("--end-book", arguments->endBook, "Last book of the index page (default: 66)");
   first->option_text("BOOK");
   last->option_text("BOOK");
@@ -64,20 +86,26 @@ void AddCompile(CLI::App& app, Arguments& asked) {
       ->option_text("BOOKS")
       ->excludes(first)
       ->excludes(last);
-  compile.add_option("--output", arguments->output, "Where the pages go (default: the setting Dir1)")
+  compile.add_option("--output", arguments->output, "Where pages go, over those there (default: Dir1)")
       ->type_name("FOLDER");
   compile.add_option("--index-address", arguments->indexAddress, "Name or address of the index page (no default)")
       ->type_name("TEXT");
   AddSettings(compile, arguments->settings);
+  AddSite(compile, asked.common);
+  CLI::Option* save =
+      compile
+          .add_option("--save-settings", arguments->saveSettings, "Make such a file of this compile (default: none)")
+          ->option_text("FILE")
+          ->check(WhatCannotBecomeASite, "");
   compile.add_option("--sitemap", arguments->sitemap, "Write sitemap.xml for this address (default: none)")
       ->type_name("ADDRESS");
   compile.add_flag("--only-chosen", arguments->onlyChosen, "Leave no page of the books after the end book");
   compile.add_flag("--list-changed", arguments->listChanged, "Print the names of the pages whose bytes changed");
   CLI::Option* dryRun =
       compile.add_flag("--dry-run", arguments->dryRun, "Write nothing; print what each page would become");
+  dryRun->excludes(save)->option_text(" ");
   AddJson(compile, asked.common)->needs(dryRun)->option_text(" ");
   compile.footer(
-      "Overwrites pages that are there, deletes those of books before the start book.\n\n"
       "Example:\n"
       "  folionet-cli compile --books NT --output ~/site --index-address index.html");
   compile.callback([&asked, arguments] {
@@ -136,6 +164,7 @@ void AddList(CLI::App& app, Arguments& asked) {
       ->required()
       ->type_name("")
       ->check(isSubject, "");
+  AddSite(list, asked.common);
   list.footer(
       "Example:\n"
       "  folionet-cli list translations");
@@ -150,6 +179,7 @@ void AddCheck(CLI::App& app, Arguments& asked) {
   check.add_option("--translation", arguments->translation, "Display name or file stem (default: all of them)")
       ->type_name("NAME|STEM");
   AddSettings(check, arguments->settings);
+  AddSite(check, asked.common);
   AddJson(check, asked.common);
   check.footer(
       "Prints each fault with file and line, then their number; changes nothing.\n"

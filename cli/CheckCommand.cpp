@@ -5,6 +5,7 @@
 #include "OptionLoading.h"
 #include "ProgramFolder.h"
 #include "Session.h"
+#include "SiteFile.h"
 
 namespace folionet {
 namespace {
@@ -46,10 +47,13 @@ ExitStatus RunCheck(const CommonOptions& common, const CheckArguments& arguments
                       findings});
   check.ExamineLists();
   const std::size_t count = session.glob.cboBibleName.size();
-  if (arguments.translation.empty()) {
+  const std::string siteTranslation = session.store.SiteText(kSiteTranslation);
+  const std::string& translation = arguments.translation.empty() ? siteTranslation : arguments.translation;
+  if (translation.empty()) {
     for (std::size_t place = 0; place < count; ++place) check.ExamineTranslation(session.glob.BibleFiles[place]);
   } else {
-    check.ExamineTranslation(session.glob.BibleFiles[session.FindTranslation(arguments.translation)]);
+    const std::string option = session.OptionName("--translation", kSiteTranslation, !arguments.translation.empty());
+    check.ExamineTranslation(session.glob.BibleFiles[session.FindTranslation(option, translation)]);
   }
   ShowAll(findings, ui);
   if (findings.Count(Severity::kFault) == 0) return ui.Done();

@@ -3,6 +3,8 @@
 #include <csignal>
 #include <cstdio>
 #include <cstring>
+#include <filesystem>
+#include <system_error>
 
 #include "ChangeJournal.h"
 #include "ChapterIndex.h"
@@ -15,6 +17,7 @@
 #include "ProgramFolder.h"
 #include "RunFacts.h"
 #include "RunTimeError.h"
+#include "SiteFile.h"
 #include "Sitemap.h"
 #include "StopSignals.h"
 #include "TellFacts.h"
@@ -45,11 +48,23 @@ std::string ProgramFolderOf(Session& session, const CompileArguments& arguments)
   }
 }
 
+// What a site's file chooses stands where the command line says nothing else.
+CompileArguments WithSite(CompileArguments arguments, const Session& session) {
+  const SiteChoices site = ChoicesOfSite(session.store);
+  if (arguments.translation.empty()) arguments.translation = site.translation;
+  if (arguments.books.empty()) arguments.books = site.books;
+  if (arguments.sitemap.empty()) arguments.sitemap = site.sitemap;
+  if (!arguments.indexAddress && !site.indexAddress.empty()) arguments.indexAddress = site.indexAddress;
+  if (site.onlyChosen) arguments.onlyChosen = true;
+  return arguments;
+}
+
 // Chooses the translation and reads its chapter index, as a start of the form does.
-void SelectTranslation(const CompileArguments& arguments, Session& session, CompileRequest& request) {
+void SelectTranslation(const CompileArguments& arguments, const std::string& option, Session& session,
+                       CompileRequest& request) {
   const ModGlob& glob = session.glob;
   if (!arguments.translation.empty()) {
-    request.cboBibleName = static_cast<int>(session.FindTranslation(arguments.translation));
+    request.cboBibleName = static_cast<int>(session.FindTranslation(option, arguments.translation));
   } else if (!glob.unreadableTexts.empty() && !glob.cboBibleName.empty()) {
     RefuseUsage("Which translation is meant cannot be told: name one with --translation NAME, or mend that text.");
   } else if (!glob.cboBibleName.empty()) {
@@ -119,26 +134,27 @@ ExitStatus EndStopped(ConsoleUi& ui) {
   return StopSignal() == SIGINT ? kExitInterrupted : kExitTerminated;
 }
 
-void RefuseOtherThanFolders(const std::string& sitemap) {
+void RefuseOtherThanFolders(const std::string& option, const std::string& sitemap) {
   if (!IsPublicAddress(sitemap)) {
-    RefuseUsage(
-        "--sitemap: an address such as https://example.org/bible/ was expected (no user's name, no \"?\", no \"#\"; "
-        "a host in other letters as \"xn--...\"): \"" +
-        sitemap + "\"");
+    RefuseUsage(option +
+                ": an address such as https://example.org/bible/ was expected (no user's name, no \"?\", no \"#\"; "
+                "a host in other letters as \"xn--...\"): \"" +
+                sitemap + "\"");
   }
   if (NamesAPage(sitemap)) {
-    RefuseUsage("--sitemap: the address of the folder was expected, without the name of a page: \"" + sitemap + "\"");
+    RefuseUsage(option + ": the address of the folder was expected, without the name of a page: \"" + sitemap + "\"");
   }
 }
 
-void RefuseMoreThanOneLine(const std::string& indexAddress) {
+void RefuseMoreThanOneLine(const std::string& option, const std::string& indexAddress) {
   if (InOneLine(indexAddress) == indexAddress) return;
-  RefuseUsage("--index-address must be one line: \"" + indexAddress + "\".");
+  RefuseUsage(option + " must be one line: \"" + indexAddress + "\".");
 }
 
-void SelectBooks(const CompileArguments& arguments, const Session& session, CompileRequest& request) {
+void SelectBooks(const CompileArguments& arguments, const std::string& option, const Session& session,
+                 CompileRequest& request) {
   if (!arguments.books.empty()) {
-    const BookRange books = session.FindBooks(arguments.books);
+    const BookRange books = session.FindBooks(option, arguments.books);
     request.cboStartBook = books.first;
     request.cboEndBook = books.last;
   }
@@ -146,25 +162,14 @@ void SelectBooks(const CompileArguments& arguments, const Session& session, Comp
   if (!arguments.endBook.empty()) request.cboEndBook = session.FindBook(arguments.endBook);
 }
 
-}  // namespace
-
-ExitStatus RunCompile(const CommonOptions& common, const CompileArguments& arguments, ConsoleUi& ui) {
-  if (arguments.indexAddress) RefuseMoreThanOneLine(*arguments.indexAddress);
-  if (!arguments.sitemap.empty()) RefuseOtherThanFolders(arguments.sitemap);
-  if (arguments.listChanged || arguments.dryRun) ui.HideResults();
-  Session session(common, ui);
-  session.Override(arguments.settings);
-  if (!arguments.languageFile.empty()) {
-    session.CheckLanguageFile("--language-file", arguments.languageFile);
-    session.store.Override("cboLang", arguments.languageFile);
-  }
-  session.LoadOptions();
-  session.LoadLists();
-
+// The pages' options and what is to be compiled, of arguments that have the site's in them; `given` are those of the
+// command line.
+CompileRequest RequestOf(const CompileArguments& arguments, const CompileArguments& given, Session& session) {
   CompileRequest request;
   request.options = session.options;
-  SelectTranslation(arguments, session, request);
-  SelectBooks(arguments, session, request);
+  SelectTranslation(arguments, session.OptionName("--translation", kSiteTranslation, !given.translation.empty()),
+                    session, request);
+  SelectBooks(arguments, session.OptionName("--books", kSiteBooks, !given.books.empty()), session, request);
   if (arguments.indexAddress) request.options.txthttpRoot = *arguments.indexAddress;
   request.txtOutputPath = OutputPath(arguments, session);
   request.makeOutputFolder = true;
@@ -177,14 +182,67 @@ ExitStatus RunCompile(const CommonOptions& common, const CompileArguments& argum
   const LinkEffects effects = Effects(request.options.frmEffects);
   request.texts.RolloverStyle = effects.RolloverStyle;
   request.texts.BodyLinkTag = effects.BodyLinkTag;
-
-  SiteChanges changes;
-  request.changes = &changes;
   request.stateFolder = UserStateFolder();
   request.listsChanges = arguments.listChanged && !arguments.dryRun;
   request.isStopped = [] { return StopSignal() != 0; };
   request.sitemapAddress = arguments.sitemap;
   request.dryRun = arguments.dryRun;
+  return request;
+}
+
+void RefuseWrongAddresses(const CompileArguments& arguments, const CompileArguments& given, const Session& session) {
+  if (arguments.indexAddress) {
+    const bool isGiven = given.indexAddress.has_value();
+    RefuseMoreThanOneLine(session.OptionName("--index-address", kSiteIndexAddress, isGiven), *arguments.indexAddress);
+  }
+  if (arguments.sitemap.empty()) return;
+  RefuseOtherThanFolders(session.OptionName("--sitemap", kSiteSitemap, !given.sitemap.empty()), arguments.sitemap);
+}
+
+// Keeps what was compiled for the next time, where a person asked for that.
+void SaveRun(const std::string& file, const CompileRequest& request, const Session& session) {
+  if (file.empty()) return;
+  const auto number = [](int place) { return std::to_string(place + 1); };
+  const std::string& stem = session.glob.BibleFiles[static_cast<std::size_t>(request.cboBibleName)];
+  const SiteChoices choices{session.codePage.Decode(stem),
+                            number(request.cboStartBook) + "-" + number(request.cboEndBook),
+                            request.options.txthttpRoot,
+                            request.sitemapAddress,
+                            request.onlyChosen,
+                            session.glob.Imported.IsThere()};
+  PageOptions options = session.options;
+  std::error_code failed;
+  const std::filesystem::path folder = std::filesystem::absolute(request.txtOutputPath, failed);
+  options.main.Dir1 = failed ? request.txtOutputPath : folder.string();
+  options.main.Drive1 = FindOption("Drive1")->defaultText;
+  try {
+    SaveSite(file, choices, options, session.store);
+  } catch (const RunTimeError& error) {
+    session.ui.Tell("The site is compiled, but its settings cannot be saved in " + error.Item() + ": " +
+                    error.Detail() + ". Give another file with --save-settings FILE.");
+    throw ExitWith(kExitFailed);
+  }
+  if (!session.ui.IsQuiet()) session.ui.Tell("Saved in " + file + ": --settings " + file + " compiles it again.");
+}
+
+}  // namespace
+
+ExitStatus RunCompile(const CommonOptions& common, const CompileArguments& given, ConsoleUi& ui) {
+  Session session(common, ui);
+  const CompileArguments arguments = WithSite(given, session);
+  RefuseWrongAddresses(arguments, given, session);
+  if (arguments.listChanged || arguments.dryRun) ui.HideResults();
+  session.Override(arguments.settings);
+  if (!arguments.languageFile.empty()) {
+    session.CheckLanguageFile("--language-file", arguments.languageFile);
+    session.store.Override("cboLang", arguments.languageFile);
+  }
+  session.LoadOptions();
+  session.LoadLists();
+
+  CompileRequest request = RequestOf(arguments, given, session);
+  SiteChanges changes;
+  request.changes = &changes;
   if (request.cboBibleName >= 0) {
     (arguments.dryRun ? TellPlannedFacts : TellFacts)(FindRunFacts(request, session.glob), ui);
   }
@@ -197,6 +255,7 @@ ExitStatus RunCompile(const CommonOptions& common, const CompileArguments& argum
   }
   switch (outcome) {
     case CompileOutcome::kDone:
+      SaveRun(arguments.saveSettings, request, session);
       return ui.Done();
     case CompileOutcome::kStopped:
       return EndStopped(ui);

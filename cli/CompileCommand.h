@@ -21,6 +21,7 @@ struct CompileArguments {
   std::string sitemap;       // the public address of the output folder
   bool listChanged = false;  // print the names of the pages whose bytes changed
   bool onlyChosen = false;   // delete the pages of the books after the ending one too
+  std::string saveSettings;  // the site's file to make of all this
   bool dryRun = false;       // write nothing, print what would become of each file
 };
 

@@ -39,6 +39,7 @@ Session::Session(const CommonOptions& common, ConsoleUi& console)
     : store(StoredSettings::DefaultFolder()), ui(console), chosenProgramFolder(common.programFolder) {
   try {
     store.FinishChange();
+    if (!common.site.empty()) store.UseSite(common.site);
     LocateInstallation(store, common.folders, glob);
   } catch (const RunTimeError& error) {
     ui.ShowErrorReport({Procedure::kFormLoad, error});
@@ -138,6 +139,10 @@ void Session::Populate(int which) {
   }
 }
 
+std::string Session::OptionName(const std::string& option, std::string_view siteKey, bool isGiven) const {
+  return isGiven ? option : store.SitePath() + ": " + std::string(siteKey);
+}
+
 void Session::CheckLanguageFile(const std::string& option, const std::string& name) const {
   if (!FolderExists(glob.SysdefsPath)) return;
   if (name.find_first_of("/\\") == std::string::npos && FileExists(SysdefsFile(glob, name))) return;
@@ -145,7 +150,7 @@ void Session::CheckLanguageFile(const std::string& option, const std::string& na
               "\". \"folionet-cli list languages\" shows those that are there.");
 }
 
-std::size_t Session::FindTranslation(const std::string& nameOrStem) const {
+std::size_t Session::FindTranslation(const std::string& option, const std::string& nameOrStem) const {
   const std::size_t count = glob.cboBibleName.size();
   std::vector<std::string> names;
   for (std::size_t i = 0; i < count; ++i) names.push_back(ShownName(glob, i, codePage));
@@ -153,7 +158,7 @@ std::size_t Session::FindTranslation(const std::string& nameOrStem) const {
     const std::size_t found = FindText(list, nameOrStem);
     if (found != std::string::npos) return found;
   }
-  RefuseUsage("--translation: there is no translation \"" + nameOrStem +
+  RefuseUsage(option + ": there is no translation \"" + nameOrStem +
               "\". \"folionet-cli list translations\" shows those that are installed.");
 }
 
@@ -163,11 +168,11 @@ int Session::FindBook(const std::string& text) const {
               "\": a number from 1 to 66, a title or a code was expected. \"folionet-cli list books\" shows them.");
 }
 
-BookRange Session::FindBooks(const std::string& text) const {
+BookRange Session::FindBooks(const std::string& option, const std::string& text) const {
   if (const auto books = ChooseBooks(glob, codePage, text)) return *books;
   std::string parts;
   for (const std::string& part : BookParts()) parts += part + ", ";
-  RefuseUsage("--books: there are no books \"" + text + "\": " + parts +
+  RefuseUsage(option + ": there are no books \"" + text + "\": " + parts +
               "a book or two with \"-\" between was expected. \"folionet-cli list books\" shows them.");
 }
 

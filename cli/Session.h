@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "BookChoice.h"
@@ -49,17 +50,21 @@ class Session {
   // The same, and those of translations from the catalogue; tells which translations are missing.
   void LoadLists();
 
+  // The option that a person gives a value by, as messages name it: where it was not given it stands in the site's
+  // file.
+  std::string OptionName(const std::string& option, std::string_view siteKey, bool isGiven) const;
+
   // Ends the command when Versalia's folder of definitions is there, but no file of book titles of the name that this
   // option gives.
   void CheckLanguageFile(const std::string& option, const std::string& name) const;
 
   // The place in BibleNames of a translation, by display name or file stem, exactly or else ignoring case. Ends the
-  // command when there is none.
-  std::size_t FindTranslation(const std::string& nameOrStem) const;
+  // command when there is none: `option` is where it was named.
+  std::size_t FindTranslation(const std::string& option, const std::string& nameOrStem) const;
 
   // As ChooseBook and ChooseBooks; end the command where there are no such books.
   int FindBook(const std::string& text) const;
-  BookRange FindBooks(const std::string& text) const;
+  BookRange FindBooks(const std::string& option, const std::string& text) const;
 
   StoredSettings store;
   ConsoleUi& ui;

@@ -3,7 +3,6 @@
 #include <array>
 #include <optional>
 
-#include "BuildInfo.h"
 #include "Numbers.h"
 #include "RunTimeError.h"
 #include "Text.h"
@@ -47,7 +46,7 @@ void LoadOption(const StoredSettings& store, const Option& option, PageOptions& 
   const int error = CheckOption(option.form, text);
   if (error != 0 && isChosen) return;
   if (error != 0) {
-    throw RunTimeError(error, store.FilePath(kApplicationTitle),
+    throw RunTimeError(error, store.FileOf(option.key),
                        std::string("The setting ").append(option.key).append(" must be ") +
                            std::string(Describe(option.form)) + ": \"" + text + "\"")
         .About(Subject::kSetting);

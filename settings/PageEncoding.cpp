@@ -32,6 +32,14 @@ CodePage CodePageOf(const std::string& entry) {
   }
 }
 
+std::string OwnCharset(const StoredSettings& store) {
+  try {
+    return store.OwnText("Charset").value_or(std::string(FindOption("Charset")->defaultText));
+  } catch (const RunTimeError&) {
+    return std::string(FindOption("Charset")->defaultText);
+  }
+}
+
 // Adds to a change that all texts of a person's own come over to another code page.
 void RecodeOwnTexts(const OwnFolder& own, const CodePage& to, JointChange& change) {
   for (const std::string_view name : {kCustomHeader.fileName, kCustomFooter.fileName, std::string_view(kCharsetList),
@@ -51,12 +59,14 @@ CodePage StoredCodePage(const StoredSettings& store) {
 }
 
 OwnFolder StoredOwnFolder(const StoredSettings& store, const std::string& programFolder) {
-  return {programFolder, StoredCodePage(store), store.UnfinishedNote()};
+  OwnFolder own{programFolder, StoredCodePage(store), store.UnfinishedNote()};
+  if (!store.SitePath().empty()) own.codePage = CodePageOf(OwnCharset(store));
+  return own;
 }
 
 OwnFolder OwnFolderOfRun(const StoredSettings& store, const std::string& programFolder) {
   OwnFolder own = StoredOwnFolder(store, programFolder);
-  if (const auto stored = store.StoredText("Charset"); stored) own.codePage = CodePageOf(*stored);
+  if (const auto stored = store.OwnText("Charset"); stored) own.codePage = CodePageOf(*stored);
   return own;
 }
 
@@ -65,6 +75,7 @@ void SaveEncoding(SettingsStore& store, const std::string& programFolder, const 
     if (!chosen.cboCharset.empty()) store.SaveText("Charset", chosen.cboCharset);
     if (!chosen.cboLang.empty()) store.SaveText("Lang", chosen.cboLang);
   };
+  if (!store.SitePath().empty()) return store.SaveTogether(save);
   const OwnFolder own = StoredOwnFolder(store, programFolder);
   const CodePage to = chosen.cboCharset.empty() ? own.codePage : CodePageOf(chosen.cboCharset);
   if (own.codePage.Name() == to.Name()) return store.SaveTogether(save);
@@ -74,6 +85,7 @@ void SaveEncoding(SettingsStore& store, const std::string& programFolder, const 
 }
 
 void RestoreSettings(SettingsStore& store, const std::string& programFolder) {
+  if (!store.SitePath().empty()) return store.RestoreSite();
   const OwnFolder own = StoredOwnFolder(store, programFolder);
   const CodePage to;
   if (own.codePage.Name() == to.Name()) return store.DeleteSetting(kApplicationTitle);

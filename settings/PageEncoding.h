@@ -26,19 +26,21 @@ std::string EncodingCode(std::string_view entry, std::string_view what);
 // kept in it.
 CodePage StoredCodePage(const StoredSettings& store);
 
-// The texts of a person's own as the stored charset has them.
+// The texts of a person's own as the stored charset has them: that of the person's own settings, as all sites share
+// these texts.
 OwnFolder StoredOwnFolder(const StoredSettings& store, const std::string& programFolder);
 
 // The same for a run that may have another charset than the stored one, which a person's texts stay in.
 OwnFolder OwnFolderOfRun(const StoredSettings& store, const std::string& programFolder);
 
 // Stores the entries that were chosen, those that are not empty, and, when that changes the code page, brings the
-// custom header and footer and the lists of encodings over to it: one change, of which all is made or nothing. Throws
-// RunTimeError.
+// custom header and footer and the lists of encodings over to it, unless it is that of a site: one change, of which all
+// is made or nothing. Throws RunTimeError.
 void SaveEncoding(SettingsStore& store, const std::string& programFolder, const EncodingOptions& chosen);
 
 // Removes all that is stored, as SettingsStore::DeleteSetting does; what is in another code page than the default one
-// comes over to that in the same change. Throws RunTimeError, and everything is as it was.
+// comes over to that in the same change. Of a site whose file is in use, SettingsStore::RestoreSite. Throws
+// RunTimeError, and everything is as it was.
 void RestoreSettings(SettingsStore& store, const std::string& programFolder);
 
 // Reads both entries and shows their codes in panels 3 and 2 of the status bar. Throws RunTimeError for the first that

@@ -8,6 +8,7 @@
 
 #include "BuildInfo.h"
 #include "JointChange.h"
+#include "OptionTable.h"
 #include "RunTimeError.h"
 #include "WholeFile.h"
 
@@ -36,7 +37,8 @@ void SettingsStore::SaveSetting(std::string_view application, std::string_view s
   if (!m_savesTogether) Sync(application);
 }
 
-void SettingsStore::MakeFolder() const {
+void SettingsStore::MakeFolder(std::string_view application) const {
+  if (FilePath(application) == SitePath()) return;
   if (Folder().empty()) {
     throw RunTimeError(kPathNotFound, FilePath(kApplicationTitle), "HOME does not name a folder to save it in.")
         .About(Subject::kSettingsFile);
@@ -48,7 +50,7 @@ void SettingsStore::MakeFolder() const {
 void SettingsStore::Sync(std::string_view application) {
   // A refused value must not be tried again by every later one, nor be read as if it were stored.
   const IniValues changes = std::exchange(m_unsaved, {});
-  MakeFolder();
+  MakeFolder(application);
   // Another program may have saved since the file was read: what it changed is kept.
   IniValues values;
   WorkAbout(Subject::kSettingsFile, [&] {
@@ -78,7 +80,7 @@ void SettingsStore::SaveTogether(const std::function<void()>& saves) {
 void SettingsStore::SaveTogether(const std::function<void()>& saves, JointChange& change) {
   Gather(saves);
   const IniValues changes = std::exchange(m_unsaved, {});
-  MakeFolder();
+  MakeFolder(kApplicationTitle);
   IniValues values;
   change.Edit(FilePath(kApplicationTitle), kLongestFile,
               [&](const std::string& content) { return Merged(content, changes, values); });
@@ -103,6 +105,25 @@ void SettingsStore::DeleteSettings(JointChange& change) {
   change.Commit();
   std::remove(path.c_str());  // an empty one that stays says the same
   Take(kApplicationTitle, {});
+}
+
+// What the person's own settings do not have either is left out: the default of a charset, say, stands back behind the
+// one that a text brings.
+void SettingsStore::RestoreSite() {
+  IniValues values;
+  const std::string prefix = NameOf(kSettingsSection, "");
+  WorkAbout(Subject::kSettingsFile, [&] {
+    EditWholeFile(SitePath(), kLongestFile, [&](const std::string& content) {
+      ReplaceWholeFile(SitePath() + ".before-restore", content);
+      values = ParseIni(content);
+      std::erase_if(values, [&](const auto& value) { return value.first.starts_with(prefix); });
+      for (const Option& option : OptionTable()) {
+        if (OwnText(option.key)) values.insert_or_assign(prefix + std::string(option.key), option.defaultText);
+      }
+      return BuildIni(values);
+    });
+  });
+  Take(kApplicationTitle, std::move(values));
 }
 
 void SettingsStore::SaveText(std::string_view key, std::string_view value) {

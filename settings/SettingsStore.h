@@ -11,7 +11,8 @@ namespace folionet {
 
 class JointChange;
 
-// The per-user store of option texts, to be read and written.
+// The per-user store of option texts, to be read and written. While a site's file is in use our own keys are saved in
+// that file.
 class SettingsStore : public StoredSettings {
  public:
   // `folder` is where the files are; it is made when something is first saved.
@@ -34,6 +35,10 @@ class SettingsStore : public StoredSettings {
   // The same of our own area as a part of a change of several files, which it makes.
   void DeleteSettings(JointChange& change);
 
+  // Gives every option of the site's file its default and keeps the file as it was beside as "<file>.before-restore".
+  // Throws RunTimeError, and the file is as it was.
+  void RestoreSite();
+
   // Stores one of our own keys.
   void SaveText(std::string_view key, std::string_view value);
 
@@ -42,7 +47,7 @@ class SettingsStore : public StoredSettings {
 
  private:
   void Gather(const std::function<void()>& saves);
-  void MakeFolder() const;
+  void MakeFolder(std::string_view application) const;
   void Sync(std::string_view application);
 
   IniValues m_unsaved;  // the keys that were set since the last saving

@@ -1,10 +1,14 @@
 #include "StoredSettings.h"
 
+#include <filesystem>
+#include <system_error>
+
 #include "BuildInfo.h"
 #include "JointChange.h"
 #include "OptionTable.h"
 #include "Paths.h"
 #include "RunTimeError.h"
+#include "SiteFile.h"
 #include "WholeFile.h"
 
 namespace folionet {
@@ -13,8 +17,32 @@ StoredSettings::StoredSettings(const std::string& folder) : m_folder(folder.empt
 
 std::string StoredSettings::DefaultFolder() { return UserFolder("XDG_CONFIG_HOME", ".config"); }
 
-std::string StoredSettings::FilePath(std::string_view application) const {
+std::string StoredSettings::OwnPath(std::string_view application) const {
   return m_folder + std::string(application) + ".ini";
+}
+
+std::string StoredSettings::FilePath(std::string_view application) const {
+  return application == kApplicationTitle && !m_sitePath.empty() ? m_sitePath : OwnPath(application);
+}
+
+std::string StoredSettings::FileOf(std::string_view key) const {
+  const bool isOwn = !m_sitePath.empty() && !Area(m_sitePath).contains(NameOf(kSettingsSection, key)) && OwnText(key);
+  return isOwn ? OwnPath(kApplicationTitle) : FilePath(kApplicationTitle);
+}
+
+void StoredSettings::UseSite(const std::string& path) {
+  std::error_code failed;
+  const std::filesystem::path whole = std::filesystem::absolute(path, failed);
+  const std::string text = WorkAbout(Subject::kSettingsFile, [&] { return ReadWholeFile(path, kLongestFile); });
+  m_sitePath = failed ? path : whole.string();
+  m_areas.insert_or_assign(m_sitePath, ParseIni(text));
+}
+
+std::string StoredSettings::SiteText(std::string_view key) const {
+  if (m_sitePath.empty()) return {};
+  const IniValues& values = Area(m_sitePath);
+  const auto found = values.find(NameOf(kSiteSection, key));
+  return found == values.end() ? std::string() : found->second;
 }
 
 std::string StoredSettings::UnfinishedNote() const { return m_folder + "." + kApplicationTitle + ".unfinished"; }
@@ -43,32 +71,47 @@ std::string StoredSettings::NameOf(std::string_view section, std::string_view ke
   return std::string(section).append("/").append(key);
 }
 
+const IniValues& StoredSettings::Area(const std::string& path) const {
+  const auto area = m_areas.find(path);
+  if (area != m_areas.end()) return area->second;
+  const std::optional<std::string> text =
+      m_folder.empty() ? std::nullopt
+                       : WorkAbout(Subject::kSettingsFile, [&] { return ReadIfThere(path, kLongestFile); });
+  return m_areas.emplace(path, text ? ParseIni(*text) : IniValues()).first->second;
+}
+
 std::optional<std::string> StoredSettings::Stored(std::string_view application, const std::string& name) const {
-  auto area = m_areas.find(application);
-  if (area == m_areas.end()) {
-    const std::optional<std::string> text = m_folder.empty() ? std::nullopt : WorkAbout(Subject::kSettingsFile, [&] {
-      return ReadIfThere(FilePath(application), kLongestFile);
-    });
-    area = m_areas.emplace(application, text ? ParseIni(*text) : IniValues()).first;
-  }
-  const auto found = area->second.find(name);
-  return found == area->second.end() ? std::nullopt : std::optional(found->second);
+  const auto find = [&](const std::string& path, const std::string& wanted) {
+    const IniValues& values = Area(path);
+    const auto found = values.find(wanted);
+    return found == values.end() ? std::nullopt : std::optional(found->second);
+  };
+  const std::string path = FilePath(application);
+  if (path != m_sitePath) return find(path, name);
+  const std::string folder = NameOf(kSettingsSection, "Dir1");
+  const std::optional<std::string> value = find(path, name);
+  if (value) return name == folder ? FolderOfSite(*value, path) : value;
+  // A site's folder is on the drive that it is on.
+  if (name == NameOf(kSettingsSection, "Drive1") && find(path, folder)) return std::nullopt;
+  return find(OwnPath(application), name);
 }
 
 void StoredSettings::Take(std::string_view application, IniValues values) const {
-  m_areas.insert_or_assign(std::string(application), std::move(values));
+  m_areas.insert_or_assign(FilePath(application), std::move(values));
 }
 
 void StoredSettings::Override(std::string_view key, std::string value) {
   m_overrides.insert_or_assign(std::string(key), std::move(value));
 }
 
-std::optional<std::string> StoredSettings::StoredText(std::string_view key) const {
-  return Stored(kApplicationTitle, NameOf(kSettingsSection, key));
+std::optional<std::string> StoredSettings::OwnText(std::string_view key) const {
+  const IniValues& values = Area(OwnPath(kApplicationTitle));
+  const auto found = values.find(NameOf(kSettingsSection, key));
+  return found == values.end() ? std::nullopt : std::optional(found->second);
 }
 
 bool StoredSettings::Has(std::string_view key) const {
-  return m_overrides.contains(key) || StoredText(key).has_value();
+  return m_overrides.contains(key) || Stored(kApplicationTitle, NameOf(kSettingsSection, key)).has_value();
 }
 
 std::string StoredSettings::Text(std::string_view key) const {

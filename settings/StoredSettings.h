@@ -31,7 +31,21 @@ class StoredSettings {
   std::string GetSetting(std::string_view application, std::string_view section, std::string_view key,
                          std::string_view defaultText) const;
 
+  // Takes a site's file (SiteFile.h) for what our own keys are read from where it holds them, before the person's own
+  // settings, and for what they are saved in. Throws RunTimeError when it cannot be read.
+  void UseSite(const std::string& path);
+
+  // Its whole path; empty for none.
+  const std::string& SitePath() const { return m_sitePath; }
+
+  // What the site's file holds beside our own keys; empty when that is missing, or there is no site.
+  std::string SiteText(std::string_view key) const;
+
+  // The file that an application's texts are saved in.
   std::string FilePath(std::string_view application) const;
+
+  // The file that a key of our own is stored in, or would be.
+  std::string FileOf(std::string_view key) const;
 
   // The path of the note of a change of several files that is not finished; see JointChange.h.
   std::string UnfinishedNote() const;
@@ -49,10 +63,11 @@ class StoredSettings {
   // Whether a key of our own has a value for this run only.
   bool IsOverridden(std::string_view key) const { return m_overrides.find(key) != m_overrides.end(); }
 
-  // The stored text of a key of our own, whatever the run has in its place; nothing when none is stored.
-  std::optional<std::string> StoredText(std::string_view key) const;
+  // The text of a key of our own in the person's own settings, whatever a site or the run has in its place; nothing
+  // when none is stored.
+  std::optional<std::string> OwnText(std::string_view key) const;
 
-  // Whether a key of our own is stored or overridden.
+  // Whether a key of our own is stored, by the site or the person, or overridden.
   bool Has(std::string_view key) const;
 
   // The text of an option, or its default.
@@ -74,7 +89,12 @@ class StoredSettings {
   const std::string& Folder() const { return m_folder; }
 
  private:
+  // An area is a file by its name.
+  const IniValues& Area(const std::string& path) const;
+  std::string OwnPath(std::string_view application) const;
+
   std::string m_folder;
+  std::string m_sitePath;
   mutable std::map<std::string, IniValues, std::less<>> m_areas;
   std::map<std::string, std::string, std::less<>> m_overrides;
 };

@@ -56,7 +56,7 @@ _folionet_cli() {
         folionet-cli "${folders[@]}" list books 2> /dev/null | cut -f 2,3 | tr '\t' '\n')
       return
       ;;
-    --titles)
+    --titles | --settings | --save-settings)
       compopt -o filenames 2> /dev/null
       mapfile -t COMPREPLY < <(compgen -f -- "$word")
       return
@@ -69,7 +69,7 @@ _folionet_cli() {
   case $command in
     compile)
       common+=" --translation --language-file --start-book --end-book --books --output --index-address --set --sitemap"
-      common+=" --only-chosen --list-changed --dry-run --json"
+      common+=" --settings --save-settings --only-chosen --list-changed --dry-run --json"
       ;;
     import)
       common+=" --name --stem --into --titles --charset --language --replace --dry-run --json"
@@ -79,8 +79,8 @@ _folionet_cli() {
         return
       fi
       ;;
-    list) common="translations languages books charsets settings $common" ;;
-    check) common+=" --translation --set --json" ;;
+    list) common="translations languages books charsets settings --settings $common" ;;
+    check) common+=" --translation --set --settings --json" ;;
     verify)
       common+=" --index --stale --remove-stale --json"
       if [[ $word != -* ]]; then

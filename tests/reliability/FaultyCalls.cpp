@@ -105,6 +105,9 @@ bool Fails(std::string_view call, const std::string& path) {
   return strike == Strike::kFail;
 }
 
+// A file without a name has a mode too.
+bool HasMode(int flags) { return (flags & O_CREAT) != 0 || (flags & O_TMPFILE) == O_TMPFILE; }
+
 int Open(int folder, const char* path, int flags, mode_t mode) {
   if (Fails((flags & O_CREAT) != 0 ? "create" : "open", PathAt(folder, path))) return -1;
   return static_cast<int>(syscall(SYS_openat, folder, path, flags, mode));
@@ -138,7 +141,7 @@ extern "C" {
 int open(const char* path, int flags, ...) {
   va_list arguments;
   va_start(arguments, flags);
-  const mode_t mode = (flags & O_CREAT) != 0 ? va_arg(arguments, mode_t) : 0;
+  const mode_t mode = HasMode(flags) ? va_arg(arguments, mode_t) : 0;
   va_end(arguments);
   return Open(AT_FDCWD, path, flags, mode);
 }
@@ -146,7 +149,7 @@ int open(const char* path, int flags, ...) {
 int openat(int folder, const char* path, int flags, ...) {
   va_list arguments;
   va_start(arguments, flags);
-  const mode_t mode = (flags & O_CREAT) != 0 ? va_arg(arguments, mode_t) : 0;
+  const mode_t mode = HasMode(flags) ? va_arg(arguments, mode_t) : 0;
   va_end(arguments);
   return Open(folder, path, flags, mode);
 }

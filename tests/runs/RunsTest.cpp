@@ -29,11 +29,11 @@
 //   panels                                the texts of a run in the status bar
 //   shows =BodyLinkTag <body ...          a control's text; after "=", a text that the pages are made with
 //
-// A text in double quotes may hold \n, \r, \t, \\, \" and \xE9, and so may what follows a control's name. A line that
-// ends in "..." holds for all that begin with it. "@/" is the case's folder, "@today" the date. An error report is
-// given by its label, number and text, and what to do next stands behind it. FOLIONET_REWRITE_EXPECTED=1, with
-// runs_test or forms_test run by themselves, writes what comes out into the files, for a person to review the
-// difference.
+// " // " stands between steps, or lines of one mark, that are on one line. A text in double quotes may hold \n, \r, \t,
+// \\, \" and \xE9, and so may what follows a control's name. A line that ends in "..." holds for all that begin with
+// it. "@/" is the case's folder, "@today" the date. An error report is given by its label, number and text, and what to
+// do next stands behind it. FOLIONET_REWRITE_EXPECTED=1, with runs_test or forms_test run by themselves, writes what
+// comes out into the files, for a person to review the difference.
 
 #include <gtest/gtest.h>
 

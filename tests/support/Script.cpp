@@ -16,6 +16,7 @@
 #include <sstream>
 #include <stdexcept>
 #include <string_view>
+#include <utility>
 
 #include "CodePage.h"
 #include "Escapes.h"
@@ -30,6 +31,18 @@ using Lines = std::vector<std::string>;
 
 constexpr std::string_view kAndSoOn = "...";
 constexpr std::string_view kMarks = "|!+~->";
+constexpr std::string_view kThen = " // ";  // between what stands on one line
+
+Lines SplitLine(const std::string& line) {
+  Lines parts;
+  std::size_t from = 0;
+  for (std::size_t at = line.find(kThen); at != std::string::npos; at = line.find(kThen, from)) {
+    parts.push_back(line.substr(from, at - from));
+    from = at + kThen.size();
+  }
+  parts.push_back(line.substr(from));
+  return parts;
+}
 
 std::vector<ScriptCase> ReadScript(const fs::path& path) {
   std::ifstream file(path, std::ios::binary);
@@ -44,9 +57,14 @@ std::vector<ScriptCase> ReadScript(const fs::path& path) {
       if (std::any_of(cases.begin(), cases.end(), isSame)) throw std::runtime_error(path.string() + " has two " + name);
       cases.push_back({path, path.stem(), name, number, {}});
     } else if (kMarks.find(line[0]) != std::string_view::npos) {
-      cases.back().steps.back().outcome.push_back(line);
+      for (const std::string& part : SplitLine(line.substr(2))) {
+        cases.back().steps.back().outcome.push_back(line.substr(0, 2) + part);
+      }
     } else {
-      cases.back().steps.push_back({number, line, {}});
+      bool isBehind = false;
+      for (const std::string& part : SplitLine(line)) {
+        cases.back().steps.push_back({number, std::exchange(isBehind, true), part, {}});
+      }
     }
   }
   return cases;
@@ -85,15 +103,35 @@ std::string Joined(const Lines& lines) {
   return text;
 }
 
+// A step with its outcome as they stand in a file: short lines of one mark together.
+std::string Written(const ScriptStep& step) {
+  constexpr std::size_t kWidest = 120;
+  std::string text = step.line;
+  char last = '\0';
+  for (const std::string& line : step.outcome) {
+    const std::size_t width = text.size() - (text.rfind('\n') + 1) + line.size() + 2;
+    text += last == line[0] && width <= kWidest ? std::string(kThen) + line.substr(2) : "\n" + line;
+    last = line[0];
+  }
+  return text;
+}
+
 // Puts what came into the case's place; comments within it go.
-void Rewrite(const ScriptCase& script, const Lines& actual) {
+void Rewrite(const ScriptCase& script, const std::vector<ScriptStep>& actual) {
+  std::string all;
+  bool canFollow = false;
+  for (const ScriptStep& step : actual) {
+    if (step.isBehind && canFollow) all.replace(all.size() - 1, 1, kThen);
+    all += Written(step) + "\n";
+    canFollow = step.outcome.empty();
+  }
   std::string text = ReadFile(script.file);
   const std::string title = "= " + script.name + "\n";
   const std::size_t from = ("\n" + text).find("\n" + title) + title.size();
   std::size_t to = std::min(text.find("\n= ", from), text.size());
   to = std::min(text.find("\n#", from), to);
   while (to > from && text[to - 2] == '\n') --to;
-  std::ofstream(script.file, std::ios::binary) << text.replace(from, to - from, Joined(actual));
+  std::ofstream(script.file, std::ios::binary) << text.replace(from, to - from, all);
 }
 
 void WriteTimes(const std::string& path, const std::string& text, std::size_t times, bool append) {
@@ -125,12 +163,12 @@ std::vector<ScriptCase> ReadScripts(Drives what) {
 
 void RunScript(const ScriptCase& script, const StepRunner& runner) {
   bool isDifferent = false;
-  Lines actual;
+  std::vector<ScriptStep> actual;
   for (const ScriptStep& step : script.steps) {
     Lines expected = step.outcome;
     expected.insert(expected.begin(), step.line);
     const Lines found = Folded(expected, runner(step.line));
-    actual.insert(actual.end(), found.begin(), found.end());
+    actual.push_back({step.number, step.isBehind, found[0], {found.begin() + 1, found.end()}});
     if (found == expected) continue;
     isDifferent = true;
     ADD_FAILURE_AT(script.file.c_str(), step.number)

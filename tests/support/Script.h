@@ -10,7 +10,8 @@ namespace folionet::test {
 
 // A line of a case that does something or looks at something, and the lines that come of it.
 struct ScriptStep {
-  int number = 0;  // of the line in its file, from 1
+  int number = 0;         // of the line in its file, from 1
+  bool isBehind = false;  // another step on the same line
   std::string line;
   std::vector<std::string> outcome;
 };

@@ -22,7 +22,7 @@ namespace {
 
 constexpr char kHelp[] =
     "Turns a Bible translation installed by Versalia into a static web site.\n"
-    "Usage: folionet [OPTIONS]\n"
+    "Usage: folionet [OPTIONS] [FILE]\n"
     "\n"
     "Options:\n"
     "  -h,--help                   Print this help message and exit\n"
@@ -32,6 +32,7 @@ constexpr char kHelp[] =
     "                              folder, else Versalia's own)\n"
     "  --program-folder FOLDER     Holds default.css (default: the program's if\n"
     "                              writable, else ~/.local/share/Folionet)\n"
+    "  --settings FILE             The site to open, as FILE does (default: none)\n"
     "\n"
     "The folders count for this run only. F1 in the form explains every control.\n"
     "\n"
@@ -80,7 +81,7 @@ std::string Unexpected(const QCommandLineParser& parser) {
   for (const QString& name : parser.unknownOptionNames()) {
     unexpected.append((name.size() == 1 ? QStringLiteral("-") : QStringLiteral("--")) + name);
   }
-  unexpected.append(parser.positionalArguments());
+  unexpected.append(parser.positionalArguments().mid(1));
   if (unexpected.isEmpty()) return {};
   const char* const which = unexpected.size() == 1 ? "argument was" : "arguments were";
   return std::string("The following ") + which + " not expected: " + FromQt(unexpected.join(QLatin1Char(' ')));
@@ -99,12 +100,13 @@ std::variant<Arguments, ExitStatus> ParseArguments(int argc, char** argv) {
   QCommandLineParser parser;
   parser.addOptions({help, version});
   Arguments arguments;
-  const std::array<std::pair<const char*, std::string*>, 3> folders{{
+  const std::array<std::pair<const char*, std::string*>, 4> texts{{
       {"versalia-path", &arguments.folders.versaliaPath},
       {"module-path", &arguments.folders.modulePath},
       {"program-folder", &arguments.programFolder},
+      {"settings", &arguments.site},
   }};
-  for (const auto& [name, folder] : folders) {
+  for (const auto& [name, text] : texts) {
     parser.addOption({QLatin1String(name), QString(), QStringLiteral("FOLDER")});
   }
   const bool isParsed = parser.parse(WithoutThoseOfQt(argc, argv));
@@ -114,19 +116,20 @@ std::variant<Arguments, ExitStatus> ParseArguments(int argc, char** argv) {
   }
   if (const std::string unexpected = Unexpected(parser); !unexpected.empty()) return Refuse(unexpected);
   if (!isParsed) return Refuse(FromQt(parser.errorText()));
-  for (const auto& [name, folder] : folders) {
-    const QStringList given = parser.values(QLatin1String(name));
+  for (const auto& [name, text] : texts) {
+    QStringList given = parser.values(QLatin1String(name));
+    if (text == &arguments.site) given.append(parser.positionalArguments());
     const std::string option = std::string("--") + name + ": ";
     if (given.size() > 1)
       return Refuse(option + "one was expected, but " + std::to_string(given.size()) + " were given");
     if (given.isEmpty()) continue;
-    *folder = FromQt(given.first());
-    if (folder->empty()) return Refuse(option + "a value was expected, but the text given is empty");
+    *text = FromQt(given.first());
+    if (text->empty()) return Refuse(option + "a value was expected, but the text given is empty");
   }
   if (const std::string missing = MissingFolder(arguments.programFolder); !missing.empty()) {
     return Refuse("--program-folder: " + missing);
   }
-  for (const auto& [name, folder] : folders) *folder = Whole(*folder);
+  for (const auto& [name, text] : texts) *text = Whole(*text);
   return arguments;
 }
 

@@ -14,6 +14,7 @@ enum ExitStatus { kExitDone = 0, kExitUsage = 2, kExitFailed = 3 };
 struct Arguments {
   GivenFolders folders;
   std::string programFolder;
+  std::string site;  // a site's file of settings
 };
 
 // The arguments, or the status to end with where that was asked for, or where they cannot be used: what there is to say

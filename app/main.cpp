@@ -9,6 +9,7 @@
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
+#include <optional>
 #include <string>
 #include <variant>
 
@@ -21,6 +22,8 @@
 #include "QtText.h"
 #include "RunTimeError.h"
 #include "SettingsStore.h"
+#include "SiteFile.h"
+#include "SiteMenu.h"
 #include "frmMain.h"
 
 namespace folionet {
@@ -63,13 +66,22 @@ void SpeakDesktopLanguage(QTranslator& ours, QTranslator& qts) {
   if (locale.textDirection() == Qt::RightToLeft) QApplication::setLayoutDirection(Qt::RightToLeft);
 }
 
-int OpenForm(QApplication& app, const Arguments& arguments) {
+// What a form that was open ended with: a status, or the site that it is to start again with.
+struct FormEnd {
+  int status = kExitFailed;
+  std::optional<std::string> nextSite;
+};
+
+// Opens the form with the settings of a site, or with the person's own where `site` is empty.
+FormEnd OpenForm(QApplication& app, const Arguments& arguments, FormUi& ui, const std::string& site) {
   SettingsStore store(SettingsStore::DefaultFolder());
-  FormUi ui;
+  FormEnd end;
   try {
     store.FinishChange();
+    if (!site.empty()) store.UseSite(site);
   } catch (const RunTimeError& error) {
     ui.ShowErrorReport({Procedure::kFormLoad, error});
+    if (store.SitePath() != site) return end;
   }
   AppState state{store, ui, ProgramFolderOf(arguments.programFolder, ui), arguments.folders};
   QDir::setCurrent(ToQt(state.programFolder));
@@ -77,13 +89,30 @@ int OpenForm(QApplication& app, const Arguments& arguments) {
   ui.SetForm(&form);
   // Not quit(), which would ask every window to close first.
   QObject::connect(&form, &frmMain::Ended, &app, [] { QApplication::exit(kExitDone); });
-  int status = kExitFailed;
+  QObject::connect(&form, &frmMain::SiteChosen, &app, [&](const std::string& path) {
+    end.nextSite = path;
+    QApplication::exit(kExitDone);
+  });
   if (form.LoadForm()) {
     form.show();
-    status = app.exec();
+    end.status = app.exec();
   }
   ui.SetForm(nullptr);
-  return status;
+  return end;
+}
+
+int OpenForms(QApplication& app, const Arguments& arguments) {
+  FormUi ui;
+  std::string site = arguments.site;
+  for (;;) {
+    if (const auto why = site.empty() ? std::nullopt : WhyNoSite(site)) {
+      TellNoSite(*why, ui);
+      return kExitUsage;
+    }
+    const FormEnd end = OpenForm(app, arguments, ui, site);
+    if (!end.nextSite) return end.status;
+    site = *end.nextSite;
+  }
 }
 
 }  // namespace
@@ -106,5 +135,5 @@ int main(int argc, char** argv) {
   QTranslator ours;
   QTranslator qts;
   folionet::SpeakDesktopLanguage(ours, qts);
-  return folionet::OpenForm(app, std::get<folionet::Arguments>(arguments));
+  return folionet::OpenForms(app, std::get<folionet::Arguments>(arguments));
 }

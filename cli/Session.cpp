@@ -16,23 +16,6 @@ namespace {
 
 constexpr char kShowSettings[] = " \"folionet-cli list settings\" shows all of them.";
 
-// The place of the one text that equals `wanted`, exactly or else ignoring case; npos when there is none.
-std::size_t FindText(const std::vector<std::string>& texts, const std::string& wanted) {
-  for (std::size_t i = 0; i < texts.size(); ++i) {
-    if (texts[i] == wanted) return i;
-  }
-  for (std::size_t i = 0; i < texts.size(); ++i) {
-    if (EqualIgnoringCase(texts[i], wanted)) return i;
-  }
-  return std::string::npos;
-}
-
-std::vector<std::string> Decoded(const std::vector<std::string>& texts, std::size_t count, const CodePage& codePage) {
-  std::vector<std::string> decoded;
-  for (std::size_t i = 0; i < count; ++i) decoded.push_back(codePage.Decode(texts[i]));
-  return decoded;
-}
-
 }  // namespace
 
 Session::Session(const CommonOptions& common, ConsoleUi& console)
@@ -151,13 +134,7 @@ void Session::CheckLanguageFile(const std::string& option, const std::string& na
 }
 
 std::size_t Session::FindTranslation(const std::string& option, const std::string& nameOrStem) const {
-  const std::size_t count = glob.cboBibleName.size();
-  std::vector<std::string> names;
-  for (std::size_t i = 0; i < count; ++i) names.push_back(ShownName(glob, i, codePage));
-  for (const auto& list : {names, Decoded(glob.BibleFiles, count, codePage)}) {
-    const std::size_t found = FindText(list, nameOrStem);
-    if (found != std::string::npos) return found;
-  }
+  if (const auto found = folionet::FindTranslation(glob, codePage, nameOrStem)) return *found;
   RefuseUsage(option + ": there is no translation \"" + nameOrStem +
               "\". \"folionet-cli list translations\" shows those that are installed.");
 }

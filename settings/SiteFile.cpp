@@ -29,6 +29,10 @@ bool IsKnown(const std::string& name) {
   return section == kSiteSection && std::find(kChoices.begin(), kChoices.end(), key) != kChoices.end();
 }
 
+bool IsOfSections(const std::string& name) {
+  return name.starts_with(NameOf(kSiteSection, "")) || name.starts_with(NameOf(kSettingsSection, ""));
+}
+
 // "[Site] Books"; a name that stands before the first section is that alone.
 std::string ShownName(const std::string& name) {
   const std::size_t slash = name.find('/');
@@ -45,7 +49,7 @@ std::optional<Sentence> WhyNoSite(const std::string& path) {
     const std::string why = error.Detail().empty() ? std::string(StandardMessage(error.Number())) : error.Detail();
     return Sentence{Words("QObject", "%1 cannot be read: %2"), {path, why}};
   }
-  if (std::none_of(values.begin(), values.end(), [](const auto& value) { return IsKnown(value.first); })) {
+  if (std::none_of(values.begin(), values.end(), [](const auto& value) { return IsOfSections(value.first); })) {
     return Sentence{Words("QObject", "%1 does not hold the settings of a site, which stand below [Site] and [Keys]."),
                     {path}};
   }

@@ -69,10 +69,12 @@ class UserInterface {
   virtual void FocusControl(std::string_view /*name*/) {}
 
   // The choosers. Each gives back what it was given when the person cancels or where there is nobody to choose; of
-  // colours, nothing: to choose the one that is shown is a choice.
+  // colours and files to save, nothing: to choose the one that is shown is a choice.
   virtual std::optional<Colour> ChooseColour(Colour /*initial*/) { return std::nullopt; }
   virtual SampleText ChooseFont(const SampleText& initial) { return initial; }
   virtual std::string ChooseFile(const std::string& /*filter*/, const std::string& previous) { return previous; }
+  // A file to be written; empty when the person cancelled.
+  virtual std::string ChooseFileToSave(const std::string& /*filter*/, const std::string& /*initial*/) { return {}; }
   virtual std::string ChooseFolder(const std::string& initial, const std::string& /*title*/) { return initial; }
 
   // Shows a page that was written in the person's browser.

@@ -1,5 +1,6 @@
 #include "BookChoice.h"
 
+#include "ImportedText.h"
 #include "Numbers.h"
 
 namespace folionet {
@@ -46,6 +47,19 @@ std::optional<BookRange> ChooseBooks(const ModGlob& glob, const CodePage& codePa
     const auto first = ChooseBook(glob, codePage, text.substr(0, dash));
     const auto last = ChooseBook(glob, codePage, text.substr(dash + 1));
     if (first && last) return BookRange{*first, *last};
+  }
+  return std::nullopt;
+}
+
+std::optional<std::size_t> FindTranslation(const ModGlob& glob, const CodePage& codePage, std::string_view nameOrStem) {
+  const std::size_t count = glob.cboBibleName.size();
+  for (const bool isName : {true, false}) {
+    for (const bool ignoringCase : {false, true}) {
+      for (std::size_t i = 0; i < count; ++i) {
+        const std::string text = isName ? ShownName(glob, i, codePage) : codePage.Decode(glob.BibleFiles[i]);
+        if (text == nameOrStem || (ignoringCase && EqualIgnoringCase(text, nameOrStem))) return i;
+      }
+    }
   }
   return std::nullopt;
 }

@@ -24,6 +24,9 @@ std::optional<int> ChooseBook(const ModGlob& glob, const CodePage& codePage, std
 // the last of several with "-" between ("Matthew-Acts", "40-44").
 std::optional<BookRange> ChooseBooks(const ModGlob& glob, const CodePage& codePage, std::string_view text);
 
+// The place in BibleNames of the translation that a person (UTF-8) means by its name or by the stem of its file.
+std::optional<std::size_t> FindTranslation(const ModGlob& glob, const CodePage& codePage, std::string_view nameOrStem);
+
 // The names of the parts, in their order.
 std::vector<std::string> BookParts();
 

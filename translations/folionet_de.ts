@@ -406,6 +406,22 @@
         <source>No browser finds the pages of the books %2, such as %1: &quot;?&quot;, &quot;#&quot; and &quot;:&quot; have another meaning in a link.</source>
         <translation>Kein Browser findet die Seiten der Bücher %2, etwa %1: „?“, „#“ und „:“ haben in einem Link eine andere Bedeutung.</translation>
     </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>%1 kann nicht gelesen werden: %2</translation>
+    </message>
+    <message>
+        <source>%1 does not hold the settings of a site, which stand below [Site] and [Keys].</source>
+        <translation>%1 enthält nicht die Einstellungen einer Website, die unter [Site] und [Keys] stehen.</translation>
+    </message>
+    <message>
+        <source>%1 holds a setting that no site has: %2</source>
+        <translation>%1 enthält eine Einstellung, die keine Website hat: %2</translation>
+    </message>
+    <message>
+        <source>%1: %2 must be 0 or 1: &quot;%3&quot;</source>
+        <translation>%1: %2 muss 0 oder 1 sein: &quot;%3&quot;</translation>
+    </message>
 </context>
 <context>
     <name>folionet::CommandCopy</name>
@@ -557,6 +573,53 @@ Stattdessen die der importierten Texte zeigen, bis Folionet geschlossen wird? Sp
     <message>
         <source>&quot;%1&quot; can no longer be read. Its text would be:</source>
         <translation>„%1“ kann nicht mehr gelesen werden. Ihr Text wäre:</translation>
+    </message>
+    <message>
+        <source>The library does not hold the translation of this site: &quot;%1&quot;</source>
+        <translation>Die Bibliothek enthält die Übersetzung dieser Website nicht: &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>The Language File does not name the books of this site: &quot;%1&quot;</source>
+        <translation>Die Sprachdatei nennt die Bücher dieser Website nicht: &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Not as the site has it</source>
+        <translation>Anders als in der Website</translation>
+    </message>
+</context>
+<context>
+    <name>folionet::SiteMenu</name>
+    <message>
+        <source>&amp;Open a site...</source>
+        <translation>Website ö&amp;ffnen...</translation>
+    </message>
+    <message>
+        <source>&amp;Save as a site...</source>
+        <translation>Als Website &amp;speichern...</translation>
+    </message>
+    <message>
+        <source>&amp;Back to my own settings</source>
+        <translation>&amp;Zurück zu meinen Einstellungen</translation>
+    </message>
+    <message>
+        <source>Sites</source>
+        <translation>Websites</translation>
+    </message>
+    <message>
+        <source>Sites that have settings of their own, each in a file.</source>
+        <translation>Websites mit eigenen Einstellungen, jede in einer Datei.</translation>
+    </message>
+    <message>
+        <source>The settings of this site are in %1.</source>
+        <translation>Die Einstellungen dieser Website sind in %1.</translation>
+    </message>
+    <message>
+        <source>Another site</source>
+        <translation>Andere Website</translation>
+    </message>
+    <message>
+        <source>Not a site</source>
+        <translation>Keine Website</translation>
     </message>
 </context>
 <context>

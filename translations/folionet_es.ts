@@ -406,6 +406,22 @@
         <source>No browser finds the pages of the books %2, such as %1: &quot;?&quot;, &quot;#&quot; and &quot;:&quot; have another meaning in a link.</source>
         <translation>Ningún navegador encuentra las páginas de los libros %2, como %1: «?», «#» y «:» tienen otro significado en un enlace.</translation>
     </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>%1 no se puede leer: %2</translation>
+    </message>
+    <message>
+        <source>%1 does not hold the settings of a site, which stand below [Site] and [Keys].</source>
+        <translation>%1 no contiene los ajustes de un sitio, que están bajo [Site] y [Keys].</translation>
+    </message>
+    <message>
+        <source>%1 holds a setting that no site has: %2</source>
+        <translation>%1 contiene un ajuste que ningún sitio tiene: %2</translation>
+    </message>
+    <message>
+        <source>%1: %2 must be 0 or 1: &quot;%3&quot;</source>
+        <translation>%1: %2 debe ser 0 o 1: &quot;%3&quot;</translation>
+    </message>
 </context>
 <context>
     <name>folionet::CommandCopy</name>
@@ -557,6 +573,53 @@ La lista muestra las traducciones de otra biblioteca: %2.
     <message>
         <source>&quot;%1&quot; can no longer be read. Its text would be:</source>
         <translation>«%1» ya no se puede leer. Su texto sería:</translation>
+    </message>
+    <message>
+        <source>The library does not hold the translation of this site: &quot;%1&quot;</source>
+        <translation>La biblioteca no contiene la traducción de este sitio: &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>The Language File does not name the books of this site: &quot;%1&quot;</source>
+        <translation>El archivo de idioma no nombra los libros de este sitio: &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Not as the site has it</source>
+        <translation>No como lo tiene el sitio</translation>
+    </message>
+</context>
+<context>
+    <name>folionet::SiteMenu</name>
+    <message>
+        <source>&amp;Open a site...</source>
+        <translation>&amp;Abrir un sitio...</translation>
+    </message>
+    <message>
+        <source>&amp;Save as a site...</source>
+        <translation>&amp;Guardar como sitio...</translation>
+    </message>
+    <message>
+        <source>&amp;Back to my own settings</source>
+        <translation>&amp;Volver a mis ajustes</translation>
+    </message>
+    <message>
+        <source>Sites</source>
+        <translation>Sitios</translation>
+    </message>
+    <message>
+        <source>Sites that have settings of their own, each in a file.</source>
+        <translation>Sitios con ajustes propios, cada uno en un archivo.</translation>
+    </message>
+    <message>
+        <source>The settings of this site are in %1.</source>
+        <translation>Los ajustes de este sitio están en %1.</translation>
+    </message>
+    <message>
+        <source>Another site</source>
+        <translation>Otro sitio</translation>
+    </message>
+    <message>
+        <source>Not a site</source>
+        <translation>No es un sitio</translation>
     </message>
 </context>
 <context>

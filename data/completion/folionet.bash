@@ -8,8 +8,11 @@ _folionet() {
   if [[ $before == --*-path || $before == --*-folder ]]; then
     compopt -o filenames 2> /dev/null
     mapfile -t COMPREPLY < <(compgen -d -- "$word")
+  elif [[ $before == --settings || $word != -* ]]; then
+    compopt -o filenames 2> /dev/null
+    mapfile -t COMPREPLY < <(compgen -f -X '!*.folionet' -- "$word"; compgen -d -- "$word")
   else
-    mapfile -t COMPREPLY < <(compgen -W "--versalia-path --module-path --program-folder --help --version" -- "$word")
+    mapfile -t COMPREPLY < <(compgen -W "--versalia-path --module-path --program-folder --settings --help --version" -- "$word")
   fi
 }
 complete -F _folionet folionet

@@ -98,6 +98,8 @@ std::string CompileCommandLine(const CompileRequest& request, const AppState& st
   if (request.options.txthttpRoot != untouched.txthttpRoot) {
     command.Add("--index-address", request.options.txthttpRoot);
   }
+  if (!request.sitemapAddress.empty()) command.Add("--sitemap", request.sitemapAddress);
+  if (request.onlyChosen) command.Add("--only-chosen");
   AddOptions(state, command);
   return command.Text();
 }

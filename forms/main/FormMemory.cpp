@@ -5,6 +5,7 @@
 #include <QStyle>
 #include <QWidget>
 #include <algorithm>
+#include <string_view>
 
 #include "QtText.h"
 #include "RunTimeError.h"
@@ -16,11 +17,14 @@ constexpr char kFile[] = "FolionetForms";
 constexpr char kSection[] = "Forms";
 constexpr char kPlaced[] = "isPlaced";
 constexpr qsizetype kMostRecent = 5;
+constexpr qsizetype kMostSites = 20;
+
+qsizetype Most(const char* kind) { return kind == std::string_view(FormMemory::kSites) ? kMostSites : kMostRecent; }
 
 }  // namespace
 
 QStringList FormMemory::Recent(const char* kind) const {
-  return Text(QString::fromLatin1(kind)).split(QLatin1Char('\n'), Qt::SkipEmptyParts).mid(0, kMostRecent);
+  return Text(QString::fromLatin1(kind)).split(QLatin1Char('\n'), Qt::SkipEmptyParts).mid(0, Most(kind));
 }
 
 void FormMemory::Add(const char* kind, const QString& text) {
@@ -28,7 +32,7 @@ void FormMemory::Add(const char* kind, const QString& text) {
   QStringList texts = Recent(kind);
   texts.removeAll(text);
   texts.prepend(text);
-  m_changed[QString::fromLatin1(kind)] = texts.mid(0, kMostRecent).join(QLatin1Char('\n'));
+  m_changed[QString::fromLatin1(kind)] = texts.mid(0, Most(kind)).join(QLatin1Char('\n'));
 }
 
 void FormMemory::KeepPlace(QWidget& window) { window.installEventFilter(this); }

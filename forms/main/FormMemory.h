@@ -10,7 +10,8 @@
 namespace folionet {
 
 // What the forms remember beside the options, in a file of its own, "FolionetForms.ini": the last addresses of index
-// pages and output folders, and the sizes and places of windows. That it cannot be read or written is no failure.
+// pages, output folders and files of sites, and the sizes and places of windows. That it cannot be read or written is
+// no failure.
 class FormMemory : public QObject {
   Q_OBJECT
 
@@ -32,6 +33,7 @@ class FormMemory : public QObject {
 
   static constexpr char kAddresses[] = "Addresses";
   static constexpr char kFolders[] = "Folders";
+  static constexpr char kSites[] = "Sites";
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;

@@ -201,6 +201,14 @@ std::string FormUi::ChooseFile(const std::string& filter, const std::string& pre
   return chosen.isEmpty() ? previous : FromQt(chosen);
 }
 
+std::string FormUi::ChooseFileToSave(const std::string& filter, const std::string& initial) {
+  QFileDialog dialog(Owner(), {}, ToQt(initial), ToQt(FileDialogFilter(filter)));
+  dialog.setAcceptMode(QFileDialog::AcceptSave);
+  dialog.setFileMode(QFileDialog::AnyFile);
+  dialog.setDefaultSuffix(ToQt(filter.substr(filter.rfind('.') + 1)));
+  return dialog.exec() == QDialog::Accepted ? FromQt(dialog.selectedFiles().value(0)) : std::string();
+}
+
 std::string FormUi::ChooseFolder(const std::string& initial, const std::string& title) {
   const QString start = initial.empty() ? QDir::homePath() : ToQt(initial);
   const QString chosen = QFileDialog::getExistingDirectory(Owner(), ToQt(title), start);

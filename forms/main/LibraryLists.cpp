@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <system_error>
 
+#include "BookChoice.h"
 #include "BookTitles.h"
 #include "Catalogue.h"
 #include "ChapterIndex.h"
@@ -13,6 +14,7 @@
 #include "PageEncoding.h"
 #include "QtText.h"
 #include "RunTimeError.h"
+#include "SiteFile.h"
 #include "TrySave.h"
 #include "ui_frmMain.h"
 
@@ -70,19 +72,47 @@ Outcome LibraryLists::ReadLists(int which) {
 // The choice of a person who had the form when its start had stopped stands, and so does the range of books.
 Outcome LibraryLists::SelectFirst() {
   const bool isChosen = m_chosen >= 0;
-  if (!isChosen) {
-    int item = 0;
-    const int count = m_controls.cboBibleName->count();
-    while (item < count && !TranslationAt(m_state.glob, static_cast<std::size_t>(item))) ++item;
-    m_controls.cboBibleName->setCurrentIndex(item < count ? item : -1);
-  }
+  if (!isChosen) m_controls.cboBibleName->setCurrentIndex(FirstItem());
   const int place = SelectedTranslation();
+  if (place < 0 && !m_state.store.SiteText(kSiteTranslation).empty()) {
+    m_state.options.txtBibleSel.clear();
+    m_controls.txtBibleSel->clear();
+    m_controls.txtFilename->clear();
+  }
   if (place < 0) return Outcome::kDone;
+  if (!isChosen) TakeTranslation(static_cast<std::size_t>(place));
   if (!isChosen && TakeImported(static_cast<std::size_t>(place)) != Outcome::kDone) return Outcome::kEndProgram;
   m_chosen = m_controls.cboBibleName->currentIndex();
   const Outcome outcome = BooksInChapters(m_state.glob, static_cast<std::size_t>(place), m_state.codePage, m_state.ui);
   if (!isChosen) SelectBooksOfText();
+  if (!isChosen) SelectBooksOfSite();
   return outcome;
+}
+
+// Nothing is to be written over by a translation that the site does not name.
+int LibraryLists::FirstItem() const {
+  const std::string wanted = m_state.store.SiteText(kSiteTranslation);
+  const auto named = FindTranslation(m_state.glob, m_state.codePage, wanted);
+  for (int item = 0; item < m_controls.cboBibleName->count(); ++item) {
+    const auto place = TranslationAt(m_state.glob, static_cast<std::size_t>(item));
+    if (place && (wanted.empty() || place == named)) return item;
+  }
+  if (!wanted.empty()) TellUnknown(tr("The library does not hold the translation of this site: \"%1\""), wanted);
+  return -1;
+}
+
+void LibraryLists::SelectBooksOfSite() {
+  const std::string wanted = m_state.store.SiteText(kSiteBooks);
+  if (wanted.empty()) return;
+  const auto books = ChooseBooks(m_state.glob, m_state.codePage, wanted);
+  if (!books) return TellUnknown(tr("The Language File does not name the books of this site: \"%1\""), wanted);
+  m_controls.cboStartBook->setCurrentIndex(books->first);
+  m_controls.cboEndBook->setCurrentIndex(books->last);
+}
+
+void LibraryLists::TellUnknown(const QString& text, const std::string& choice) const {
+  m_state.ui.ShowMessage({MessageIcon::kWarning, FromQt(tr("Not as the site has it")),
+                          FromQt(text.arg(ToQt(choice))) + "\r\n" + m_state.store.SitePath()});
 }
 
 // A translation that was imported brings its charset, its language and its book titles; the next one may have others.

@@ -24,8 +24,8 @@ class LibraryLists : public QObject {
   // Finds the library and fills every list; the stored language is shown, and no translation is selected yet.
   Outcome Fill();
 
-  // Selects the first translation that can be read, when none is chosen, and counts the chapters. To have none is no
-  // failure.
+  // Selects the translation and the books of the site whose file is in use, else the first translation that can be
+  // read, when none is chosen, and counts the chapters. To have none is no failure.
   Outcome SelectFirst();
 
   // Reads the verse counts of the selected translation.
@@ -58,6 +58,9 @@ class LibraryLists : public QObject {
   void TakeTranslation(std::size_t place);
   Outcome TakeImported(std::size_t place);
   void SelectBooksOfText();
+  void SelectBooksOfSite();
+  int FirstItem() const;
+  void TellUnknown(const QString& text, const std::string& choice) const;
   void TellUnread(int item) const;
   Outcome ReadLists(int which);
 

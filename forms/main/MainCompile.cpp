@@ -4,6 +4,7 @@
 #include "LibraryLists.h"
 #include "PageNames.h"
 #include "QtText.h"
+#include "SiteFile.h"
 #include "ui_frmMain.h"
 
 namespace folionet {
@@ -19,6 +20,9 @@ CompileRequest GatherRequest(const AppState& state, const Ui::frmMain& controls,
   request.cboStartBook = controls.cboStartBook->currentIndex();
   request.cboEndBook = controls.cboEndBook->currentIndex();
   request.programFolder = state.programFolder;
+  const SiteChoices site = ChoicesOfSite(state.store);
+  request.sitemapAddress = site.sitemap;
+  request.onlyChosen = site.onlyChosen;
   return request;
 }
 

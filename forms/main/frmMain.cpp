@@ -32,6 +32,7 @@
 #include "QtText.h"
 #include "RunGuard.h"
 #include "RunTimeError.h"
+#include "SiteMenu.h"
 #include "SiteVerifier.h"
 #include "StatusPanels.h"
 #include "StopSignals.h"
@@ -73,14 +74,20 @@ frmMain::frmMain(AppState& state, QWidget* parent)
   connect(m_ui->cmdRecentFolders, &QToolButton::clicked, this, &frmMain::ListFolders);
   auto* importing = new ImportButton(state, *m_ui, *m_lists, m_dialogs, this);
   importing->mayOpen = [this] { return TellAndGoOn(); };
-  new CommandCopy(state, *m_ui->cmdCompile, this, [this]() -> std::optional<CompileRequest> {
-    if (!TellAndGoOn()) return std::nullopt;
-    return GatherRequest(m_state, *m_ui, *m_lists, *m_folders);
+  const auto gather = [this] { return TellAndGoOn() ? std::optional(Gather()) : std::nullopt; };
+  new CommandCopy(state, *m_ui->cmdCompile, this, gather);
+  m_sites = new SiteMenu(state, *m_ui->cmdSite, *m_memory, gather);
+  m_sites->saveAll = [this] { return SaveDefaults(); };
+  connect(m_sites, &SiteMenu::Chosen, this, [this](const std::string& path) {
+    m_hasEnded = true;
+    emit SiteChosen(path);
   });
   setAcceptDrops(true);
 }
 
 frmMain::~frmMain() = default;
+
+CompileRequest frmMain::Gather() const { return GatherRequest(m_state, *m_ui, *m_lists, *m_folders); }
 
 template <typename Dialog>
 void frmMain::Open() {
@@ -167,7 +174,7 @@ void frmMain::CSSCheck() {
 
 void frmMain::Compile() {
   if (!TellAndGoOn()) return;
-  CompileRequest request = GatherRequest(m_state, *m_ui, *m_lists, *m_folders);
+  CompileRequest request = Gather();
   SiteChanges changes;
   request.changes = &changes;
   request.stateFolder = UserStateFolder();
@@ -252,7 +259,7 @@ void frmMain::ListFolders() {
 void frmMain::PreviewPage() {
   if (!TellAndGoOn()) return;
   const RunGuard guard(*this);
-  m_preview->Show(GatherRequest(m_state, *m_ui, *m_lists, *m_folders), m_state.glob, m_state.ui);
+  m_preview->Show(Gather(), m_state.glob, m_state.ui);
 }
 
 void frmMain::OpenIndexPage() { m_state.ui.ShowPage(m_indexPage); }
@@ -275,8 +282,10 @@ void frmMain::OpenLinkToMain() {
 }
 
 bool frmMain::SaveDefaults() {
-  return TrySave(m_state, Procedure::kSaveDefaults,
-                 [&](SettingsStore& store) { folionet::SaveDefaults(store, m_state.options); });
+  return TrySave(m_state, Procedure::kSaveDefaults, [&](SettingsStore& store) {
+    folionet::SaveDefaults(store, m_state.options);
+    m_sites->SaveChoices(Gather());
+  });
 }
 
 // At exit a failure is always told and the form stays open; from the second one on a person can leave without saving.
@@ -299,15 +308,15 @@ void frmMain::OfferRestore() {
       tr("The book titles cannot be read from %1, the Language File that is chosen.\n"
          "Restore ALL Defaults, or another name for cboLang in %2, lets the program start again.\n"
          "Return all settings to default now?");
-  const std::string lines = FromQt(text.arg(ToQt(file), ToQt(m_state.store.FilePath(kApplicationTitle)))
-                                       .replace(QLatin1String("\n"), QLatin1String("\r\n")));
+  const std::string lines = FromQt(
+      text.arg(ToQt(file), ToQt(m_state.store.FileOf("cboLang"))).replace(QLatin1String("\n"), QLatin1String("\r\n")));
   if (m_state.ui.AskYesNo("Language File", lines)) Restore();
 }
 
 void frmMain::Restore() {
   try {
     RestoreSettings(m_state.store, m_state.programFolder);
-    m_memory->Forget();
+    if (m_state.store.SitePath().empty()) m_memory->Forget();
     m_state.options.areKept = false;
     m_dialogs.Renew<frmEffects>();
     m_dialogs.Renew<frmPAgeTitles>();

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "AppState.h"
+#include "CompileRequest.h"
 #include "Dialogs.h"
 
 namespace folionet {
@@ -21,6 +22,7 @@ class FolderPickers;
 class FormMemory;
 class LibraryLists;
 class PagePreview;
+class SiteMenu;
 class StatusPanels;
 class StyleOptions;
 
@@ -51,6 +53,9 @@ class frmMain : public QMainWindow {
  signals:
   // The program must end now. Nothing more is asked or saved.
   void Ended();
+
+  // The same, and the form is to start again with this site's file; empty for the person's own settings.
+  void SiteChosen(const std::string& path);
 
  protected:
   void closeEvent(QCloseEvent* event) override;
@@ -90,6 +95,7 @@ class frmMain : public QMainWindow {
   void OfferAddresses();
   void OfferFolders();
   void ListFolders();
+  CompileRequest Gather() const;
 
   AppState& m_state;
   std::unique_ptr<Ui::frmMain> m_ui;
@@ -100,6 +106,7 @@ class frmMain : public QMainWindow {
   Dialogs m_dialogs;
   FactLines* m_facts;
   FormMemory* m_memory;
+  SiteMenu* m_sites;
   std::unique_ptr<PagePreview> m_preview;
   std::string m_indexPage;                     // that folder and address name, when it is there
   std::size_t m_nextStep = 0;                  // of StartSteps; those before it are done

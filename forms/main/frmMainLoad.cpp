@@ -9,6 +9,8 @@
 #include "PageEncoding.h"
 #include "QtText.h"
 #include "RunTimeError.h"
+#include "SiteFile.h"
+#include "SiteMenu.h"
 #include "StyleOptions.h"
 #include "frmMain.h"
 #include "ui_frmMain.h"
@@ -28,6 +30,7 @@ QString Caption() {
 bool frmMain::LoadForm() {
   setWindowTitle(Caption());
   m_folders->ListVolumes();
+  m_ui->txthttpRoot->setText(ToQt(m_state.store.SiteText(kSiteIndexAddress)));
   const bool goesOn = GoOnWithStart();
   // What is still to be said, when the rest is as it was.
   if (!m_state.glob.OutputFolder.empty()) m_ui->txthttpRoot->setFocus();
@@ -39,6 +42,7 @@ bool frmMain::LoadForm() {
 bool frmMain::GoOnWithStart() {
   const bool goesOn = TakeSteps();
   m_state.options.areKept = m_nextStep < StartSteps().size();
+  if (!m_state.options.areKept && goesOn) m_sites->NoteChoices(Gather());
   m_facts->Show();
   return goesOn;
 }

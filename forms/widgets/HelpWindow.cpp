@@ -35,18 +35,23 @@ class HelpPage : public QTextBrowser {
 
 // What the help tells about a control, or about the innermost thing that it is in.
 QString TopicOf(const QWidget* control) {
-  static const std::map<QString, QString> topics{
-      {"frmBible", "bible"},           {"frmLanguage", "language"},   {"frmOutput", "output"},
-      {"frmSample", "text"},           {"frmAlignment", "alignment"}, {"frmOptions", "options"},
-      {"frmDialogs", "details"},       {"frmPAgeTitles", "titles"},   {"frmKeywords", "meta"},
-      {"frmEffects", "effects"},       {"frmCustomHeader", "header"}, {"frmCustomizeFooter", "header"},
-      {"frmEncoding", "encoding"},     {"frmAddnew", "encoding"},     {"frmLinkToMAin", "link"},
-      {"frmBackground", "background"}, {"cmdCompile", "compile"},     {"cmdOpenIndex", "compile"},
-      {"cmdVerifySite", "compile"},    {"cmdHelp", "buttons"},        {"cmdRestoreAll", "buttons"},
-      {"cmdClose", "buttons"},         {"cmdPageTitles", "titles"},   {"cmdKeyWords", "meta"},
-      {"cmdEffects", "effects"},       {"cmdCustomHeader", "header"}, {"cmdCustomFooter", "header"},
-      {"cmdPageEncoding", "encoding"}, {"cmdLinkToMain", "link"},     {"frmErr", "report"},
-      {"frmImport", "import"},         {"cmdImport", "import"}};
+  static const std::map<QString, QString> topics{{"frmBible", "bible"},         {"frmLanguage", "language"},
+                                                 {"frmOutput", "output"},       {"frmSample", "text"},
+                                                 {"frmAlignment", "alignment"}, {"frmOptions", "options"},
+                                                 {"frmDialogs", "details"},     {"frmPAgeTitles", "titles"},
+                                                 {"frmKeywords", "meta"},       {"frmEffects", "effects"},
+                                                 {"frmCustomHeader", "header"}, {"frmCustomizeFooter", "header"},
+                                                 {"frmEncoding", "encoding"},   {"frmAddnew", "encoding"},
+                                                 {"frmLinkToMAin", "link"},     {"frmBackground", "background"},
+                                                 {"cmdCompile", "compile"},     {"cmdOpenIndex", "compile"},
+                                                 {"cmdVerifySite", "compile"},  {"cmdHelp", "buttons"},
+                                                 {"cmdRestoreAll", "buttons"},  {"cmdClose", "buttons"},
+                                                 {"cmdPageTitles", "titles"},   {"cmdKeyWords", "meta"},
+                                                 {"cmdEffects", "effects"},     {"cmdCustomHeader", "header"},
+                                                 {"cmdCustomFooter", "header"}, {"cmdPageEncoding", "encoding"},
+                                                 {"cmdLinkToMain", "link"},     {"frmErr", "report"},
+                                                 {"cmdSite", "sites"},          {"frmImport", "import"},
+                                                 {"cmdImport", "import"}};
   // The ways out of a dialog bear the names of the main form's.
   if (control != nullptr && qobject_cast<const QDialog*>(control->window()) != nullptr) control = control->window();
   for (; control != nullptr; control = control->parentWidget()) {

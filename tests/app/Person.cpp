@@ -1,4 +1,5 @@
 #include <QAbstractButton>
+#include <QAction>
 #include <QApplication>
 #include <QDialog>
 #include <QDir>
@@ -14,7 +15,8 @@
 // A plugin that a program of ours loads where QT_QPA_GENERIC_PLUGINS names it: a person in front of the form, who
 // answers every box with its first button, cancels what asks for a text, and closes the form until it is gone. What is
 // seen goes to standard output, a line each. Before that the person takes the steps of the variable PERSON, such as
-// "cmdCustomHeader|frmCustomHeader.Text1=typed|frmCustomHeader.Command1": clicks a button, or fills a box.
+// "cmdCustomHeader|frmCustomHeader.Text1=typed|frmCustomHeader.Command1": clicks a button, takes an action of a
+// menu, or fills a box.
 class Person : public QObject {
   Q_OBJECT
 
@@ -67,6 +69,7 @@ class Person : public QObject {
     const QString name = step.section(QLatin1Char('='), 0, 0);
     const QString dialog = name.section(QLatin1Char('.'), 0, -2);
     const QWidget* form = dialog.isEmpty() ? m_form.data() : m_form->findChild<QDialog*>(dialog);
+    if (auto* action = form->findChild<QAction*>(name)) return action->trigger();
     auto* control = form->findChild<QWidget*>(name.section(QLatin1Char('.'), -1));
     if (auto* button = qobject_cast<QAbstractButton*>(control)) return button->click();
     control->setProperty(qobject_cast<QPlainTextEdit*>(control) != nullptr ? "plainText" : "currentText",

@@ -138,6 +138,7 @@ class FormRuns : public FormTest {
         {"=page", m_ui.pageShown.substr(m_ui.pageShown.rfind('/') + 1)},
         {"=clipboard", FromQt(QApplication::clipboard()->text())},
         {"=startBook", m_state->startBookText},
+        {"=nextSite", m_site},
         {"=txtBibleSel", m_state->options.txtBibleSel},
         {"=chapters", std::to_string(m_state->glob.ChapterIndex.size() - 1)}};
     return name.starts_with("=") ? fields.at(name) : Shown(name);
@@ -171,6 +172,7 @@ const std::map<std::string, FormRuns::Act>& FormRuns::Actions() {
       {"answer", Each([](Test& t, const std::string& n) { t.m_ui.yesNo.push_back(n == "yes"); })},
       {"enter", [](Test& t, const Line& l) { t.m_ui.texts.push_back(l.name == "-" ? "" : t.m_home.Path() + l.name); }},
       {"breakchooser", [](Test& t, const Line&) { t.m_ui.isChooserBroken = true; }},
+      {"site", [](Test& t, const Line& l) { t.m_site = l.name.empty() ? "" : t.m_home.Path() + l.name; }},
       {"store", [](Test& t, const Line& l) { t.Store(l.name, l.text); }},
       {"output", [](Test& t, const Line&) { t.ChooseOutput(); }},
       {"scanned",  // the chosen folder

@@ -66,6 +66,7 @@ bool FormTest::Start() {
   m_ui.said.clear();
   m_hasEnded = false;
   m_store = std::make_unique<SettingsStore>(m_home.Path() + "config");
+  if (!m_site.empty()) m_store->UseSite(m_site);
   m_state = std::make_unique<AppState>(AppState{*m_store, m_ui, m_home.Path() + "program/", m_given});
   m_form = std::make_unique<frmMain>(*m_state);
   m_form->OptionDialogs().openModal = [this](QDialog& dialog) {
@@ -78,6 +79,10 @@ bool FormTest::Start() {
     return std::vector<Volume>{{"Home", home.chopped(1)}, {"Computer", "/"}, {"Stick", home + "stick"}};
   };
   QObject::connect(m_form.get(), &frmMain::Ended, m_form.get(), [this] { m_hasEnded = true; });
+  QObject::connect(m_form.get(), &frmMain::SiteChosen, m_form.get(), [this](const std::string& path) {
+    m_site = path;
+    m_hasEnded = true;
+  });
   const bool goesOn = m_form->LoadForm();
   if (goesOn) m_form->show();
   return goesOn;

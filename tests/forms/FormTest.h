@@ -68,6 +68,7 @@ class FormTest : public testing::Test {
 
   test::TemporaryFolder m_home;
   GivenFolders m_given;
+  std::string m_site;     // the file of the next start
   test::ScriptedUi m_ui;  // answers are kept from one start to the next
   std::unique_ptr<SettingsStore> m_store;
   std::unique_ptr<AppState> m_state;

@@ -7,6 +7,7 @@
 #include <QMimeData>
 #include <QTest>
 #include <QTimer>
+#include <QToolButton>
 #include <QUrl>
 #include <algorithm>
 #include <ctime>
@@ -199,6 +200,12 @@ TEST_F(MainForm, RemembersAddressesFoldersAndPlaces) {
   menu->actions()[0]->trigger();
   EXPECT_EQ(Shown("txtOutputPath"), m_home.Path() + "site/");
   menu->close();
+  m_ui.texts = {m_home.Path() + "a&b.folionet"};
+  m_form->findChild<QAction*>("actSaveSite")->trigger();
+  QMenu* sites = Get<QToolButton>("cmdSite").menu();
+  emit sites->aboutToShow();
+  EXPECT_EQ(FromQt(sites->actions()[0]->text()), "a&&b \u2014 " + m_home.Path().substr(0, m_home.Path().size() - 1));
+  EXPECT_TRUE(sites->actions()[0]->isChecked());
 }
 
 TEST_F(MainForm, AFolderThatIsDroppedIsChosen) {

@@ -21,6 +21,7 @@
 // and in the forms (runs in forms_test; forms/FormRunsTest.cpp has the rest of the words):
 //
 //   store chkCSS 1                        a setting, before a start
+//   site FILE                             a site's file, for the next start, or none
 //   start                                 or "start fails", when the program must end
 //   click cmdEffects chkBack              one or more controls, named as in FormTest.h
 //   give frmEffects.cmdActive 255         types, picks or chooses

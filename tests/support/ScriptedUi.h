@@ -41,6 +41,10 @@ class ScriptedUi : public UserInterface {
   std::string ChooseFile(const std::string& filter, const std::string& previous) override {
     return Take(texts, Offer(previous, filter));
   }
+  std::string ChooseFileToSave(const std::string& filter, const std::string& initial) override {
+    Offer(initial, filter);
+    return Take(texts, std::string());
+  }
   std::string ChooseFolder(const std::string& initial, const std::string& /*title*/) override {
     return Take(texts, Offer(initial, initial));
   }

@@ -111,4 +111,18 @@ std::string BuildIni(const IniValues& values) {
   return text;
 }
 
+std::string ChangedAs(std::string_view present, std::string_view from, std::string_view to) {
+  const IniValues before = ParseIni(from);
+  const IniValues after = ParseIni(to);
+  IniValues values = ParseIni(present);
+  for (const auto& [name, value] : before) {
+    if (!after.contains(name)) values.erase(name);
+  }
+  for (const auto& [name, value] : after) {
+    const auto was = before.find(name);
+    if (was == before.end() || was->second != value) values.insert_or_assign(name, value);
+  }
+  return BuildIni(values);
+}
+
 }  // namespace folionet

@@ -21,6 +21,9 @@ using IniValues = std::map<std::string, std::string, std::less<>>;
 // last holds. Bytes that are not UTF-8 become U+FFFD. Any text can be read.
 IniValues ParseIni(std::string_view text);
 
+// The text `present` with all that was changed from one INI text to another.
+std::string ChangedAs(std::string_view present, std::string_view from, std::string_view to);
+
 // The text that ParseIni reads back as these values, section by section. A value stands as it is or, where it begins or
 // ends with a blank, or holds a quote, a line break or NUL, in double quotes.
 std::string BuildIni(const IniValues& values);

@@ -76,6 +76,7 @@ void SaveEncoding(SettingsStore& store, const std::string& programFolder, const 
     if (!chosen.cboLang.empty()) store.SaveText("Lang", chosen.cboLang);
   };
   if (!store.SitePath().empty()) return store.SaveTogether(save);
+  store.FinishChange();  // until then the texts may be in another code page than the stored one
   const OwnFolder own = StoredOwnFolder(store, programFolder);
   const CodePage to = chosen.cboCharset.empty() ? own.codePage : CodePageOf(chosen.cboCharset);
   if (own.codePage.Name() == to.Name()) return store.SaveTogether(save);
@@ -86,6 +87,7 @@ void SaveEncoding(SettingsStore& store, const std::string& programFolder, const 
 
 void RestoreSettings(SettingsStore& store, const std::string& programFolder) {
   if (!store.SitePath().empty()) return store.RestoreSite();
+  store.FinishChange();
   const OwnFolder own = StoredOwnFolder(store, programFolder);
   const CodePage to;
   if (own.codePage.Name() == to.Name()) return store.DeleteSetting(kApplicationTitle);

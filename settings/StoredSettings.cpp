@@ -56,7 +56,15 @@ void StoredSettings::FinishChange() const {
   } catch (const RunTimeError&) {
     // A library on a disk that is not there now may be on one later.
   }
-  WorkAbout(Subject::kSettingsFile, [&] { FinishJointChange(UnfinishedNote()); });
+  // Settings that were saved since get those keys that the change sets.
+  const auto carry = [&](const std::string& path, const std::string& from, const std::string& to,
+                         const std::string& present) -> std::optional<std::string> {
+    std::error_code ignored;
+    if (!std::filesystem::equivalent(path, OwnPath(kApplicationTitle), ignored)) return std::nullopt;
+    return ChangedAs(present, from, to);
+  };
+  WorkAbout(Subject::kSettingsFile, [&] { FinishJointChange(UnfinishedNote(), carry); });
+  m_areas.clear();
 }
 
 std::string StoredSettings::GetSetting(std::string_view application, std::string_view section, std::string_view key,

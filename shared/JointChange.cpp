@@ -4,6 +4,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <optional>
@@ -41,26 +42,62 @@ std::optional<std::string> TakeText(std::string_view& rest) {
   return text;
 }
 
-// Gives the file its new content where it has its old one still; none stands for no file.
-void Complete(const std::string& path, const std::optional<std::string>& oldBytes, const std::string& newBytes) {
-  if (ReadIfThere(path) == oldBytes) ReplaceWholeFile(path, newBytes);
-}
+// A file of a note; no content stands for no file.
+struct NotedFile {
+  std::string path;
+  std::optional<std::string> before;
+  std::optional<std::string> after;
+};
 
-// Applies a note; false when it is no note.
-bool Apply(std::string_view rest) {
-  if (!rest.starts_with(kFirstLine)) return false;
+// Nothing when it is no note.
+std::optional<std::vector<NotedFile>> ReadNote(std::string_view rest) {
+  if (!rest.starts_with(kFirstLine)) return std::nullopt;
   rest.remove_prefix(kFirstLine.size());
+  std::vector<NotedFile> files;
   while (!rest.empty()) {
     std::array<std::string, 4> texts;  // path, "new" or "old", old and new content
     for (std::string& text : texts) {
       std::optional<std::string> taken = TakeText(rest);
-      if (!taken) return false;
+      if (!taken) return std::nullopt;
       text = std::move(*taken);
     }
-    const auto oldBytes = texts[1] == "new" ? std::optional<std::string>() : std::move(texts[2]);
-    Complete(texts[0], oldBytes, texts[3]);
+    auto before = texts[1] == "new" ? std::optional<std::string>() : std::move(texts[2]);
+    files.push_back({std::move(texts[0]), std::move(before), std::move(texts[3])});
   }
-  return true;
+  return files;
+}
+
+std::optional<std::string> Carried(const NotedFile& file, const std::optional<std::string>& present,
+                                   const CarryChange& carry) {
+  if (!carry || !present) return std::nullopt;
+  return carry(file.path, file.before.value_or(""), file.after.value_or(""), *present);
+}
+
+// Whether a file was saved since in a way that the change cannot be made in.
+bool StandsInTheWay(const NotedFile& file, const CarryChange& carry) {
+  const std::optional<std::string> present = ReadIfThere(file.path);
+  return present != file.before && present != file.after && !Carried(file, present, carry);
+}
+
+// Brings the file from its content before to that after.
+void Complete(const NotedFile& file, const CarryChange& carry) {
+  const std::optional<std::string> present = ReadIfThere(file.path);
+  if (present == file.after) return;
+  const std::optional<std::string> wanted = present == file.before ? file.after : Carried(file, present, carry);
+  if (wanted) {
+    ReplaceWholeFile(file.path, *wanted);
+  } else if (present == file.before && unlink(file.path.c_str()) != 0) {
+    throw RunTimeError::FromErrno(errno, file.path);
+  }
+}
+
+void Apply(std::vector<NotedFile> files, const CarryChange& carry) {
+  const bool isUndone =
+      std::any_of(files.begin(), files.end(), [&](const NotedFile& file) { return StandsInTheWay(file, carry); });
+  for (NotedFile& file : files) {
+    if (isUndone) std::swap(file.before, file.after);
+    Complete(file, carry);
+  }
 }
 
 }  // namespace
@@ -121,7 +158,7 @@ void JointChange::PutBack(std::size_t count) {
   }
 }
 
-void FinishJointChange(const std::string& note) {
+void FinishJointChange(const std::string& note, const CarryChange& carry) {
   const FileHandle file = FileHandle::Open(note.c_str(), O_RDONLY | O_NONBLOCK | O_NOFOLLOW);
   if (!file.IsOpen()) {
     if (errno == ENOENT || errno == ENOTDIR) return;
@@ -134,9 +171,9 @@ void FinishJointChange(const std::string& note) {
   struct stat status {};
   if (fstat(file.Get(), &status) != 0) throw RunTimeError::FromErrno(errno, note);
   if (status.st_nlink == 0) return;  // the program that was waited for has made the change itself
-  if (!Apply(ReadOpenFile(file, note, kLongestNote))) {
-    throw RunTimeError(kPathFileAccessError, note, "It is no note of an unfinished change. Remove it.");
-  }
+  auto files = ReadNote(ReadOpenFile(file, note, kLongestNote));
+  if (!files) throw RunTimeError(kPathFileAccessError, note, "It is no note of an unfinished change. Remove it.");
+  Apply(std::move(*files), carry);
   if (unlink(note.c_str()) != 0 && errno != ENOENT) throw RunTimeError::FromErrno(errno, note);
 }
 

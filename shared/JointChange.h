@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -52,8 +53,14 @@ class JointChange {
   std::vector<Part> m_parts;
 };
 
-// Completes the change that `note` tells of, if there is one; a file that has neither its old nor its new content has
-// been saved since, and stays. Throws RunTimeError when a file cannot be replaced; the note then stays.
-void FinishJointChange(const std::string& note);
+// Makes in the present content of the file `path`, which has been saved since, the change that leads from one content
+// to another; nothing for a file of which the change cannot be told apart from what was saved.
+using CarryChange = std::function<std::optional<std::string>(const std::string& path, const std::string& from,
+                                                             const std::string& to, const std::string& present)>;
+
+// Completes the change that `note` tells of, if there is one. A file that has neither its old nor its new content has
+// been saved since: it gets what `carry` makes of it or, when that makes nothing, stays, and the others get their old
+// contents back. Throws RunTimeError when a file cannot be replaced; the note then stays.
+void FinishJointChange(const std::string& note, const CarryChange& carry = {});
 
 }  // namespace folionet

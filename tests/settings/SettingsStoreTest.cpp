@@ -142,6 +142,40 @@ TEST(OptionsTest, OfAFileThatCannotBeReadAreNotWrittenOver) {
   EXPECT_EQ(folder.Read("Folionet.ini"), "[Keys]\nDir1=/kept\nDrive1=/\n");
 }
 
+// A change of the charset that was killed, and a file of which others have saved before the next start.
+TEST(SettingsStoreTest, AnUnfinishedChangeIsMadeInLaterSettingsAndUndoneForOtherLaterFiles) {
+  const std::string before = "[Keys]\nCharset=a b\n";
+  const std::string after = "[Keys]\nCharset=c d\n";
+  const struct {
+    std::string header, ini, wantedHeader, wantedIni;
+  } cases[] = {
+      {"old", before, "new", after},
+      {"new", before + "chkCSS=1\n", "new", after + "chkCSS=1\n"},
+      {"old", after + "chkCSS=1\n", "new", after + "chkCSS=1\n"},
+      {"later", before, "later", before},
+      {"later", after + "chkCSS=1\n", "later", before + "chkCSS=1\n"},
+  };
+  for (const auto& c : cases) {
+    const TemporaryFolder folder;
+    std::string note = "Folionet: a change of files, not finished\n";
+    for (const std::string& text :
+         {folder.Path() + "header", std::string("old"), std::string("old"), std::string("new"), folder.Path() + "added",
+          std::string("new"), std::string(), std::string("x"), folder.Path() + "Folionet.ini", std::string("old"),
+          before, after}) {
+      note += std::to_string(text.size()) + "\n" + text;
+    }
+    folder.Write(".Folionet.unfinished", note);
+    folder.Write("header", c.header);
+    folder.Write("added", "x");
+    folder.Write("Folionet.ini", c.ini);
+    SettingsStore(folder.Path()).FinishChange();
+    EXPECT_EQ(folder.Read("header"), c.wantedHeader);
+    EXPECT_EQ(folder.Read("Folionet.ini"), c.wantedIni);
+    EXPECT_EQ(folder.Has("added"), c.wantedHeader == "new");
+    EXPECT_FALSE(folder.Has(".Folionet.unfinished"));
+  }
+}
+
 // Each row has a field of its own, and a default of its form that comes back from that field as it is.
 TEST(OptionsTest, HaveTheDefaultsOfTheirTable) {
   const PageOptions defaults;

@@ -22,6 +22,8 @@ EncodingList ReadEncodingList(const OwnFolder& folder, std::string_view name) {
 }
 
 void AppendEncodingRecord(const OwnFolder& folder, std::string_view name, const EncodingRecord& record) {
+  const EncodingList list = ReadEncodingList(folder, name);
+  if (list.failure && list.failure->Number() != kFileNotFound) throw RunTimeError(*list.failure);
   WorkAbout(Subject::kEncodingList, [&] {
     AddToOwnText(folder, name, QuotedRecord(std::array{record.code, record.description}));
   });

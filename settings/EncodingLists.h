@@ -32,7 +32,7 @@ struct EncodingRecord {
 };
 
 // Adds a record at the list's end, on a line of its own; the file is made when missing. After a failure, which throws
-// RunTimeError, the old content stands.
+// RunTimeError, the old content stands; a list with a bad record is one, for no record behind it is ever read.
 void AppendEncodingRecord(const OwnFolder& folder, std::string_view name, const EncodingRecord& record);
 
 }  // namespace folionet

@@ -21,11 +21,19 @@ std::string LettersPath(const OwnFolder& folder, std::string_view name) {
   return folder.path + "." + std::string(name) + ".utf-8";
 }
 
-// The file's bytes without a mark that would become part of its text.
-std::optional<std::string> Bytes(const OwnFolder& folder, std::string_view name) {
+// What a file holds, without a mark that would become part of its text.
+struct Content {
+  std::string bytes;
+  CodePage codePage;
+};
+
+std::optional<Content> ReadContent(const OwnFolder& folder, std::string_view name) {
   std::optional<std::string> bytes = ReadIfThere(PathOf(folder, name));
-  if (bytes && bytes->starts_with(kByteOrderMark)) bytes->erase(0, kByteOrderMark.size());
-  return bytes;
+  if (!bytes) return std::nullopt;
+  if (!bytes->starts_with(kByteOrderMark)) return Content{std::move(*bytes), folder.codePage};
+  while (bytes->starts_with(kByteOrderMark)) bytes->erase(0, kByteOrderMark.size());
+  const bool isUtf8 = IsUtf8(*bytes);
+  return Content{std::move(*bytes), isUtf8 ? CodePage("utf-8") : folder.codePage};
 }
 
 // The text beside the file, when it counts.
@@ -42,6 +50,12 @@ bool HasLettersFile(const OwnFolder& folder, std::string_view name) {
   return ReadIfThere(LettersPath(folder, name)).has_value();
 }
 
+// Whether the file is in the folder's code page, so that what is in it can be added to it as it is.
+bool IsInCodePage(const OwnFolder& folder, std::string_view name) {
+  const std::optional<std::string> bytes = ReadIfThere(PathOf(folder, name));
+  return !HasLettersFile(folder, name) && !(bytes && bytes->starts_with(kByteOrderMark));
+}
+
 // A text with another line, on a line of its own, at its end, which is a Ctrl+Z where there is one.
 std::string WithLine(std::string text, std::string_view line) {
   const std::size_t end = std::min(text.find('\x1A'), text.size());
@@ -52,16 +66,16 @@ std::string WithLine(std::string text, std::string_view line) {
 }  // namespace
 
 OwnTextSource FindOwnText(const OwnFolder& folder, std::string_view name) {
-  const std::optional<std::string> bytes = Bytes(folder, name);
-  if (bytes && Letters(folder, name, *bytes)) return {LettersPath(folder, name), CodePage("utf-8")};
-  return {PathOf(folder, name), folder.codePage};
+  const std::optional<Content> content = ReadContent(folder, name);
+  if (content && Letters(folder, name, content->bytes)) return {LettersPath(folder, name), CodePage("utf-8")};
+  return {PathOf(folder, name), content ? content->codePage : folder.codePage};
 }
 
 std::optional<std::string> ReadOwnText(const OwnFolder& folder, std::string_view name) {
-  const std::optional<std::string> bytes = Bytes(folder, name);
-  if (!bytes) return std::nullopt;
-  const std::optional<std::string> letters = Letters(folder, name, *bytes);
-  return letters ? letters : folder.codePage.Decode(*bytes);
+  const std::optional<Content> content = ReadContent(folder, name);
+  if (!content) return std::nullopt;
+  const std::optional<std::string> letters = Letters(folder, name, content->bytes);
+  return letters ? letters : content->codePage.Decode(content->bytes);
 }
 
 void SaveOwnText(const OwnFolder& folder, std::string_view name, std::string_view text) {
@@ -78,7 +92,7 @@ void SaveOwnText(const OwnFolder& folder, std::string_view name, std::string_vie
 }
 
 void AddToOwnText(const OwnFolder& folder, std::string_view name, std::string_view line) {
-  if (HoldsAllLetters(folder.codePage, line) && !HasLettersFile(folder, name)) {
+  if (HoldsAllLetters(folder.codePage, line) && IsInCodePage(folder, name)) {
     return EditWholeFile(PathOf(folder, name), kLongestText, [&](std::string content) {
       return WithLine(std::move(content), folder.codePage.Encode(line));
     });

@@ -12,7 +12,8 @@ namespace folionet {
 // The texts of a person's own in the program folder: the custom header and footer, the lists of languages and charsets.
 // A file holds its text in the code page of the pages, where a letter that this code page lacks is a character
 // reference. So that such a letter is not lost, the text as it was typed is then kept as UTF-8 beside the file, in
-// ".<name>.utf-8"; it counts for as long as the file is what is made from it.
+// ".<name>.utf-8"; it counts for as long as the file is what is made from it. A file that a person's editor has saved
+// with a byte-order mark is UTF-8, and comes back to the code page, without the mark, when it is next saved.
 struct OwnFolder {
   std::string path;     // ends in the folder separator
   CodePage codePage{};  // of the files

@@ -26,18 +26,14 @@ namespace {
 
 CodePage CodePageOf(const std::string& entry) {
   try {
-    return CodePage(EncodingCode(entry, "Charset"));
+    return CodePage(EncodingCode(entry + " ", "Charset"));
   } catch (const RunTimeError&) {
     return CodePage();
   }
 }
 
 std::string OwnCharset(const StoredSettings& store) {
-  try {
-    return store.OwnText("Charset").value_or(std::string(FindOption("Charset")->defaultText));
-  } catch (const RunTimeError&) {
-    return std::string(FindOption("Charset")->defaultText);
-  }
+  return store.OwnText("Charset").value_or(std::string(FindOption("Charset")->defaultText));
 }
 
 // Adds to a change that all texts of a person's own come over to another code page.
@@ -50,18 +46,18 @@ void RecodeOwnTexts(const OwnFolder& own, const CodePage& to, JointChange& chang
 
 }  // namespace
 
-CodePage StoredCodePage(const StoredSettings& store) {
-  try {
-    return CodePageOf(store.Text("Charset"));
-  } catch (const RunTimeError&) {
-    return CodePage();
-  }
-}
+CodePage StoredCodePage(const StoredSettings& store) { return CodePageOf(store.Text("Charset")); }
 
 OwnFolder StoredOwnFolder(const StoredSettings& store, const std::string& programFolder) {
+  store.ReadAnew();
   OwnFolder own{programFolder, StoredCodePage(store), store.UnfinishedNote()};
   if (!store.SitePath().empty()) own.codePage = CodePageOf(OwnCharset(store));
   return own;
+}
+
+OwnFolder OwnFolderToSave(const StoredSettings& store, const std::string& programFolder) {
+  store.FinishChange();  // until then a text may be in another code page than the stored one
+  return StoredOwnFolder(store, programFolder);
 }
 
 OwnFolder OwnFolderOfRun(const StoredSettings& store, const std::string& programFolder) {
@@ -76,8 +72,7 @@ void SaveEncoding(SettingsStore& store, const std::string& programFolder, const 
     if (!chosen.cboLang.empty()) store.SaveText("Lang", chosen.cboLang);
   };
   if (!store.SitePath().empty()) return store.SaveTogether(save);
-  store.FinishChange();  // until then the texts may be in another code page than the stored one
-  const OwnFolder own = StoredOwnFolder(store, programFolder);
+  const OwnFolder own = OwnFolderToSave(store, programFolder);
   const CodePage to = chosen.cboCharset.empty() ? own.codePage : CodePageOf(chosen.cboCharset);
   if (own.codePage.Name() == to.Name()) return store.SaveTogether(save);
   JointChange change(own.note);
@@ -87,8 +82,7 @@ void SaveEncoding(SettingsStore& store, const std::string& programFolder, const 
 
 void RestoreSettings(SettingsStore& store, const std::string& programFolder) {
   if (!store.SitePath().empty()) return store.RestoreSite();
-  store.FinishChange();
-  const OwnFolder own = StoredOwnFolder(store, programFolder);
+  const OwnFolder own = OwnFolderToSave(store, programFolder);
   const CodePage to;
   if (own.codePage.Name() == to.Name()) return store.DeleteSetting(kApplicationTitle);
   JointChange change(own.note);

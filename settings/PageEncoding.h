@@ -22,13 +22,16 @@ struct PageEncoding {
 // RunTimeError (kInvalidProcedureCall) when no code and blank is there.
 std::string EncodingCode(std::string_view entry, std::string_view what);
 
-// The code page that the stored charset names, windows-1252 when it cannot be read. The custom header and footer are
-// kept in it.
+// The code page that the stored charset names, be it without a description. The custom header and footer are kept in
+// it. Throws RunTimeError when the settings cannot be read.
 CodePage StoredCodePage(const StoredSettings& store);
 
-// The texts of a person's own as the stored charset has them: that of the person's own settings, as all sites share
-// these texts.
+// The texts of a person's own as the charset has them that is stored now, by whatever program: that of the person's own
+// settings, as all sites share these texts. Throws RunTimeError when the settings cannot be read and never were.
 OwnFolder StoredOwnFolder(const StoredSettings& store, const std::string& programFolder);
+
+// The same to save to: a change that was not finished is completed first. Throws RunTimeError when it cannot be.
+OwnFolder OwnFolderToSave(const StoredSettings& store, const std::string& programFolder);
 
 // The same for a run that may have another charset than the stored one, which a person's texts stay in.
 OwnFolder OwnFolderOfRun(const StoredSettings& store, const std::string& programFolder);

@@ -1,5 +1,7 @@
 #include "SettingsStore.h"
 
+#include <sys/stat.h>
+
 #include <cerrno>
 #include <cstdio>
 #include <filesystem>
@@ -20,6 +22,17 @@ std::string Merged(std::string_view content, const IniValues& changes, IniValues
   values = ParseIni(content);
   for (const auto& [name, value] : changes) values.insert_or_assign(name, value);
   return BuildIni(values);
+}
+
+// Where a settings file is kept whose options are dropped. One that was kept before stays.
+std::string KeptPath(const std::string& path) {
+  const std::string first = path + ".before-restore";
+  std::string kept = first;
+  struct stat status {};
+  for (int number = 2; lstat(kept.c_str(), &status) == 0 && !S_ISDIR(status.st_mode); ++number) {
+    kept = first + "-" + std::to_string(number);
+  }
+  return kept;
 }
 
 }  // namespace
@@ -91,8 +104,7 @@ void SettingsStore::SaveTogether(const std::function<void()>& saves, JointChange
 void SettingsStore::DeleteSetting(std::string_view application) {
   const std::string path = FilePath(application);
   const bool hasFile = !Folder().empty();
-  if (hasFile && std::rename(path.c_str(), (path + ".before-restore").c_str()) != 0 && errno != ENOENT &&
-      errno != ENOTDIR) {
+  if (hasFile && std::rename(path.c_str(), KeptPath(path).c_str()) != 0 && errno != ENOENT && errno != ENOTDIR) {
     throw RunTimeError::FromErrno(errno, path).About(Subject::kSettingsFile);
   }
   Take(application, {});
@@ -100,7 +112,7 @@ void SettingsStore::DeleteSetting(std::string_view application) {
 
 void SettingsStore::DeleteSettings(JointChange& change) {
   const std::string path = FilePath(kApplicationTitle);
-  change.Replace(path + ".before-restore", ReadIfThere(path, kLongestFile).value_or(""));
+  change.Replace(KeptPath(path), ReadIfThere(path, kLongestFile).value_or(""));
   change.Replace(path, "");
   change.Commit();
   std::remove(path.c_str());  // an empty one that stays says the same
@@ -114,7 +126,7 @@ void SettingsStore::RestoreSite() {
   const std::string prefix = NameOf(kSettingsSection, "");
   WorkAbout(Subject::kSettingsFile, [&] {
     EditWholeFile(SitePath(), kLongestFile, [&](const std::string& content) {
-      ReplaceWholeFile(SitePath() + ".before-restore", content);
+      ReplaceWholeFile(KeptPath(SitePath()), content);
       values = ParseIni(content);
       std::erase_if(values, [&](const auto& value) { return value.first.starts_with(prefix); });
       for (const Option& option : OptionTable()) {

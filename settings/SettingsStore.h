@@ -28,14 +28,15 @@ class SettingsStore : public StoredSettings {
   // The same as a part of a change of several files: the settings are the last of them to be replaced.
   void SaveTogether(const std::function<void()>& saves, JointChange& change);
 
-  // Removes an application's whole area; its file is kept beside as "<file>.before-restore". Throws RunTimeError when
-  // that fails, and everything is as it was.
+  // Removes an application's whole area; its file is kept beside as "<file>.before-restore", or as the first of
+  // "<file>.before-restore-2" and so on that is no file yet. Throws RunTimeError when that fails, and everything is as
+  // it was.
   void DeleteSetting(std::string_view application);
 
   // The same of our own area as a part of a change of several files, which it makes.
   void DeleteSettings(JointChange& change);
 
-  // Gives every option of the site's file its default and keeps the file as it was beside as "<file>.before-restore".
+  // Gives every option of the site's file its default and keeps the file as it was beside, under a name as above.
   // Throws RunTimeError, and the file is as it was.
   void RestoreSite();
 

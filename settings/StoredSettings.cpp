@@ -64,7 +64,23 @@ void StoredSettings::FinishChange() const {
     return ChangedAs(present, from, to);
   };
   WorkAbout(Subject::kSettingsFile, [&] { FinishJointChange(UnfinishedNote(), carry); });
-  m_areas.clear();
+  ReadAnew();
+}
+
+void StoredSettings::ReadAnew() const {
+  try {
+    const std::string path = OwnPath(kApplicationTitle);
+    m_areas.insert_or_assign(path, ValuesOf(path));
+  } catch (const RunTimeError&) {
+    // Where nothing was read before, the next reading tells.
+  }
+}
+
+IniValues StoredSettings::ValuesOf(const std::string& path) const {
+  const std::optional<std::string> text =
+      m_folder.empty() ? std::nullopt
+                       : WorkAbout(Subject::kSettingsFile, [&] { return ReadIfThere(path, kLongestFile); });
+  return text ? ParseIni(*text) : IniValues();
 }
 
 std::string StoredSettings::GetSetting(std::string_view application, std::string_view section, std::string_view key,
@@ -81,11 +97,7 @@ std::string StoredSettings::NameOf(std::string_view section, std::string_view ke
 
 const IniValues& StoredSettings::Area(const std::string& path) const {
   const auto area = m_areas.find(path);
-  if (area != m_areas.end()) return area->second;
-  const std::optional<std::string> text =
-      m_folder.empty() ? std::nullopt
-                       : WorkAbout(Subject::kSettingsFile, [&] { return ReadIfThere(path, kLongestFile); });
-  return m_areas.emplace(path, text ? ParseIni(*text) : IniValues()).first->second;
+  return area != m_areas.end() ? area->second : m_areas.emplace(path, ValuesOf(path)).first->second;
 }
 
 std::optional<std::string> StoredSettings::Stored(std::string_view application, const std::string& name) const {

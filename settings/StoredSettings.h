@@ -57,6 +57,10 @@ class StoredSettings {
   // that of a library, which may be gone, stays when it cannot be made.
   void FinishChange() const;
 
+  // Reads the person's own settings anew, which another program may have saved since. Where that fails what was read
+  // before stands.
+  void ReadAnew() const;
+
   // Gives a key of our own a value for this run only: it is read as if stored and never written.
   void Override(std::string_view key, std::string value);
 
@@ -91,6 +95,7 @@ class StoredSettings {
  private:
   // An area is a file by its name.
   const IniValues& Area(const std::string& path) const;
+  IniValues ValuesOf(const std::string& path) const;
   std::string OwnPath(std::string_view application) const;
 
   std::string m_folder;

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "Installation.h"
+#include "LineReader.h"
 #include "Paths.h"
 #include "StoredSettings.h"
 #include "WholeFile.h"
@@ -29,7 +30,9 @@ std::optional<ImportedText> ReadImportedText(const std::string& verseFile) {
   const auto content = ReadIfThere(ImportedTextFile(verseFile), kLongest);
   if (!content) return std::nullopt;
   ImportedText text;
-  for (std::string_view rest = *content; !rest.empty();) {
+  std::string_view rest = *content;
+  if (rest.starts_with(kByteOrderMark)) rest.remove_prefix(kByteOrderMark.size());
+  while (!rest.empty()) {
     const std::size_t end = rest.find('\n');
     std::string_view line = rest.substr(0, end);
     rest = end == std::string_view::npos ? std::string_view() : rest.substr(end + 1);

@@ -440,6 +440,10 @@
         <source>HTML code</source>
         <translation>HTML-Code</translation>
     </message>
+    <message>
+        <source>%1 has changed since it was read here, or could not be read. Write this text over it all the same?</source>
+        <translation>%1 hat sich geändert, seit es hier gelesen wurde, oder war nicht lesbar. Trotzdem mit diesem Text überschreiben?</translation>
+    </message>
 </context>
 <context>
     <name>folionet::FactLines</name>

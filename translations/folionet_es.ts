@@ -440,6 +440,10 @@
         <source>HTML code</source>
         <translation>Código HTML</translation>
     </message>
+    <message>
+        <source>%1 has changed since it was read here, or could not be read. Write this text over it all the same?</source>
+        <translation>%1 ha cambiado desde que se leyó aquí, o no se pudo leer. ¿Sustituirlo de todos modos por este texto?</translation>
+    </message>
 </context>
 <context>
     <name>folionet::FactLines</name>

@@ -32,8 +32,9 @@ class CustomHtmlDialog : public LoadedDialog {
  public:
   ~CustomHtmlDialog() override;
 
-  // Saves the file, then hides the dialog, but not when saving failed, which was reported. A person who then closes it
-  // again with the same text gets out all the same: the folder may not be theirs to mend. The text stays in the box.
+  // Saves the file, then hides the dialog, but not when saving failed, which was reported, or was not wanted. A person
+  // who then closes it again with the same text gets out all the same: the folder may not be theirs to mend. The text
+  // stays in the box.
   void reject() override;
 
  protected:
@@ -43,12 +44,16 @@ class CustomHtmlDialog : public LoadedDialog {
   void Load() override;
 
  private:
+  void Show(const std::string& text);
+  bool TakeFromOthers();
   void Done();
   bool Save();
+  bool MayWriteOver() const;
 
   AppState& m_state;
   const CustomHtmlDialogKind& m_kind;
-  bool m_isUnread = false;                 // there is a file and reading it failed
+  CustomHtmlFile m_file;
+  std::string m_shown;                     // the box's text that the person has not changed
   std::optional<std::string> m_unsaved{};  // the text whose saving failed last
   std::unique_ptr<Ui::CustomHtmlDialog> m_ui;
 };

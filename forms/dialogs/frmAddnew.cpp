@@ -63,7 +63,7 @@ void frmAddnew::AddRecord(const char* fileName, Procedure procedure, const QLine
     return;
   }
   try {
-    AppendEncodingRecord(StoredOwnFolder(m_state.store, m_state.programFolder), fileName, record);
+    AppendEncodingRecord(OwnFolderToSave(m_state.store, m_state.programFolder), fileName, record);
     m_hasAdded = true;
     m_state.ui.ShowMessage({MessageIcon::kInformation, "Record Added", "Record Added"});
   } catch (const RunTimeError& error) {

@@ -64,7 +64,9 @@ void frmEncoding::PopCombo() {
 }
 
 void frmEncoding::Fill(const char* fileName, const char* key, TextCombo& list, QLineEdit& box) {
-  const EncodingList read = ReadEncodingList(StoredOwnFolder(m_state.store, m_state.programFolder), fileName);
+  const OwnFolder folder = StoredOwnFolder(m_state.store, m_state.programFolder);
+  m_listedIn = folder.codePage.Name();
+  const EncodingList read = ReadEncodingList(folder, fileName);
   for (const std::string& entry : read.entries) list.addItem(ToQt(entry));
   if (read.failure) throw RunTimeError(*read.failure);
   const QString entry = EntryInUse(key, list);
@@ -90,11 +92,21 @@ bool frmEncoding::ShowInUse(const char* key, const std::string& code, TextCombo&
   return true;
 }
 
+// Where the lists are; nothing when the settings cannot be read, which was told.
+std::optional<OwnFolder> frmEncoding::Folder() const {
+  try {
+    return StoredOwnFolder(m_state.store, m_state.programFolder);
+  } catch (const RunTimeError&) {
+    return std::nullopt;
+  }
+}
+
 // The entries as the files have them now. What is chosen stays, letter for letter, and so does what was typed.
-void frmEncoding::ShowListsAnew() {
+void frmEncoding::ShowListsAnew(const OwnFolder& folder) {
+  m_listedIn = folder.codePage.Name();
   for (const auto& [fileName, list] :
        {std::pair{kCharsetList, m_ui->cboCharset}, std::pair{kLanguageList, m_ui->cboLang}}) {
-    const EncodingList read = ReadEncodingList(StoredOwnFolder(m_state.store, m_state.programFolder), fileName);
+    const EncodingList read = ReadEncodingList(folder, fileName);
     if (read.failure) continue;  // was told when the lists were filled; the old entries serve
     const QString chosen = list->Text();
     list->clear();
@@ -107,7 +119,9 @@ void frmEncoding::AddNew() {
   if (m_addNew == nullptr) {
     m_addNew = new frmAddnew(m_state, this);
     connect(m_addNew, &frmAddnew::ListsChanged, this, &frmEncoding::Load);
-    connect(m_addNew, &frmAddnew::RecordsAdded, this, &frmEncoding::ShowListsAnew);
+    connect(m_addNew, &frmAddnew::RecordsAdded, this, [this] {
+      if (const auto folder = Folder()) ShowListsAnew(*folder);
+    });
   }
   openModal(*m_addNew);
 }
@@ -128,7 +142,6 @@ void frmEncoding::SaveChanged() {
 }
 
 bool frmEncoding::SaveAndUse() {
-  const std::string shownIn = StoredCodePage(m_state.store).Name();
   SaveChanged();
   const std::string typedLanguage = FromQt(m_ui->txtLang->text());
   const std::string typedCharset = FromQt(m_ui->txtCharset->text());
@@ -146,7 +159,7 @@ bool frmEncoding::SaveAndUse() {
   m_state.texts.PageLanguage = encoding.PageLanguage;
   m_state.texts.PageCharset = encoding.PageCharset;
   m_state.codePage = CodePage(encoding.PageCharset);
-  if (StoredCodePage(m_state.store).Name() != shownIn) ShowListsAnew();
+  if (const auto folder = Folder(); folder && folder->codePage.Name() != m_listedIn) ShowListsAnew(*folder);
   return isDone;
 }
 

@@ -2,9 +2,12 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
+#include <string>
 
 #include "AppState.h"
 #include "LoadedDialog.h"
+#include "OwnText.h"
 
 class QLineEdit;
 
@@ -43,7 +46,8 @@ class frmEncoding : public LoadedDialog {
   void Fill(const char* fileName, const char* key, TextCombo& list, QLineEdit& box);
   QString EntryInUse(const char* key, const TextCombo& list) const;
   bool ShowInUse(const char* key, const std::string& code, TextCombo& list, QLineEdit& box);
-  void ShowListsAnew();
+  std::optional<OwnFolder> Folder() const;
+  void ShowListsAnew(const OwnFolder& folder);
   void AddNew();
   EncodingOptions Entries() const;
   void SaveChanged();
@@ -53,6 +57,7 @@ class frmEncoding : public LoadedDialog {
   std::unique_ptr<Ui::frmEncoding> m_ui;
   EncodingOptions m_shown;        // the entries of the lists but for what the person has changed and is not stored
   bool m_isFilled = false;        // both lists
+  std::string m_listedIn;         // the code page that the lists were in when they were read last
   frmAddnew* m_addNew = nullptr;  // made when first opened
 };
 

@@ -33,9 +33,7 @@ bool Save(const std::string& what, const std::string& folder, const std::string&
     options.main.Dir1 = text;
     SaveDefaults(store, options);
   } else if (what == "header") {
-    const bool isSaved = SaveCustomHtml({folder + "/"}, kCustomHeader, text, ui);
-    for (const std::string& report : ui.Boxes()) std::cerr << report << '\n';
-    return isSaved;
+    SaveOwnText({folder + "/"}, kCustomHeader.fileName, text + "\r\n");
   } else if (what == "record") {
     AppendEncodingRecord({folder + "/"}, kLanguageList, {"xx", text});
   } else if (what == "encoding" || what == "finish") {

@@ -38,7 +38,7 @@ TEST(TwoAtOnce, NoAddedRecordIsLost) {
 
 TEST(TwoAtOnce, ALockThatNeverEndsIsWaitedForTwoSecondsAndItsHolderNamed) {
   const TemporaryFolder home;
-  home.Write("lang.txt", "old");
+  home.Write("lang.txt", "old,one");
   const int held =
       open(home.Write(".lang.txt.folionet-new", "").c_str(), O_RDWR | O_CLOEXEC);  // as another program's save
   ASSERT_EQ(flock(held, LOCK_EX), 0);
@@ -48,7 +48,7 @@ TEST(TwoAtOnce, ALockThatNeverEndsIsWaitedForTwoSecondsAndItsHolderNamed) {
   EXPECT_EQ(run.status, 3);
   EXPECT_EQ(run.errors, "Permission denied: " + home.Path() + "lang.txt: Another program, reliability_tes (process " +
                             std::to_string(getpid()) + "), is saving it. Wait for that to end, and try again.\n");
-  EXPECT_EQ(home.Read("lang.txt"), "old");
+  EXPECT_EQ(home.Read("lang.txt"), "old,one");
   close(held);
 }
 

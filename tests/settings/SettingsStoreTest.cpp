@@ -4,6 +4,7 @@
 
 #include "OptionLoading.h"
 #include "OptionSaving.h"
+#include "PageEncoding.h"
 #include "RunTimeError.h"
 #include "SettingsStore.h"
 #include "TemporaryFolder.h"
@@ -168,7 +169,10 @@ TEST(SettingsStoreTest, AnUnfinishedChangeIsMadeInLaterSettingsAndUndoneForOther
     folder.Write("header", c.header);
     folder.Write("added", "x");
     folder.Write("Folionet.ini", c.ini);
-    SettingsStore(folder.Path()).FinishChange();
+    const SettingsStore store(folder.Path());
+    EXPECT_EQ(store.Text("Charset"), c.ini.find("c d") == std::string::npos ? "a b" : "c d");
+    OwnFolderToSave(store, folder.Path());
+    EXPECT_NE(c.wantedIni.find("Charset=" + store.Text("Charset")), std::string::npos);
     EXPECT_EQ(folder.Read("header"), c.wantedHeader);
     EXPECT_EQ(folder.Read("Folionet.ini"), c.wantedIni);
     EXPECT_EQ(folder.Has("added"), c.wantedHeader == "new");

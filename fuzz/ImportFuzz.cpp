@@ -95,7 +95,9 @@ void Import(const Folder& folder, std::string_view input) {
     LibraryRequest request;
     request.folder = folder.Path();
     const LibraryPlan plan = PlanLibrary(bible, request);
-    VerseFileReader verses(folder.Write("verses", plan.files.front().second));
+    std::string content;
+    WriteVerses(bible, plan, [&](std::string_view piece) { content += piece; });
+    VerseFileReader verses(folder.Write("verses", content));
     std::size_t count = 0;
     while (verses.Next()) ++count;
     if (count != bible.VerseCount()) std::abort();

@@ -192,30 +192,14 @@ std::string Bytes(const LibraryPlan& plan, std::string_view utf8) {
   return plan.text.charset == "utf-8" ? std::string(utf8) : Windows1252().Encode(utf8);
 }
 
-// The verse file and its index.
-void MakeTexts(const ImportedBible& bible, LibraryPlan& plan, std::string& verses, std::string& index) {
+void CountBooks(const ImportedBible& bible, LibraryPlan& plan) {
   plan.verses = bible.VerseCount();
-  int lastBook = 0;
-  std::string lines;  // of a chapter, in UTF-8
-  for (std::size_t i = 0; i < plan.verses;) {
-    const auto [book, chapter, firstField, firstText] = bible.VerseAt(i);
-    const std::size_t offset = verses.size();
-    const std::size_t first = i;
-    lines.clear();
-    const std::string place = "\t" + std::to_string(book) + "\t" + std::to_string(chapter) + "\t";
-    for (; i < plan.verses; ++i) {
-      const ImportedBible::Verse verse = bible.VerseAt(i);
-      if (verse.book != book || verse.chapter != chapter) break;
-      lines.append(std::to_string(i + 1)).append(place).append(verse.field).append("\t");
-      lines.append(verse.text).append("\r\n");
-    }
-    verses += Bytes(plan, lines);
-    if (book != lastBook) ++plan.books;
-    lastBook = book;
-    index.append(std::to_string(++plan.chapters)).append(",").append(std::to_string(offset)).append(",");
-    index.append(std::to_string(book)).append(",").append(std::to_string(chapter)).append(",");
-    index.append(std::to_string(i - first)).append(",").append(std::to_string(verses.size() - offset));
-    index.append(",\"").append(BookLabel(book)).append("\"\r\n");
+  ImportedBible::Verse last;
+  for (std::size_t i = 0; i < plan.verses; ++i) {
+    const ImportedBible::Verse verse = bible.VerseAt(i);
+    if (verse.book != last.book) ++plan.books;
+    if (verse.book != last.book || verse.chapter != last.chapter) ++plan.chapters;
+    last = verse;
   }
 }
 
@@ -309,13 +293,9 @@ LibraryPlan PlanLibrary(const ImportedBible& bible, const LibraryRequest& reques
   plan.text.charset = fits ? "windows-1252" : "utf-8";
   plan.text.titles = TitlesName(plan);
 
-  std::string verses;
-  std::string index;
-  MakeTexts(bible, plan, verses, index);
-  const std::string verseFile = VerseFile(plan, plan.stem);
-  plan.files.emplace_back(verseFile, std::move(verses));
-  plan.files.emplace_back(IndexFile(plan, plan.stem), std::move(index));
-  plan.files.emplace_back(ImportedTextFile(verseFile), WriteImportedText(plan.text));
+  CountBooks(bible, plan);
+  plan.verseFile = VerseFile(plan, plan.stem);
+  plan.files.emplace_back(ImportedTextFile(plan.verseFile), WriteImportedText(plan.text));
   plan.files.emplace_back(FileOf(plan, "Sysdefs", plan.text.titles), TitlesContent(plan, titles));
   AddDeliveredTitles(plan);
   plan.catalogueBefore = catalogue.Content();
@@ -323,7 +303,37 @@ LibraryPlan PlanLibrary(const ImportedBible& bible, const LibraryRequest& reques
   return plan;
 }
 
-void WriteLibrary(const LibraryPlan& plan) {
+std::string WriteVerses(const ImportedBible& bible, const LibraryPlan& plan,
+                        const std::function<void(std::string_view piece)>& take) {
+  std::string index;
+  std::string lines;  // of a chapter, in UTF-8
+  std::size_t offset = 0;
+  int chapters = 0;
+  for (std::size_t i = 0; i < bible.VerseCount();) {
+    const auto [book, chapter, firstField, firstText] = bible.VerseAt(i);
+    const std::size_t first = i;
+    lines.clear();
+    const std::string place = "\t" + std::to_string(book) + "\t" + std::to_string(chapter) + "\t";
+    for (; i < bible.VerseCount(); ++i) {
+      const ImportedBible::Verse verse = bible.VerseAt(i);
+      if (verse.book != book || verse.chapter != chapter) break;
+      lines.append(std::to_string(i + 1)).append(place).append(verse.field).append("\t");
+      lines.append(verse.text).append("\r\n");
+    }
+    const std::string bytes = Bytes(plan, lines);
+    take(bytes);
+    index.append(std::to_string(++chapters)).append(",").append(std::to_string(offset)).append(",");
+    index.append(std::to_string(book)).append(",").append(std::to_string(chapter)).append(",");
+    index.append(std::to_string(i - first)).append(",").append(std::to_string(bytes.size()));
+    index.append(",\"").append(BookLabel(book)).append("\"\r\n");
+    offset += bytes.size();
+  }
+  return index;
+}
+
+void WriteLibrary(const ImportedBible& bible, const LibraryPlan& plan) {
+  const std::string indexFile = IndexFile(plan, plan.stem);
+  MakeFolder(fs::path(indexFile).parent_path().string());
   for (const auto& [path, content] : plan.files) MakeFolder(fs::path(path).parent_path().string());
   const std::string sysdefs = fs::path(plan.catalogue).parent_path().string();
   const FileHandle lock = FileHandle::Open(sysdefs.c_str(), O_RDONLY | O_DIRECTORY);
@@ -333,6 +343,9 @@ void WriteLibrary(const LibraryPlan& plan) {
     throw RunTimeError(kPermissionDenied, plan.folder, "Another import is writing into this library. Import again.");
   }
   JointChange change(NotePath(sysdefs));
+  std::string index;
+  change.Write(plan.verseFile, [&](const JointChange::Pieces& take) { index = WriteVerses(bible, plan, take); });
+  change.Replace(indexFile, index);
   for (const auto& [path, content] : plan.files) change.Replace(path, content);
   change.Commit();
 }

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <functional>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -41,7 +43,7 @@ struct LibraryRequest {
 // Where the language of a text was taken from.
 enum class LanguageSource { kNone, kGiven, kText, kScript, kTitles };
 
-// What is to be written, whole.
+// What is to be written.
 struct LibraryPlan {
   std::string folder;  // absolute, ends in a separator
   std::string stem;
@@ -52,9 +54,10 @@ struct LibraryPlan {
   bool replaces = false;
   LanguageSource languageFrom = LanguageSource::kNone;
 
+  std::string verseFile;                                   // its path; WriteVerses gives its content
   std::string catalogue;                                   // its path
   std::string catalogueBefore;                             // its content when the plan was made
-  std::vector<std::pair<std::string, std::string>> files;  // path and content; the catalogue is the last
+  std::vector<std::pair<std::string, std::string>> files;  // path and content of others; the catalogue is the last
 };
 
 // Why no library can be made of `request`; empty when one can. Its first argument is the option of the command line.
@@ -64,8 +67,12 @@ Sentence RefusalOf(const LibraryRequest& request);
 // that cannot be read, and for a translation that is there and not to be replaced.
 LibraryPlan PlanLibrary(const ImportedBible& bible, const LibraryRequest& request);
 
-// Writes the plan, all of it or nothing (JointChange.h). Throws RunTimeError; the library is then as it was. What a
-// killed program left half done is completed by StoredSettings::FinishChange.
-void WriteLibrary(const LibraryPlan& plan);
+// Gives the verse file to `take`, piece by piece, and returns the chapter index.
+std::string WriteVerses(const ImportedBible& bible, const LibraryPlan& plan,
+                        const std::function<void(std::string_view piece)>& take);
+
+// Writes the plan that was made of the text, all of it or nothing (JointChange.h). Throws RunTimeError; the library is
+// then as it was. What a killed program left half done is completed by StoredSettings::FinishChange.
+void WriteLibrary(const ImportedBible& bible, const LibraryPlan& plan);
 
 }  // namespace folionet

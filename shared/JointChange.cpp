@@ -7,6 +7,8 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
+#include <cstdint>
+#include <cstring>
 #include <optional>
 #include <utility>
 
@@ -20,8 +22,10 @@ namespace folionet {
 namespace {
 
 // A note: this line, then for each file four texts, each behind its length and a line break: the path, "new" or "old"
-// for one that was missing or there, the old and the new content.
+// for one that was missing or there, the old and the new content. "new pieces" and "old pieces": the new content is on
+// its way beside the file, and its sum stands in its place.
 constexpr std::string_view kFirstLine = "Folionet: a change of files, not finished\n";
+constexpr std::string_view kPieces = " pieces";
 constexpr std::size_t kLongestNote = std::size_t{512} << 20;
 
 void AddText(std::string& note, std::string_view text) {
@@ -42,12 +46,57 @@ std::optional<std::string> TakeText(std::string_view& rest) {
   return text;
 }
 
+// Tells a content from others, by its length and all of its bytes.
+class ContentSum {
+ public:
+  static constexpr std::size_t kBlock = std::size_t{64} << 10;
+
+  static std::string Of(std::string_view content) {
+    ContentSum sum;
+    for (; !content.empty(); content.remove_prefix(std::min(kBlock, content.size()))) {
+      sum.Add(content.substr(0, kBlock));
+    }
+    return sum.Text();
+  }
+
+  // All blocks but the last have kBlock bytes.
+  void Add(std::string_view block) {
+    constexpr std::uint64_t kFactor = 0x9E3779B97F4A7C15;
+    constexpr int kShift = 32;
+    m_length += block.size();
+    while (!block.empty()) {
+      std::uint64_t word = 0;
+      const std::size_t count = std::min(sizeof word, block.size());
+      std::memcpy(&word, block.data(), count);
+      m_sum = (m_sum ^ word) * kFactor;
+      m_sum ^= m_sum >> kShift;
+      block.remove_prefix(count);
+    }
+  }
+
+  std::string Text() const { return std::to_string(m_length) + " " + std::to_string(m_sum); }
+
+ private:
+  std::size_t m_length = 0;
+  std::uint64_t m_sum = 1;
+};
+
 // A file of a note; no content stands for no file.
 struct NotedFile {
   std::string path;
   std::optional<std::string> before;
   std::optional<std::string> after;
+  bool isLost = false;  // the content after is neither in the file nor on its way
 };
+
+// The content with that sum, in the file or on its way to it.
+std::optional<std::string> FindContent(const std::string& path, const std::string& sum) {
+  for (const std::string& place : {path, OnItsWay(path)}) {
+    auto content = ReadIfThere(place, kLongestNote);
+    if (content && ContentSum::Of(*content) == sum) return content;
+  }
+  return std::nullopt;
+}
 
 // Nothing when it is no note.
 std::optional<std::vector<NotedFile>> ReadNote(std::string_view rest) {
@@ -61,8 +110,11 @@ std::optional<std::vector<NotedFile>> ReadNote(std::string_view rest) {
       if (!taken) return std::nullopt;
       text = std::move(*taken);
     }
-    auto before = texts[1] == "new" ? std::optional<std::string>() : std::move(texts[2]);
-    files.push_back({std::move(texts[0]), std::move(before), std::move(texts[3])});
+    auto before = texts[1].starts_with("new") ? std::optional<std::string>() : std::move(texts[2]);
+    const bool isInPieces = texts[1].ends_with(kPieces);
+    auto after = isInPieces ? FindContent(texts[0], texts[3]) : std::move(texts[3]);
+    const bool isLost = !after;
+    files.push_back({std::move(texts[0]), std::move(before), std::move(after), isLost});
   }
   return files;
 }
@@ -76,7 +128,7 @@ std::optional<std::string> Carried(const NotedFile& file, const std::optional<st
 // Whether a file was saved since in a way that the change cannot be made in.
 bool StandsInTheWay(const NotedFile& file, const CarryChange& carry) {
   const std::optional<std::string> present = ReadIfThere(file.path);
-  return present != file.before && present != file.after && !Carried(file, present, carry);
+  return file.isLost || (present != file.before && present != file.after && !Carried(file, present, carry));
 }
 
 // Brings the file from its content before to that after.
@@ -108,12 +160,43 @@ void JointChange::Replace(const std::string& path, std::string_view bytes) {
   Edit(path, kLongestNote, [&](const std::string&) { return std::string(bytes); });
 }
 
-void JointChange::Edit(const std::string& path, std::size_t longest,
-                       const std::function<std::string(std::string content)>& edit) {
-  Part part{std::make_unique<Replacement>(path), {}, {}, false};
+JointChange::Part JointChange::Begin(const std::string& path, std::size_t longest) {
+  Part part;
+  part.file = std::make_unique<Replacement>(path);
   const std::optional<std::string> old = part.file->OldContent(longest);
   part.isNew = !old;
   part.oldBytes = old.value_or("");
+  return part;
+}
+
+void JointChange::Write(const std::string& path, const std::function<void(const Pieces& take)>& give) {
+  Part part = Begin(path, kLongestNote);
+  part.isInPieces = true;
+  part.file->BeginContent();
+  ContentSum sum;
+  std::string block;
+  const auto flush = [&] {
+    sum.Add(block);
+    part.file->AddContent(block);
+    block.clear();
+  };
+  give([&](std::string_view piece) {
+    while (!piece.empty()) {
+      const std::size_t count = std::min(ContentSum::kBlock - block.size(), piece.size());
+      block.append(piece, 0, count);
+      piece.remove_prefix(count);
+      if (block.size() == ContentSum::kBlock) flush();
+    }
+  });
+  flush();
+  part.file->EndContent();
+  part.newBytes = sum.Text();
+  m_parts.push_back(std::move(part));
+}
+
+void JointChange::Edit(const std::string& path, std::size_t longest,
+                       const std::function<std::string(std::string content)>& edit) {
+  Part part = Begin(path, longest);
   part.newBytes = edit(part.oldBytes);
   part.file->Prepare(part.newBytes);
   m_parts.push_back(std::move(part));
@@ -123,7 +206,7 @@ void JointChange::Commit() {
   std::string text(kFirstLine);
   for (const Part& part : m_parts) {
     AddText(text, part.file->Path());
-    AddText(text, part.isNew ? "new" : "old");
+    AddText(text, std::string(part.isNew ? "new" : "old").append(part.isInPieces ? kPieces : ""));
     AddText(text, part.oldBytes);
     AddText(text, part.newBytes);
   }

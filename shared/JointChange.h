@@ -31,6 +31,10 @@ class JointChange {
   // RunTimeError, and the change then cannot be made.
   void Replace(const std::string& path, std::string_view bytes);
 
+  // As Replace, with a content that `give` gives piece by piece, of any length. It is not held in memory.
+  using Pieces = std::function<void(std::string_view piece)>;
+  void Write(const std::string& path, const std::function<void(const Pieces& take)>& give);
+
   // As Replace, with what `edit` makes of the old content, which is empty when there is no such file. A file over
   // `longest` bytes is refused.
   void Edit(const std::string& path, std::size_t longest, const std::function<std::string(std::string content)>& edit);
@@ -43,10 +47,13 @@ class JointChange {
   struct Part {
     std::unique_ptr<Replacement> file;
     std::string oldBytes;
-    std::string newBytes;
+    std::string newBytes;  // or, of one that was given in pieces, their sum
+    bool isInPieces = false;
     bool isNew = false;
   };
 
+  // A part with the old content of its file.
+  static Part Begin(const std::string& path, std::size_t longest);
   void PutBack(std::size_t count);
 
   std::string m_note;

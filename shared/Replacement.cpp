@@ -38,7 +38,7 @@ std::string BehindLinks(const std::string& path) {
 Replacement::Replacement(const std::string& path, mode_t modeIfNew) : m_path(BehindLinks(path)), m_mode(modeIfNew) {
   const std::size_t slash = m_path.rfind('/') + 1;
   m_name = m_path.substr(slash);
-  m_fresh = "." + m_name + ".folionet-new";
+  m_fresh = OnItsWay(m_name);
   const std::string folder = slash == 0 ? "." : m_path.substr(0, slash);
   m_folder = FileHandle::Open(folder.c_str(), O_PATH | O_DIRECTORY);
   if (!m_folder.IsOpen()) throw RunTimeError::FromErrno(errno, m_path);
@@ -99,10 +99,29 @@ std::optional<std::string> Replacement::OldContent(std::size_t longest) const {
 }
 
 void Replacement::Prepare(std::string_view bytes) {
-  const int file = m_file.Get();
-  const bool done = (m_mode == 0 || fchmod(file, m_mode) == 0) && CutToLength(file, 0) && WriteAll(file, bytes, 0) &&
-                    SyncToDisk(file);
+  BeginContent();
+  AddContent(bytes);
+  EndContent();
+}
+
+void Replacement::BeginContent() {
+  const bool done = (m_mode == 0 || fchmod(m_file.Get(), m_mode) == 0) && CutToLength(m_file.Get(), 0);
   if (!done) throw RunTimeError::FromErrno(errno, m_path);
+  m_length = 0;
+}
+
+void Replacement::AddContent(std::string_view bytes) {
+  if (!WriteAll(m_file.Get(), bytes, m_length)) throw RunTimeError::FromErrno(errno, m_path);
+  m_length += bytes.size();
+}
+
+void Replacement::EndContent() const {
+  if (!SyncToDisk(m_file.Get())) throw RunTimeError::FromErrno(errno, m_path);
+}
+
+std::string OnItsWay(const std::string& path) {
+  const std::size_t slash = path.rfind('/') + 1;
+  return path.substr(0, slash) + "." + path.substr(slash) + ".folionet-new";
 }
 
 void Replacement::Commit() {

@@ -35,6 +35,11 @@ class Replacement {
   // Writes the new content beside the file, safely to the disk. Throws RunTimeError.
   void Prepare(std::string_view bytes);
 
+  // Prepare in three steps, for a content that comes piece by piece.
+  void BeginContent();
+  void AddContent(std::string_view bytes);
+  void EndContent() const;
+
   // Gives what was prepared the file's name; it stays locked until this ends. Throws RunTimeError; the old content then
   // stands.
   void Commit();
@@ -50,7 +55,11 @@ class Replacement {
   mode_t m_mode;        // that the new content shall have; 0 for the usual one
   FileHandle m_folder;
   FileHandle m_file;
+  std::size_t m_length = 0;  // of what was written into it
   bool m_isCommitted = false;
 };
+
+// The path of a file's new content until it takes the file's place.
+std::string OnItsWay(const std::string& path);
 
 }  // namespace folionet

@@ -60,7 +60,7 @@ void TextImport::Write() {
   auto shared = std::make_shared<Shared>();
   shared->bible = m_bible;
   shared->plan = m_plan;
-  Begin(Step::kWriting, shared, [](Shared& own, const auto& /*isWanted*/) { WriteLibrary(*own.plan); });
+  Begin(Step::kWriting, shared, [](Shared& own, const auto& /*isWanted*/) { WriteLibrary(*own.bible, *own.plan); });
 }
 
 void TextImport::Forget() {

@@ -320,13 +320,13 @@ std::string WriteVerses(const ImportedBible& bible, const LibraryPlan& plan,
       lines.append(std::to_string(i + 1)).append(place).append(verse.field).append("\t");
       lines.append(verse.text).append("\r\n");
     }
-    const std::string bytes = Bytes(plan, lines);
-    take(bytes);
+    if (plan.text.charset != "utf-8") lines = Windows1252().Encode(lines);
+    take(lines);
     index.append(std::to_string(++chapters)).append(",").append(std::to_string(offset)).append(",");
     index.append(std::to_string(book)).append(",").append(std::to_string(chapter)).append(",");
-    index.append(std::to_string(i - first)).append(",").append(std::to_string(bytes.size()));
+    index.append(std::to_string(i - first)).append(",").append(std::to_string(lines.size()));
     index.append(",\"").append(BookLabel(book)).append("\"\r\n");
-    offset += bytes.size();
+    offset += lines.size();
   }
   return index;
 }

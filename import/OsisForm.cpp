@@ -31,9 +31,8 @@ OsisReference ParseReference(std::string_view id) {
   const std::size_t second = id.find('.');
   reference.chapter = id.substr(0, second);
   if (second == std::string_view::npos) return reference;
-  for (const char c : id.substr(second + 1)) {
-    if (c != '!') reference.verse += c;  // "3!a" is 3a
-  }
+  reference.verse = id.substr(second + 1);
+  std::erase(reference.verse, '!');  // "3!a" is 3a
   return reference;
 }
 

@@ -91,31 +91,31 @@ TextDecoder::TextDecoder(ByteSource& bytes, const std::string& charset) : m_byte
 TextDecoder::~TextDecoder() = default;
 
 void TextDecoder::FillRaw() {
-  std::size_t have = m_raw.size();
-  m_raw.resize(have + kPiece);
-  while (have < m_raw.size() && !m_isAtEnd) {
-    const std::size_t count = m_bytes.Read(m_raw.data() + have, m_raw.size() - have);
+  m_raw.resize(kPiece);
+  m_end = m_raw.copy(m_raw.data(), m_end - m_start, m_start);
+  m_start = 0;
+  while (m_end < m_raw.size() && !m_isAtEnd) {
+    const std::size_t count = m_bytes.Read(m_raw.data() + m_end, m_raw.size() - m_end);
     if (count == 0) m_isAtEnd = true;
-    have += count;
+    m_end += count;
   }
-  m_raw.resize(have);
 }
 
 void TextDecoder::ChooseEncoding(const std::string& charset) {
-  if (m_raw.starts_with(kByteOrderMark)) {
-    m_raw.erase(0, kByteOrderMark.size());
-  } else if (const std::string wide = WideEncoding(m_raw); !wide.empty()) {
+  const std::string_view raw = Raw();
+  if (raw.starts_with(kByteOrderMark)) {
+    m_start = kByteOrderMark.size();
+  } else if (const std::string wide = WideEncoding(raw); !wide.empty()) {
     OpenConverter(wide);
-    if (m_raw.starts_with("\xFF\xFE") || m_raw.starts_with("\xFE\xFF")) m_raw.erase(0, 2);
+    if (raw.starts_with("\xFF\xFE") || raw.starts_with("\xFE\xFF")) m_start = 2;
   } else if (!charset.empty()) {
     OpenConverter(charset);
-  } else if (const std::string named = EncodingOfXml(m_raw); !named.empty()) {
+  } else if (const std::string named = EncodingOfXml(raw); !named.empty()) {
     OpenConverter(named);
-  } else if (const std::string page = EncodingOfUsfm(m_raw); !page.empty()) {
+  } else if (const std::string page = EncodingOfUsfm(raw); !page.empty()) {
     // Many a text that was turned into UTF-8 still names the code page that it was in before.
-    const std::size_t unfinished = m_isAtEnd ? 0 : UnfinishedLength(m_raw);
-    const std::string_view head = std::string_view(m_raw).substr(0, m_raw.size() - unfinished);
-    if (!IsUtf8(head)) OpenConverter(page);
+    const std::size_t unfinished = m_isAtEnd ? 0 : UnfinishedLength(raw);
+    if (!IsUtf8(raw.substr(0, raw.size() - unfinished))) OpenConverter(page);
   }
 }
 
@@ -142,8 +142,8 @@ void TextDecoder::OpenConverter(const std::string& charset) {
 bool TextDecoder::Next(std::string_view& piece) {
   if (m_isGiven) {
     m_lines += LinesIn(m_text);
-    m_text.clear();
-    while (m_text.empty() && m_faultLine == 0 && !(m_isAtEnd && m_raw.empty())) {
+    m_text = {};
+    while (m_text.empty() && m_faultLine == 0 && !(m_isAtEnd && Raw().empty())) {
       FillRaw();
       Decode();
     }
@@ -158,51 +158,52 @@ bool TextDecoder::Next(std::string_view& piece) {
 }
 
 void TextDecoder::NoteFault(std::size_t textBefore) {
-  m_text.resize(textBefore);
+  m_text = m_text.substr(0, textBefore);
   m_faultLine = m_lines + LinesIn(m_text) + 1;
 }
 
 void TextDecoder::Decode() {
   if (!m_from) return DecodeUtf8();
   constexpr std::size_t kMostPerByte = 4;
-  m_text.resize(m_raw.size() * kMostPerByte + kMostPerByte);
+  m_decoded.resize(kPiece * kMostPerByte + kMostPerByte);
   auto* const pivot = reinterpret_cast<UChar*>(m_pivot.data());
   UChar* pivotSource = pivot;
   UChar* pivotTarget = pivot;
-  char* target = m_text.data();
-  const char* source = m_raw.data();
+  char* target = m_decoded.data();
+  const char* const targetEnd = target + m_decoded.size();
+  const char* source = Raw().data();
   UErrorCode status = U_ZERO_ERROR;
-  ucnv_convertEx(m_to.get(), m_from.get(), &target, m_text.data() + m_text.size(), &source, m_raw.data() + m_raw.size(),
-                 pivot, &pivotSource, &pivotTarget, pivot + kPivot, false, m_isAtEnd ? 1 : 0, &status);
+  ucnv_convertEx(m_to.get(), m_from.get(), &target, targetEnd, &source, m_raw.data() + m_end, pivot, &pivotSource,
+                 &pivotTarget, pivot + kPivot, false, m_isAtEnd ? 1 : 0, &status);
   const bool isFault = U_FAILURE(status);
   if (isFault) {
     // What is good stands still between the two converters.
     const UChar* good = pivotSource;
     status = U_ZERO_ERROR;
-    ucnv_fromUnicode(m_to.get(), &target, m_text.data() + m_text.size(), &good, pivotTarget, nullptr, 1, &status);
+    ucnv_fromUnicode(m_to.get(), &target, targetEnd, &good, pivotTarget, nullptr, 1, &status);
   }
-  m_text.resize(static_cast<std::size_t>(target - m_text.data()));
-  m_raw.clear();
+  m_text = std::string_view(m_decoded).substr(0, static_cast<std::size_t>(target - m_decoded.data()));
+  m_start = m_end;
   if (isFault) NoteFault(m_text.size());
 }
 
 void TextDecoder::DecodeUtf8() {
-  const std::size_t unfinished = m_isAtEnd ? 0 : UnfinishedLength(m_raw);
-  m_text.assign(m_raw, 0, m_raw.size() - unfinished);
-  m_raw.erase(0, m_text.size());
+  const std::size_t unfinished = m_isAtEnd ? 0 : UnfinishedLength(Raw());
+  m_text = Raw().substr(0, m_end - m_start - unfinished);
+  m_start += m_text.size();
   if (IsUtf8(m_text)) return;
   // The lines before the fault are good.
   std::size_t good = 0;
-  for (std::size_t end = m_text.find('\n'); end != std::string::npos; end = m_text.find('\n', good)) {
-    if (!IsUtf8(std::string_view(m_text).substr(good, end + 1 - good))) break;
+  for (std::size_t end = m_text.find('\n'); end != std::string_view::npos; end = m_text.find('\n', good)) {
+    if (!IsUtf8(m_text.substr(good, end + 1 - good))) break;
     good = end + 1;
   }
   for (std::size_t length = 1; length != 0 && good < m_text.size(); good += length) {
     const auto byte = static_cast<unsigned char>(m_text[good]);
     length = byte < 0x80 ? 1 : byte >= 0xF0 ? 4 : byte >= 0xE0 ? 3 : 2;
-    if (!IsUtf8(std::string_view(m_text).substr(good, length))) length = 0;
+    if (!IsUtf8(m_text.substr(good, length))) length = 0;
   }
-  m_raw.clear();
+  m_start = m_end;
   NoteFault(good);
 }
 

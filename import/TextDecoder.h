@@ -37,6 +37,7 @@ class TextDecoder {
 
   void ChooseEncoding(const std::string& charset);
   void OpenConverter(const std::string& charset);
+  std::string_view Raw() const { return std::string_view(m_raw).substr(m_start, m_end - m_start); }
   void FillRaw();
   void Decode();
   void DecodeUtf8();
@@ -47,8 +48,11 @@ class TextDecoder {
   Converter m_from;  // none for UTF-8
   Converter m_to;
   std::string m_pivot;
-  std::string m_raw;   // bytes that are not decoded yet
-  std::string m_text;  // what Next gives next
+  std::string m_raw;        // room for what is read; never shorter, so that it is not filled twice
+  std::size_t m_start = 0;  // where in it the bytes begin that are not decoded yet
+  std::size_t m_end = 0;
+  std::string m_decoded;    // of bytes that are not UTF-8
+  std::string_view m_text;  // what Next gives next, in one of the two
   bool m_isAtEnd = false;
   bool m_isGiven = false;
   std::size_t m_lines = 0;      // before m_text

@@ -61,24 +61,37 @@ class ContentSum {
 
   // All blocks but the last have kBlock bytes.
   void Add(std::string_view block) {
+    m_length += block.size();
+    Words words{};
+    for (; block.size() >= sizeof words; block.remove_prefix(sizeof words)) {
+      std::memcpy(words.data(), block.data(), sizeof words);
+      Mix(words);
+    }
+    words = {};
+    std::memcpy(words.data(), block.data(), block.size());
+    Mix(words);
+  }
+
+  std::string Text() const {
+    std::string text = std::to_string(m_length);
+    for (const std::uint64_t sum : m_sums) text += " " + std::to_string(sum);
+    return text;
+  }
+
+ private:
+  using Words = std::array<std::uint64_t, 4>;  // which do not wait for each other
+
+  void Mix(const Words& words) {
     constexpr std::uint64_t kFactor = 0x9E3779B97F4A7C15;
     constexpr int kShift = 32;
-    m_length += block.size();
-    while (!block.empty()) {
-      std::uint64_t word = 0;
-      const std::size_t count = std::min(sizeof word, block.size());
-      std::memcpy(&word, block.data(), count);
-      m_sum = (m_sum ^ word) * kFactor;
-      m_sum ^= m_sum >> kShift;
-      block.remove_prefix(count);
+    for (std::size_t i = 0; i < words.size(); ++i) {
+      m_sums[i] = (m_sums[i] ^ words[i]) * kFactor;
+      m_sums[i] ^= m_sums[i] >> kShift;
     }
   }
 
-  std::string Text() const { return std::to_string(m_length) + " " + std::to_string(m_sum); }
-
- private:
   std::size_t m_length = 0;
-  std::uint64_t m_sum = 1;
+  Words m_sums{1, 2, 3, 4};
 };
 
 // A file of a note; no content stands for no file.

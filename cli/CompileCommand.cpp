@@ -2,7 +2,6 @@
 
 #include <csignal>
 #include <cstdio>
-#include <cstring>
 #include <filesystem>
 #include <system_error>
 
@@ -14,6 +13,7 @@
 #include "Installation.h"
 #include "OptionLoading.h"
 #include "Paths.h"
+#include "PlanLines.h"
 #include "ProgramFolder.h"
 #include "RunFacts.h"
 #include "RunTimeError.h"
@@ -84,17 +84,6 @@ void SelectTranslation(const CompileArguments& arguments, const std::string& opt
   request.cboEndBook = last;
 }
 
-// What would become of files, for one who asked.
-void PrintPlan(const char* state, const std::vector<std::string>& names, ConsoleUi& ui) {
-  for (const std::string& name : names) {
-    if (ui.IsJson()) {
-      ui.Show({.kind = state, .severity = Severity::kNote, .file = name});
-    } else {
-      ui.Print(std::string(state).append(9 - std::strlen(state), ' ') + name);
-    }
-  }
-}
-
 // A person's files that were in the place of pages.
 void TellKept(const std::vector<std::string>& names, ConsoleUi& ui) {
   constexpr std::size_t kShown = 10;
@@ -106,20 +95,8 @@ void TellKept(const std::vector<std::string>& names, ConsoleUi& ui) {
   }
 }
 
-// What the run did, or would do, as the arguments ask for it.
+// What the run did, as the arguments ask for it.
 void PrintChanges(const CompileArguments& arguments, const SiteChanges& changes, ConsoleUi& ui) {
-  if (arguments.dryRun) {
-    PrintPlan("new", changes.New(), ui);
-    PrintPlan("changed", changes.Changed(), ui);
-    PrintPlan("same", changes.Same(), ui);
-    PrintPlan("removed", changes.Removed(), ui);
-    for (const std::string& name : changes.Kept()) PrintPlan("kept", {KeptName(name)}, ui);
-    ui.Sum(std::to_string(changes.New().size()) + " new, " + std::to_string(changes.Changed().size()) + " changed, " +
-               std::to_string(changes.Same().size()) + " the same, " + std::to_string(changes.Removed().size()) +
-               " removed. Nothing was written.",
-           Severity::kWarning);
-    return;
-  }
   TellKept(changes.Kept(), ui);
   if (!arguments.listChanged) return;
   for (const std::string& name : changes.New()) ui.Print(name);
@@ -249,7 +226,8 @@ ExitStatus RunCompile(const CommonOptions& common, const CompileArguments& given
   const StopSignals noted;
   const CompileOutcome outcome = cmdCompile_Click(request, session.glob, session.ui);
   // What has changed by the time of a failure is to be uploaded all the same: the next run finds it as it should be.
-  if (outcome == CompileOutcome::kDone || !arguments.dryRun) PrintChanges(arguments, changes, ui);
+  if (!arguments.dryRun) PrintChanges(arguments, changes, ui);
+  if (outcome == CompileOutcome::kDone && arguments.dryRun) PrintPlan(request, session.glob, changes, ui);
   if (request.listsChanges && changes.knowsPending && std::fflush(stdout) == 0) {
     ChangesDelivered(request.stateFolder, request.txtOutputPath);
   }

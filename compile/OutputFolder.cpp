@@ -82,7 +82,7 @@ void CopyCSS(const CompileRequest& request, RunFolder& folder) {
 
 void NoteWritten(const CompileRequest& request, const RunFolder& folder, const std::string& name, PageChange change) {
   if (request.changes == nullptr) return;
-  request.changes->Written(name, change);
+  request.changes->Written(name, change, folder.site.WrittenBytes());
   if (folder.site.HasKeptOld()) request.changes->Kept(name);
 }
 

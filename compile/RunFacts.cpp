@@ -78,6 +78,17 @@ class FactFinder {
     return std::move(m_facts);
   }
 
+  std::set<std::string> OldPages() const {
+    std::set<std::string> old;
+    const std::string& folder = m_request.txtOutputPath;
+    if (folder.empty() || !FolderExists(folder)) return old;
+    const std::unordered_set<std::string> known = NamesOfRun();
+    for (std::string& name : FolderEntries(folder)) {
+      if (IsHtmlName(name) && !known.contains(name) && IsPageOfOurs(folder + name)) old.insert(std::move(name));
+    }
+    return old;
+  }
+
  private:
   void FindOtherTranslation() {
     const CodePage codePage(m_request.texts.PageCharset);
@@ -88,15 +99,8 @@ class FactFinder {
         {"Pages of the same names are written over; choose another folder with --output if that is not meant."}));
   }
 
-  // Pages of ours in the output folder that this run neither writes nor deletes.
   void FindOldPages() {
-    const std::string& folder = m_request.txtOutputPath;
-    if (folder.empty() || !FolderExists(folder)) return;
-    const std::unordered_set<std::string> known = NamesOfRun();
-    std::set<std::string> old;
-    for (std::string& name : FolderEntries(folder)) {
-      if (IsHtmlName(name) && !known.contains(name) && IsPageOfOurs(folder + name)) old.insert(std::move(name));
-    }
+    const std::set<std::string> old = OldPages();
     if (old.empty()) return;
     m_facts.push_back(
         Warning("old-pages",
@@ -234,6 +238,10 @@ std::vector<Finding> FindRangeFacts(const CompileRequest& request, const ModGlob
   addRemoval(kRemovesLaterPages, Words("QObject", "%1 pages are removed, those of the books after the ending book."),
              after);
   return facts;
+}
+
+std::set<std::string> FindOldPages(const CompileRequest& request, const ModGlob& glob) {
+  return FactFinder(request, glob).OldPages();
 }
 
 std::vector<Finding> FindRunFacts(const CompileRequest& request, const ModGlob& glob) {

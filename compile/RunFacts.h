@@ -1,5 +1,7 @@
 #pragma once
 
+#include <set>
+#include <string>
 #include <vector>
 
 #include "CompileRequest.h"
@@ -25,6 +27,9 @@ std::vector<Finding> FindRangeFacts(const CompileRequest& request, const ModGlob
 // What is wrong between the charset of the pages and the bytes of the verse file and of the book titles (BookCodes and
 // the start-book list).
 std::vector<Finding> FindCharsetFacts(const CompileRequest& request, const ModGlob& glob);
+
+// The pages of ours in the output folder that this run neither writes nor deletes.
+std::set<std::string> FindOldPages(const CompileRequest& request, const ModGlob& glob);
 
 // Of the whole request: all of these, and those of typed texts, of names and of what lies in the output folder, if one
 // is chosen. Needs the lists of `glob` and ChapterIndex, and a translation chosen.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <unordered_map>
 #include <vector>
@@ -11,7 +12,7 @@ namespace folionet {
 // What a compile run did to the files of the output folder, or would do, each file told once.
 class SiteChanges {
  public:
-  void Written(const std::string& name, PageChange change);
+  void Written(const std::string& name, PageChange change, std::size_t bytes);
 
   void Removed(const std::string& name, Removal removal);
 
@@ -25,6 +26,9 @@ class SiteChanges {
   std::vector<std::string> Removed() const { return Names(State::kRemoved); }
   // Whether the file is a new, a changed or a removed one.
   bool IsTold(const std::string& name) const;
+
+  // How long a file is that was written.
+  std::size_t Bytes(const std::string& name) const { return m_states.at(name).bytes; }
   const std::vector<std::string>& Kept() const { return m_kept; }
 
   // Files that earlier runs changed, and that no list has told yet: none of those above, and all of them are there.
@@ -38,9 +42,13 @@ class SiteChanges {
 
  private:
   enum class State { kNew, kChanged, kSame, kRemoved, kNothing };
+  struct File {
+    State state;
+    std::size_t bytes = 0;
+  };
   std::vector<std::string> Names(State state) const;
 
-  std::unordered_map<std::string, State> m_states;
+  std::unordered_map<std::string, File> m_states;
   std::vector<const std::string*> m_order;  // its keys
   std::vector<std::string> m_kept;
 };

@@ -71,6 +71,7 @@ void SiteFolder::Lock() const {
 
 PageChange SiteFolder::Write(const std::string& name, std::string_view text) {
   m_hasKeptOld = false;
+  m_writtenBytes = text.size();
   const bool triesNew = m_expected == PageChange::kNew && !m_dryRun;
   if (triesNew && WriteNew(name, text)) return m_expected = PageChange::kNew;
   OldFile old = m_folder.IsOpen() ? OpenOld(name) : OldFile{{}, ENOENT};

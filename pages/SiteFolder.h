@@ -2,6 +2,7 @@
 
 #include <sys/stat.h>
 
+#include <cstddef>
 #include <ctime>
 #include <optional>
 #include <string>
@@ -61,6 +62,9 @@ class SiteFolder {
   // Whether a person's file, now kept beside, was in the place of the one that was written or removed last.
   bool HasKeptOld() const { return m_hasKeptOld; }
 
+  // How long the file is that was written last.
+  std::size_t WrittenBytes() const { return m_writtenBytes; }
+
   // Takes away a file that is no folder. Nothing is thrown.
   Removal Remove(const std::string& name);
 
@@ -102,6 +106,7 @@ class SiteFolder {
   bool m_isOpen = false;
   bool m_dryRun = false;
   bool m_hasKeptOld = false;
+  std::size_t m_writtenBytes = 0;
   // What the file before was: the pages of a site are mostly all new, all changed or all the same.
   PageChange m_expected = PageChange::kSame;
   std::string m_old;  // what was read of the file at hand

@@ -43,18 +43,18 @@ TEST(ValidationTest, RefusesInTheFormsOrder) {
 
 TEST(SiteChangesTest, TellsEachFileOnceAsItWasBeforeTheRun) {
   SiteChanges changes;
-  changes.Written("new then same", PageChange::kNew);
-  changes.Written("new then same", PageChange::kSame);
-  changes.Written("changed then changed", PageChange::kChanged);
-  changes.Written("changed then changed", PageChange::kChanged);
-  changes.Written("same then changed", PageChange::kSame);
-  changes.Written("same then changed", PageChange::kChanged);
-  changes.Written("same", PageChange::kSame);
-  changes.Written("new then removed", PageChange::kNew);
+  changes.Written("new then same", PageChange::kNew, 1);
+  changes.Written("new then same", PageChange::kSame, 1);
+  changes.Written("changed then changed", PageChange::kChanged, 1);
+  changes.Written("changed then changed", PageChange::kChanged, 1);
+  changes.Written("same then changed", PageChange::kSame, 1);
+  changes.Written("same then changed", PageChange::kChanged, 1);
+  changes.Written("same", PageChange::kSame, 1);
+  changes.Written("new then removed", PageChange::kNew, 1);
   changes.Removed("new then removed", Removal::kRemoved);
-  changes.Written("new then kept", PageChange::kNew);
+  changes.Written("new then kept", PageChange::kNew, 1);
   changes.Removed("new then kept", Removal::kFailed);
-  changes.Written("same then removed", PageChange::kSame);
+  changes.Written("same then removed", PageChange::kSame, 1);
   changes.Removed("same then removed", Removal::kRemoved);
   changes.Removed("never there", Removal::kNotThere);
   changes.Removed("cannot be removed", Removal::kFailed);

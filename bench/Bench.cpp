@@ -49,8 +49,9 @@ void WriteBare(const std::vector<File>& files, const std::string& folder, int fl
 
 class Bench {
  public:
-  Bench(std::string cli, const std::string& work, int runs)
-      : m_cli(std::move(cli)),
+  Bench(std::string self, std::string cli, const std::string& work, int runs)
+      : m_self(std::move(self)),
+        m_cli(std::move(cli)),
         m_library(work + "/library"),
         m_site(work + "/site"),
         m_bare(work + "/bare"),
@@ -60,7 +61,10 @@ class Bench {
 
   // Peak memory is measured while this program itself is small: a child starts with its parent's peak.
   void All() {
-    Import();
+    Import("import of OSIS : reading it through libxml2 alone", m_text, "xml");
+    const std::string zip = m_text + ".zip";
+    MakeZip(zip, m_text);
+    Import("import of OSIS in a zip : unpacking through libarchive alone", zip, "archive");
     Growth();
     Fresh();
     Again();
@@ -134,21 +138,18 @@ class Bench {
     Print("compile with an option changed : bare rewriting in place", changed[0], changed[1]);
   }
 
-  // Of a whole Bible in OSIS.
-  void Import() {
+  // Of a whole Bible; both from the start of a process to its end.
+  void Import(const char* what, const std::string& text, const std::string& reading) {
+    m_peakKiB = 0;
     const auto import = [&] {
       fs::remove_all(m_imported);
-      const ProcessRun run = RunProcess({m_cli, "import", m_text, "--into", m_imported, "--quiet"});
+      const ProcessRun run = RunProcess({m_cli, "import", text, "--into", m_imported, "--quiet"});
       m_peakKiB = std::max(m_peakKiB, run.peakKiB);
       return run.milliseconds;
     };
-    const auto read = [&] {
-      return Time([&] {
-        if (ReadXmlAlone(m_text) == 0) throw std::runtime_error("the text has no text");
-      });
-    };
+    const auto read = [&] { return RunProcess({m_self, reading, text}).milliseconds; };
     const auto medians = Interleave(m_runs, {import, read});
-    Print("import of OSIS : reading it through libxml2 alone", medians[0], medians[1]);
+    Print(what, medians[0], medians[1]);
     std::printf("import: peak memory %.1f MiB\n", static_cast<double>(m_peakKiB) / 1024);
   }
 
@@ -213,6 +214,7 @@ class Bench {
     Print("check : reading and splitting its files + start-up", medians[0], medians[1] + medians[2]);
   }
 
+  std::string m_self;
   std::string m_cli;
   std::string m_library;
   std::string m_site;
@@ -228,12 +230,18 @@ class Bench {
 }  // namespace folionet::bench
 
 // The program folionet-cli, a folder in a memory file system that holds library/ and text.osis.xml, and the runs of
-// each measurement.
+// each measurement; or "xml" or "archive" and a file, which is only read through.
 int main(int argc, char** argv) {
+  using namespace folionet::bench;
   try {
     const std::vector<std::string> given(argv + 1, argv + argc);
+    if (given.size() == 2) {
+      const std::size_t length = given[0] == "xml" ? ReadXmlAlone(given[1]) : ReadArchiveAlone(given[1]);
+      if (length == 0) throw std::runtime_error("nothing in " + given[1]);
+      return 0;
+    }
     if (given.size() != 3) throw std::runtime_error("folionet-bench CLI WORK RUNS");
-    folionet::bench::Bench(given[0], given[1], folionet::bench::ReadRuns(given[2])).All();
+    Bench(argv[0], given[0], given[1], ReadRuns(given[2])).All();
   } catch (const std::exception& error) {
     std::fprintf(stderr, "folionet-bench: %s\n", error.what());
     return 3;

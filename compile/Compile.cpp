@@ -95,7 +95,11 @@ class CompileRun {
   void WriteIndex() {
     m_context.PageTitle = IndexText(m_inputs, m_options.frmKeywords.txtDescriptionI);
     m_context.PageMeta = IndexText(m_inputs, m_options.frmKeywords.txtKeywordsI);
-    WriteIndexPage({.values = Values(),
+    PageValues values = Values();
+    // Its lines are those of the titles, which may be in another script than the text.
+    const std::string title = m_codePage.Decode(m_glob.cboStartBook[static_cast<std::size_t>(m_request.cboStartBook)]);
+    values.isRightToLeft = values.isRightToLeft && BeginsRightToLeft(title);
+    WriteIndexPage({.values = values,
                     .firstBook = static_cast<std::int16_t>(m_request.cboStartBook + 1),
                     .lastBook = static_cast<std::int16_t>(m_request.cboEndBook + 1)},
                    m_inputs, m_codePage, m_context);

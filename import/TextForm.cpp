@@ -80,7 +80,9 @@ FormKind FormOf(std::string_view head) {
     const bool isUsfm = head.find("\\id ") != std::string_view::npos || head.find("\\id\t") != std::string_view::npos;
     return isUsfm ? FormKind::kUsfm : FormKind::kNone;
   }
-  return HoldsLines(head) ? FormKind::kLines : FormKind::kNone;
+  if (HoldsLines(head)) return FormKind::kLines;
+  // What stands before the marker, such as a licence, is none of the text.
+  return head.find("\n\\id ") != std::string_view::npos ? FormKind::kUsfm : FormKind::kNone;
 }
 
 std::unique_ptr<TextForm> MakeForm(FormKind kind, BibleBuilder& builder) {

@@ -376,6 +376,18 @@ bool IsUtf8(std::string_view text) {
   }
 }
 
+bool BeginsRightToLeft(std::string_view text) {
+  while (!text.empty()) {
+    int32_t length = 0;
+    const UChar32 character = FirstUtf8(text.substr(0, U8_MAX_LENGTH), length);
+    const UCharDirection direction = u_charDirection(character);
+    if (direction == U_RIGHT_TO_LEFT || direction == U_RIGHT_TO_LEFT_ARABIC) return true;
+    if (direction == U_LEFT_TO_RIGHT) return false;
+    text.remove_prefix(static_cast<std::size_t>(length));
+  }
+  return false;
+}
+
 std::string FoldCase(std::string_view text) {
   std::string folded;
   ForEachUtf8(text, [&](const Piece& piece) {

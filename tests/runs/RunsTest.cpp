@@ -10,8 +10,9 @@
 //                                         dated FILE 2001-02-03, which was its last change
 //   $ site --start-book=2                 compiles the library into out/, "compile" to what is given; "cli"
 //                                         and "folionet" are the programs; before one, "bounded" bounds its
-//                                         memory and time, "limited" the size of its files, "terminal"
-//                                         gives it one, LANG=de sets its environment
+//                                         memory and time, "limited" the size of its files, "fed" gives it
+//                                         the file in as standard input, "terminal" a terminal, LANG=de
+//                                         sets its environment
 //   $3 site                               with the exit status, when it is not 0
 //   | a line of standard output           ! a line of standard error
 //   + a file made outside out/            ~ a file changed there          - a file that is gone

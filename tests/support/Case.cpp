@@ -56,6 +56,7 @@ std::string WithShortReports(std::string text) {
 
 // What goes before the program: settings of the environment, and bounds.
 Command Prefix(const std::string& word) {
+  if (word == "fed") return {"/bin/sh", "-c", "exec \"$@\" < in", "sh"};
   if (word == "limited") return {"/usr/bin/prlimit", "--fsize=4096"};
   if (word == "bounded") {
     Command command{"/usr/bin/prlimit", "--cpu=" BOUND_SECONDS};

@@ -64,7 +64,9 @@ std::vector<Finding> FindCharsetFacts(const CompileRequest& request, const ModGl
   for (const std::string& code : glob.BookCodes) titles += code + "\n";
   const TextSample ofTitles = SampleOf(titles);
   // An imported text says itself which charset it is in, and is brought into that of the pages.
-  const TextSample ofVerses = glob.Imported.IsThere() ? TextSample() : SampleOfFile(request.txtFilename);
+  const TextSample ofVerses = glob.Imported.IsThere() ? TextSample()
+                              : request.sample        ? *request.sample
+                                                      : SampleOfFile(request.txtFilename);
   const std::string& language = request.texts.PageLanguage;
   if (auto fact = FindInCharset(request.texts.PageCharset, EntryOf(ofVerses, language))) {
     facts.push_back(*std::move(fact));

@@ -1,11 +1,13 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 
 #include "PageOptions.h"
 #include "PageTexts.h"
 #include "SiteChanges.h"
+#include "TextCharset.h"
 
 namespace folionet {
 
@@ -19,11 +21,12 @@ struct CompileRequest {
   // text stands for none.
   std::string txtOutputPath = "txtOutputPath";
 
-  std::string txtFilename;         // the verse file
-  std::string cboLang;             // the file name of the book titles; "Default" stands for none
-  int cboBibleName = -1;           // the chosen translation's place in BibleNames; -1 for none
-  bool isTranslationNamed = true;  // by the person, or else it is the first of all
-  int cboStartBook = 0;            // places in the book lists
+  std::string txtFilename;           // the verse file
+  std::optional<TextSample> sample;  // of the verse file, where that is known already
+  std::string cboLang;               // the file name of the book titles; "Default" stands for none
+  int cboBibleName = -1;             // the chosen translation's place in BibleNames; -1 for none
+  bool isTranslationNamed = true;    // by the person, or else it is the first of all
+  int cboStartBook = 0;              // places in the book lists
   int cboEndBook = 65;
   std::string programFolder;       // where default.css is; ends in the folder separator
   bool makeOutputFolder = false;   // whether a missing output folder is made

@@ -1,7 +1,5 @@
 #include "ChapterIndex.h"
 
-#include <sys/stat.h>
-
 #include <algorithm>
 #include <array>
 #include <bitset>
@@ -11,6 +9,7 @@
 #include <utility>
 
 #include "BuildInfo.h"
+#include "FileStamp.h"
 #include "Installation.h"
 #include "Numbers.h"
 #include "Paths.h"
@@ -27,29 +26,6 @@ constexpr std::size_t kChapterField = 3;
 constexpr std::size_t kVersesField = 4;
 constexpr std::int64_t kByteMax = 255;
 constexpr std::size_t kByteValues = 256;
-
-// Tells whether a file is the one that was read: it is replaced or written anew in another state.
-struct FileStamp {
-  dev_t device = 0;
-  ino_t number = 0;
-  off_t size = 0;
-  timespec written{};
-  timespec changed{};
-
-  friend bool operator==(const FileStamp& left, const FileStamp& right) {
-    const auto isSame = [](const timespec& one, const timespec& other) {
-      return one.tv_sec == other.tv_sec && one.tv_nsec == other.tv_nsec;
-    };
-    return left.device == right.device && left.number == right.number && left.size == right.size &&
-           isSame(left.written, right.written) && isSame(left.changed, right.changed);
-  }
-};
-
-std::optional<FileStamp> StampOf(const std::string& path) {
-  struct stat status {};
-  if (stat(path.c_str(), &status) != 0) return std::nullopt;
-  return FileStamp{status.st_dev, status.st_ino, status.st_size, status.st_mtim, status.st_ctim};
-}
 
 std::string LastInput(const std::array<std::string_view, kFields>& fields) {
   std::string text = "Last Input ";

@@ -2,11 +2,11 @@
 
 #include <QDir>
 #include <QDropEvent>
-#include <QMimeData>
 #include <utility>
 
 #include "BuildInfo.h"
 #include "ContentScroll.h"
+#include "DraggedPath.h"
 #include "ImportReport.h"
 #include "QtText.h"
 #include "ShownBoxes.h"
@@ -14,12 +14,6 @@
 
 namespace folionet {
 namespace {
-
-// The one file or folder that is dragged; empty for anything else.
-QString DraggedPath(const QMimeData* data) {
-  const QList<QUrl> urls = data->urls();
-  return urls.size() == 1 ? urls[0].toLocalFile() : QString();
-}
 
 // What a person typed, who may mean their home by "~", or by nothing.
 std::string PathOf(const QString& typed) {

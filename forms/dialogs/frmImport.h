@@ -22,6 +22,9 @@ class frmImport : public LoadedDialog {
   explicit frmImport(UserInterface& ui, QWidget* parent = nullptr);
   ~frmImport() override;
 
+  // Reads a text that was chosen; nothing for one that is empty or already there.
+  void Take(const std::string& path);
+
   bool IsBusy() const { return m_import.AtHand() != TextImport::Step::kNone || m_edits.isActive(); }
 
  signals:
@@ -37,7 +40,6 @@ class frmImport : public LoadedDialog {
   void reject() override;
   void ConnectControls();
   void ConnectImport();
-  void Take(const std::string& path);
   void Read();
   void Stop();
   void Import();

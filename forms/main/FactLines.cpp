@@ -103,6 +103,7 @@ void FactLines::ShowRange() {
   QStringList lines;
   if (request.cboBibleName >= 0 && HasAllBooks(glob) && HasEncoding(m_state.texts)) {
     request.txtOutputPath.clear();  // what is on the disk is found beside the form
+    request.sample = Sample(request.txtFilename);
     for (const Finding& fact : FindRunFacts(request, glob)) {
       if (std::string_view(fact.kind) == kRemovesPages) {
         lines << tr("The pages of %1 will be deleted: %2.")
@@ -120,6 +121,16 @@ void FactLines::ShowRange() {
     }
   }
   ShowLine(*m_controls.lblRangeFacts, lines.join(QLatin1Char('\n')));
+}
+
+// A part of the chosen text that shows its charset. It is asked for at each key: the file is read when it is another
+// one.
+const TextSample& FactLines::Sample(const std::string& file) {
+  const std::optional<FileStamp> stamp = StampOf(file);
+  if (file != m_sampled || stamp != m_stamp) m_sample = SampleOfFile(file);
+  m_sampled = file;
+  m_stamp = stamp;
+  return m_sample;
 }
 
 // The folder is looked at again when a compile would write other files.

@@ -2,10 +2,13 @@
 
 #include <QObject>
 #include <QString>
+#include <optional>
 #include <string>
 
 #include "AppState.h"
+#include "FileStamp.h"
 #include "FolderScan.h"
+#include "TextCharset.h"
 
 namespace folionet {
 
@@ -44,6 +47,7 @@ class FactLines : public QObject {
   void ShowRange();
   void AskOfFolder();
   void ShowFolder();
+  const TextSample& Sample(const std::string& file);
   QString BooksText(int first, int last) const;
 
   AppState& m_state;
@@ -52,6 +56,9 @@ class FactLines : public QObject {
   const FolderPickers& m_folders;
   FolderScan m_scan;
   QString m_folderText;
+  std::string m_sampled;  // the file of m_sample, as it was then
+  std::optional<FileStamp> m_stamp;
+  TextSample m_sample;
 };
 
 }  // namespace folionet

@@ -14,18 +14,19 @@ namespace folionet {
 
 ImportButton::ImportButton(AppState& state, Ui::frmMain& controls, LibraryLists& lists, Dialogs& dialogs, QWidget* form)
     : QObject(form), m_state(state), m_controls(controls), m_lists(lists), m_dialogs(dialogs), m_form(form) {
-  connect(m_controls.cmdImport, &QPushButton::clicked, this, &ImportButton::Open);
+  connect(m_controls.cmdImport, &QPushButton::clicked, this, [this] { Open(); });
   connect(new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_I), form), &QShortcut::activated, m_controls.cmdImport,
           &QPushButton::click);
 }
 
 ImportButton::~ImportButton() = default;
 
-void ImportButton::Open() {
+void ImportButton::Open(const std::string& path) {
   if (!mayOpen()) return;
   m_dialog = std::make_unique<frmImport>(m_state.ui, m_form);
   if (m_dialogs.whenMade) m_dialogs.whenMade(*m_dialog);
   connect(m_dialog.get(), &frmImport::Imported, this, &ImportButton::Choose);
+  m_dialog->Take(path);
   m_dialogs.openModal(*m_dialog);
 }
 

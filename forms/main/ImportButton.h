@@ -26,10 +26,12 @@ class ImportButton : public QObject {
   ImportButton(AppState& state, Ui::frmMain& controls, LibraryLists& lists, Dialogs& dialogs, QWidget* form);
   ~ImportButton() override;
 
+  // With a text the dialog begins to read it at once.
+  void Open(const std::string& path = {});
+
   std::function<bool()> mayOpen = [] { return true; };
 
  private:
-  void Open();
   void Choose(const std::string& folder, const std::string& stem);
 
   AppState& m_state;

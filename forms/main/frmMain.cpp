@@ -6,9 +6,9 @@
 #include <QKeyEvent>
 #include <QLocale>
 #include <QMenu>
-#include <QMimeData>
 #include <QShortcut>
 #include <QTime>
+#include <QTimer>
 #include <optional>
 #include <utility>
 
@@ -16,6 +16,7 @@
 #include "ChangeJournal.h"
 #include "CommandCopy.h"
 #include "Compile.h"
+#include "DraggedPath.h"
 #include "FactLines.h"
 #include "FolderPickers.h"
 #include "FormLooks.h"
@@ -41,16 +42,6 @@
 #include "ui_frmMain.h"
 
 namespace folionet {
-namespace {
-
-// The folder that is dragged; empty for anything else.
-QString DraggedFolder(const QMimeData* data) {
-  const QList<QUrl> urls = data->urls();
-  const QString path = urls.size() == 1 ? urls[0].toLocalFile() : QString();
-  return QFileInfo(path).isDir() ? path : QString();
-}
-
-}  // namespace
 
 frmMain::frmMain(AppState& state, QWidget* parent)
     : QMainWindow(parent), m_state(state), m_ui(std::make_unique<Ui::frmMain>()), m_dialogs(state, this) {
@@ -72,8 +63,8 @@ frmMain::frmMain(AppState& state, QWidget* parent)
   OfferAddresses();
   OfferFolders();
   connect(m_ui->cmdRecentFolders, &QToolButton::clicked, this, &frmMain::ListFolders);
-  auto* importing = new ImportButton(state, *m_ui, *m_lists, m_dialogs, this);
-  importing->mayOpen = [this] { return TellAndGoOn(); };
+  m_importing = new ImportButton(state, *m_ui, *m_lists, m_dialogs, this);
+  m_importing->mayOpen = [this] { return TellAndGoOn(); };
   const auto gather = [this] { return TellAndGoOn() ? std::optional(Gather()) : std::nullopt; };
   new CommandCopy(state, *m_ui->cmdCompile, this, gather);
   m_sites = new SiteMenu(state, *m_ui->cmdSite, *m_memory, gather);
@@ -375,12 +366,18 @@ void frmMain::changeEvent(QEvent* event) {
 }
 
 void frmMain::dragEnterEvent(QDragEnterEvent* event) {
-  if (!DraggedFolder(event->mimeData()).isEmpty()) event->acceptProposedAction();
+  if (!DraggedPath(event->mimeData()).isEmpty()) event->acceptProposedAction();
 }
 
+// A folder is where the pages go, a file is a text to import. The program that it comes from waits for the end of this.
 void frmMain::dropEvent(QDropEvent* event) {
-  const QString folder = DraggedFolder(event->mimeData());
-  if (!folder.isEmpty() && m_folders->Choose(FromQt(folder))) event->acceptProposedAction();
+  const QString path = DraggedPath(event->mimeData());
+  if (QFileInfo(path).isDir()) {
+    if (m_folders->Choose(FromQt(path))) event->acceptProposedAction();
+  } else if (!path.isEmpty()) {
+    event->acceptProposedAction();
+    QTimer::singleShot(0, this, [this, path] { m_importing->Open(FromQt(path)); });
+  }
 }
 
 }  // namespace folionet

@@ -20,6 +20,7 @@ class frmMain;
 class FactLines;
 class FolderPickers;
 class FormMemory;
+class ImportButton;
 class LibraryLists;
 class PagePreview;
 class SiteMenu;
@@ -60,7 +61,7 @@ class frmMain : public QMainWindow {
  protected:
   void closeEvent(QCloseEvent* event) override;
   void dragEnterEvent(QDragEnterEvent* event) override;
-  void dropEvent(QDropEvent* event) override;  // a folder that is dropped is chosen
+  void dropEvent(QDropEvent* event) override;  // a folder is chosen, a file imported
   void changeEvent(QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;  // Return presses the button that has the focus
 
@@ -107,6 +108,7 @@ class frmMain : public QMainWindow {
   FactLines* m_facts;
   FormMemory* m_memory;
   SiteMenu* m_sites;
+  ImportButton* m_importing;
   std::unique_ptr<PagePreview> m_preview;
   std::string m_indexPage;                     // that folder and address name, when it is there
   std::size_t m_nextStep = 0;                  // of StartSteps; those before it are done

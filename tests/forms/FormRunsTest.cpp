@@ -4,9 +4,12 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QDialog>
+#include <QDropEvent>
 #include <QKeySequence>
+#include <QMimeData>
 #include <QTest>
 #include <QTextBrowser>
+#include <QUrl>
 #include <csignal>
 #include <functional>
 #include <map>
@@ -175,6 +178,18 @@ const std::map<std::string, FormRuns::Act>& FormRuns::Actions() {
       {"site", [](Test& t, const Line& l) { t.m_site = l.name.empty() ? "" : t.m_home.Path() + l.name; }},
       {"store", [](Test& t, const Line& l) { t.Store(l.name, l.text); }},
       {"output", [](Test& t, const Line&) { t.ChooseOutput(); }},
+      {"drop",  // a file or a folder on a window
+       [](Test& t, const Line& l) {
+         QMimeData data;
+         data.setUrls({QUrl::fromLocalFile(ToQt(l.text))});
+         QDragEnterEvent enter(QPoint(1, 1), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+         QDropEvent drop(QPointF(1, 1), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+         for (QEvent* event : {static_cast<QEvent*>(&enter), static_cast<QEvent*>(&drop)}) {
+           QApplication::sendEvent(&t.Get(l.name), event);
+           EXPECT_TRUE(event->isAccepted()) << l.text;
+         }
+         QCoreApplication::processEvents();  // the dialog of a dropped text opens behind the drop
+       }},
       {"scanned",  // the chosen folder
        [](Test& t, const Line&) { EXPECT_TRUE(QTest::qWaitFor([&] { return !t.m_form->Facts().IsLooking(); })); }},
       {"settled",  // what the import does beside the form

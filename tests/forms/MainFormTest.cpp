@@ -1,14 +1,11 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QDialog>
-#include <QDropEvent>
 #include <QFocusEvent>
 #include <QMenu>
-#include <QMimeData>
 #include <QTest>
 #include <QTimer>
 #include <QToolButton>
-#include <QUrl>
 #include <algorithm>
 #include <ctime>
 
@@ -206,19 +203,6 @@ TEST_F(MainForm, RemembersAddressesFoldersAndPlaces) {
   emit sites->aboutToShow();
   EXPECT_EQ(FromQt(sites->actions()[0]->text()), "a&&b \u2014 " + m_home.Path().substr(0, m_home.Path().size() - 1));
   EXPECT_TRUE(sites->actions()[0]->isChecked());
-}
-
-TEST_F(MainForm, AFolderThatIsDroppedIsChosen) {
-  ASSERT_TRUE(Start());
-  for (const char* name : {"library", "config/Versalia.ini"}) {
-    QMimeData data;
-    data.setUrls({QUrl::fromLocalFile(ToQt(m_home.Path() + name))});
-    QDragEnterEvent enter(QPoint(1, 1), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(m_form.get(), &enter);
-    QDropEvent drop(QPointF(1, 1), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(m_form.get(), &drop);
-    EXPECT_EQ(Shown("txtOutputPath"), m_home.Path() + "library/");
-  }
 }
 
 // Seconds that this thread has worked, whatever else the machine does.

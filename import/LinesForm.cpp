@@ -240,9 +240,8 @@ void LinesForm::TakeLine(std::string_view line) {
     m_columns = ColumnsOf(line);
   }
   m_builder.SetLine(m_line);
-  const char separator = m_columns ? m_columns->separator : '\0';
-  const bool mayGoOn = separator != '\0' && separator != '\t' && line.find('"') != std::string_view::npos;
-  if (mayGoOn && QuotesOf(line, separator) == Quotes::kOpen) {
+  const bool mayGoOn = Separator() != '\0' && Separator() != '\t' && line.find('"') != std::string_view::npos;
+  if (mayGoOn && QuotesOf(line, Separator()) == Quotes::kOpen) {
     m_record = line;
     m_recordLine = m_line;
     return;
@@ -255,7 +254,7 @@ void LinesForm::TakeMore(std::string_view line) {
   constexpr std::size_t kMostLines = 1000;
   m_record.append("\n").append(line);
   if (m_record.size() > LineReader::kLongestLine || m_line - m_recordLine > kMostLines) FailQuote();
-  const Quotes quotes = QuotesOf(m_record, m_columns->separator);
+  const Quotes quotes = QuotesOf(m_record, Separator());
   if (quotes == Quotes::kOpen) return;
   if (quotes == Quotes::kOdd) FailQuote();
   m_builder.SetLine(m_recordLine);

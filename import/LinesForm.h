@@ -57,6 +57,7 @@ class LinesForm : public TextForm {
   static std::optional<Row> SplitShortReference(std::string_view line);
   static std::optional<Row> SplitRow(std::string_view line, const Columns& columns, std::vector<std::string>& fields);
 
+  char Separator() const { return m_columns ? m_columns->separator : '\0'; }
   void TakeLine(std::string_view line);
   void TakeMore(std::string_view line);
   void TakeRecord(std::string_view line);

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "BookTable.h"
 #include "LineReader.h"
 #include "Numbers.h"
 #include "Text.h"
@@ -34,7 +35,8 @@ XmlForm::Part ZefaniaForm::Begin(const XmlElement& element) {
     if (number.error == 0) {
       Builder().BeginBookNumber(static_cast<int>(number.value), title);
     } else {
-      Builder().BeginBook(title);
+      const std::string_view code = element.Get("bsname");
+      Builder().BeginBook(FindBook(title) != 0 || code.empty() ? title : code);
     }
     Builder().AddTitle(TitleKind::kShort, title);
     return Part::kPass;

@@ -187,6 +187,9 @@ TEST(Forms, GiveTheTextOfEachVerse) {
                  "&lt;</VERS>"
                  "<CAPTION>no</CAPTION></CHAPTER></BIBLEBOOK></XMLBIBLE>",
        "19 3:1 a b c &amp; &lt;|"},
+      {"<XMLBIBLE><BIBLEBOOK bname='Titre' bsname='Titus'><CHAPTER cnumber='1'><VERS "
+       "vnumber='1'>a</VERS></CHAPTER></BIBLEBOOK></XMLBIBLE>",
+       "56 1:1 a|"},
       {"\"Book\";\"Chapter\";\"Verse\";\"Text\"\r\n\"Jude\";1;1;\"a; \"\"b\"\"\"\r\n", "65 1:1 a; \"b\"|"},
       {"id\tb\tc\tv\tt\n1001001\t1\t1\t1\ta\n", "1 1:1 a|"},
       {"<usx><book code='GEN'/><para style='p'><verse number='1'/>a</para></usx>",

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "CodePage.h"
 #include "Paths.h"
 #include "Text.h"
 
@@ -17,7 +18,7 @@ void CheckedLibrary::Add(const char* kind, const std::string& path, std::size_t 
 
 void CheckedLibrary::CheckLetterCase(const std::string& found, const std::string& expected) {
   const std::string exact = NativePath(expected);
-  if (found == exact) return;
+  if (found == exact || !EqualIgnoringCase(found, exact)) return;  // a stem in another code page is as it should be
   Add("letter-case", found, 0, {"The name is found only in another letter case; it should be %1", {exact}});
 }
 

@@ -181,7 +181,7 @@ void SaveRun(const std::string& file, const CompileRequest& request, const Sessi
   if (file.empty()) return;
   const auto number = [](int place) { return std::to_string(place + 1); };
   const std::string& stem = session.glob.BibleFiles[static_cast<std::size_t>(request.cboBibleName)];
-  const SiteChoices choices{session.codePage.Decode(stem),
+  const SiteChoices choices{ShownStem(stem, session.codePage),
                             number(request.cboStartBook) + "-" + number(request.cboEndBook),
                             request.options.txthttpRoot,
                             request.sitemapAddress,

@@ -22,7 +22,7 @@ ExitStatus ListTranslations(const CommonOptions& common, const Session& session)
     if (!FolderExists(glob.ModulesPath)) throw ExitWith(common.folders.modulePath.empty() ? kExitFailed : kExitUsage);
   }
   for (std::size_t i = 0; i < glob.cboBibleName.size(); ++i) {
-    session.ui.Print({session.codePage.DecodeForDisplay(glob.BibleFiles[i]), ShownName(glob, i, session.codePage)});
+    session.ui.Print({ShownStem(glob.BibleFiles[i], session.codePage), ShownName(glob, i, session.codePage)});
   }
   return glob.unreadableTexts.empty() ? kExitDone : kExitFailed;
 }

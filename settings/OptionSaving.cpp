@@ -46,10 +46,13 @@ auto IsOfDialog(OptionPart part) {
 }  // namespace
 
 void SaveOption(SettingsStore& store, std::string_view key, PageOptions& options) {
-  const Option& chosen = *FindOption(key);
+  SaveOption(store, key, OptionText(*FindOption(key), options), options);
+}
+
+void SaveOption(SettingsStore& store, std::string_view key, std::string_view text, PageOptions& options) {
+  MarkChosen(key, options);
   NoteRefused(
-      options, [&](const Option& option) { return &option == &chosen; },
-      [&] { store.SaveText(key, OptionText(chosen, options)); });
+      options, [&](const Option& option) { return option.key == key; }, [&] { store.SaveText(key, text); });
 }
 
 void SaveOptions(SettingsStore& store, OptionPart part, PageOptions& options) {

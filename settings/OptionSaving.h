@@ -13,6 +13,9 @@ namespace folionet {
 // Stores one option, whatever was stored for it before: a person has just chosen it.
 void SaveOption(SettingsStore& store, std::string_view key, PageOptions& options);
 
+// The same with another text than the option's field gives.
+void SaveOption(SettingsStore& store, std::string_view key, std::string_view text, PageOptions& options);
+
 // Stores the options of a part that are saved together, but what could not be read and was not changed since.
 void SaveOptions(SettingsStore& store, OptionPart part, PageOptions& options);
 

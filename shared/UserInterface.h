@@ -69,9 +69,9 @@ class UserInterface {
   virtual void FocusControl(std::string_view /*name*/) {}
 
   // The choosers. Each gives back what it was given when the person cancels or where there is nobody to choose; of
-  // colours and files to save, nothing: to choose the one that is shown is a choice.
+  // colours, fonts and files to save, nothing: to choose the one that is shown is a choice.
   virtual std::optional<Colour> ChooseColour(Colour /*initial*/) { return std::nullopt; }
-  virtual SampleText ChooseFont(const SampleText& initial) { return initial; }
+  virtual std::optional<SampleText> ChooseFont(const SampleText& /*initial*/) { return std::nullopt; }
   virtual std::string ChooseFile(const std::string& /*filter*/, const std::string& previous) { return previous; }
   // A file to be written; empty when the person cancelled.
   virtual std::string ChooseFileToSave(const std::string& /*filter*/, const std::string& /*initial*/) { return {}; }

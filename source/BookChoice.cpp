@@ -53,10 +53,13 @@ std::optional<BookRange> ChooseBooks(const ModGlob& glob, const CodePage& codePa
 
 std::optional<std::size_t> FindTranslation(const ModGlob& glob, const CodePage& codePage, std::string_view nameOrStem) {
   const std::size_t count = glob.cboBibleName.size();
-  for (const bool isName : {true, false}) {
+  enum class Kind { kName, kStem, kStemOfDefault };  // the last as pages of the default charset have shown it
+  for (const Kind kind : {Kind::kName, Kind::kStem, Kind::kStemOfDefault}) {
     for (const bool ignoringCase : {false, true}) {
       for (std::size_t i = 0; i < count; ++i) {
-        const std::string text = isName ? ShownName(glob, i, codePage) : codePage.Decode(glob.BibleFiles[i]);
+        const std::string text = kind == Kind::kName
+                                     ? ShownName(glob, i, codePage)
+                                     : ShownStem(glob.BibleFiles[i], kind == Kind::kStem ? codePage : CodePage());
         if (text == nameOrStem || (ignoringCase && EqualIgnoringCase(text, nameOrStem))) return i;
       }
     }

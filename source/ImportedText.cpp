@@ -91,6 +91,10 @@ std::pair<int, int> BooksOfText(const ModGlob& glob) {
   return {std::min(first, last), last};
 }
 
+std::string ShownStem(const std::string& stem, const CodePage& codePage) {
+  return codePage.FindUndecodable(stem) == std::string::npos ? codePage.Decode(stem) : CodePage().Decode(stem);
+}
+
 std::string ShownName(const ModGlob& glob, std::size_t place, const CodePage& codePage) {
   const bool isImported = place < glob.BibleImports.size() && glob.BibleImports[place].IsThere();
   return isImported ? glob.BibleImports[place].name : codePage.DecodeForDisplay(glob.BibleNames[place]);

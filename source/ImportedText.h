@@ -47,6 +47,10 @@ void EncodeTitles(ModGlob& glob, const CodePage& codePage);
 // The places in the book lists of the first and the last book that an imported text holds, by ChaptersInBook.
 std::pair<int, int> BooksOfText(const ModGlob& glob);
 
+// The stem of a translation's files as a person sees and types it: in the default code page where it is not in that of
+// the pages.
+std::string ShownStem(const std::string& stem, const CodePage& codePage);
+
 // The name of the translation at a place of BibleNames, in UTF-8 to be shown, and as pages have it in their bytes.
 std::string ShownName(const ModGlob& glob, std::size_t place, const CodePage& codePage);
 std::string PageName(const ModGlob& glob, std::size_t place, const CodePage& codePage);

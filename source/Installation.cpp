@@ -1,8 +1,10 @@
 #include "Installation.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <system_error>
 #include <utility>
+#include <vector>
 
 #include "OwnLibrary.h"
 #include "Paths.h"
@@ -18,6 +20,34 @@ bool IsStoredInstallation(const StoredSettings& store, const std::string& instal
   std::error_code error;
   const std::string stored = NativePath(store.GetSetting(kVersalia, kModulePath, "VersaliaPath", ""));
   return std::filesystem::equivalent(NativePath(install), stored, error) && !error;
+}
+
+// A stem as it may stand on disk. The catalogue is in the code page of the computer that Versalia has run on, which
+// need not be that of the pages: theirs comes first, and the others only where there is no such file.
+std::vector<std::string> NamesOf(std::string_view stem, const CodePage& codePage, const char* ending) {
+  std::vector<std::string> names{codePage.Decode(stem) + ending};
+  if (std::all_of(stem.begin(), stem.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; })) return names;
+  names.push_back(std::string(stem) + ending);
+  for (const char* charset :
+       {"windows-1252", "windows-1250", "windows-1251", "windows-1253", "windows-1254", "windows-1255", "windows-1256",
+        "windows-1257", "windows-1258", "windows-874", "shift_jis", "gbk", "euc-kr", "big5"}) {
+    names.push_back(CodePage(charset).Decode(stem) + ending);
+  }
+  // In another code page the bytes of a letter may be a separator.
+  const auto leadsOut = [](const std::string& name) { return name.find_first_of("/\\") != std::string::npos; };
+  names.erase(std::remove_if(names.begin() + 1, names.end(), leadsOut), names.end());
+  return names;
+}
+
+// The first of a stem's files that is there, in a folder below `base`; where the first should be when none is.
+std::string FileOfStem(const std::string& base, const std::string& folder, const std::vector<std::string>& names,
+                       FolderLister& folders) {
+  for (const std::string& name : names) {
+    std::string path = folders.Locate(base, folder + name);
+    std::error_code error;
+    if (std::filesystem::exists(path, error) || error) return path;
+  }
+  return folders.Locate(base, folder + names.front());
 }
 
 }  // namespace
@@ -57,11 +87,12 @@ std::string VerseFile(const ModGlob& glob, const CodePage& codePage, std::string
 }
 
 std::string VerseFile(const ModGlob& glob, const CodePage& codePage, std::string_view stem, FolderLister& folders) {
-  return folders.Locate(glob.ModulesPath, "Bible/" + codePage.Decode(stem) + ".TXT");
+  return FileOfStem(glob.ModulesPath, "Bible/", NamesOf(stem, codePage, ".TXT"), folders);
 }
 
 std::string IndexFile(const ModGlob& glob, const CodePage& codePage, std::string_view stem) {
-  return LocateIgnoringCase(glob.InstallPath, "Index/" + codePage.Decode(stem) + ".TXT.INDEX");
+  FolderLister folders;
+  return FileOfStem(glob.InstallPath, "Index/", NamesOf(stem, codePage, ".TXT.INDEX"), folders);
 }
 
 }  // namespace folionet

@@ -28,7 +28,8 @@ void LocateInstallation(const StoredSettings& store, const GivenFolders& given, 
 void SetInstallation(ModGlob& glob, std::string installPath, std::string modulesPath, std::string_view sysdefs);
 
 // Where files of the library are. A file that is there in another letter case only is found; for one that is missing
-// the exact path is given. `stem` is in the bytes of the catalogue.
+// the exact path is given. `stem` is in the bytes of the catalogue, which may be in another code page than the pages:
+// a file that their code page does not find is looked for by the others.
 std::string SysdefsFile(const ModGlob& glob, std::string_view fileName);
 std::string VerseFile(const ModGlob& glob, const CodePage& codePage, std::string_view stem);
 std::string VerseFile(const ModGlob& glob, const CodePage& codePage, std::string_view stem, FolderLister& folders);

@@ -995,6 +995,12 @@ Jetzt alle Einstellungen zurücksetzen?</translation>
         <source>Make a translation of a Bible text that you have (Ctrl+I).</source>
         <translation>Aus einem Bibeltext, den Sie haben, eine Übersetzung machen (Strg+I).</translation>
     </message>
+    <message>
+        <source>The book titles cannot be read from %1, which the imported text %2 brings.
+To import that text again in its place, by folionet-cli import --replace, or to name another file of that folder for cboLang in %3 lets the program start again.</source>
+        <translation>Die Buchtitel lassen sich nicht aus %1 lesen, das der importierte Text %2 mitbringt.
+Diesen Text mit folionet-cli import --replace noch einmal zu importieren oder für cboLang in %3 eine andere Datei jenes Ordners zu nennen lässt das Programm wieder starten.</translation>
+    </message>
 </context>
 <context>
     <name>folionet::frmPAgeTitles</name>

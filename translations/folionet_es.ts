@@ -995,6 +995,12 @@ Return all settings to default now?</source>
         <source>Make a translation of a Bible text that you have (Ctrl+I).</source>
         <translation>Hacer una traducción de un texto bíblico que usted tenga (Ctrl+I).</translation>
     </message>
+    <message>
+        <source>The book titles cannot be read from %1, which the imported text %2 brings.
+To import that text again in its place, by folionet-cli import --replace, or to name another file of that folder for cboLang in %3 lets the program start again.</source>
+        <translation>No se pueden leer los títulos de los libros de %1, que trae el texto importado %2.
+Importar ese texto otra vez en su lugar, con folionet-cli import --replace, o nombrar otro archivo de esa carpeta para cboLang en %3 deja que el programa arranque de nuevo.</translation>
+    </message>
 </context>
 <context>
     <name>folionet::frmPAgeTitles</name>

@@ -5,6 +5,7 @@
 
 #include "CodePage.h"
 #include "Installation.h"
+#include "PageEncoding.h"
 #include "PageOptions.h"
 #include "PageTexts.h"
 #include "RunTimeError.h"
@@ -26,6 +27,7 @@ struct AppState {
   PageOptions options{};              // UTF-8, but txtBibleSel is the translation's name as the catalogue has it
   PageTexts texts{};                  // UTF-8; RolloverStyle and BodyLinkTag change only where Effects is run
   CodePage codePage{"windows-1252"};  // of texts.PageCharset
+  PageEncoding typed{};               // codes that were typed, not picked: they hold until the program ends
   std::string startBookText{};        // the title shown in the main form's cboStartBook, in the bytes of its file
   std::optional<RunTimeError> lastSaveFailure{};  // set by TrySave; none after a save that went well
 };

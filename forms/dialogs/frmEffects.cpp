@@ -3,6 +3,7 @@
 #include <QFontDatabase>
 #include <QSignalBlocker>
 #include <algorithm>
+#include <tuple>
 #include <utility>
 
 #include "Effects.h"
@@ -56,12 +57,14 @@ void frmEffects::ConnectRecord() {
     Follow(combo, *field);
     connect(combo, &QComboBox::editTextChanged, this, &frmEffects::ShowLooks);
   }
-  const std::pair<QCheckBox*, bool*> checks[]{{m_ui->chkSmallCaps, &m_record.chkSmallCaps},
-                                              {m_ui->chkAllCaps, &m_record.chkAllCaps},
-                                              {m_ui->chkUnderline, &m_record.chkUnderline},
-                                              {m_ui->chkRollover, &m_record.chkRollover}};
-  for (const auto& [check, field] : checks) {
+  const std::tuple<QCheckBox*, bool*, const char*> checks[]{
+      {m_ui->chkSmallCaps, &m_record.chkSmallCaps, "chkSmallCaps"},
+      {m_ui->chkAllCaps, &m_record.chkAllCaps, "chkAllCaps"},
+      {m_ui->chkUnderline, &m_record.chkUnderline, "chkUnderline"},
+      {m_ui->chkRollover, &m_record.chkRollover, "chkRollover"}};
+  for (const auto& [check, field, key] : checks) {
     Follow(check, *field);
+    connect(check, &QCheckBox::clicked, this, [this, key = key] { MarkChosen(key, m_state.options); });
     connect(check, &QCheckBox::toggled, this, &frmEffects::ShowLooks);
   }
 }

@@ -4,6 +4,7 @@
 #include <utility>
 #include <vector>
 
+#include "EncodingInUse.h"
 #include "EncodingLists.h"
 #include "PageEncoding.h"
 #include "QtText.h"
@@ -126,18 +127,21 @@ void frmEncoding::AddNew() {
   openModal(*m_addNew);
 }
 
-// An entry that a text brings and that merely is shown is not stored: it must not stand in the way of the next text's.
+// An entry that merely is shown is not stored where a text brings it, for it must not stand in the way of the next
+// text's, nor where another program has stored another one since.
 void frmEncoding::SaveChanged() {
   const EncodingOptions entries = Entries();
-  EncodingOptions changed;
-  const auto isOfText = [this](const char* key) {
-    return !CodeOfText(m_state.glob.Imported, m_state.store, key).empty();
+  const auto isShownOnly = [this](const char* key, const std::string& entry, const std::string& shown) {
+    return entry == shown &&
+           (m_state.store.Text(key) != shown || !CodeOfText(m_state.glob.Imported, m_state.store, key).empty());
   };
-  if (entries.cboCharset != m_shown.cboCharset || !isOfText("Charset")) changed.cboCharset = entries.cboCharset;
-  if (entries.cboLang != m_shown.cboLang || !isOfText("Lang")) changed.cboLang = entries.cboLang;
-  if (changed.cboCharset.empty() && changed.cboLang.empty()) return;
-  const bool isSaved = TrySave(m_state, Procedure::kUnloadEncoding,
-                               [&](SettingsStore& store) { SaveEncoding(store, m_state.programFolder, changed); });
+  const bool isSaved = TrySave(m_state, Procedure::kUnloadEncoding, [&](SettingsStore& store) {
+    store.ReadAnew();
+    EncodingOptions changed = entries;
+    if (isShownOnly("Charset", entries.cboCharset, m_shown.cboCharset)) changed.cboCharset.clear();
+    if (isShownOnly("Lang", entries.cboLang, m_shown.cboLang)) changed.cboLang.clear();
+    if (!changed.cboCharset.empty() || !changed.cboLang.empty()) SaveEncoding(store, m_state.programFolder, changed);
+  });
   if (isSaved) m_shown = entries;
 }
 
@@ -145,20 +149,22 @@ bool frmEncoding::SaveAndUse() {
   SaveChanged();
   const std::string typedLanguage = FromQt(m_ui->txtLang->text());
   const std::string typedCharset = FromQt(m_ui->txtCharset->text());
-  PageEncoding encoding{m_state.texts.PageLanguage, m_state.texts.PageCharset};
   bool isDone = true;
   try {
-    LoadPageEncoding(m_state.store, m_state.options, encoding, m_state.ui);
-    TakeEncodingOf(m_state.glob.Imported, m_state.store, encoding, m_state.ui);
-    encoding.PageLanguage = EncodingCode(typedLanguage, "Lang");
-    encoding.PageCharset = EncodingCode(typedCharset, "Charset");
+    const PageEncoding read = ReadEncoding(m_state);
+    m_state.typed = {};
+    UseEncoding(m_state, read);
+    const auto typed = [](const std::string& text, const char* key, const std::string& readCode) {
+      std::string code = EncodingCode(text, key);
+      return code == readCode ? std::string() : code;
+    };
+    m_state.typed.PageLanguage = typed(typedLanguage, "Lang", read.PageLanguage);
+    m_state.typed.PageCharset = typed(typedCharset, "Charset", read.PageCharset);
+    UseEncoding(m_state, read);
   } catch (const RunTimeError& error) {
     m_state.ui.ShowErrorReport({Procedure::kUnloadEncoding, error, typedLanguage + "\r\n" + typedCharset + "\r\n"});
     isDone = false;
   }
-  m_state.texts.PageLanguage = encoding.PageLanguage;
-  m_state.texts.PageCharset = encoding.PageCharset;
-  m_state.codePage = CodePage(encoding.PageCharset);
   if (const auto folder = Folder(); folder && folder->codePage.Name() != m_listedIn) ShowListsAnew(*folder);
   return isDone;
 }

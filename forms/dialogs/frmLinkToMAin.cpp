@@ -81,7 +81,7 @@ void frmLinkToMAin::SetFontSize(int size) {
     box->setFont(font);
   }
   TrySave(m_state, Procedure::kSetFontSize,
-          [&](SettingsStore& store) { store.SaveText("LinkBackSize", std::to_string(size)); });
+          [&](SettingsStore& store) { SaveOption(store, "LinkBackSize", std::to_string(size), m_state.options); });
   SetString();
 }
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <string_view>
 
+#include "ImportedText.h"
 #include "Installation.h"
 #include "OptionTable.h"
 #include "PageEncoding.h"
@@ -85,7 +86,7 @@ std::string CompileCommandLine(const CompileRequest& request, const AppState& st
   AddFolders(state, command);
   if (request.cboBibleName >= 0) {
     const std::string& stem = state.glob.BibleFiles[static_cast<std::size_t>(request.cboBibleName)];
-    command.Add("--translation", state.codePage.Decode(stem));
+    command.Add("--translation", ShownStem(stem, state.codePage));
   }
   if (request.cboLang != untouched.main.cboLang || request.cboLang != state.store.Text("cboLang")) {
     command.Add("--language-file", request.cboLang);

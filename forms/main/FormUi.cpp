@@ -165,7 +165,7 @@ std::optional<Colour> FormUi::ChooseColour(Colour initial) {
   return chosen.isValid() ? std::optional(FromQt(chosen)) : std::nullopt;
 }
 
-SampleText FormUi::ChooseFont(const SampleText& initial) {
+std::optional<SampleText> FormUi::ChooseFont(const SampleText& initial) {
   QFontDialog dialog(StandIn(initial), Owner());
   HideEffects(dialog);
   // What the dialog shows at first may be another family, style or size than the text has: of those that are not
@@ -185,7 +185,7 @@ SampleText FormUi::ChooseFont(const SampleText& initial) {
     last = current;
   };
   QObject::connect(&dialog, &QFontDialog::currentFontChanged, &dialog, note);
-  if (dialog.exec() != QDialog::Accepted) return initial;
+  if (dialog.exec() != QDialog::Accepted) return std::nullopt;
   note(dialog.selectedFont());
   SampleText chosen = initial;
   if (isFamilyChosen) chosen.FontName = FromQt(last.family());

@@ -31,7 +31,7 @@ class FormUi : public UserInterface {
   void SetPanel(int panel, std::string_view text) override;
   void FocusControl(std::string_view name) override;
   std::optional<Colour> ChooseColour(Colour initial) override;
-  SampleText ChooseFont(const SampleText& initial) override;
+  std::optional<SampleText> ChooseFont(const SampleText& initial) override;
   std::string ChooseFile(const std::string& filter, const std::string& previous) override;
   std::string ChooseFileToSave(const std::string& filter, const std::string& initial) override;
   std::string ChooseFolder(const std::string& initial, const std::string& title) override;

@@ -8,6 +8,7 @@
 #include "BookTitles.h"
 #include "Catalogue.h"
 #include "ChapterIndex.h"
+#include "EncodingInUse.h"
 #include "ImportedText.h"
 #include "OptionLoading.h"
 #include "OptionSaving.h"
@@ -59,14 +60,37 @@ Outcome LibraryLists::Fill() {
   return Outcome::kDone;
 }
 
-// Where the catalogue is sound, a Language File of the person's choice is what ends the program.
 Outcome LibraryLists::ReadLists(int which) {
-  const std::string& chosen = m_state.options.main.cboLang;
-  const std::string path = SysdefsFile(m_state.glob, chosen);  // before other folders are asked for
-  const Outcome outcome = PopulateCombos(which, chosen, m_state.glob, m_state.codePage, m_state.ui);
-  const bool isChosen = chosen != FindOption("cboLang")->defaultText && !m_state.glob.cboBibleName.empty();
-  if (outcome == Outcome::kEndProgram && isChosen) m_unreadLanguageFile = path;
+  ModGlob& glob = m_state.glob;
+  ModGlob before;  // other folders may be asked for
+  before.InstallPath = glob.InstallPath;
+  before.ModulesPath = glob.ModulesPath;
+  before.SysdefsPath = glob.SysdefsPath;
+  const Outcome outcome = PopulateCombos(which, m_state.options.main.cboLang, glob, m_state.codePage, m_state.ui);
+  if (outcome == Outcome::kEndProgram) NoteUnread(before);
   return outcome;
+}
+
+// Where the catalogue is sound, it is the file of titles that ends the program.
+void LibraryLists::NoteUnread(const ModGlob& folders) {
+  const std::string& chosen = m_state.options.main.cboLang;
+  ModGlob found = folders;
+  try {
+    ReadCatalogue(found, m_state.codePage);
+  } catch (const RunTimeError&) {
+    return;
+  }
+  try {
+    ReadBookTitles(found, chosen);
+    return;
+  } catch (const RunTimeError&) {
+    // What was told.
+  }
+  for (const ImportedText& text : found.BibleImports) {
+    if (text.IsThere() && EqualIgnoringCase(text.titles, chosen)) m_unread.text = text.name;
+  }
+  if (!m_unread.text.empty() || chosen != FindOption("cboLang")->defaultText)
+    m_unread.path = SysdefsFile(found, chosen);
 }
 
 // The choice of a person who had the form when its start had stopped stands, and so does the range of books.
@@ -122,20 +146,13 @@ Outcome LibraryLists::TakeImported(std::size_t place) {
   ChooseImported(glob, place);
   if (!wasImported && !glob.Imported.IsThere()) return Outcome::kDone;
   try {
-    PageEncoding encoding;
-    LoadPageEncoding(m_state.store, m_state.options, encoding, m_state.ui);
-    TakeEncodingOf(glob.Imported, m_state.store, encoding, m_state.ui);
-    m_state.texts.PageCharset = encoding.PageCharset;
-    m_state.texts.PageLanguage = encoding.PageLanguage;
-    m_state.codePage = CodePage(encoding.PageCharset);
+    UseEncoding(m_state, ReadEncoding(m_state));
   } catch (const RunTimeError&) {
     // The start has not come to the charset, and tells this when it does.
   }
   m_state.options.main.cboLang = BookTitlesFile(m_state.store, glob);
   m_controls.cboLang->SetText(ToQt(m_state.options.main.cboLang));
-  if (PopulateCombos(0, m_state.options.main.cboLang, glob, m_state.codePage, m_state.ui) == Outcome::kEndProgram) {
-    return Outcome::kEndProgram;
-  }
+  if (ReadLists(0) == Outcome::kEndProgram) return Outcome::kEndProgram;
   ShowBooks();
   TakeTranslation(place);
   return Outcome::kDone;
@@ -162,9 +179,7 @@ void LibraryLists::ShowNames() {
   const int end = m_controls.cboEndBook->currentIndex();
   ShowTranslations();
   // The titles of an imported translation are in the page's code page.
-  if (m_state.glob.Imported.IsThere()) {
-    PopulateCombos(0, m_state.options.main.cboLang, m_state.glob, m_state.codePage, m_state.ui);
-  }
+  if (m_state.glob.Imported.IsThere() && ReadLists(0) == Outcome::kEndProgram) return emit EndProgram();
   ShowBooks();
   m_controls.cboBibleName->setCurrentIndex(translation);
   m_controls.cboStartBook->setCurrentIndex(start);

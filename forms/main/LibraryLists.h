@@ -37,8 +37,13 @@ class LibraryLists : public QObject {
   // Shows the names again after the code page has changed.
   void ShowNames();
 
-  // The path of the Language File that a person has chosen and for which the program must end; empty for none.
-  const std::string& UnreadLanguageFile() const { return m_unreadLanguageFile; }
+  // A file of book titles for which the program must end, and every later start would: one that the person has chosen,
+  // or that an imported text brings.
+  struct UnreadTitles {
+    std::string path;  // empty for none
+    std::string text;  // the name of the imported text; empty for none
+  };
+  const UnreadTitles& Unread() const { return m_unread; }
 
   // The place in BibleNames of the selected translation; -1 for none.
   int SelectedTranslation() const;
@@ -63,11 +68,12 @@ class LibraryLists : public QObject {
   void TellUnknown(const QString& text, const std::string& choice) const;
   void TellUnread(int item) const;
   Outcome ReadLists(int which);
+  void NoteUnread(const ModGlob& folders);
 
   AppState& m_state;
   Ui::frmMain& m_controls;
   int m_chosen = -1;  // item of cboBibleName
-  std::string m_unreadLanguageFile;
+  UnreadTitles m_unread;
 };
 
 }  // namespace folionet

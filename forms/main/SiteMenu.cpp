@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "BuildInfo.h"
+#include "ImportedText.h"
 #include "OptionLoading.h"
 #include "QtText.h"
 #include "RunTimeError.h"
@@ -111,7 +112,7 @@ SiteChoices SiteMenu::ChoicesOf(const CompileRequest& request) const {
   SiteChoices choices;
   if (request.cboBibleName >= 0) {
     choices.translation =
-        m_state.codePage.Decode(m_state.glob.BibleFiles[static_cast<std::size_t>(request.cboBibleName)]);
+        ShownStem(m_state.glob.BibleFiles[static_cast<std::size_t>(request.cboBibleName)], m_state.codePage);
   }
   if (request.cboStartBook >= 0 && request.cboEndBook >= 0) {
     choices.books = std::to_string(request.cboStartBook + 1) + "-" + std::to_string(request.cboEndBook + 1);

@@ -1,6 +1,7 @@
 #include "StyleOptions.h"
 
 #include <new>
+#include <utility>
 
 #include "OptionLoading.h"
 #include "QtText.h"
@@ -16,9 +17,14 @@ StyleOptions::StyleOptions(AppState& state, Ui::frmMain& controls, QObject* pare
   connect(m_controls.cmdForeColour, &QPushButton::clicked, this,
           [this] { PickColour("ForeColor", &SampleText::ForeColor); });
   connect(m_controls.cmdFont, &QPushButton::clicked, this, &StyleOptions::PickFont);
-  connect(m_controls.optAlignLeft, &QRadioButton::clicked, this, [this] { SetAlignment("Left"); });
-  connect(m_controls.OptAlignCenter, &QRadioButton::clicked, this, [this] { SetAlignment("Center"); });
-  connect(m_controls.OptAlignJust, &QRadioButton::clicked, this, [this] { SetAlignment("Justify"); });
+  for (const auto& [option, word] : {std::pair{m_controls.optAlignLeft, "Left"},
+                                     {m_controls.OptAlignCenter, "Center"},
+                                     {m_controls.OptAlignJust, "Justify"}}) {
+    connect(option, &QRadioButton::clicked, this, [this, word = word] {
+      SetAlignment(word);
+      for (const char* key : {"alignmentLR", "Index_Alignment"}) MarkChosen(key, m_state.options);
+    });
+  }
 }
 
 void StyleOptions::LoadAlignment() {
@@ -58,12 +64,14 @@ void StyleOptions::PickColour(const char* key, Colour SampleText::*colour) {
 
 void StyleOptions::PickFont() {
   try {
-    const SampleText chosen = m_state.ui.ChooseFont(m_state.options.txtSample);
     SampleText& sample = m_state.options.txtSample;
-    sample.FontName = chosen.FontName;
-    sample.FontSize = chosen.FontSize;
-    sample.FontBold = chosen.FontBold;
-    sample.FontItalic = chosen.FontItalic;
+    const std::optional<SampleText> chosen = m_state.ui.ChooseFont(sample);
+    if (!chosen) return;
+    sample.FontName = chosen->FontName;
+    sample.FontSize = chosen->FontSize;
+    sample.FontBold = chosen->FontBold;
+    sample.FontItalic = chosen->FontItalic;
+    for (const char* key : {"Font", "FontSize", "FontBold", "FontItalic"}) MarkChosen(key, m_state.options);
     ShowSample();
   } catch (const RunTimeError& error) {
     m_state.ui.ShowErrorReport({Procedure::kSelectFont, error.Number(), ""});

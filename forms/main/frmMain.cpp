@@ -17,6 +17,7 @@
 #include "CommandCopy.h"
 #include "Compile.h"
 #include "DraggedPath.h"
+#include "EncodingInUse.h"
 #include "FactLines.h"
 #include "FolderPickers.h"
 #include "FormLooks.h"
@@ -94,7 +95,9 @@ void frmMain::ConnectOptions() {
             [&](SettingsStore& store) { SaveOption(store, "chkUseNames", m_state.options); });
   });
   connect(m_ui->chkUse83, &QCheckBox::toggled, this, [&options](bool on) { options.chkUse83 = on; });
+  connect(m_ui->chkUse83, &QCheckBox::clicked, this, [&options] { MarkChosen("Use83", options); });
   connect(m_ui->chkDoubleSpace, &QCheckBox::toggled, this, [&options](bool on) { options.chkDoubleSpace = on; });
+  connect(m_ui->chkDoubleSpace, &QCheckBox::clicked, this, [&options] { MarkChosen("chkDoubleSpace", options); });
   connect(m_ui->txthttpRoot, &QLineEdit::textChanged, this, [&options](const QString& text) {
     // An empty box stands for its initial text: nothing has been entered.
     options.txthttpRoot = text.isEmpty() ? PageOptions().txthttpRoot : FromQt(text);
@@ -290,18 +293,26 @@ void frmMain::RestoreAll() {
   if (m_state.ui.AskYesNo("Restore Factory Settings", "Rerurn all settings to default?\r\nAre you sure???")) Restore();
 }
 
-// For a program that must end: when it is a Language File of the person's choice that cannot be read, every later start
-// would end for it too.
+// For a program that must end, and every later start would: tells the way out, and takes it where it is to restore.
 void frmMain::OfferRestore() {
-  const std::string& file = m_lists->UnreadLanguageFile();
-  if (file.empty()) return;
+  const LibraryLists::UnreadTitles& unread = m_lists->Unread();
+  if (unread.path.empty()) return;
+  const QString file = ToQt(unread.path);
+  const QString settings = ToQt(m_state.store.FileOf("cboLang"));
+  if (!unread.text.empty()) {
+    const QString text =
+        tr("The book titles cannot be read from %1, which the imported text %2 brings.\n"
+           "To import that text again in its place, by folionet-cli import --replace, or to name another file of that "
+           "folder for cboLang in %3 lets the program start again.");
+    const QString lines = text.arg(file, ToQt(unread.text), settings);
+    m_state.ui.ShowMessage({MessageIcon::kWarning, "Language File", FromQtLines(lines)});
+    return;
+  }
   const QString text =
       tr("The book titles cannot be read from %1, the Language File that is chosen.\n"
          "Restore ALL Defaults, or another name for cboLang in %2, lets the program start again.\n"
          "Return all settings to default now?");
-  const std::string lines = FromQt(
-      text.arg(ToQt(file), ToQt(m_state.store.FileOf("cboLang"))).replace(QLatin1String("\n"), QLatin1String("\r\n")));
-  if (m_state.ui.AskYesNo("Language File", lines)) Restore();
+  if (m_state.ui.AskYesNo("Language File", FromQtLines(text.arg(file, settings)))) Restore();
 }
 
 void frmMain::Restore() {
@@ -317,7 +328,7 @@ void frmMain::Restore() {
   }
   m_state.options.txtSample = PageOptions().txtSample;
   m_style->ShowSample();
-  ReadEncoding();
+  UseEncoding(m_state, ReadEncoding(m_state));
   m_state.ui.ShowMessage({MessageIcon::kInformation, std::string("Restart ") + kApplicationTitle,
                           std::string("Please restart ") + kApplicationTitle + " to complete."});
   End();

@@ -75,7 +75,6 @@ class frmMain : public QMainWindow {
   bool TakeSteps();
   bool IsStarted();
   bool TellAndGoOn();
-  void ReadEncoding();
   void updateCheck();
   void CSSCheck();
   void Compile();

@@ -2,6 +2,7 @@
 
 #include "BuildInfo.h"
 #include "ChapterIndex.h"
+#include "EncodingInUse.h"
 #include "FactLines.h"
 #include "FolderPickers.h"
 #include "LibraryLists.h"
@@ -131,7 +132,7 @@ std::vector<std::function<bool()>> frmMain::StartSteps() {
       plain([this] { m_style->GetDefaults(); }),
       plain([this] {
         if (HasEncoding(m_state.texts)) return;
-        ReadEncoding();
+        UseEncoding(m_state, ReadEncoding(m_state));
         if (m_state.glob.Imported.IsThere()) m_lists->ShowNames();
       }),
       plain([this] { m_dialogs.Load<frmLinkToMAin>(); }),
@@ -142,15 +143,6 @@ std::vector<std::function<bool()>> frmMain::StartSteps() {
         m_style->EnableDisableOptions();
       }),
   };
-}
-
-void frmMain::ReadEncoding() {
-  PageEncoding encoding;
-  LoadPageEncoding(m_state.store, m_state.options, encoding, m_state.ui);
-  TakeEncodingOf(m_state.glob.Imported, m_state.store, encoding, m_state.ui);
-  m_state.texts.PageCharset = encoding.PageCharset;
-  m_state.texts.PageLanguage = encoding.PageLanguage;
-  m_state.codePage = CodePage(encoding.PageCharset);
 }
 
 }  // namespace folionet

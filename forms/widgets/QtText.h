@@ -30,6 +30,10 @@ inline QString ToQtLines(std::string_view utf8) {
   return ToQt(utf8).replace(QLatin1String("\r\n"), QLatin1String("\n"));
 }
 
+inline std::string FromQtLines(QString text) {
+  return FromQt(text.replace(QLatin1String("\n"), QLatin1String("\r\n")));
+}
+
 inline QColor ToQt(Colour colour) { return {colour & 0xFF, (colour >> 8) & 0xFF, (colour >> 16) & 0xFF}; }
 
 inline Colour FromQt(const QColor& colour) { return colour.red() + 256 * colour.green() + 65536 * colour.blue(); }

@@ -138,6 +138,7 @@ void FormTest::Give(const std::string& name, const std::string& text) {
   if (list == nullptr) {
     m_ui.texts = {text};
     m_ui.colours = {ToQt(text).toInt()};
+    if (name == "cmdFont" && m_ui.fonts.empty()) m_ui.fonts = {{"Verdana", ToQt(text).toDouble(), false, false, 0, 0}};
     Click(name);
     m_ui.texts.clear();
     m_ui.colours.clear();

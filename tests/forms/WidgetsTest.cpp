@@ -209,10 +209,12 @@ TEST(FormUiTest, TheFontChooserOffersOnlyWhatAPageTakes) {
       box.setCurrentFont(font);
       isAccepted ? box.accept() : box.reject();
     });
-    const SampleText chosen = ui.ChooseFont({"No Such Font", 12, true, false, 0, 0});
-    EXPECT_EQ(chosen.FontName, "No Such Font");
-    EXPECT_EQ(chosen.FontSize, isAccepted ? 20 : 12);
-    EXPECT_TRUE(chosen.FontBold);
+    const auto chosen = ui.ChooseFont({"No Such Font", 12, true, false, 0, 0});
+    ASSERT_EQ(chosen.has_value(), isAccepted);
+    if (!chosen) continue;
+    EXPECT_EQ(chosen->FontName, "No Such Font");
+    EXPECT_EQ(chosen->FontSize, 20);
+    EXPECT_TRUE(chosen->FontBold);
   }
 }
 
@@ -227,7 +229,7 @@ TEST(FormUiTest, AFontThatIsNotTouchedStays) {
   for (const QString& name : names) {
     for (const auto& [isBold, isItalic] : {std::pair{false, false}, {false, true}, {true, false}, {true, true}}) {
       WhenShown<QFontDialog>([](QFontDialog& box) { box.accept(); });
-      const SampleText chosen = ui.ChooseFont({FromQt(name), 10.5, isBold, isItalic, 0, 0});
+      const SampleText chosen = ui.ChooseFont({FromQt(name), 10.5, isBold, isItalic, 0, 0}).value();
       EXPECT_EQ(chosen.FontName, FromQt(name));
       EXPECT_EQ(chosen.FontSize, 10.5) << chosen.FontName;
       EXPECT_EQ(chosen.FontBold, isBold) << chosen.FontName;
@@ -253,7 +255,7 @@ TEST(FormUiTest, AStandInIsTakenOnceAFontWasChosen) {
     box.setCurrentFont(shown);
     box.accept();
   });
-  EXPECT_EQ(ui.ChooseFont({"No Such Font", 12, false, false, 0, 0}).FontName, standIn);
+  EXPECT_EQ(ui.ChooseFont({"No Such Font", 12, false, false, 0, 0}).value().FontName, standIn);
 }
 
 TEST(FormUiTest, TheReportCanBeCopiedWhole) {

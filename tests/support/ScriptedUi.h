@@ -37,7 +37,10 @@ class ScriptedUi : public UserInterface {
     Offer(initial, std::to_string(initial));
     return colours.empty() ? std::nullopt : std::optional(Take(colours, initial));
   }
-  SampleText ChooseFont(const SampleText& initial) override { return Take(fonts, Offer(initial, initial.FontName)); }
+  std::optional<SampleText> ChooseFont(const SampleText& initial) override {
+    Offer(initial, initial.FontName);
+    return fonts.empty() ? std::nullopt : std::optional(Take(fonts, initial));
+  }
   std::string ChooseFile(const std::string& filter, const std::string& previous) override {
     return Take(texts, Offer(previous, filter));
   }

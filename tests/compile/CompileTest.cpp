@@ -2,13 +2,11 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <functional>
 
 #include "FolderFacts.h"
 #include "SiteChanges.h"
 #include "Sitemap.h"
 #include "TemporaryFolder.h"
-#include "Validation.h"
 
 // What runs of the command line do not reach; those are in tests/runs.
 
@@ -16,30 +14,6 @@ namespace folionet {
 namespace {
 
 using Texts = std::vector<std::string>;
-
-// The order is that of the form, and each refusal puts the focus where it can be mended; runs show the words.
-TEST(ValidationTest, RefusesInTheFormsOrder) {
-  const struct {
-    std::function<void(CompileRequest&)> mend;
-    const char* title;
-    const char* control;
-  } steps[] = {{[](auto&) {}, "No Path", "Dir1"},
-               {[](auto& r) { r.txtOutputPath = "/out/"; }, "No Bible", "cboBibleName"},
-               {[](auto& r) { r.options.txtBibleSel = "KJV"; }, "No HTTP Root", "txthttpRoot"},
-               {[](auto& r) { r.options.txthttpRoot = "index.htm"; }, "Language not selected", "cboLang"},
-               {[](auto& r) { r.cboLang = "BOOKS.TXT"; }, "Not a valid long file extension", "txthttpRoot"},
-               {[](auto& r) { r.options.chkUse83 = true, r.options.txthttpRoot = "x.html"; }, "8.3 filename error",
-                "txthttpRoot"}};
-  CompileRequest request;
-  request.cboLang = "Default";
-  for (const auto& step : steps) {
-    step.mend(request);
-    const auto refusal = Validate(request);
-    ASSERT_TRUE(refusal) << step.title;
-    EXPECT_EQ(refusal->message.title, step.title);
-    EXPECT_EQ(refusal->control, step.control);
-  }
-}
 
 TEST(SiteChangesTest, TellsEachFileOnceAsItWasBeforeTheRun) {
   SiteChanges changes;

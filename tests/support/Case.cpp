@@ -19,7 +19,7 @@ namespace {
 namespace fs = std::filesystem;
 
 // An error report on one line: its layout is the same each time, so that its label, its number with the text and what
-// it is about say all. So is the warning that asks for Versalia's folders.
+// it is about say all. "FOLDERS" behind it are the words around it that ask for Versalia's folders.
 std::string WithShortReports(std::string text) {
   const std::string begin =
       "An Error has occured.\nTitle        : Folionet\nApp Path     : @bin\nSoftware Ver : " FOLIONET_VERSION
@@ -40,17 +40,21 @@ std::string WithShortReports(std::string text) {
     const std::size_t next = from + report.size();
     if (text.compare(next, 2, "\n\n") == 0) text.replace(next, 2, " => ");
   }
-  Replace(text,
-          "Path and/or file not found: This error has probably occured because you have an older version of Versalia\n"
-          "or because Versalia is not correctly installed.\n"
-          "Folionet will attempt to gather the correct information manually\n"
-          "You will need to enter the values for the following:\n1. The Versalia Path\n2. The Versalia Module Path\n",
-          "ASKS FOR THE FOLDERS\n");
-  Replace(text,
-          "Give Versalia's folders with --versalia-path FOLDER, which holds Sysdefs and Index, and --module-path "
-          "FOLDER, which holds Bible, or other book titles with --language-file NAME; \"folionet-cli check\" names "
-          "what is wrong.\n\n",
-          "SAYS HOW TO GIVE THE FOLDERS\n");
+  const std::string saysHow =
+      "Give Versalia's folders with --versalia-path FOLDER, which holds Sysdefs and Index, and --module-path FOLDER, "
+      "which holds Bible, or other book titles with --language-file NAME; \"folionet-cli check\" names what is "
+      "wrong.\n\n";
+  const std::string asks =
+      "\nPath and/or file not found: This error has probably occured because you have an older version of Versalia\n"
+      "or because Versalia is not correctly installed.\n"
+      "Folionet will attempt to gather the correct information manually\n"
+      "You will need to enter the values for the following:\n1. The Versalia Path\n2. The Versalia Module Path\n";
+  const std::size_t how = text.find(saysHow);
+  const std::size_t asked = text.find(asks);
+  if (how != std::string::npos && asked != std::string::npos) {
+    text.replace(asked, asks.size(), " => FOLDERS\n");
+    text.erase(how, saysHow.size());
+  }
   return text;
 }
 

@@ -104,6 +104,13 @@ class FormRuns : public FormTest {
     return lines;
   }
 
+  // One box comes of it.
+  void ClickFor(const std::string& name, const std::string& box) {
+    Click(name);
+    EXPECT_EQ(Lines(m_ui.log.begin() + static_cast<std::ptrdiff_t>(m_seen), m_ui.log.end()), Lines{box});
+    m_seen = m_ui.log.size();
+  }
+
   void Press(QWidget& control, const std::string& name) const {
     QApplication::setActiveWindow(control.window());
     control.setFocus();
@@ -162,6 +169,12 @@ const std::map<std::string, FormRuns::Act>& FormRuns::Actions() {
          EXPECT_EQ(t.Start(), l.name.empty()) << "\"start fails\" is a start that must not go on";
        }},
       {"click", Each([](Test& t, const std::string& n) { t.Click(n); })},
+      {"compiles", [](Test& t, const Line&) { t.ClickFor("cmdCompile", "Compilation Complete Folionet"); }},
+      {"exits",  // with everything saved
+       [](Test& t, const Line&) {
+         t.m_ui.yesNo.push_back(true);
+         t.ClickFor("cmdClose", "Confirm Exit?");
+       }},
       {"give", [](Test& t, const Line& l) { t.Give(l.name, l.text); }},
       {"press", [](Test& t, const Line& l) { Key(t.Get(l.name), QEvent::KeyPress, Qt::Key_Return); }},
       {"keys",  // one after the other, in what has the focus

@@ -3,6 +3,7 @@
 #include <QDialog>
 #include <QFocusEvent>
 #include <QMenu>
+#include <QScreen>
 #include <QTest>
 #include <QTimer>
 #include <QToolButton>
@@ -176,9 +177,11 @@ TEST_F(MainForm, RemembersAddressesFoldersAndPlaces) {
   m_form->resize(1, 500);
   const QSize size = m_form->size();
   EXPECT_EQ(size.height(), 500);
+  m_form->move(0, m_form->screen()->size().height() - 50);
   Exit();
   ASSERT_TRUE(Start());
   EXPECT_EQ(m_form->size(), size);
+  EXPECT_LE(m_form->geometry().bottom(), m_form->screen()->size().height()) << "all of it can be seen";
   EXPECT_EQ(m_form->focusWidget(), &Get("txthttpRoot")) << "the folder is as it was";
   auto& address = Get("txthttpRoot");
   std::string walked;

@@ -27,6 +27,7 @@
 //   click cmdEffects chkBack              one or more controls, named as in FormTest.h
 //   give frmEffects.cmdActive 255         types, picks or chooses
 //   answer yes                            to the question to come
+//   compiles                              with success; "exits" with everything saved
 //   > Confirm Exit?: All settings ...     a box that came: title or report, and text
 //   panels                                the texts of a run in the status bar
 //   shows =BodyLinkTag <body ...          a control's text; after "=", a text that the pages are made with

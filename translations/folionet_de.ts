@@ -1001,6 +1001,10 @@ To import that text again in its place, by folionet-cli import --replace, or to 
         <translation>Die Buchtitel lassen sich nicht aus %1 lesen, das der importierte Text %2 mitbringt.
 Diesen Text mit folionet-cli import --replace noch einmal zu importieren oder für cboLang in %3 eine andere Datei jenes Ordners zu nennen lässt das Programm wieder starten.</translation>
     </message>
+    <message>
+        <source>The address of the sitemap, &quot;%1&quot;, is none of a folder such as https://example.org/bible/.</source>
+        <translation>Die Adresse der Sitemap, &quot;%1&quot;, ist nicht die eines Ordners wie https://example.org/bible/.</translation>
+    </message>
 </context>
 <context>
     <name>folionet::frmPAgeTitles</name>

@@ -1001,6 +1001,10 @@ To import that text again in its place, by folionet-cli import --replace, or to 
         <translation>No se pueden leer los títulos de los libros de %1, que trae el texto importado %2.
 Importar ese texto otra vez en su lugar, con folionet-cli import --replace, o nombrar otro archivo de esa carpeta para cboLang en %3 deja que el programa arranque de nuevo.</translation>
     </message>
+    <message>
+        <source>The address of the sitemap, &quot;%1&quot;, is none of a folder such as https://example.org/bible/.</source>
+        <translation>La dirección del mapa del sitio, &quot;%1&quot;, no es la de una carpeta como https://example.org/bible/.</translation>
+    </message>
 </context>
 <context>
     <name>folionet::frmPAgeTitles</name>

@@ -1,10 +1,13 @@
 #include "MainCompile.h"
 
+#include <QCoreApplication>
+
 #include "FolderPickers.h"
 #include "LibraryLists.h"
 #include "PageNames.h"
 #include "QtText.h"
 #include "SiteFile.h"
+#include "Sitemap.h"
 #include "ui_frmMain.h"
 
 namespace folionet {
@@ -24,6 +27,17 @@ CompileRequest GatherRequest(const AppState& state, const Ui::frmMain& controls,
   request.sitemapAddress = site.sitemap;
   request.onlyChosen = site.onlyChosen;
   return request;
+}
+
+bool RefusesSitemap(const CompileRequest& request, const AppState& state) {
+  const std::string& address = request.sitemapAddress;
+  if (address.empty() || (IsPublicAddress(address) && !NamesAPage(address))) return false;
+  const QString text = QCoreApplication::translate(
+      "folionet::frmMain",
+      "The address of the sitemap, \"%1\", is none of a folder such as https://example.org/bible/.");
+  state.ui.ShowMessage(
+      {MessageIcon::kWarning, "Sitemap", FromQt(text.arg(ToQt(address))) + "\r\n" + state.store.SitePath()});
+  return true;
 }
 
 std::string IndexPagePath(const CompileRequest& request) {

@@ -169,6 +169,7 @@ void frmMain::CSSCheck() {
 void frmMain::Compile() {
   if (!TellAndGoOn()) return;
   CompileRequest request = Gather();
+  if (RefusesSitemap(request, m_state)) return;
   SiteChanges changes;
   request.changes = &changes;
   request.stateFolder = UserStateFolder();

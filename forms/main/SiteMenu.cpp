@@ -3,7 +3,7 @@
 #include <QAction>
 #include <QDir>
 #include <QFileInfo>
-#include <QToolButton>
+#include <QPushButton>
 #include <utility>
 
 #include "BuildInfo.h"
@@ -21,7 +21,7 @@ QString Shown(QString text) { return text.replace(QLatin1Char('&'), QStringLiter
 
 }  // namespace
 
-SiteMenu::SiteMenu(AppState& state, QToolButton& button, FormMemory& memory, Gather gather)
+SiteMenu::SiteMenu(AppState& state, QPushButton& button, FormMemory& memory, Gather gather)
     : QObject(&button), m_state(state), m_button(button), m_memory(memory), m_gather(std::move(gather)) {
   const auto action = [this](const char* name, const QString& text, void (SiteMenu::*act)()) {
     auto* made = new QAction(text, this);

@@ -12,7 +12,7 @@
 #include "Sentence.h"
 #include "SiteFile.h"
 
-class QToolButton;
+class QPushButton;
 
 namespace folionet {
 
@@ -24,7 +24,7 @@ class SiteMenu : public QObject {
  public:
   // `gather` gives what would be compiled now; nothing when that cannot be told, which it has said.
   using Gather = std::function<std::optional<CompileRequest>()>;
-  SiteMenu(AppState& state, QToolButton& button, FormMemory& memory, Gather gather);
+  SiteMenu(AppState& state, QPushButton& button, FormMemory& memory, Gather gather);
 
   // Whether all that the form holds was saved in the site that is open, or in the person's own settings. A failure is
   // told.
@@ -51,7 +51,7 @@ class SiteMenu : public QObject {
   SiteChoices ChoicesOf(const CompileRequest& request) const;
 
   AppState& m_state;
-  QToolButton& m_button;
+  QPushButton& m_button;
   FormMemory& m_memory;
   Gather m_gather;
   QMenu m_menu;

@@ -3,10 +3,10 @@
 #include <QDialog>
 #include <QFocusEvent>
 #include <QMenu>
+#include <QPushButton>
 #include <QScreen>
 #include <QTest>
 #include <QTimer>
-#include <QToolButton>
 #include <algorithm>
 #include <ctime>
 
@@ -202,7 +202,7 @@ TEST_F(MainForm, RemembersAddressesFoldersAndPlaces) {
   menu->close();
   m_ui.texts = {m_home.Path() + "a&b.folionet"};
   m_form->findChild<QAction*>("actSaveSite")->trigger();
-  QMenu* sites = Get<QToolButton>("cmdSite").menu();
+  QMenu* sites = Get<QPushButton>("cmdSite").menu();
   emit sites->aboutToShow();
   EXPECT_EQ(FromQt(sites->actions()[0]->text()), "a&&b \u2014 " + m_home.Path().substr(0, m_home.Path().size() - 1));
   EXPECT_TRUE(sites->actions()[0]->isChecked());

@@ -28,8 +28,8 @@ namespace {
 
 class Texts : public FormTest {};
 
-// Buttons without a key of their own.
-const QStringList kKeyless{"cmdRestoreAll", "cmdBrowse", "cmdHelp", "cmdClose"};
+// Buttons without a key of their own; that of sites bears the name of one.
+const QStringList kKeyless{"cmdRestoreAll", "cmdBrowse", "cmdHelp", "cmdClose", "cmdSite"};
 
 // What a person reads, letter for letter; slips in it are meant. A line of the file is control, property and text, with
 // "\n" for a line break, "\\" for a backslash and no "&" of mnemonics; "items" stands for the entries of a list.

@@ -1,6 +1,7 @@
 #include "CatalogueCheck.h"
 
 #include <algorithm>
+#include <optional>
 
 #include "Catalogue.h"
 #include "ImportedText.h"
@@ -31,14 +32,27 @@ bool CheckVerseFile(const RecordReader& records, const std::string& name, const 
   return false;
 }
 
+// What stands beside the text of a record where that was imported; nothing, and a finding, where it cannot be read.
+std::optional<ImportedText> CheckImported(const RecordReader& records, const std::string& name, const std::string& text,
+                                          CheckedLibrary& library) {
+  try {
+    return ReadImportedText(text).value_or(ImportedText());
+  } catch (const RunTimeError& error) {
+    library.Add("unreadable", records.Lines().Path(), records.Lines().LineNumber(),
+                {"The text of %1 cannot be read: %2: %3", {Quoted(name), error.Item(), error.Detail()}});
+    return std::nullopt;
+  }
+}
+
 void CheckRecord(const RecordReader& records, const CatalogueRecord& record, CheckedLibrary& library) {
   ModGlob& glob = library.glob;
   const std::string& path = records.Lines().Path();
   const std::size_t line = records.Lines().LineNumber();
   const std::string text = record.isListed ? VerseFile(glob, library.codePage, record.stem) : std::string();
-  const ImportedText imported = record.isListed ? ReadImportedText(text).value_or(ImportedText()) : ImportedText();
+  const auto imported = record.isListed ? CheckImported(records, record.name, text, library) : ImportedText();
+  if (!imported) return;
   // The name of an imported translation is in UTF-8 where windows-1252 lacks its characters.
-  if (!imported.IsThere()) library.CheckBytes(path, line, record.name);
+  if (!imported->IsThere()) library.CheckBytes(path, line, record.name);
   library.CheckBytes(path, line, record.stem);
   if (!record.isListed) return;
   if (!CheckVerseFile(records, record.name, text, library)) return;
@@ -49,7 +63,7 @@ void CheckRecord(const RecordReader& records, const CatalogueRecord& record, Che
   library.CheckLetterCase(text, glob.ModulesPath + "Bible/" + library.codePage.Decode(record.stem) + ".TXT");
   glob.BibleNames.push_back(record.name);
   glob.BibleFiles.push_back(record.stem);
-  glob.BibleImports.push_back(imported);
+  glob.BibleImports.push_back(*imported);
 }
 
 }  // namespace

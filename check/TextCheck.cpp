@@ -158,8 +158,9 @@ void CheckText(CheckedLibrary& library, const TranslationFiles& files) {
   } else {
     library.CheckLetterCase(files.index, files.properIndex);
   }
-  library.glob.Imported = ReadImportedText(files.text).value_or(ImportedText());
+  library.glob.Imported = {};
   try {
+    library.glob.Imported = ReadImportedText(files.text).value_or(ImportedText());
     TextReader text(files.text, library);
     const ChapterTable index = hasIndex ? CheckIndex(files.index, library) : ChapterTable();
     const ChapterTable chapters = text.ReadAll();

@@ -23,7 +23,10 @@ constexpr char kCtrlZ = 0x1A;  // older programs end a text file with it
 
 LineReader::LineReader(const std::string& path, Subject subject, std::size_t longest)
     // A pipe in the place of a file must not block the opening.
-    : m_path(path), m_longest(longest), m_file(FileHandle::Open(path.c_str(), O_RDONLY | O_NONBLOCK)) {
+    : m_path(path),
+      m_subject(subject),
+      m_longest(longest),
+      m_file(FileHandle::Open(path.c_str(), O_RDONLY | O_NONBLOCK)) {
   if (!m_file.IsOpen()) throw RunTimeError::FromErrno(errno, path).About(subject);
   struct stat status {};
   if (fstat(m_file.Get(), &status) != 0) throw RunTimeError::FromErrno(errno, path).About(subject);

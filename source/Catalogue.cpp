@@ -110,7 +110,13 @@ void ReadCatalogue(ModGlob& glob, const CodePage& codePage) {
       if (listed == 1) glob.firstText = text;
       continue;
     }
-    glob.BibleImports[counter] = ReadImportedText(text).value_or(ImportedText());
+    try {
+      glob.BibleImports[counter] = ReadImportedText(text).value_or(ImportedText());
+    } catch (const RunTimeError&) {
+      glob.unreadableTexts.push_back(ImportedTextFile(text));
+      if (listed == 1) glob.firstText = text;
+      continue;
+    }
     ++counter;
     glob.BibleNames.resize(counter + 1);
     glob.BibleFiles.resize(counter + 1);

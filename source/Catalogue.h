@@ -34,9 +34,9 @@ inline constexpr int kMostListed = 10000;
 
 // Reads the catalogue into BibleNames and BibleFiles and appends them to cboBibleName and cboBibleFile. Only records
 // that are listed are considered, of which there may be 10,000; one whose stem is no file name is passed over, a
-// translation whose text file is missing is left out, one whose text is there and cannot be read is left out and noted
-// in unreadableTexts. Both arrays keep one spare element at their end. Throws RunTimeError; cboBibleName is then
-// unchanged.
+// translation whose text file is missing is left out, one whose text, or the file beside it of an imported one, is
+// there and cannot be read is left out and noted in unreadableTexts. Both arrays keep one spare element at their end.
+// Throws RunTimeError; cboBibleName is then unchanged.
 void ReadCatalogue(ModGlob& glob, const CodePage& codePage);
 
 // Fills the lists of the form: when `which` is not 0 the catalogue, and always the book lists from the book-title file

@@ -41,18 +41,24 @@ void ShowNames(const std::vector<std::string>& pages, const char* kind, ConsoleU
   }
 }
 
-ExitStatus RemoveStale(const std::string& folder, const SiteReport& report, ConsoleUi& ui) {
+// Lists or removes the pages that nothing leads to, where that is certain.
+ExitStatus TellStale(const VerifyArguments& arguments, const SiteReport& report, ConsoleUi& ui) {
   if (!report.isStaleCertain && !report.stale.empty()) {
     for (const Finding& finding : report.findings) {
       if (finding.kind != std::string_view("unreached")) ui.Warn(finding);
     }
-    ui.Tell("Nothing was removed: what the index leads to is not certain.");
+    ui.Tell(std::string("Nothing was ") + (arguments.removeStale ? "removed" : "listed") +
+            ": what the index leads to is not certain.");
     return kExitRefused;
   }
-  const RemovedPages pages = RemovePages(folder, report.stale);
+  if (!arguments.removeStale) {
+    ShowNames(report.stale, "stale", ui);
+    return ui.Done();
+  }
+  const RemovedPages pages = RemovePages(arguments.folder, report.stale);
   ShowNames(pages.removed, "removed", ui);
   for (const Finding& finding : pages.kept) ui.Warn(finding);
-  return pages.kept.empty() ? kExitDone : kExitFailed;
+  return pages.kept.empty() ? ui.Done() : kExitFailed;
 }
 
 // Ends the command when there is no such index page in a folder.
@@ -97,11 +103,7 @@ ExitStatus RunVerify(const VerifyArguments& arguments, ConsoleUi& ui) {
     SiteRequest request{folder, indexName.empty() ? FoundIndex(folder) : indexName};
     request.words = {"--set Charset=...", "--set Use83=1", " (verify --remove-stale)"};
     const SiteReport report = VerifySite(request);
-    if (arguments.removeStale) return RemoveStale(folder, report, ui);
-    if (arguments.stale) {
-      ShowNames(report.stale, "stale", ui);
-      return kExitDone;
-    }
+    if (arguments.stale || arguments.removeStale) return TellStale(arguments, report, ui);
     ShowReport(report, ui);
     return report.isSound ? ui.Done() : kExitRefused;
   } catch (const RunTimeError& error) {

@@ -41,8 +41,10 @@ ChangeJournal::ChangeJournal(const std::string& stateFolder, const std::string& 
   std::string text;
   try {
     text = ReadIfThere(m_path, kLongest).value_or("");
-  } catch (const RunTimeError&) {
-    return;  // a journal that cannot be read is told by what it was for: nothing is pending
+  } catch (const RunTimeError& error) {
+    m_trouble = error.what();
+    m_knowsPending = false;
+    return;
   }
   // A line without an end was on its way when the program was killed, before its file was changed.
   m_whole = text.rfind('\n') + 1;

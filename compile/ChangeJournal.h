@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstddef>
-#include <cstdint>
 #include <string>
 #include <unordered_map>
 #include <vector>
@@ -24,6 +23,9 @@ class ChangeJournal : public ChangeWatch {
   void CouldNotClose(const std::string& name) override;
   bool IsDoubtful(const std::string& name) const override;
 
+  // False when what earlier runs left could not be read: it stays as it is, and nothing is added.
+  bool KnowsPending() const { return m_knowsPending; }
+
   // What earlier runs left, in the order of the changes.
   const std::vector<std::string>& Pending() const { return m_pending; }
 
@@ -36,11 +38,12 @@ class ChangeJournal : public ChangeWatch {
  private:
   void Add(const std::string& line);
 
-  std::string m_path;              // empty when nothing is kept
-  std::size_t m_whole = SIZE_MAX;  // bytes of the journal before its last line's end
+  std::string m_path;       // empty when nothing is kept
+  std::size_t m_whole = 0;  // bytes of the journal before its last line's end
   std::vector<std::string> m_pending;
   std::unordered_map<std::string, bool> m_doubtful;  // of each name that the journal holds
   JournalFile m_file;
+  bool m_knowsPending = true;
   std::string m_trouble;
 };
 

@@ -55,7 +55,7 @@ void OpenOutputFolder(const CompileRequest& request, RunFolder& folder) {
 
 void EndRun(const CompileRequest& request, RunFolder& folder) {
   if (folder.journal && request.changes != nullptr) {
-    request.changes->knowsPending = true;
+    request.changes->knowsPending = folder.journal->KnowsPending();
     request.changes->trouble = folder.journal->Trouble();
     for (const std::string& name : folder.journal->Pending()) {
       if (!request.changes->IsTold(name) && folder.site.Has(name)) request.changes->pending.push_back(name);

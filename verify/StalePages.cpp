@@ -1,6 +1,5 @@
 #include "StalePages.h"
 
-#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -8,6 +7,7 @@
 #include <cerrno>
 
 #include "FileHandle.h"
+#include "FileLock.h"
 #include "GeneratorLine.h"
 #include "Paths.h"
 #include "RunTimeError.h"
@@ -51,8 +51,9 @@ RemovedPages RemovePages(const std::string& folder, const std::vector<std::strin
   const std::string path = NativePath(folder);
   const FileHandle top = FileHandle::Open(path.c_str(), O_RDONLY | O_DIRECTORY);
   if (!top.IsOpen()) throw RunTimeError::FromErrno(errno, path);
-  if (flock(top.Get(), LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK) {
-    throw RunTimeError(kPermissionDenied, path, "Another compile is writing into this folder. Wait for it to end.");
+  if (!LockFile(top.Get(), std::chrono::milliseconds(0))) {
+    throw RunTimeError(kPermissionDenied, path,
+                       LockHolder(top.Get()) + " is writing into this folder. Wait for that to end.");
   }
   RemovedPages result;
   for (const std::string& page : pages) {

@@ -72,7 +72,7 @@ class CompileRun {
     const auto [base, extension] = SplitIndexAddress(m_options.txthttpRoot, m_options.chkUse83);
     m_context.IndexBaseName = base;
     m_context.IndexExtension = extension;
-    m_indexFileName = IndexFileName(m_codePage.Decode(base + "." + extension));
+    m_indexFileName = IndexFileName(m_codePage.Decode(m_context.IndexBaseName + "." + m_context.IndexExtension));
     if (m_options.chkUseNames) {
       for (std::size_t book = 1; book <= kBooks; ++book) m_labels[book] = m_codePage.ToUpper(m_glob.BookCodes[book]);
     }

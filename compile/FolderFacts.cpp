@@ -8,6 +8,7 @@
 #include <memory>
 #include <string_view>
 
+#include "ChapterIndex.h"
 #include "FileHandle.h"
 #include "GeneratorLine.h"
 #include "PageNames.h"
@@ -109,9 +110,11 @@ std::optional<FolderFacts> LookIntoFolder(const std::string& folder, const std::
 std::set<std::string> FilesOfSite(const CompileRequest& request, const ModGlob& glob, const CodePage& codePage) {
   const PageNames names(glob.cboStartBook, request.options.chkUse83, codePage);
   std::set<std::string> files{IndexFileName(request.options.txthttpRoot)};
+  const ChapterCounts chapters = CountChapters(glob);
   for (int book = 1; book <= static_cast<int>(glob.cboStartBook.size()); ++book) {
-    const int chapters = glob.ChaptersInBook[static_cast<std::size_t>(book)];
-    for (int chapter = 1; chapter <= chapters; ++chapter) files.insert(names.OnDisk(book, chapter));
+    for (int chapter = 1; chapter <= chapters[static_cast<std::size_t>(book)]; ++chapter) {
+      if (HasChapter(glob, book, chapter)) files.insert(names.OnDisk(book, chapter));
+    }
   }
   if (request.options.chkCSS) files.insert("default.css");
   if (!request.sitemapAddress.empty()) files.insert("sitemap.xml");

@@ -1,7 +1,6 @@
 #include "RunFacts.h"
 
 #include <algorithm>
-#include <array>
 #include <iterator>
 #include <map>
 #include <set>
@@ -9,6 +8,7 @@
 #include <unordered_set>
 #include <utility>
 
+#include "ChapterIndex.h"
 #include "CodePage.h"
 #include "FileHandle.h"
 #include "FolderFacts.h"
@@ -21,24 +21,6 @@
 
 namespace folionet {
 namespace {
-
-using ChapterCounts = std::array<int, kBooks + 1>;
-
-// As BooksInChapters counts them: books are numbered by order of appearance.
-ChapterCounts CountChapters(const ModGlob& glob) {
-  ChapterCounts counts{};
-  if (glob.Imported.IsThere()) {
-    std::copy(glob.ChaptersInBook.begin(), glob.ChaptersInBook.end(), counts.begin());
-    return counts;
-  }
-  std::size_t book = 0;
-  for (std::size_t i = 0; i + 1 < glob.ChapterIndex.size(); ++i) {
-    if (i == 0 || glob.ChapterIndex[i].Book != glob.ChapterIndex[i - 1].Book) ++book;
-    if (book > kBooks) break;
-    ++counts[book];
-  }
-  return counts;
-}
 
 bool IsPageOfOurs(const std::string& path) {
   const FileHandle file = FileHandle::Open(path.c_str(), O_RDONLY | O_NONBLOCK);

@@ -29,7 +29,6 @@ class BibleBuilder {
   // What the text tells of itself; the first that tells it wins.
   void SetName(std::string_view name);
   void SetLanguage(std::string_view code);
-  bool HasName() const { return !m_bible.name.empty(); }
 
   // A book begins, by a code or name, or by its number from 1. One that is none of the 66 is left out, with all that
   // follows up to the next book.

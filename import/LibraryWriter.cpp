@@ -55,6 +55,13 @@ std::string AbsoluteFolder(const std::string& folder) {
   return WithSeparator(fs::absolute(folder).lexically_normal().string());
 }
 
+std::string LibraryFolder(const LibraryRequest& request) {
+  const std::string folder = request.folder.empty() ? OwnLibraryFolder() : request.folder;
+  if (!folder.empty()) return AbsoluteFolder(folder);
+  throw RunTimeError(kPathNotFound, "library",
+                     "HOME names no folder that it could be in. Give one with --into FOLDER.");
+}
+
 // A language's code as pages declare it: "eng" is "en".
 std::string LanguageCode(const std::string& code) {
   std::array<char, ULOC_LANG_CAPACITY> main{};
@@ -277,7 +284,7 @@ Sentence RefusalOf(const LibraryRequest& request) {
 
 LibraryPlan PlanLibrary(const ImportedBible& bible, const LibraryRequest& request) {
   LibraryPlan plan;
-  plan.folder = AbsoluteFolder(request.folder.empty() ? OwnLibraryFolder() : request.folder);
+  plan.folder = LibraryFolder(request);
   plan.text.name = NameFor(bible, request);
   ChooseLanguage(bible, request, plan);
   plan.catalogue = FileOf(plan, "Sysdefs", "Translations.txt");

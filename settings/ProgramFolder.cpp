@@ -38,7 +38,10 @@ std::string UserDataFolder() {
 
 }  // namespace
 
-std::string OwnLibraryFolder() { return UserDataFolder() + "library/"; }
+std::string OwnLibraryFolder() {
+  const std::string folder = UserDataFolder();
+  return folder.empty() ? folder : folder + "library/";
+}
 
 std::string ExecutableFolder() {
   std::error_code error;

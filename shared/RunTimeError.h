@@ -62,7 +62,7 @@ class RunTimeError : public std::exception {
   static RunTimeError FromErrno(int systemError, const std::string& path);
 
   // The same error, about this.
-  RunTimeError About(Subject subject) const;
+  [[nodiscard]] RunTimeError About(Subject subject) const;
 
   int Number() const { return m_number; }
   Subject About() const { return m_subject; }

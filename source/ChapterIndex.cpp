@@ -202,6 +202,21 @@ Outcome LoadVerseCount(ModGlob& glob, const std::string& path, UserInterface& ui
   return Outcome::kEndProgram;
 }
 
+ChapterCounts CountChapters(const ModGlob& glob) {
+  ChapterCounts counts{};
+  if (glob.Imported.IsThere()) {
+    std::copy(glob.ChaptersInBook.begin(), glob.ChaptersInBook.end(), counts.begin());
+    return counts;
+  }
+  std::size_t book = 0;
+  for (std::size_t i = 0; i + 1 < glob.ChapterIndex.size(); ++i) {
+    if (i == 0 || glob.ChapterIndex[i].Book != glob.ChapterIndex[i - 1].Book) ++book;
+    if (book > kBooks) break;
+    ++counts[book];
+  }
+  return counts;
+}
+
 VerseCounts::VerseCounts(const ModGlob& glob) {
   int book = 0;
   for (const std::string& title : glob.cboStartBook) m_bookOfTitle[title] = ++book;

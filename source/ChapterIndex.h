@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -29,6 +30,11 @@ Outcome BooksInChapters(ModGlob& glob, std::size_t translation, const CodePage& 
 // Reads the index at `path` into ChapterIndex: its records in order and one more that is all zero. Any failure, which a
 // number above 255 is too, is reported under "Load Verse Count", told in a box, and gives kEndProgram.
 Outcome LoadVerseCount(ModGlob& glob, const std::string& path, UserInterface& ui);
+
+// The chapters of each book, element 0 unused, of the translation whose index was loaded last: those that
+// ChaptersInBook holds once BooksInChapters has counted them, which a compile does anew.
+using ChapterCounts = std::array<int, kBooks + 1>;
+ChapterCounts CountChapters(const ModGlob& glob);
 
 // Looks verse counts up in ChapterIndex, as it and the start-book list were when this was made.
 class VerseCounts {

@@ -59,7 +59,7 @@ void LocateInstallation(const StoredSettings& store, const GivenFolders& given, 
   std::string install = folder(given.versaliaPath, "VersaliaPath");
   const std::string imported = OwnLibraryFolder();
   const bool isUnknown = install.empty() && given.modulePath.empty();
-  if (isUnknown && FolderExists(imported) && folder({}, "ModulePath").empty()) install = imported;
+  if (isUnknown && !imported.empty() && FolderExists(imported) && folder({}, "ModulePath").empty()) install = imported;
   // The stored module folder belongs to the stored installation: one that was given has its own, if anything.
   const std::string own =
       install.empty() ? std::string() : WithSeparator(LocateIgnoringCase(WithSeparator(install), "Modules"));

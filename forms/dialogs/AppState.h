@@ -28,6 +28,7 @@ struct AppState {
   PageTexts texts{};                  // UTF-8; RolloverStyle and BodyLinkTag change only where Effects is run
   CodePage codePage{"windows-1252"};  // of texts.PageCharset
   PageEncoding typed{};               // codes that were typed, not picked: they hold until the program ends
+  EncodingOptions refusedEncoding{};  // entries that were picked and could not be stored: they are at exit
   std::string startBookText{};        // the title shown in the main form's cboStartBook, in the bytes of its file
   std::optional<RunTimeError> lastSaveFailure{};  // set by TrySave; none after a save that went well
 };

@@ -135,13 +135,14 @@ void frmEncoding::SaveChanged() {
     return entry == shown &&
            (m_state.store.Text(key) != shown || !CodeOfText(m_state.glob.Imported, m_state.store, key).empty());
   };
+  EncodingOptions changed = entries;
   const bool isSaved = TrySave(m_state, Procedure::kUnloadEncoding, [&](SettingsStore& store) {
     store.ReadAnew();
-    EncodingOptions changed = entries;
     if (isShownOnly("Charset", entries.cboCharset, m_shown.cboCharset)) changed.cboCharset.clear();
     if (isShownOnly("Lang", entries.cboLang, m_shown.cboLang)) changed.cboLang.clear();
     if (!changed.cboCharset.empty() || !changed.cboLang.empty()) SaveEncoding(store, m_state.programFolder, changed);
   });
+  m_state.refusedEncoding = isSaved ? EncodingOptions() : std::move(changed);
   if (isSaved) m_shown = entries;
 }
 

@@ -278,6 +278,11 @@ void frmMain::OpenLinkToMain() {
 
 bool frmMain::SaveDefaults() {
   return TrySave(m_state, Procedure::kSaveDefaults, [&](SettingsStore& store) {
+    if (const EncodingOptions refused = m_state.refusedEncoding;
+        !refused.cboCharset.empty() || !refused.cboLang.empty()) {
+      SaveEncoding(store, m_state.programFolder, refused);
+      m_state.refusedEncoding = {};
+    }
     folionet::SaveDefaults(store, m_state.options);
     m_sites->SaveChoices(Gather());
   });

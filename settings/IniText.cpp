@@ -79,17 +79,14 @@ std::string ValueText(std::string_view value) {
 }  // namespace
 
 IniValues ParseIni(std::string_view text) {
-  std::string repaired;
-  if (!IsUtf8(text)) {
-    repaired = CodePage("utf-8").DecodeForDisplay(text);
-    text = repaired;
-  }
   if (text.starts_with(kByteOrderMark)) text.remove_prefix(kByteOrderMark.size());
   IniValues values;
   std::string section;
+  const char lineEnd = text.find('\n') == std::string_view::npos ? '\r' : '\n';
   while (!text.empty()) {
-    const std::size_t end = std::min(text.find('\n'), text.size());
-    ReadLine(Trimmed(text.substr(0, end), kIniBlanks), section, values);
+    const std::size_t end = std::min(text.find(lineEnd), text.size());
+    const std::string_view line = Trimmed(text.substr(0, end), kIniBlanks);
+    ReadLine(IsUtf8(line) ? line : std::string_view(CodePage().Decode(line)), section, values);
     text.remove_prefix(std::min(end + 1, text.size()));
   }
   return values;

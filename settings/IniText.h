@@ -18,7 +18,7 @@ using IniValues = std::map<std::string, std::string, std::less<>>;
 //
 // A value in double quotes is what they enclose, with \", \\, \r, \n and \t inside. Blanks around keys and values do
 // not count; lines that begin with ";" or "#", and those without "=", are passed over; of two values for one key the
-// last holds. Bytes that are not UTF-8 become U+FFFD. Any text can be read.
+// last holds. A line that is not UTF-8 is windows-1252; lines may all end in CR alone. Any text can be read.
 IniValues ParseIni(std::string_view text);
 
 // The text `present` with all that was changed from one INI text to another.

@@ -40,4 +40,14 @@ void CheckTextCharset(CheckedLibrary& library, const TranslationFiles& files) {
   if (!FileExists(ImportedTextFile(files.text))) CheckCharset(library, files.text);
 }
 
+void CheckImportedCharset(CheckedLibrary& library, const std::string& path) {
+  const ImportedText& text = library.glob.Imported;
+  if (!text.IsThere() || !FindMismatch(SampleOfFile(path), CodePage(text.charset), text.language)) return;
+  library.findings.Add(
+      {.kind = "other-charset",
+       .file = path,
+       .what = {"The file is not in %1, which its import has noted.", {text.charset}},
+       .remedy = {"Import the text again with --replace, or correct charset= in %1.", {ImportedTextFile(path)}}});
+}
+
 }  // namespace folionet

@@ -8,4 +8,7 @@ namespace folionet {
 void CheckTitlesCharset(CheckedLibrary& library);
 void CheckTextCharset(CheckedLibrary& library, const TranslationFiles& files);
 
+// The same of the verse file of an imported translation, which is in a charset of its own.
+void CheckImportedCharset(CheckedLibrary& library, const std::string& path);
+
 }  // namespace folionet

@@ -5,6 +5,7 @@
 #include <system_error>
 
 #include "ChapterOrder.h"
+#include "CharsetCheck.h"
 #include "ImportedText.h"
 #include "LineReader.h"
 #include "Numbers.h"
@@ -161,6 +162,7 @@ void CheckText(CheckedLibrary& library, const TranslationFiles& files) {
   library.glob.Imported = {};
   try {
     library.glob.Imported = ReadImportedText(files.text).value_or(ImportedText());
+    CheckImportedCharset(library, files.text);
     TextReader text(files.text, library);
     const ChapterTable index = hasIndex ? CheckIndex(files.index, library) : ChapterTable();
     const ChapterTable chapters = text.ReadAll();

@@ -2,6 +2,7 @@
 #include <utility>
 
 #include "CodePage.h"
+#include "ImportedText.h"
 #include "RunFacts.h"
 #include "TextCharset.h"
 #include "TypedFindings.h"
@@ -54,6 +55,15 @@ Finding Difference(bool isTextUtf8) {
           .remedy = {"Give other titles with --language-file, or convert one of the two files."}};
 }
 
+// What an imported text was noted to be in when it was written is not what its file holds now.
+Finding NotAsImported(const CompileRequest& request, const ModGlob& glob) {
+  return {.kind = "text-charset",
+          .severity = Severity::kWarning,
+          .what = {Words("QObject", "The text of the translation is not in %1, which its import has noted in %2."),
+                   {glob.Imported.charset, ImportedTextFile(request.txtFilename)}},
+          .remedy = {"Import the text again with --replace, or correct charset= there."}};
+}
+
 }  // namespace
 
 std::vector<Finding> FindCharsetFacts(const CompileRequest& request, const ModGlob& glob) {
@@ -63,11 +73,15 @@ std::vector<Finding> FindCharsetFacts(const CompileRequest& request, const ModGl
   for (const std::string& title : glob.cboStartBook) titles += title + "\n";
   for (const std::string& code : glob.BookCodes) titles += code + "\n";
   const TextSample ofTitles = SampleOf(titles);
-  // An imported text says itself which charset it is in, and is brought into that of the pages.
-  const TextSample ofVerses = glob.Imported.IsThere() ? TextSample()
-                              : request.sample        ? *request.sample
-                                                      : SampleOfFile(request.txtFilename);
   const std::string& language = request.texts.PageLanguage;
+  TextSample ofVerses = request.sample ? *request.sample : SampleOfFile(request.txtFilename);
+  // An imported text says itself which charset it is in, and is brought into that of the pages.
+  if (glob.Imported.IsThere()) {
+    if (FindMismatch(ofVerses, CodePage(glob.Imported.charset), language)) {
+      facts.push_back(NotAsImported(request, glob));
+    }
+    ofVerses = {};
+  }
   if (auto fact = FindInCharset(request.texts.PageCharset, EntryOf(ofVerses, language))) {
     facts.push_back(*std::move(fact));
   }

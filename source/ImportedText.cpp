@@ -6,6 +6,7 @@
 
 #include "Installation.h"
 #include "LineReader.h"
+#include "Numbers.h"
 #include "Paths.h"
 #include "StoredSettings.h"
 #include "WholeFile.h"
@@ -39,7 +40,8 @@ std::optional<ImportedText> ReadImportedText(const std::string& verseFile) {
     if (line.ends_with('\r')) line.remove_suffix(1);
     const std::size_t equals = line.find('=');
     for (const auto& [key, field] : kFields) {
-      if (line.substr(0, equals) == key && equals != std::string_view::npos) text.*field = line.substr(equals + 1);
+      if (line.substr(0, equals) == key && equals != std::string_view::npos)
+        text.*field = TrimBlanks(line.substr(equals + 1));
     }
   }
   return text;
@@ -70,14 +72,10 @@ std::string BookTitlesFile(const StoredSettings& store, const ModGlob& glob) {
 }
 
 void EncodeTitles(ModGlob& glob, const CodePage& codePage) {
-  for (std::size_t i = 0; i < glob.cboStartBook.size(); ++i) {
-    const std::string& bytes = glob.cboStartBook[i];
-    const std::string title = IsUtf8(bytes) ? bytes : CodePage().Decode(bytes);
-    std::string encoded = codePage.Encode(title);
-    if (codePage.Decode(encoded) != title) encoded = glob.BookCodes[i + 1];
-    glob.cboStartBook[i] = encoded;
-    glob.cboEndBook[i] = std::move(encoded);
+  for (std::string& title : glob.cboStartBook) {
+    title = codePage.Encode(IsUtf8(title) ? title : CodePage().Decode(title));
   }
+  glob.cboEndBook = glob.cboStartBook;
 }
 
 std::pair<int, int> BooksOfText(const ModGlob& glob) {

@@ -40,8 +40,8 @@ void ChooseImported(ModGlob& glob, std::size_t place);
 std::string BookTitlesFile(const StoredSettings& store, const ModGlob& glob);
 
 // The titles of an imported translation's book lists, which may come from a delivered file in windows-1252 or from one
-// in UTF-8, in the page's code page. One that the code page cannot hold would break the links to its pages: its book's
-// code stands for it.
+// in UTF-8, in the page's code page: with a reference for a character that it lacks, which names the letter in a link
+// as on disk.
 void EncodeTitles(ModGlob& glob, const CodePage& codePage);
 
 // The places in the book lists of the first and the last book that an imported text holds, by ChaptersInBook.

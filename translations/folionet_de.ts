@@ -422,6 +422,10 @@
         <source>%1: %2 must be 0 or 1: &quot;%3&quot;</source>
         <translation>%1: %2 muss 0 oder 1 sein: &quot;%3&quot;</translation>
     </message>
+    <message>
+        <source>The text of the translation is not in %1, which its import has noted in %2.</source>
+        <translation>Der Text der Übersetzung ist nicht in %1, wie der Import in %2 vermerkt hat.</translation>
+    </message>
 </context>
 <context>
     <name>folionet::CommandCopy</name>

@@ -422,6 +422,10 @@
         <source>%1: %2 must be 0 or 1: &quot;%3&quot;</source>
         <translation>%1: %2 debe ser 0 o 1: &quot;%3&quot;</translation>
     </message>
+    <message>
+        <source>The text of the translation is not in %1, which its import has noted in %2.</source>
+        <translation>El texto de la traducción no está en %1, como la importación anotó en %2.</translation>
+    </message>
 </context>
 <context>
     <name>folionet::CommandCopy</name>

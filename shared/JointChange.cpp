@@ -15,6 +15,7 @@
 #include "FileHandle.h"
 #include "FileLock.h"
 #include "Numbers.h"
+#include "Paths.h"
 #include "RunTimeError.h"
 #include "WholeFile.h"
 
@@ -157,6 +158,10 @@ void Complete(const NotedFile& file, const CarryChange& carry) {
 }
 
 void Apply(std::vector<NotedFile> files, const CarryChange& carry) {
+  // What is on a disk that is away now was not removed since.
+  for (const NotedFile& file : files) {
+    if (!FolderExists(file.path.substr(0, file.path.rfind('/') + 1))) throw RunTimeError::FromErrno(ENOENT, file.path);
+  }
   const bool isUndone =
       std::any_of(files.begin(), files.end(), [&](const NotedFile& file) { return StandsInTheWay(file, carry); });
   for (NotedFile& file : files) {

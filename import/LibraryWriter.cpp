@@ -55,7 +55,7 @@ std::string AbsoluteFolder(const std::string& folder) {
   return WithSeparator(fs::absolute(folder).lexically_normal().string());
 }
 
-std::string LibraryFolder(const LibraryRequest& request) {
+std::string ChosenFolder(const LibraryRequest& request) {
   const std::string folder = request.folder.empty() ? OwnLibraryFolder() : request.folder;
   if (!folder.empty()) return AbsoluteFolder(folder);
   throw RunTimeError(kPathNotFound, "library",
@@ -284,7 +284,7 @@ Sentence RefusalOf(const LibraryRequest& request) {
 
 LibraryPlan PlanLibrary(const ImportedBible& bible, const LibraryRequest& request) {
   LibraryPlan plan;
-  plan.folder = LibraryFolder(request);
+  plan.folder = ChosenFolder(request);
   plan.text.name = NameFor(bible, request);
   ChooseLanguage(bible, request, plan);
   plan.catalogue = FileOf(plan, "Sysdefs", "Translations.txt");

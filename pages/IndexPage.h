@@ -11,8 +11,8 @@ namespace folionet {
 // What the index page is made of.
 struct IndexPage {
   PageValues values;
-  std::int16_t firstBook;
-  std::int16_t lastBook;  // below firstBook, nothing is listed
+  std::int16_t firstBook = 0;
+  std::int16_t lastBook = 0;  // below firstBook, nothing is listed
 };
 
 // Opens the index page and prints every line but its foot, showing the progress in panel 1. The page is left open.

@@ -7,7 +7,7 @@ namespace folionet {
 namespace {
 
 struct Part {
-  const char* name;
+  const char* name = nullptr;
   BookRange books;
 };
 

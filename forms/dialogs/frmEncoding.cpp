@@ -130,13 +130,13 @@ void frmEncoding::AddNew() {
   openModal(*m_addNew);
 }
 
-// An entry that merely is shown is not stored where none is or a text brings it, for it must not stand in the way of the
-// next text's, nor where another program has stored another one since.
+// An entry that merely is shown is not stored where none is or a text brings it, for it must not stand in the way of
+// the next text's, nor where another program has stored another one since.
 void frmEncoding::SaveChanged() {
   const EncodingOptions entries = Entries();
   const auto isShownOnly = [this](const char* key, const std::string& entry, const std::string& shown) {
-    return entry == shown &&
-           (!m_state.store.Has(key) || m_state.store.Text(key) != shown || !CodeOfText(m_state.glob.Imported, m_state.store, key).empty());
+    return entry == shown && (!m_state.store.Has(key) || m_state.store.Text(key) != shown ||
+                              !CodeOfText(m_state.glob.Imported, m_state.store, key).empty());
   };
   EncodingOptions changed = entries;
   const bool isSaved = TrySave(m_state, Procedure::kUnloadEncoding, [&](SettingsStore& store) {

@@ -2,6 +2,9 @@
 
 #include <QApplication>
 #include <QPalette>
+#include <QTextBlock>
+#include <QTextLayout>
+#include <QtMath>
 #include <algorithm>
 
 #include "Numbers.h"
@@ -23,6 +26,23 @@ std::string ColourText(Colour colour) {
   std::string blue;
   SeperateRGB(colour, red, green, blue);
   return "#" + red + green + blue + "#]";
+}
+
+// Of its lines, none of them broken, as a box lays them out: with the leading, and more of it than the font's metrics
+// say.
+int TextHeight(const QTextDocument& text, const QFont& font) {
+  constexpr int kWidest = 1 << 20;
+  qreal height = 0;
+  for (QTextBlock block = text.begin(); block.isValid(); block = block.next()) {
+    QTextLayout layout(block.text(), font);
+    layout.beginLayout();
+    QTextLine line = layout.createLine();
+    line.setLeadingIncluded(true);
+    line.setLineWidth(kWidest);
+    layout.endLayout();
+    height += line.height();
+  }
+  return qCeil(height);
 }
 
 }  // namespace
@@ -64,18 +84,17 @@ void SampleTextBox::ShowSample(const SampleText& sample) {
 
 QSize SampleTextBox::sizeHint() const {
   constexpr int kColumns = 34;
-  constexpr int kLines = 4;
   constexpr int kMostLines = 10;  // of the form's font, however large the page's is
   const QFontMetrics form(QApplication::font());
   const int frame = 2 * frameWidth() + static_cast<int>(2 * document()->documentMargin()) + 2;
-  const int text = std::min(kLines * fontMetrics().lineSpacing(), kMostLines * form.lineSpacing());
+  const int text = std::min(TextHeight(*document(), font()), kMostLines * form.lineSpacing());
   return {kColumns * form.averageCharWidth(), text + frame};
 }
 
 QSize SampleTextBox::minimumSizeHint() const {
-  constexpr int kLines = 3;
+  constexpr int kMostLines = 6;  // of the form's font: in what there is of a usual one nothing scrolls
   const QFontMetrics form(QApplication::font());
-  return {sizeHint().width(), std::min(sizeHint().height(), kLines * form.lineSpacing())};
+  return {sizeHint().width(), std::min(sizeHint().height(), kMostLines * form.lineSpacing())};
 }
 
 }  // namespace folionet

@@ -5,6 +5,7 @@
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QStyle>
 #include <QTest>
 #include <algorithm>
@@ -62,6 +63,24 @@ TEST_F(Looks, PickersChangeTheSample) {
   EXPECT_EQ(FromQt(font.family()), "DejaVu Serif");
   EXPECT_EQ(font.pointSizeF(), 18);
   EXPECT_TRUE(font.bold());
+}
+
+// A form that is as large as it wants to be has room for all four, whatever the height of a line of the font is.
+TEST_F(Looks, TheSampleShowsItsFourLines) {
+  constexpr int kMostLines = 6;
+  ASSERT_TRUE(Start());
+  const auto& sample = Get<SampleTextBox>("txtSample");
+  for (const char* family : {"DejaVu Serif", "DejaVu Math TeX Gyre", "Liberation Serif", "Noto Sans"}) {
+    for (const double points : {8.0, 10.5, 12.0, 13.5}) {
+      m_ui.fonts = {{family, points, false, false, 0, 0}};
+      Click("cmdFont");
+      QApplication::processEvents();
+      m_form->resize(m_form->sizeHint());
+      QApplication::processEvents();
+      EXPECT_EQ(sample.verticalScrollBar()->maximum(), 0) << family << points;
+      EXPECT_LE(sample.height(), kMostLines * sample.fontMetrics().lineSpacing()) << family << points;
+    }
+  }
 }
 
 TEST_F(Looks, TheLinkBackStandsAsChosen) {

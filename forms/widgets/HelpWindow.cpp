@@ -5,7 +5,9 @@
 #include <QImage>
 #include <QPushButton>
 #include <QScreen>
+#include <QTextBlock>
 #include <QTextBrowser>
+#include <QTextCursor>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <map>
@@ -15,6 +17,19 @@ static void InitHelpResource() { Q_INIT_RESOURCE(help); }
 
 namespace folionet {
 namespace {
+
+// Where what bears the name begins; at the start for no such name.
+QTextCursor PlaceOf(QTextDocument& text, const QString& name) {
+  QTextCursor place(&text);
+  for (QTextBlock block = text.begin(); block.isValid() && !name.isEmpty(); block = block.next()) {
+    for (QTextBlock::iterator part = block.begin(); !part.atEnd(); ++part) {
+      if (!part.fragment().charFormat().anchorNames().contains(name)) continue;
+      place.setPosition(part.fragment().position());
+      return place;
+    }
+  }
+  return place;
+}
 
 // Shows pictures no wider than the text should be, sharp on every screen.
 class HelpPage : public QTextBrowser {
@@ -30,6 +45,27 @@ class HelpPage : public QTextBrowser {
     picture = picture.scaledToWidth(width, Qt::SmoothTransformation);
     picture.setDevicePixelRatio(devicePixelRatioF());
     return picture;
+  }
+
+ protected:
+  // The keys go on from the place that is shown.
+  void doSetSource(const QUrl& place, QTextDocument::ResourceType type) override {
+    QTextBrowser::doSetSource(place, type);
+    setTextCursor(PlaceOf(*document(), place.fragment()));
+    if (place.hasFragment()) scrollToAnchor(place.fragment());
+  }
+
+  // Without a selection the links would be gone through from the first or the last one of all.
+  bool focusNextPrevChild(bool next) override {
+    const QTextCursor before = textCursor();
+    if (before.hasSelection()) return QTextBrowser::focusNextPrevChild(next);
+    QTextCursor beside = before;
+    beside.movePosition(next ? QTextCursor::PreviousCharacter : QTextCursor::NextCharacter);
+    beside.setPosition(before.position(), QTextCursor::KeepAnchor);
+    setTextCursor(beside);
+    const bool isDone = QTextBrowser::focusNextPrevChild(next);
+    if (!textCursor().charFormat().isAnchor()) setTextCursor(before);
+    return isDone;
   }
 };
 
@@ -104,7 +140,6 @@ void HelpWindow::ShowTopic(const QString& topic) {
   QUrl place(QStringLiteral("qrc:/help/") + tr("index.html", "the help in this language"));
   if (!topic.isEmpty()) place.setFragment(topic);
   m_page->setSource(place);
-  if (topic.isEmpty()) m_page->moveCursor(QTextCursor::Start);
   m_page->setFocus();
 }
 

@@ -9,6 +9,8 @@
 #include <QMimeData>
 #include <QTest>
 #include <QTextBrowser>
+#include <QTextCursor>
+#include <QTextDocumentFragment>
 #include <QUrl>
 #include <csignal>
 #include <functional>
@@ -118,17 +120,22 @@ class FormRuns : public FormTest {
     QTest::keyClick(&control, key.key(), key.keyboardModifiers());
   }
 
-  // Where F1 opens the help, when there is such a place.
+  // Where F1 opens the help, when there is such a place and the keys go on from it.
   std::string Topic(const std::string& control) const {
     QWidget& window = *Get(control).window();
     window.show();
     Press(Get(control), "F1");
     auto* help = window.findChild<QDialog*>(QStringLiteral("HelpWindow"), Qt::FindDirectChildrenOnly);
     if (help == nullptr || !help->isVisible()) return "no help";
-    const auto* page = help->findChild<QTextBrowser*>();
+    auto* page = help->findChild<QTextBrowser*>();
     const QString topic = page->source().fragment();
+    QTextCursor place = page->textCursor();
+    place.movePosition(QTextCursor::EndOfBlock, QTextCursor::KeepAnchor);
+    const bool isThere = place.selection().toHtml().contains("<a name=\"" + topic + '"');
+    QTest::keyClick(page, Qt::Key_Tab);
+    const bool goesOn = page->textCursor().selectionStart() >= place.selectionStart();
     help->hide();
-    return page->toHtml().contains("<a name=\"" + topic + '"') ? FromQt(topic) : "no topic";
+    return isThere && goesOn ? FromQt(topic) : FromQt(topic) + ", and the keys go on from another place";
   }
 
   std::string Told(const std::string& text) const { return test::Visible(m_case.Named(text)); }

@@ -2,8 +2,10 @@
 
 #include <QAbstractScrollArea>
 #include <QApplication>
+#include <QFrame>
 #include <QPainter>
 #include <QProxyStyle>
+#include <QRegion>
 #include <QStyleOption>
 #include <algorithm>
 
@@ -36,6 +38,9 @@ class OutlineStyle : public QProxyStyle {
         const QStyleOptionButton copy = WithOutline(*button, isEnabled ? kMarkOutline : kFrameOutline);
         return QProxyStyle::drawPrimitive(element, &copy, painter, widget);
       }
+    }
+    if (element == PE_Frame && qobject_cast<const QFrame*>(widget) != nullptr && !widget->isWindow()) {
+      return DrawFrame(*option, *painter);
     }
     if (drawsOutline && (element == PE_FrameLineEdit || element == PE_Frame)) {
       if (const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option)) {
@@ -92,7 +97,6 @@ class OutlineStyle : public QProxyStyle {
   // The highlight, so near to the text's colour that the frame which it takes the place of is another one.
   static QColor RingColour(const QPalette& palette) {
     constexpr double kEnough = 3.2;
-    constexpr int kDarkening = 140;  // the style's, in percent
     const QColor window = palette.color(QPalette::Window);
     const QColor text = palette.color(QPalette::WindowText);
     const QColor frame = IsDark(palette) ? Between(window, text, kFrameOutline) : window.darker(kDarkening);
@@ -127,17 +131,29 @@ class OutlineStyle : public QProxyStyle {
   static constexpr float kFrameOutline = 0.3F;
   static constexpr float kGroupOutline = 0.2F;
 
+  static constexpr int kDarkening = 140;  // the style's, in percent
+
   static bool IsDark(const QPalette& palette) {
     return palette.color(QPalette::Window).lightness() < palette.color(QPalette::WindowText).lightness();
   }
 
   template <typename Option>
   static Option WithOutline(Option option, float part) {
-    constexpr int kDarkening = 140;  // the style's, in percent
     const QPalette& palette = option.palette;
     const QColor outline = Between(palette.color(QPalette::Window), palette.color(QPalette::WindowText), part);
     option.palette.setColor(QPalette::Window, outline.lighter(kDarkening));
     return option;
+  }
+
+  // Where a point of the form is one and a half of the screen's, the style's line lies half under what it frames.
+  static void DrawFrame(const QStyleOption& option, QPainter& painter) {
+    constexpr int kLightening = 108;  // the style's, in percent
+    const QColor window = option.palette.color(QPalette::Window);
+    const QColor text = option.palette.color(QPalette::WindowText);
+    const QColor line = IsDark(option.palette) ? Between(window, text, kFrameOutline) : window.darker(kDarkening);
+    const QRect& all = option.rect;
+    const QRect within = all.adjusted(1, 1, -1, -1);
+    for (const QRect& side : QRegion(all).subtracted(within)) painter.fillRect(side, line.lighter(kLightening));
   }
 
   // Over the style's own frame, which lies under the title.

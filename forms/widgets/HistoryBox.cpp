@@ -17,19 +17,27 @@ HistoryBox::HistoryBox(QWidget* parent) : QLineEdit(parent), m_list(addAction(QI
 
 void HistoryBox::changeEvent(QEvent* event) {
   QLineEdit::changeEvent(event);
-  if (event->type() == QEvent::PaletteChange) DrawButton();
+  if (event->type() == QEvent::PaletteChange || event->type() == QEvent::LayoutDirectionChange) DrawButton();
 }
 
-// An arrow as that of a list, in the colour of the text.
+// An arrow of the size, the colour and the place of a list's.
 void HistoryBox::DrawButton() {
   constexpr int kSize = 64;  // is scaled down
+  constexpr QSizeF kHalf(0.25, 0.14);
+  constexpr qreal kOutwards = 0.19;
+  constexpr int kOpacity = 160;
   QPixmap picture(kSize, kSize);
   picture.fill(Qt::transparent);
   QPainter painter(&picture);
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(Qt::NoPen);
-  painter.setBrush(palette().color(QPalette::Text));
-  painter.drawPolygon(QPolygonF{QPointF(0.22, 0.38) * kSize, QPointF(0.78, 0.38) * kSize, QPointF(0.5, 0.68) * kSize});
+  QColor colour = palette().color(QPalette::ButtonText);
+  colour.setAlpha(kOpacity);
+  painter.setBrush(colour);
+  painter.scale(kSize, kSize);
+  painter.translate(layoutDirection() == Qt::RightToLeft ? 0.5 - kOutwards : 0.5 + kOutwards, 0.5);
+  const QPointF corner(kHalf.width(), -kHalf.height());
+  painter.drawPolygon(QPolygonF{QPointF(-corner.x(), corner.y()), corner, QPointF(0, kHalf.height())});
   m_list->setIcon(picture);
 }
 

@@ -225,6 +225,46 @@ TEST_F(Looks, MarksAndFocusCanBeSeen) {
   QApplication::setPalette(before);
 }
 
+// A picture of a control as a screen has it that shows three points for two of the form.
+QImage PictureAtOneAndAHalf(QWidget& control) {
+  constexpr qreal kScale = 1.5;
+  QImage picture(control.size() * kScale, QImage::Format_RGB32);
+  picture.setDevicePixelRatio(kScale);
+  control.render(&picture);
+  return picture;
+}
+
+TEST_F(Looks, AFrameIsWholeOnEverySide) {
+  ASSERT_TRUE(Start());
+  auto& box = Get("frmLinkToMAin.txtBackToString");
+  Get("frmLinkToMAin.").show();
+  for (int more = 0; more < 2; ++more) {
+    box.setFixedSize(100 + more, 60 + more);
+    const QImage picture = PictureAtOneAndAHalf(box);
+    const QPoint middle = picture.rect().center();
+    const QRgb ground = picture.pixel(middle);
+    EXPECT_NE(picture.pixel(0, middle.y()), ground) << more;
+    EXPECT_NE(picture.pixel(middle.x(), 0), ground) << more;
+    EXPECT_NE(picture.pixel(picture.width() - 1, middle.y()), ground) << more;
+    EXPECT_NE(picture.pixel(middle.x(), picture.height() - 1), ground) << more;
+  }
+}
+
+TEST_F(Looks, APathThatIsTooLongBeginsAndEndsWithWholeLetters) {
+  ASSERT_TRUE(Start());
+  const QString path = '/' + QString(300, 'm') + ".TXT";
+  for (const char* name : {"txtFilename", "txtOutputPath"}) {
+    auto& box = Get<QLineEdit>(name);
+    Get("cboLang").setFocus();
+    box.setText(path);
+    const QImage picture = box.grab().toImage();
+    for (const int x : {0, 1, picture.width() - 1}) {  // of the margins
+      for (int y = 1; y < picture.height() - 1; ++y) EXPECT_EQ(picture.pixel(x, y), picture.pixel(x, 1)) << name << y;
+    }
+    EXPECT_EQ(box.text(), path);
+  }
+}
+
 TEST_F(Looks, AMirroredFormKeepsTheOrderOfSentences) {
   ASSERT_TRUE(Start());
   auto& button = Get("cmdBrowse");

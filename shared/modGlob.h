@@ -29,6 +29,8 @@ struct ImportedText {
 
   // Whether there is such a translation: Versalia's own are none.
   bool IsThere() const { return !charset.empty(); }
+
+  friend bool operator==(const ImportedText& left, const ImportedText& right) = default;
 };
 
 class IndexReading;

@@ -594,6 +594,14 @@ Stattdessen die der importierten Texte zeigen, bis Folionet geschlossen wird? Sp
         <source>Not as the site has it</source>
         <translation>Anders als in der Website</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; was imported anew since it was chosen. Its books, charset and language are shown now: look at them, and compile again.</source>
+        <translation>„%1“ wurde neu importiert, seit es gewählt wurde. Seine Bücher, sein Zeichensatz und seine Sprache stehen jetzt da: sehen Sie nach und kompilieren Sie noch einmal.</translation>
+    </message>
+    <message>
+        <source>Another text</source>
+        <translation>Ein anderer Text</translation>
+    </message>
 </context>
 <context>
     <name>folionet::SiteMenu</name>

@@ -594,6 +594,14 @@ La lista muestra las traducciones de otra biblioteca: %2.
         <source>Not as the site has it</source>
         <translation>No como lo tiene el sitio</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; was imported anew since it was chosen. Its books, charset and language are shown now: look at them, and compile again.</source>
+        <translation>«%1» se ha importado de nuevo desde que se eligió. Ahora se muestran sus libros, su juego de caracteres y su idioma: revíselos y compile otra vez.</translation>
+    </message>
+    <message>
+        <source>Another text</source>
+        <translation>Otro texto</translation>
+    </message>
 </context>
 <context>
     <name>folionet::SiteMenu</name>

@@ -13,6 +13,7 @@
 #include "OptionLoading.h"
 #include "OptionSaving.h"
 #include "PageEncoding.h"
+#include "Paths.h"
 #include "QtText.h"
 #include "RunTimeError.h"
 #include "SiteFile.h"
@@ -171,6 +172,34 @@ Outcome LibraryLists::LoadVerses() {
   if (place < 0) return Outcome::kDone;
   const std::string& stem = m_state.glob.BibleFiles[static_cast<std::size_t>(place)];
   return LoadVerseCount(m_state.glob, IndexFile(m_state.glob, m_state.codePage, stem), m_state.ui);
+}
+
+bool LibraryLists::IsTextAsChosen() {
+  const int place = SelectedTranslation();
+  if (place < 0) return true;
+  ModGlob& glob = m_state.glob;
+  const std::string& stem = glob.BibleFiles[static_cast<std::size_t>(place)];
+  ImportedText& known = glob.BibleImports[static_cast<std::size_t>(place)];
+  ImportedText now = known;
+  try {
+    now = ReadImportedText(VerseFile(glob, m_state.codePage, stem)).value_or(ImportedText());
+  } catch (const RunTimeError&) {
+    // What was read when it was chosen serves.
+  }
+  if (now == known) {
+    const bool isSound =
+        !now.IsThere() || !FileExists(IndexFile(glob, m_state.codePage, stem)) || LoadVerses() == Outcome::kDone;
+    if (!isSound) emit EndProgram();
+    return isSound;
+  }
+  known = std::move(now);
+  ChooseBible();
+  const QString text = tr(
+      "\"%1\" was imported anew since it was chosen. Its books, charset and language are shown now: look at them, and "
+      "compile again.");
+  m_state.ui.ShowMessage({MessageIcon::kInformation, FromQt(tr("Another text")),
+                          FromQt(text.arg(m_controls.cboBibleName->currentText()))});
+  return false;
 }
 
 void LibraryLists::ShowNames() {

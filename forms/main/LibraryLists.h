@@ -34,6 +34,10 @@ class LibraryLists : public QObject {
   // Lists the translations of the library in this folder, into which one was imported, and chooses the one of the stem.
   void ShowImported(const std::string& folder, const std::string& stem);
 
+  // Whether the selected translation is what it was when it was chosen. One that was imported anew since is told of and
+  // chosen anew, with its books, charset and language; its verse counts are read anew in any case.
+  bool IsTextAsChosen();
+
   // Shows the names again after the code page has changed.
   void ShowNames();
 

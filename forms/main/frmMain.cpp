@@ -167,7 +167,7 @@ void frmMain::CSSCheck() {
 }
 
 void frmMain::Compile() {
-  if (!TellAndGoOn()) return;
+  if (!TellAndGoOn() || !m_lists->IsTextAsChosen()) return;
   CompileRequest request = Gather();
   if (RefusesSitemap(request, m_state)) return;
   SiteChanges changes;

@@ -1,5 +1,8 @@
 #include "FolderTree.h"
 
+#include <dirent.h>
+#include <sys/stat.h>
+
 #include <QDir>
 #include <QFile>
 #include <QHash>
@@ -8,8 +11,6 @@
 #include <QSignalBlocker>
 #include <QStyle>
 #include <algorithm>
-#include <filesystem>
-#include <system_error>
 
 namespace folionet {
 namespace {
@@ -27,17 +28,22 @@ QTreeWidgetItem* MakeItem(const QString& name, const QString& path, const QIcon&
   return item;
 }
 
-// The folders that a person sees in one. QDir would look at each of its files, which may be a hundred thousand.
+bool IsFolder(DIR* folder, const dirent& entry) {
+  if (entry.d_type != DT_LNK && entry.d_type != DT_UNKNOWN) return entry.d_type == DT_DIR;
+  struct stat status {};
+  return fstatat(dirfd(folder), entry.d_name, &status, 0) == 0 && S_ISDIR(status.st_mode);
+}
+
+// The folders that a person sees in one. QDir would look at each of its files, which may be a hundred thousand, and the
+// standard library forms the path of each.
 QStringList VisibleFolders(const QString& path) {
   QStringList names;
-  std::error_code error;
-  const std::filesystem::path folder(QFile::encodeName(path).constData());
-  for (std::filesystem::directory_iterator at(folder, error), end; !error && at != end; at.increment(error)) {
-    std::error_code unread;
-    if (!at->is_directory(unread)) continue;
-    const QString name = QFile::decodeName(at->path().filename().c_str());
-    if (!name.startsWith(QLatin1Char('.'))) names << name;
+  DIR* const folder = opendir(QFile::encodeName(path).constData());
+  if (folder == nullptr) return names;
+  while (const dirent* const entry = readdir(folder)) {
+    if (entry->d_name[0] != '.' && IsFolder(folder, *entry)) names << QFile::decodeName(entry->d_name);
   }
+  closedir(folder);
   names.sort(Qt::CaseInsensitive);
   return names;
 }

@@ -159,7 +159,7 @@ bool frmEncoding::SaveAndUse() {
     m_state.typed = {};
     UseEncoding(m_state, read);
     const auto typed = [](const std::string& text, const char* key, const std::string& readCode) {
-      std::string code = EncodingCode(text, key);
+      const std::string code = EncodingCode(text, key);
       return code == readCode ? std::string() : code;
     };
     m_state.typed.PageLanguage = typed(typedLanguage, "Lang", read.PageLanguage);

@@ -8,7 +8,6 @@
 #include <QMenu>
 #include <QShortcut>
 #include <QTime>
-#include <QTimer>
 #include <optional>
 #include <utility>
 
@@ -66,6 +65,8 @@ frmMain::frmMain(AppState& state, QWidget* parent)
   connect(m_ui->cmdRecentFolders, &QToolButton::clicked, this, &frmMain::ListFolders);
   m_importing = new ImportButton(state, *m_ui, *m_lists, m_dialogs, this);
   m_importing->mayOpen = [this] { return TellAndGoOn(); };
+  const auto read = [this](const QString& path) { m_importing->Open(FromQt(path)); };
+  connect(this, &frmMain::TextDropped, this, read, Qt::QueuedConnection);
   const auto gather = [this] { return TellAndGoOn() ? std::optional(Gather()) : std::nullopt; };
   new CommandCopy(state, *m_ui->cmdCompile, this, gather);
   m_sites = new SiteMenu(state, *m_ui->cmdSite, *m_memory, gather);
@@ -389,12 +390,10 @@ void frmMain::dragEnterEvent(QDragEnterEvent* event) {
 // A folder is where the pages go, a file is a text to import. The program that it comes from waits for the end of this.
 void frmMain::dropEvent(QDropEvent* event) {
   const QString path = DraggedPath(event->mimeData());
-  if (QFileInfo(path).isDir()) {
-    if (m_folders->Choose(FromQt(path))) event->acceptProposedAction();
-  } else if (!path.isEmpty()) {
-    event->acceptProposedAction();
-    QTimer::singleShot(0, this, [this, path] { m_importing->Open(FromQt(path)); });
-  }
+  const bool isFolder = QFileInfo(path).isDir();
+  if (path.isEmpty() || (isFolder && !m_folders->Choose(FromQt(path)))) return;
+  event->acceptProposedAction();
+  if (!isFolder) emit TextDropped(path);
 }
 
 }  // namespace folionet

@@ -55,6 +55,9 @@ class frmMain : public QMainWindow {
   // The program must end now. Nothing more is asked or saved.
   void Ended();
 
+  // A file was dropped on the form.
+  void TextDropped(const QString& path);
+
   // The same, and the form is to start again with this site's file; empty for the person's own settings.
   void SiteChosen(const std::string& path);
 

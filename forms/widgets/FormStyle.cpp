@@ -39,7 +39,8 @@ class OutlineStyle : public QProxyStyle {
         return QProxyStyle::drawPrimitive(element, &copy, painter, widget);
       }
     }
-    if (element == PE_Frame && qobject_cast<const QFrame*>(widget) != nullptr && !widget->isWindow()) {
+    const bool isPart = widget != nullptr && !widget->isWindow();
+    if (element == PE_Frame && option != nullptr && isPart && qobject_cast<const QFrame*>(widget) != nullptr) {
       return DrawFrame(*option, *painter);
     }
     if (drawsOutline && (element == PE_FrameLineEdit || element == PE_Frame)) {

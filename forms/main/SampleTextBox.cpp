@@ -28,19 +28,19 @@ std::string ColourText(Colour colour) {
   return "#" + red + green + blue + "#]";
 }
 
-// Of its lines, none of them broken, as a box lays them out: with the leading, and more of it than the font's metrics
-// say.
-int TextHeight(const QTextDocument& text, const QFont& font) {
-  constexpr int kWidest = 1 << 20;
+// Of its lines as a box of that width breaks them and lays them out: with the leading, and more of it than the font's
+// metrics say.
+int TextHeight(const QTextDocument& text, const QFont& font, int width) {
   qreal height = 0;
   for (QTextBlock block = text.begin(); block.isValid(); block = block.next()) {
     QTextLayout layout(block.text(), font);
     layout.beginLayout();
-    QTextLine line = layout.createLine();
-    line.setLeadingIncluded(true);
-    line.setLineWidth(kWidest);
+    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+      line.setLeadingIncluded(true);
+      line.setLineWidth(width);
+      height += line.height();
+    }
     layout.endLayout();
-    height += line.height();
   }
   return qCeil(height);
 }
@@ -82,19 +82,23 @@ void SampleTextBox::ShowSample(const SampleText& sample) {
   updateGeometry();
 }
 
+int SampleTextBox::AroundText() const {
+  return 2 * frameWidth() + static_cast<int>(2 * document()->documentMargin()) + 2;
+}
+
 QSize SampleTextBox::sizeHint() const {
   constexpr int kColumns = 34;
   constexpr int kMostLines = 10;  // of the form's font, however large the page's is
   const QFontMetrics form(QApplication::font());
-  const int frame = 2 * frameWidth() + static_cast<int>(2 * document()->documentMargin()) + 2;
-  const int text = std::min(TextHeight(*document(), font()), kMostLines * form.lineSpacing());
-  return {kColumns * form.averageCharWidth(), text + frame};
+  const int width = kColumns * form.averageCharWidth();
+  const int text = TextHeight(*document(), font(), std::max(width, viewport()->width()) - AroundText());
+  return {width, std::min(text, kMostLines * form.lineSpacing()) + AroundText()};
 }
 
 QSize SampleTextBox::minimumSizeHint() const {
   constexpr int kMostLines = 6;  // of the form's font: in what there is of a usual one nothing scrolls
   const QFontMetrics form(QApplication::font());
-  return {sizeHint().width(), std::min(sizeHint().height(), kMostLines * form.lineSpacing())};
+  return {sizeHint().width(), std::min(sizeHint().height(), kMostLines * form.lineSpacing() + AroundText())};
 }
 
 }  // namespace folionet

@@ -21,6 +21,9 @@ class SampleTextBox : public QPlainTextEdit {
 
   QSize sizeHint() const override;  // of the four lines
   QSize minimumSizeHint() const override;
+
+ private:
+  int AroundText() const;  // dots of height beside the lines
 };
 
 }  // namespace folionet

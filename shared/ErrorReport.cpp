@@ -8,7 +8,7 @@
 namespace folionet {
 namespace {
 
-constexpr std::array<std::pair<Procedure, std::string_view>, 33> kLabels{{
+constexpr auto kLabels = std::to_array<std::pair<Procedure, std::string_view>>({
     {Procedure::kFormLoad, "Form Load - MAIN"},
     {Procedure::kPopulateCombos, "Populate Combos"},
     {Procedure::kGetLang, "GetLang"},
@@ -42,16 +42,19 @@ constexpr std::array<std::pair<Procedure, std::string_view>, 33> kLabels{{
     {Procedure::kCssCheck, "CSSCheck"},
     {Procedure::kClickBookTitles, "cboLang_Click"},
     {Procedure::kRestoreAll, "cmdRestoreAll_Click"},
-}};
+});
+
+// Each procedure stands in its place.
+constexpr bool IsWhole() {
+  std::size_t place = 0;
+  while (place < kLabels.size() && kLabels[place].first == static_cast<Procedure>(place)) ++place;
+  return place == static_cast<std::size_t>(Procedure::kRestoreAll) + 1;
+}
+static_assert(IsWhole());
 
 }  // namespace
 
-std::string_view LabelOf(Procedure procedure) {
-  for (const auto& [known, label] : kLabels) {
-    if (known == procedure) return label;
-  }
-  return {};
-}
+std::string_view LabelOf(Procedure procedure) { return kLabels[static_cast<std::size_t>(procedure)].second; }
 
 std::string BuildErrorReport(const ErrorReport& report, std::string_view appPath) {
   const std::string newLine = "\r\n";

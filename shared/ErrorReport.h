@@ -43,7 +43,7 @@ enum class Procedure {
   kUpdateCheck,
   kCssCheck,
   kClickBookTitles,
-  kRestoreAll,
+  kRestoreAll,  // the last one
 };
 
 std::string_view LabelOf(Procedure procedure);

@@ -13,9 +13,9 @@
 #include <utility>
 
 #include "BuildInfo.h"
-#include "CodePage.h"
 #include "ProgramFolder.h"
 #include "QtText.h"
+#include "Utf8.h"
 
 namespace folionet {
 namespace {

@@ -4,10 +4,9 @@
 #include <variant>
 
 #include "AppState.h"
+#include "ExitStatus.h"
 
 namespace folionet {
-
-enum ExitStatus { kExitDone = 0, kExitUsage = 2, kExitFailed = 3 };
 
 // The arguments of "folionet", beside those that every Qt program takes; an empty text stands for one that was not
 // given.

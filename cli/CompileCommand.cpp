@@ -7,6 +7,7 @@
 
 #include "ChangeJournal.h"
 #include "ChapterIndex.h"
+#include "CommandEnd.h"
 #include "Compile.h"
 #include "Effects.h"
 #include "ImportedText.h"

@@ -4,6 +4,7 @@
 #include <system_error>
 
 #include "BookTable.h"
+#include "CommandEnd.h"
 #include "Counted.h"
 #include "Finding.h"
 #include "ImportText.h"

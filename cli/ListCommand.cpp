@@ -4,6 +4,7 @@
 #include <iterator>
 
 #include "BookTitles.h"
+#include "CommandEnd.h"
 #include "EncodingLists.h"
 #include "ImportedText.h"
 #include "OptionTable.h"

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "Catalogue.h"
+#include "CommandEnd.h"
 #include "CustomHtml.h"
 #include "ImportedText.h"
 #include "OptionLoading.h"

@@ -5,6 +5,7 @@
 #include <string_view>
 #include <vector>
 
+#include "CommandEnd.h"
 #include "Counted.h"
 #include "GeneratorLine.h"
 #include "Paths.h"

@@ -2,6 +2,7 @@
 #include <cstdio>
 
 #include "Arguments.h"
+#include "CommandEnd.h"
 #include "RunTimeError.h"
 
 namespace folionet {

@@ -4,17 +4,9 @@
 #include <stdexcept>
 #include <string>
 
-namespace folionet {
+#include "ExitStatus.h"
 
-// The exit statuses of folionet-cli.
-enum ExitStatus {
-  kExitDone = 0,
-  kExitRefused = 1,
-  kExitUsage = 2,
-  kExitFailed = 3,
-  kExitInterrupted = 130,  // by SIGINT
-  kExitTerminated = 143    // by SIGTERM or SIGHUP
-};
+namespace folionet {
 
 // Ends the command with an exit status; what there is to say has been said.
 class ExitWith : public std::exception {

@@ -8,6 +8,7 @@
 #include "Paths.h"
 #include "Text.h"
 #include "TextCharset.h"
+#include "Utf8.h"
 
 namespace folionet {
 namespace {

@@ -2,9 +2,9 @@
 
 #include <utility>
 
-#include "CodePage.h"
 #include "Paths.h"
 #include "Text.h"
+#include "Utf8.h"
 
 namespace folionet {
 

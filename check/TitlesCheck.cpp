@@ -11,6 +11,7 @@
 #include "PageNames.h"
 #include "Paths.h"
 #include "Text.h"
+#include "Utf8.h"
 
 namespace folionet {
 namespace {

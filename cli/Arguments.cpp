@@ -9,13 +9,13 @@
 
 #include "BuildInfo.h"
 #include "CheckCommand.h"
-#include "CodePage.h"
 #include "CompileCommand.h"
 #include "ImportCommand.h"
 #include "ListCommand.h"
 #include "ProgramFolder.h"
 #include "SiteFile.h"
 #include "Text.h"
+#include "Utf8.h"
 #include "VerifyCommand.h"
 
 namespace folionet {

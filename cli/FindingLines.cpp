@@ -2,6 +2,7 @@
 
 #include "CodePage.h"
 #include "Text.h"
+#include "Utf8.h"
 
 namespace folionet {
 namespace {

@@ -23,6 +23,7 @@
 #include "RunTimeError.h"
 #include "Sitemap.h"
 #include "Text.h"
+#include "Utf8.h"
 #include "Validation.h"
 #include "VerseFileReader.h"
 

@@ -1,25 +1,20 @@
 #include "FolderFacts.h"
 
-#include <dirent.h>
 #include <fcntl.h>
 #include <sys/stat.h>
 
 #include <algorithm>
-#include <memory>
 #include <string_view>
 
 #include "ChapterIndex.h"
 #include "FileHandle.h"
+#include "FolderReader.h"
 #include "GeneratorLine.h"
 #include "PageNames.h"
 #include "WholeFile.h"
 
 namespace folionet {
 namespace {
-
-struct CloseFolder {
-  void operator()(DIR* folder) const { closedir(folder); }
-};
 
 // What stands between two texts; empty when they are not there.
 std::string_view Between(std::string_view text, std::string_view before, std::string_view after) {
@@ -78,20 +73,20 @@ std::optional<FolderFacts> LookIntoFolder(const std::string& folder, const std::
                                           const std::function<bool()>& isWanted) {
   constexpr std::size_t kAskedPages = 100;  // one in its first form among them is enough
   FolderFacts facts;
-  const std::unique_ptr<DIR, CloseFolder> handle(opendir(folder.c_str()));
-  if (handle == nullptr) return facts;
+  FolderReader reader(folder.c_str());
+  if (!reader.IsOpen()) return facts;
   facts.isThere = true;
   std::set<std::string> ofIndexPages;
-  while (const dirent* entry = readdir(handle.get())) {
+  while (const dirent* const entry = reader.Next()) {
     if (!isWanted()) return std::nullopt;
     const std::string name = entry->d_name;
-    if (entry->d_type == DT_DIR || name == "." || name == "..") continue;
+    if (entry->d_type == DT_DIR) continue;
     const bool isWritten = written.contains(name);
     OldFile old;
     const bool isFile = entry->d_type == DT_REG || entry->d_type == DT_UNKNOWN;
     if (isFile && (isWritten || IsHtmlName(name))) {
       const bool isNameWanted = facts.translations.empty() && facts.pages < kAskedPages;
-      old = ReadOldFile(dirfd(handle.get()), entry->d_name, isNameWanted ? Look::kName : Look::kKind);
+      old = ReadOldFile(reader.Descriptor(), entry->d_name, isNameWanted ? Look::kName : Look::kKind);
     }
     if (old.isFolder) continue;
     if (old.isOurs) {

@@ -13,6 +13,7 @@
 #include "PageFile.h"
 #include "Paths.h"
 #include "RunTimeError.h"
+#include "Utf8.h"
 #include "WholeFile.h"
 
 namespace folionet {

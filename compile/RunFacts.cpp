@@ -17,16 +17,9 @@
 #include "PageNames.h"
 #include "Paths.h"
 #include "TypedFindings.h"
-#include "WholeFile.h"
 
 namespace folionet {
 namespace {
-
-bool IsPageOfOurs(const std::string& path) {
-  const FileHandle file = FileHandle::Open(path.c_str(), O_RDONLY | O_NONBLOCK);
-  std::string head;
-  return FileExists(path) && file.IsOpen() && ReadAll(file.Get(), head, kGeneratorHead, 0) && IsOurPage(head);
-}
 
 Finding Warning(const char* kind, Sentence what, Sentence remedy) {
   return {.kind = kind, .severity = Severity::kWarning, .what = std::move(what), .remedy = std::move(remedy)};
@@ -66,7 +59,9 @@ class FactFinder {
     if (folder.empty() || !FolderExists(folder)) return old;
     const std::unordered_set<std::string> known = NamesOfRun();
     for (std::string& name : FolderEntries(folder)) {
-      if (IsHtmlName(name) && !known.contains(name) && IsPageOfOurs(folder + name)) old.insert(std::move(name));
+      if (!IsHtmlName(name) || known.contains(name)) continue;
+      const FileHandle file = FileHandle::Open((folder + name).c_str(), O_RDONLY | O_NONBLOCK);
+      if (IsOurPage(file)) old.insert(std::move(name));
     }
     return old;
   }

@@ -4,8 +4,8 @@
 #include <array>
 #include <string_view>
 
-#include "CodePage.h"
 #include "Text.h"
+#include "Utf8.h"
 
 namespace folionet {
 namespace {

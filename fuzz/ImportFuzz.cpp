@@ -4,7 +4,6 @@
 #include <algorithm>
 
 #include "BibleBuilder.h"
-#include "CodePage.h"
 #include "FuzzFiles.h"
 #include "ImportText.h"
 #include "LibraryWriter.h"
@@ -12,6 +11,7 @@
 #include "TextDecoder.h"
 #include "TextFault.h"
 #include "TextForm.h"
+#include "Utf8.h"
 #include "VerseFileReader.h"
 
 namespace folionet::fuzz {

@@ -7,6 +7,7 @@
 #include "PageLinks.h"
 #include "PageText.h"
 #include "StyleLinks.h"
+#include "Utf8.h"
 
 namespace folionet::fuzz {
 namespace {

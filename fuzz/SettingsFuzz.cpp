@@ -1,6 +1,5 @@
 // Reads any bytes as a settings file, takes every option from it, and writes texts that must read back as they were.
 
-#include "CodePage.h"
 #include "FuzzFiles.h"
 #include "IniText.h"
 #include "OptionLoading.h"
@@ -8,6 +7,7 @@
 #include "RunTimeError.h"
 #include "SilentUi.h"
 #include "Text.h"
+#include "Utf8.h"
 
 namespace folionet::fuzz {
 namespace {

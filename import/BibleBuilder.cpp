@@ -7,6 +7,7 @@
 #include "Numbers.h"
 #include "RunTimeError.h"
 #include "Text.h"
+#include "Utf8.h"
 
 namespace folionet {
 namespace {
@@ -19,8 +20,7 @@ bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 // A verse number without the marks of direction that a text written from right to left may hold in a bridge.
 std::string CleanField(std::string_view field) {
   std::string clean(TrimBlanks(field));
-  if (std::none_of(clean.begin(), clean.end(), [](char c) { return static_cast<unsigned char>(c) >= 0x80; }))
-    return clean;
+  if (IsAscii(clean)) return clean;
   for (const std::string_view mark : {"\u200F", "\u200E", "\u200B"}) {
     for (std::size_t at = clean.find(mark); at != std::string::npos; at = clean.find(mark))
       clean.erase(at, mark.size());

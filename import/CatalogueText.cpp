@@ -3,10 +3,10 @@
 #include <algorithm>
 #include <array>
 
-#include "CodePage.h"
 #include "Numbers.h"
 #include "RecordReader.h"
 #include "RunTimeError.h"
+#include "Utf8.h"
 #include "WholeFile.h"
 
 namespace folionet {

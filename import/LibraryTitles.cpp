@@ -9,6 +9,7 @@
 #include "LineReader.h"
 #include "RunTimeError.h"
 #include "TitleLanguages.h"
+#include "Utf8.h"
 
 namespace folionet {
 namespace {
@@ -24,12 +25,7 @@ std::string Nameable(std::string_view title) {
       name += c;
     }
   }
-  name = WithSingleBlanks(name);
-  if (name.size() > kLongest) {
-    std::size_t end = kLongest;
-    while ((static_cast<unsigned char>(name[end]) & 0xC0) == 0x80) --end;
-    name.resize(end);
-  }
+  name = std::string(CutToBytes(WithSingleBlanks(name), kLongest));
   // A name that begins with a dot is hidden, or is no name.
   return name.substr(std::min(name.find_first_not_of(". "), name.size()));
 }

@@ -1,11 +1,10 @@
 #include "LibraryWriter.h"
 
-#include <sys/file.h>
 #include <unicode/uloc.h>
 
 #include <algorithm>
 #include <array>
-#include <cerrno>
+#include <chrono>
 #include <filesystem>
 #include <system_error>
 
@@ -13,6 +12,7 @@
 #include "CatalogueText.h"
 #include "CodePage.h"
 #include "FileHandle.h"
+#include "FileLock.h"
 #include "FlowingText.h"
 #include "ImportedText.h"
 #include "JointChange.h"
@@ -25,6 +25,7 @@
 #include "Text.h"
 #include "TextLanguage.h"
 #include "TitleLanguages.h"
+#include "Utf8.h"
 #include "WholeFile.h"
 
 namespace folionet {
@@ -245,16 +246,10 @@ std::string NotePath(const std::string& sysdefs) {
 }
 
 std::string NameFor(const ImportedBible& bible, const LibraryRequest& request) {
-  std::string name = WithSingleBlanks(!request.name.empty() ? request.name
-                                      : !bible.name.empty() ? bible.name
-                                                            : request.fallbackName);
-  if (name.empty()) name = "Bible";
-  if (name.size() > kLongestName) {
-    std::size_t end = kLongestName;
-    while ((static_cast<unsigned char>(name[end]) & 0xC0) == 0x80) --end;
-    name.resize(end);
-  }
-  return name;
+  const std::string name = WithSingleBlanks(!request.name.empty() ? request.name
+                                            : !bible.name.empty() ? bible.name
+                                                                  : request.fallbackName);
+  return name.empty() ? "Bible" : std::string(CutToBytes(name, kLongestName));
 }
 
 }  // namespace
@@ -344,8 +339,7 @@ void WriteLibrary(const ImportedBible& bible, const LibraryPlan& plan) {
   for (const auto& [path, content] : plan.files) MakeFolder(fs::path(path).parent_path().string());
   const std::string sysdefs = fs::path(plan.catalogue).parent_path().string();
   const FileHandle lock = FileHandle::Open(sysdefs.c_str(), O_RDONLY | O_DIRECTORY);
-  // A file system that knows no locks is let pass.
-  const bool isTaken = lock.IsOpen() && flock(lock.Get(), LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK;
+  const bool isTaken = lock.IsOpen() && !LockFile(lock.Get(), std::chrono::milliseconds(0));
   if (isTaken || ReadIfThere(plan.catalogue).value_or("") != plan.catalogueBefore) {
     throw RunTimeError(kPermissionDenied, plan.folder, "Another import is writing into this library. Import again.");
   }

@@ -10,6 +10,7 @@
 #include "RunTimeError.h"
 #include "Text.h"
 #include "TextFault.h"
+#include "Utf8.h"
 
 namespace folionet {
 namespace {

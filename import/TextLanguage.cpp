@@ -10,8 +10,8 @@
 #include <string_view>
 #include <utility>
 
-#include "CodePage.h"
 #include "TitleLanguages.h"
+#include "Utf8.h"
 
 namespace folionet {
 namespace {

@@ -11,6 +11,7 @@
 #include "CodePage.h"
 #include "RecordReader.h"
 #include "RunTimeError.h"
+#include "Utf8.h"
 
 namespace folionet {
 namespace {

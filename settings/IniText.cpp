@@ -5,6 +5,7 @@
 #include "CodePage.h"
 #include "LineReader.h"
 #include "Text.h"
+#include "Utf8.h"
 
 namespace folionet {
 namespace {

@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "LineReader.h"
+#include "Utf8.h"
 #include "WholeFile.h"
 
 namespace folionet {

@@ -2,69 +2,23 @@
 
 #include <unicode/uchar.h>
 #include <unicode/ucnv.h>
-#include <unicode/utf8.h>
 
 #include <algorithm>
 #include <array>
 #include <cstdint>
-#include <cstring>
 #include <utility>
 
 #include "CharsetLabels.h"
 #include "RunTimeError.h"
 #include "Text.h"
+#include "Utf8.h"
 
 namespace folionet {
 namespace {
 
 constexpr char kDefaultName[] = "windows-1252";
-constexpr UChar32 kUndecodable = -1;
-
-// How many characters of ASCII a text begins with; eight are looked at together.
-std::size_t AsciiLength(std::string_view text) {
-  constexpr std::uint64_t kHighBits = 0x8080808080808080;
-  std::size_t length = 0;
-  for (std::uint64_t eight = 0; length + sizeof eight <= text.size(); length += sizeof eight) {
-    std::memcpy(&eight, text.data() + length, sizeof eight);
-    if ((eight & kHighBits) != 0) break;
-  }
-  while (length < text.size() && static_cast<unsigned char>(text[length]) < 0x80) ++length;
-  return length;
-}
-
-bool IsAscii(std::string_view text) { return AsciiLength(text) == text.size(); }
 
 void AppendUtf8(std::string& text, UChar32 character) { folionet::AppendUtf8(text, static_cast<char32_t>(character)); }
-
-// One character of a text, or one byte of it that is no character.
-struct Piece {
-  UChar32 character;  // kUndecodable for a lone byte
-  std::string_view bytes;
-};
-
-// The character at the start of a text, with its length in bytes; negative for a byte that is no character.
-#pragma GCC diagnostic push
-#pragma GCC diagnostic ignored "-Wconversion"  // ICU's macro narrows on purpose
-UChar32 FirstUtf8(std::string_view text, int32_t& length) {
-  UChar32 character = 0;
-  length = 0;
-  U8_NEXT(text.data(), length, static_cast<int32_t>(text.size()), character);
-  return character;
-}
-#pragma GCC diagnostic pop
-
-// Splits UTF-8 into characters, calling take(Piece) for each.
-template <typename Take>
-void ForEachUtf8(std::string_view text, Take take) {
-  std::size_t at = 0;
-  while (at < text.size()) {
-    int32_t next = 0;
-    const UChar32 character = FirstUtf8(text.substr(at, U8_MAX_LENGTH), next);
-    const std::size_t length = character < 0 ? 1 : static_cast<std::size_t>(next);
-    take(Piece{character < 0 ? kUndecodable : character, text.substr(at, length)});
-    at += length;
-  }
-}
 
 // What ICU calls an encoding of the browsers, where it calls something narrower by their name.
 std::string IcuName(const std::string& encoding) {
@@ -364,44 +318,6 @@ std::string CodePage::ToLower(std::string_view bytes) const {
 
 std::string CodePage::ToUpper(std::string_view bytes) const {
   return MapCase(*m_converter, bytes, AsciiUpper, u_toupper);
-}
-
-bool IsUtf8(std::string_view text) {
-  for (;;) {
-    text.remove_prefix(AsciiLength(text));
-    if (text.empty()) return true;
-    int32_t length = 0;
-    if (FirstUtf8(text.substr(0, U8_MAX_LENGTH), length) < 0) return false;
-    text.remove_prefix(static_cast<std::size_t>(length));
-  }
-}
-
-bool BeginsRightToLeft(std::string_view text) {
-  while (!text.empty()) {
-    int32_t length = 0;
-    const UChar32 character = FirstUtf8(text.substr(0, U8_MAX_LENGTH), length);
-    const UCharDirection direction = u_charDirection(character);
-    if (direction == U_RIGHT_TO_LEFT || direction == U_RIGHT_TO_LEFT_ARABIC) return true;
-    if (direction == U_LEFT_TO_RIGHT) return false;
-    text.remove_prefix(static_cast<std::size_t>(length));
-  }
-  return false;
-}
-
-std::string FoldCase(std::string_view text) {
-  std::string folded;
-  ForEachUtf8(text, [&](const Piece& piece) {
-    if (piece.character == kUndecodable) {
-      folded += piece.bytes;
-    } else {
-      AppendUtf8(folded, u_foldCase(piece.character, U_FOLD_CASE_DEFAULT));
-    }
-  });
-  return folded;
-}
-
-bool EqualIgnoringCase(std::string_view left, std::string_view right) {
-  return left == right || FoldCase(left) == FoldCase(right);
 }
 
 }  // namespace folionet

@@ -56,16 +56,4 @@ class CodePage {
   CharsetUse m_use = CharsetUse::kAsDeclared;
 };
 
-// Whether a text is well-formed UTF-8.
-bool IsUtf8(std::string_view text);
-
-// Whether the first letter of a UTF-8 text is of a script that is written from right to left.
-bool BeginsRightToLeft(std::string_view text);
-
-// A UTF-8 text without letter case, for comparing; bytes that are not UTF-8 stay.
-std::string FoldCase(std::string_view text);
-
-// Two UTF-8 texts compared ignoring case, character by character.
-bool EqualIgnoringCase(std::string_view left, std::string_view right);
-
 }  // namespace folionet

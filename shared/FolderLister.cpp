@@ -4,9 +4,9 @@
 
 #include <algorithm>
 
-#include "CodePage.h"
 #include "Paths.h"
 #include "RunTimeError.h"
+#include "Utf8.h"
 
 namespace folionet {
 namespace {

@@ -6,9 +6,9 @@
 #include <cmath>
 #include <limits>
 
-#include "CodePage.h"
 #include "Numbers.h"
 #include "RunTimeError.h"
+#include "Utf8.h"
 
 namespace folionet {
 namespace {

@@ -1,26 +1,21 @@
 #include "Paths.h"
 
-#include <dirent.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
 #include <cerrno>
 #include <cstdlib>
-#include <memory>
 #include <utility>
 
 #include "CodePage.h"
 #include "FileHandle.h"
 #include "FolderLister.h"
+#include "FolderReader.h"
 #include "RunTimeError.h"
 
 namespace folionet {
 namespace {
-
-struct CloseFolder {
-  void operator()(DIR* folder) const { closedir(folder); }
-};
 
 bool IsThere(const std::string& path) {
   struct stat status {};
@@ -86,15 +81,10 @@ std::string UserFolder(const char* variable, std::string_view belowHome) {
 
 std::vector<std::string> FolderEntries(const std::string& folder) {
   const std::string path = NativePath(folder);
-  const std::unique_ptr<DIR, CloseFolder> handle(opendir(path.empty() ? "." : path.c_str()));
-  if (handle == nullptr) throw RunTimeError::FromErrno(errno, path);
+  FolderReader reader(path.empty() ? "." : path.c_str());
+  if (!reader.IsOpen()) throw RunTimeError::FromErrno(errno, path);
   std::vector<std::string> names;
-  errno = 0;
-  while (const dirent* entry = readdir(handle.get())) {
-    const std::string name = entry->d_name;
-    if (name != "." && name != "..") names.push_back(name);
-    errno = 0;
-  }
+  while (const dirent* const entry = reader.Next()) names.emplace_back(entry->d_name);
   if (errno != 0) throw RunTimeError::FromErrno(errno, path);
   return names;
 }

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "CodePage.h"
+#include "Utf8.h"
 
 namespace folionet {
 

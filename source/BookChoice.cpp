@@ -2,6 +2,7 @@
 
 #include "ImportedText.h"
 #include "Numbers.h"
+#include "Utf8.h"
 
 namespace folionet {
 namespace {

@@ -2,12 +2,12 @@
 
 #include <string_view>
 
-#include "CodePage.h"
 #include "Installation.h"
 #include "LineReader.h"
 #include "Paths.h"
 #include "RunTimeError.h"
 #include "Text.h"
+#include "Utf8.h"
 
 namespace folionet {
 namespace {

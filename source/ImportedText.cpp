@@ -9,6 +9,7 @@
 #include "Numbers.h"
 #include "Paths.h"
 #include "StoredSettings.h"
+#include "Utf8.h"
 #include "WholeFile.h"
 
 namespace folionet {

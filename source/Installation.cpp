@@ -9,6 +9,7 @@
 #include "OwnLibrary.h"
 #include "Paths.h"
 #include "StoredSettings.h"
+#include "Utf8.h"
 
 namespace folionet {
 namespace {
@@ -26,7 +27,7 @@ bool IsStoredInstallation(const StoredSettings& store, const std::string& instal
 // need not be that of the pages: theirs comes first, and the others only where there is no such file.
 std::vector<std::string> NamesOf(std::string_view stem, const CodePage& codePage, const char* ending) {
   std::vector<std::string> names{codePage.Decode(stem) + ending};
-  if (std::all_of(stem.begin(), stem.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; })) return names;
+  if (IsAscii(stem)) return names;
   names.push_back(std::string(stem) + ending);
   for (const char* charset :
        {"windows-1252", "windows-1250", "windows-1251", "windows-1253", "windows-1254", "windows-1255", "windows-1256",

@@ -2,12 +2,11 @@
 
 #include <algorithm>
 #include <array>
-#include <cstdint>
-#include <cstring>
 #include <utility>
 
 #include "FileHandle.h"
 #include "LineReader.h"
+#include "Utf8.h"
 #include "WholeFile.h"
 
 namespace folionet {
@@ -58,18 +57,6 @@ constexpr std::array<std::pair<std::string_view, const char*>, 40> kCharsetsOfLa
 }};
 
 bool IsHigh(char c) { return (static_cast<unsigned char>(c) & 0x80) != 0; }
-
-// Many bytes at a time: nearly every text is looked at to its end.
-bool IsAscii(std::string_view text) {
-  std::array<std::uint64_t, 4> part{};
-  std::uint64_t all = 0;
-  for (; text.size() >= sizeof(part); text.remove_prefix(sizeof(part))) {
-    std::memcpy(part.data(), text.data(), sizeof(part));
-    all |= part[0] | part[1] | part[2] | part[3];
-  }
-  for (const char c : text) all |= static_cast<unsigned char>(c);
-  return (all & 0x8080808080808080U) == 0;
-}
 
 // Whether the letters of a text are mostly beyond ASCII, as those of no Latin alphabet are.
 bool IsInOtherScript(std::string_view bytes) {

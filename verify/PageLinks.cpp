@@ -4,8 +4,8 @@
 #include <array>
 
 #include "Addresses.h"
-#include "CodePage.h"
 #include "HtmlReader.h"
+#include "Utf8.h"
 
 namespace folionet {
 namespace {

@@ -10,6 +10,7 @@
 #include "Addresses.h"
 #include "HtmlReader.h"
 #include "Text.h"
+#include "Utf8.h"
 
 namespace folionet {
 namespace {

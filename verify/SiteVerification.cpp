@@ -20,6 +20,7 @@
 #include "RunTimeError.h"
 #include "SiteFindings.h"
 #include "StyleLinks.h"
+#include "Utf8.h"
 #include "WholeFile.h"
 
 namespace folionet {

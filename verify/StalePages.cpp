@@ -1,6 +1,5 @@
 #include "StalePages.h"
 
-#include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -11,7 +10,6 @@
 #include "GeneratorLine.h"
 #include "Paths.h"
 #include "RunTimeError.h"
-#include "WholeFile.h"
 
 namespace folionet {
 namespace {
@@ -27,13 +25,6 @@ FileHandle OpenFolderOf(const FileHandle& top, const std::string& path) {
   return folder;
 }
 
-bool IsPageOfOurs(const FileHandle& file) {
-  struct stat status {};
-  std::string head;
-  return file.IsOpen() && fstat(file.Get(), &status) == 0 && S_ISREG(status.st_mode) &&
-         ReadAll(file.Get(), head, kGeneratorHead, 0) && IsOurPage(head);
-}
-
 // 0 when the page is gone, the system's error, or -1 for a file that is not ours.
 int Remove(const FileHandle& top, const std::string& path) {
   const FileHandle folder = OpenFolderOf(top, path);
@@ -41,7 +32,7 @@ int Remove(const FileHandle& top, const std::string& path) {
   const std::string name = path.substr(path.rfind('/') + 1);
   const FileHandle file = FileHandle::OpenAt(folder.Get(), name.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK);
   if (!file.IsOpen() && errno != ELOOP) return errno;
-  if (!IsPageOfOurs(file)) return -1;
+  if (!IsOurPage(file)) return -1;
   return unlinkat(folder.Get(), name.c_str(), 0) == 0 ? 0 : errno;
 }
 

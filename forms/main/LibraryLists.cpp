@@ -18,6 +18,7 @@
 #include "RunTimeError.h"
 #include "SiteFile.h"
 #include "TrySave.h"
+#include "Utf8.h"
 #include "ui_frmMain.h"
 
 namespace folionet {

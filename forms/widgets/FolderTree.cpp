@@ -1,6 +1,5 @@
 #include "FolderTree.h"
 
-#include <dirent.h>
 #include <sys/stat.h>
 
 #include <QDir>
@@ -11,6 +10,8 @@
 #include <QSignalBlocker>
 #include <QStyle>
 #include <algorithm>
+
+#include "FolderReader.h"
 
 namespace folionet {
 namespace {
@@ -28,22 +29,21 @@ QTreeWidgetItem* MakeItem(const QString& name, const QString& path, const QIcon&
   return item;
 }
 
-bool IsFolder(DIR* folder, const dirent& entry) {
+bool IsFolder(const FolderReader& folder, const dirent& entry) {
   if (entry.d_type != DT_LNK && entry.d_type != DT_UNKNOWN) return entry.d_type == DT_DIR;
   struct stat status {};
-  return fstatat(dirfd(folder), entry.d_name, &status, 0) == 0 && S_ISDIR(status.st_mode);
+  return fstatat(folder.Descriptor(), entry.d_name, &status, 0) == 0 && S_ISDIR(status.st_mode);
 }
 
 // The folders that a person sees in one. QDir would look at each of its files, which may be a hundred thousand, and the
 // standard library forms the path of each.
 QStringList VisibleFolders(const QString& path) {
   QStringList names;
-  DIR* const folder = opendir(QFile::encodeName(path).constData());
-  if (folder == nullptr) return names;
-  while (const dirent* const entry = readdir(folder)) {
+  FolderReader folder(QFile::encodeName(path).constData());
+  if (!folder.IsOpen()) return names;
+  while (const dirent* const entry = folder.Next()) {
     if (entry->d_name[0] != '.' && IsFolder(folder, *entry)) names << QFile::decodeName(entry->d_name);
   }
-  closedir(folder);
   names.sort(Qt::CaseInsensitive);
   return names;
 }

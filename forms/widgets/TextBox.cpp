@@ -6,8 +6,8 @@
 #include <QTextDocument>
 #include <algorithm>
 
-#include "CodePage.h"
 #include "OneLine.h"
+#include "Utf8.h"
 
 namespace folionet {
 namespace {

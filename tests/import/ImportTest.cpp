@@ -7,11 +7,11 @@
 
 #include "BookTable.h"
 #include "CatalogueText.h"
-#include "CodePage.h"
 #include "ImportText.h"
 #include "RunTimeError.h"
 #include "TemporaryFolder.h"
 #include "TitleLanguages.h"
+#include "Utf8.h"
 
 namespace folionet::test {
 namespace {

@@ -18,9 +18,9 @@
 #include <string_view>
 #include <utility>
 
-#include "CodePage.h"
 #include "Escapes.h"
 #include "FolderContent.h"
+#include "Utf8.h"
 
 namespace folionet::test {
 namespace {

@@ -59,7 +59,6 @@ class Bench {
         m_imported(work + "/imported"),
         m_runs(runs) {}
 
-  // Peak memory is measured while this program itself is small: a child starts with its parent's peak.
   void All() {
     Import("import of OSIS : reading it through libxml2 alone", m_text, "xml");
     const std::string zip = m_text + ".zip";
@@ -82,9 +81,15 @@ class Bench {
 
   double Compile(bool fresh, const std::vector<std::string>& more = {}) {
     if (fresh) fs::remove_all(m_site);
-    const ProcessRun run = RunProcess(CompileCommand(more));
-    m_peakKiB = std::max(m_peakKiB, run.peakKiB);
-    return run.milliseconds;
+    return RunProcess(CompileCommand(more));
+  }
+
+  // Asked of a process of this program that has read nothing yet.
+  double PeakMiB(std::vector<std::string> command) const {
+    const std::string result = fs::path(m_site).parent_path() / "peak";
+    command.insert(command.begin(), {m_self, "peak", result});
+    RunProcess(command);
+    return std::stod(ReadFile(result)) / 1024;
   }
 
   double Bare(const std::vector<File>& files, bool fresh, int flags) {
@@ -106,7 +111,6 @@ class Bench {
     for (const File& file : files) bytes += file.bytes.size();
     std::printf("%zu files, %.1f MB; medians of %d interleaved runs\n", files.size(), static_cast<double>(bytes) / 1e6,
                 m_runs);
-    m_peakKiB = 0;
     const auto medians =
         Interleave(m_runs, {[&] { return Compile(true); }, [&] { return Bare(files, true, O_CREAT | O_TRUNC); }});
     Print("first compile : bare writing", medians[0], medians[1]);
@@ -140,24 +144,23 @@ class Bench {
 
   // Of a whole Bible; both from the start of a process to its end.
   void Import(const char* what, const std::string& text, const std::string& reading) {
-    m_peakKiB = 0;
+    const std::vector<std::string> command{m_cli, "import", text, "--into", m_imported, "--quiet"};
     const auto import = [&] {
       fs::remove_all(m_imported);
-      const ProcessRun run = RunProcess({m_cli, "import", text, "--into", m_imported, "--quiet"});
-      m_peakKiB = std::max(m_peakKiB, run.peakKiB);
-      return run.milliseconds;
+      return RunProcess(command);
     };
-    const auto read = [&] { return RunProcess({m_self, reading, text}).milliseconds; };
+    const auto read = [&] { return RunProcess({m_self, reading, text}); };
     const auto medians = Interleave(m_runs, {import, read});
     Print(what, medians[0], medians[1]);
-    std::printf("import: peak memory %.1f MiB\n", static_cast<double>(m_peakKiB) / 1024);
+    fs::remove_all(m_imported);
+    std::printf("import: peak memory %.1f MiB\n", PeakMiB(command));
   }
 
   // Each verse stands so many times in its chapter.
   void Growth() {
     const fs::path text = fs::path(m_library) / "Modules/Bible/KJV.TXT";
     const std::string original = ReadFile(text);
-    const auto startUp = Interleave(m_runs, {[&] { return RunProcess({m_cli, "--version"}).milliseconds; }})[0];
+    const auto startUp = Interleave(m_runs, {[&] { return RunProcess({m_cli, "--version"}); }})[0];
     double single = 0;
     for (const int times : {1, 2, 4, 8}) {
       std::ofstream grown(text, std::ios::binary | std::ios::trunc);
@@ -167,11 +170,11 @@ class Bench {
         at = end;
       }
       grown.close();
-      m_peakKiB = 0;
       const double time = Interleave(m_runs, {[&] { return Compile(true); }})[0] - startUp;
       if (times == 1) single = time;
+      fs::remove_all(m_site);
       std::printf("%d x the verses: %7.2f ms without start-up, %5.2f x; peak memory %.1f MiB\n", times, time,
-                  time / single, static_cast<double>(m_peakKiB) / 1024);
+                  time / single, PeakMiB(CompileCommand()));
     }
     std::ofstream(text, std::ios::binary | std::ios::trunc) << original;
   }
@@ -179,10 +182,10 @@ class Bench {
   void StartUp() {
     const auto medians =
         Interleave(m_runs, {[&] {
-                              return RunProcess({m_cli, "list", "books", "--versalia-path", m_library}).milliseconds;
+                              return RunProcess({m_cli, "list", "books", "--versalia-path", m_library});
                             },
                             [&] {
-                              return RunProcess({m_cli, "--version"}).milliseconds;
+                              return RunProcess({m_cli, "--version"});
                             }});
     std::printf("%-58s %8.2f ms\n", "folionet-cli --version", medians[1]);
     Print("list books : --version", medians[0], medians[1]);
@@ -203,14 +206,13 @@ class Bench {
       }
       if (lines == 0) throw std::runtime_error("the library has no lines");
     };
-    const auto medians =
-        Interleave(m_runs, {[&] {
-                              return RunProcess({m_cli, "check", "--versalia-path", m_library}, true).milliseconds;
-                            },
-                            [&] { return Time(readAll); },
-                            [&] {
-                              return RunProcess({m_cli, "--version"}).milliseconds;
-                            }});
+    const auto medians = Interleave(m_runs, {[&] {
+                                               return RunProcess({m_cli, "check", "--versalia-path", m_library}, true);
+                                             },
+                                             [&] { return Time(readAll); },
+                                             [&] {
+                                               return RunProcess({m_cli, "--version"});
+                                             }});
     Print("check : reading and splitting its files + start-up", medians[0], medians[1] + medians[2]);
   }
 
@@ -222,7 +224,6 @@ class Bench {
   std::string m_text;
   std::string m_imported;
   int m_runs;
-  long m_peakKiB = 0;
   double m_freshLimit = 0;
 };
 
@@ -230,11 +231,16 @@ class Bench {
 }  // namespace folionet::bench
 
 // The program folionet-cli, a folder in a memory file system that holds library/ and text.osis.xml, and the runs of
-// each measurement; or "xml" or "archive" and a file, which is only read through.
+// each measurement; or "xml" or "archive" and a file, which is only read through; or "peak", a file and a command,
+// whose peak memory in KiB goes into the file.
 int main(int argc, char** argv) {
   using namespace folionet::bench;
   try {
     const std::vector<std::string> given(argv + 1, argv + argc);
+    if (given.size() > 3 && given[0] == "peak") {
+      std::ofstream(given[1]) << PeakOfProcess({given.begin() + 2, given.end()});
+      return 0;
+    }
     if (given.size() == 2) {
       const std::size_t length = given[0] == "xml" ? ReadXmlAlone(given[1]) : ReadArchiveAlone(given[1]);
       if (length == 0) throw std::runtime_error("nothing in " + given[1]);

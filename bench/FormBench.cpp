@@ -139,7 +139,7 @@ class Form {
 
 void Measure(const std::string& self, const Arguments& arguments) {
   const auto opening = Interleave(arguments.runs, {[&] {
-                                    return RunProcess({self, arguments.library, arguments.work}).milliseconds;
+                                    return RunProcess({self, arguments.library, arguments.work});
                                   }});
   std::printf("%-58s %8.2f ms\n", "form, start to first painted frame", opening[0]);
   Form form(arguments);

@@ -21,31 +21,37 @@ double Time(const std::function<void()>& work) {
   return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start).count();
 }
 
-ProcessRun RunProcess(const std::vector<std::string>& command, bool mayRefuse) {
+namespace {
+
+// What the process has used; throws when it does not end with status 0 or, when `mayRefuse`, 1.
+rusage Run(const std::vector<std::string>& command, bool mayRefuse) {
   std::vector<char*> arguments;
   for (const std::string& argument : command) arguments.push_back(const_cast<char*>(argument.c_str()));
   arguments.push_back(nullptr);
   posix_spawn_file_actions_t actions;
   posix_spawn_file_actions_init(&actions);
   posix_spawn_file_actions_addopen(&actions, 1, "/dev/null", O_WRONLY, 0);
+  pid_t child = 0;
+  const int error = posix_spawn(&child, arguments[0], &actions, nullptr, arguments.data(), environ);
+  posix_spawn_file_actions_destroy(&actions);
+  if (error != 0) throw std::runtime_error("cannot start " + command[0]);
   int status = 0;
   rusage usage{};
-  ProcessRun run;
-  run.milliseconds = Time([&] {
-    pid_t child = 0;
-    if (posix_spawn(&child, arguments[0], &actions, nullptr, arguments.data(), environ) != 0) {
-      throw std::runtime_error("cannot start " + command[0]);
-    }
-    wait4(child, &status, 0, &usage);
-  });
-  posix_spawn_file_actions_destroy(&actions);
+  wait4(child, &status, 0, &usage);
   const int exitStatus = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
   if (exitStatus != 0 && !(mayRefuse && exitStatus == 1)) {
     throw std::runtime_error(command[0] + " ended with status " + std::to_string(exitStatus));
   }
-  run.peakKiB = usage.ru_maxrss;
-  return run;
+  return usage;
 }
+
+}  // namespace
+
+double RunProcess(const std::vector<std::string>& command, bool mayRefuse) {
+  return Time([&] { Run(command, mayRefuse); });
+}
+
+long PeakOfProcess(const std::vector<std::string>& command) { return Run(command, false).ru_maxrss; }
 
 int ReadRuns(const std::string& argument) {
   int runs = 0;

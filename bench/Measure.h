@@ -6,15 +6,13 @@
 
 namespace folionet::bench {
 
-// One run of a program, as a whole process.
-struct ProcessRun {
-  double milliseconds = 0;
-  long peakKiB = 0;
-};
+// The milliseconds of a program as a whole process, with its output thrown away. Throws std::runtime_error when it does
+// not end with status 0 or, when `mayRefuse`, 1.
+double RunProcess(const std::vector<std::string>& command, bool mayRefuse = false);
 
-// Runs a program with its output thrown away; throws std::runtime_error when it does not end with status 0 or, when
-// `mayRefuse`, 1.
-ProcessRun RunProcess(const std::vector<std::string>& command, bool mayRefuse = false);
+// The most memory in KiB that a program holds. The system counts what its parent held when it was started, so that this
+// is to be asked by a process that holds little itself.
+long PeakOfProcess(const std::vector<std::string>& command);
 
 // The runs that an argument asks for, from 1 to 1000; throws std::runtime_error for another.
 int ReadRuns(const std::string& argument);

@@ -231,11 +231,10 @@ class CompileRun {
   void WriteSitemap() const {
     std::vector<SitemapPage> pages{PageOfSitemap(m_indexFileName)};
     for (int book = m_request.cboStartBook + 1; book <= m_request.cboEndBook + 1; ++book) {
-      for (int chapter = 1; chapter <= ChaptersOf(m_inputs, book); ++chapter) {
-        if (!HasChapter(m_glob, book, chapter)) continue;
+      ForEachChapter(m_glob, book, ChaptersOf(m_inputs, book), [&](int chapter) {
         std::string name = m_names.OnDisk(book, chapter);
         if (name != m_indexFileName) pages.push_back(PageOfSitemap(std::move(name)));
-      }
+      });
     }
     WriteOtherFile(m_request, m_folder, "sitemap.xml", BuildSitemap(m_request.sitemapAddress, pages));
   }

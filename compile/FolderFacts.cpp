@@ -107,9 +107,8 @@ std::set<std::string> FilesOfSite(const CompileRequest& request, const ModGlob& 
   std::set<std::string> files{IndexFileName(request.options.txthttpRoot)};
   const ChapterCounts chapters = CountChapters(glob);
   for (int book = 1; book <= static_cast<int>(glob.cboStartBook.size()); ++book) {
-    for (int chapter = 1; chapter <= chapters[static_cast<std::size_t>(book)]; ++chapter) {
-      if (HasChapter(glob, book, chapter)) files.insert(names.OnDisk(book, chapter));
-    }
+    ForEachChapter(glob, book, chapters[static_cast<std::size_t>(book)],
+                   [&](int chapter) { files.insert(names.OnDisk(book, chapter)); });
   }
   if (request.options.chkCSS) files.insert("default.css");
   if (!request.sitemapAddress.empty()) files.insert("sitemap.xml");

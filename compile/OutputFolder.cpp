@@ -119,14 +119,12 @@ std::int16_t CleanUp(const CompileRequest& request, const PageInputs& inputs, co
   };
   std::int16_t removed = 0;
   const auto removeBook = [&](int book) {
-    const int chapters = ChaptersOf(inputs, book);
-    for (int chapter = 1; chapter <= chapters; ++chapter) {
-      if (!HasChapter(inputs.glob, book, chapter)) continue;
+    ForEachChapter(inputs.glob, book, ChaptersOf(inputs, book), [&](int chapter) {
       const std::string name = inputs.names.OnDisk(book, chapter);
       if (IsPageName(name) && !isKept(name)) Remove(request, folder, name);
       if (removed < kInt16Max) ++removed;
       inputs.ui.SetPanel(1, "Removing extra HTML .. " + name);
-    }
+    });
   };
   for (int book = 1; book <= request.cboStartBook; ++book) removeBook(book);
   for (const int book : BooksRemovedAfter(request, inputs.names)) removeBook(book);

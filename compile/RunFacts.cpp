@@ -100,36 +100,38 @@ class FactFinder {
     }
     std::size_t place = 0;
     for (int book = 1; book <= Books(); ++book) {
-      for (int chapter = 1; chapter <= ChaptersOf(book); ++chapter, ++place) {
-        const ChapterEntry& entry = m_glob.ChapterIndex[std::min(place, m_glob.ChapterIndex.size() - 1)];
+      ForEachChapter(m_glob, book, ChaptersOf(book), [&](int chapter) {
+        const ChapterEntry& entry = m_glob.ChapterIndex[std::min(place++, m_glob.ChapterIndex.size() - 1)];
         if (entry.Book != book || entry.Chapter != chapter) names.insert(m_names.OnDisk(book, chapter));
-      }
+      });
     }
     return names;
   }
 
   bool ArePagesThere() const {
     const std::string& folder = m_request.txtOutputPath;
+    bool areThere = false;
     for (int book = 1; book <= m_request.cboStartBook; ++book) {
-      for (int chapter = 1; chapter <= ChaptersOf(book); ++chapter) {
+      ForEachChapter(m_glob, book, ChaptersOf(book), [&](int chapter) {
         const std::string name = m_names.OnDisk(book, chapter);
-        if (IsPageName(name) && FileExists(folder + name)) return true;
-      }
+        areThere = areThere || (IsPageName(name) && FileExists(folder + name));
+      });
     }
-    return false;
+    return areThere;
   }
 
   // The pages of the books before the starting one are deleted in any case, and those that stay are not.
   void FindSharedIndex() {
     for (int book = m_request.cboStartBook + 1; book <= Books(); ++book) {
       if (!m_index.starts_with(m_names.BookOnDisk(book))) continue;
-      for (int chapter = 1; chapter <= ChaptersOf(book); ++chapter) {
-        if (m_names.OnDisk(book, chapter) != m_index) continue;
-        m_facts.push_back(Warning(
-            "index-takes-page", {Words("QObject", "The index page %1 takes the place of a chapter's page."), {m_index}},
-            {"Give it a name of its own with --index-address."}));
-        return;
-      }
+      bool takesPage = false;
+      ForEachChapter(m_glob, book, ChaptersOf(book),
+                     [&](int chapter) { takesPage = takesPage || m_names.OnDisk(book, chapter) == m_index; });
+      if (!takesPage) continue;
+      m_facts.push_back(Warning("index-takes-page",
+                                {Words("QObject", "The index page %1 takes the place of a chapter's page."), {m_index}},
+                                {"Give it a name of its own with --index-address."}));
+      return;
     }
   }
 

@@ -28,13 +28,11 @@ void CheckLength(const std::string& text, const char* what) {
 std::string BuildChapterNav(const PageInputs& inputs, const CompileContext& context, int book) {
   std::string block;
   if (!inputs.options.chkCSS) block = "<p align=" + InQuotes(context.LinkAlignment) + ">";
-  const int chapters = ChaptersOf(inputs, book);
-  for (int chapter = 1; chapter <= chapters; ++chapter) {
-    if (!HasChapter(inputs.glob, book, chapter)) continue;
+  ForEachChapter(inputs.glob, book, ChaptersOf(inputs, book), [&](int chapter) {
     AddChapterLink(block, inputs, book, chapter);
     block += "\r\n";
     CheckLength(block, "The links to the chapters");
-  }
+  });
   return inputs.options.chkCSS ? "<h3>" + block + "</h3>" : block + "</font></p>";
 }
 

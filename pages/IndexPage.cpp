@@ -19,13 +19,12 @@ void PrintListing(const IndexPage& index, const PageInputs& inputs, const CodePa
     const int chapters = ChaptersOf(inputs, book);
     if (chapters == 0 && inputs.glob.Imported.IsThere()) continue;
     page.Print(codePage.ToUpper(BookName(inputs, book)), " ");
-    for (int chapter = 1; chapter <= chapters; ++chapter) {
-      if (!HasChapter(inputs.glob, book, chapter)) continue;
+    ForEachChapter(inputs.glob, book, chapters, [&](int chapter) {
       link.clear();
       AddChapterLink(link, inputs, book, chapter);
       page.Add(link, inputs.names.Use83() ? "\r\n" : "");
       inputs.ui.SetPanel(1, "Building index file" + std::to_string(chapter) + " Please stand by...");
-    }
+    });
     page.Print("<br><br>");
   }
   page.Print("");

@@ -72,9 +72,12 @@ struct ModGlob {
   std::string OutputFolder;  // ends in the folder separator
 };
 
-// Whether a chapter up to the last one of its book has a page.
-inline bool HasChapter(const ModGlob& glob, int book, int chapter) {
-  return glob.missingChapters.empty() || !glob.missingChapters.contains({book, chapter});
+// Calls take(chapter) for each chapter of a book that has a page, `chapters` being the last one.
+template <typename Take>
+void ForEachChapter(const ModGlob& glob, int book, int chapters, Take take) {
+  for (int chapter = 1; chapter <= chapters; ++chapter) {
+    if (glob.missingChapters.empty() || !glob.missingChapters.contains({book, chapter})) take(chapter);
+  }
 }
 
 }  // namespace folionet

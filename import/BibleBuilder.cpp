@@ -74,6 +74,11 @@ void BibleBuilder::Note(const char* kind, const char* pattern, const std::string
   m_bible.findings.Add({kind, Severity::kNote, m_file, m_line, {}, {pattern, {about}}, {}});
 }
 
+void BibleBuilder::NoteLeftOutFile(const std::string& file, const std::string& form) {
+  const char* const pattern = Words("Import", "Left out, as it is %1 and the other files are not.");
+  m_bible.findings.Add({"left-out-file", Severity::kNote, file, 0, {}, {pattern, {form}}, {}});
+}
+
 void BibleBuilder::BeginBook(std::string_view name) {
   const std::string clean = WithSingleBlanks(name);
   if (clean.empty()) Fail("the code or the name of a book was expected");

@@ -57,6 +57,9 @@ class BibleBuilder {
   // Something that was passed over or put up with, told once for each `about`.
   void Note(const char* kind, const char* pattern, const std::string& about);
 
+  // A file is none of the text, as it has this form and the others have another.
+  void NoteLeftOutFile(const std::string& file, const std::string& form);
+
   // The file has another mistake than those above: throws, with the place at hand.
   [[noreturn]] void Fail(const std::string& what) const;
 

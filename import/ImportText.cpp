@@ -1,6 +1,7 @@
 #include "ImportText.h"
 
 #include <filesystem>
+#include <optional>
 
 #include "BibleBuilder.h"
 #include "InputFiles.h"
@@ -14,7 +15,8 @@ namespace {
 
 constexpr char kForms[] = "A Bible text was expected: USFM, USX, USFX, OSIS, Zefania XML, or one verse a line.";
 
-// Reads the files of one text, which all have the same form.
+// Reads the files of one text, which all have the same form. A file of a folder or an archive that looks like one verse
+// a line beside files of another form is none of the text: a licence, a list of verse counts.
 class BibleReader {
  public:
   explicit BibleReader(const ImportSource& source) : m_source(source) {}
@@ -27,26 +29,59 @@ class BibleReader {
       if (file.isGiven) throw RunTimeError(kInvalidProcedureCall, file.name, kForms);
       return;
     }
-    if (m_kind == FormKind::kNone) {
-      m_kind = kind;
-      m_first = file.name;
-    }
-    if (kind != m_kind) {
-      throw RunTimeError(kInvalidProcedureCall, file.name,
-                         "Files of one form were expected: this one is " + std::string(NameOf(kind)) + ", " + m_first +
-                             " is " + std::string(NameOf(m_kind)) + ".");
-    }
+    if (kind != m_kind && !BelongsHere(kind, file)) return;
+    m_isFormSure = m_isFormSure || kind != FormKind::kLines || file.isGiven;
     m_builder.SetFile(file.name);
-    ReadFile(kind, file.name, text);
-    m_builder.EndFile();
+    if (kind == FormKind::kLines && !file.isGiven) {
+      TakeLines(file.name, text);
+    } else {
+      ReadFile(kind, file.name, text);
+      m_builder.EndFile();
+    }
   }
 
   ImportedBible Finish(const std::string& path) {
+    if (m_lineFault) throw RunTimeError(*m_lineFault);
     if (m_kind == FormKind::kNone) throw RunTimeError(kInvalidProcedureCall, path, kForms);
     return m_builder.Finish();
   }
 
  private:
+  // Whether a file is of the text, though it has not the form of those before it.
+  bool BelongsHere(FormKind kind, const InputFile& file) {
+    if (kind == FormKind::kLines && m_kind != FormKind::kNone && !file.isGiven) {
+      NoteLeftOut(file.name);
+      return false;
+    }
+    if (m_kind == FormKind::kLines && !m_isFormSure) {
+      m_builder = BibleBuilder();
+      m_lineFault.reset();
+      for (const std::string& name : m_lineFiles) NoteLeftOut(name);
+      m_lineFiles.clear();
+    } else if (m_kind != FormKind::kNone) {
+      throw RunTimeError(kInvalidProcedureCall, file.name,
+                         "Files of one form were expected: this one is " + std::string(NameOf(kind)) + ", " + m_first +
+                             " is " + std::string(NameOf(m_kind)) + ".");
+    }
+    m_kind = kind;
+    m_first = file.name;
+    return true;
+  }
+
+  void NoteLeftOut(const std::string& file) { m_builder.NoteLeftOutFile(file, std::string(NameOf(FormKind::kLines))); }
+
+  // A fault counts when no file of another form comes.
+  void TakeLines(const std::string& name, TextDecoder& text) {
+    m_lineFiles.push_back(name);
+    if (m_lineFault) return;
+    try {
+      ReadFile(FormKind::kLines, name, text);
+      m_builder.EndFile();
+    } catch (const RunTimeError& fault) {
+      m_lineFault = fault;
+    }
+  }
+
   void GoOn(const std::string& file) const {
     if (m_source.goOn && !m_source.goOn(file)) throw ReadingStopped();
   }
@@ -69,7 +104,10 @@ class BibleReader {
   const ImportSource& m_source;
   BibleBuilder m_builder;
   FormKind m_kind = FormKind::kNone;
-  std::string m_first;  // the file that told the form
+  std::string m_first;                   // the file that told the form
+  bool m_isFormSure = false;             // files of another form than m_kind are a fault
+  std::vector<std::string> m_lineFiles;  // those of one verse a line that were not named themselves
+  std::optional<RunTimeError> m_lineFault;
 };
 
 }  // namespace

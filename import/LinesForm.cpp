@@ -278,7 +278,9 @@ void LinesForm::TakeRow(const Row& row) {
     if (number.error == 0) {
       m_builder.BeginBookNumber(static_cast<int>(number.value), {});
     } else {
-      m_builder.BeginBook(row.book);
+      // Where codes are short, what stands behind Joshua is Judges, and Jude is written out.
+      const bool isJudges = BookKey(row.book) == "jud" && FindBook(m_book) == FindBook("JOS");
+      m_builder.BeginBook(isJudges ? std::string_view("JDG") : row.book);
     }
     m_book = row.book;
     m_chapter.clear();

@@ -185,12 +185,25 @@ void TextDecoder::Decode() {
   }
   m_text = std::string_view(m_decoded).substr(0, static_cast<std::size_t>(target - m_decoded.data()));
   m_start = m_end;
+  EndLinesWithLf(m_decoded.data(), m_text.size());
   if (isFault) NoteFault(m_text.size());
+}
+
+// Lines that end in CR alone, as the beginning of the text tells, end in LF from here on.
+void TextDecoder::EndLinesWithLf(char* text, std::size_t size) {
+  if (m_isBeginning) {
+    const std::string_view beginning(text, size);
+    const std::size_t end = beginning.find('\r');
+    m_hasCrAlone = end < size - 1 && beginning.find('\n') == std::string_view::npos;
+    m_isBeginning = false;
+  }
+  if (m_hasCrAlone) std::replace(text, text + size, '\r', '\n');
 }
 
 void TextDecoder::DecodeUtf8() {
   const std::size_t unfinished = m_isAtEnd ? 0 : UnfinishedLength(Raw());
   m_text = Raw().substr(0, m_end - m_start - unfinished);
+  EndLinesWithLf(m_raw.data() + m_start, m_text.size());
   m_start += m_text.size();
   if (IsUtf8(m_text)) return;
   // The lines before the fault are good.

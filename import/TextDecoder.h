@@ -11,9 +11,9 @@ struct UConverter;
 
 namespace folionet {
 
-// The text of a file in UTF-8, piece by piece. Its encoding is, in this order: what its byte-order mark tells; UTF-16
-// when it looks like that; the charset that was given; the one that it names itself (in an XML declaration or behind
-// \ide); UTF-8.
+// The text of a file in UTF-8, piece by piece. Lines that end in CR alone end in LF. Its encoding is, in this order:
+// what its byte-order mark tells; UTF-16 when it looks like that; the charset that was given; the one that it names
+// itself (in an XML declaration or behind \ide); UTF-8.
 class TextDecoder {
  public:
   // Reads the beginning. `charset` is empty when none was given. Throws RunTimeError for a charset that is not known.
@@ -41,6 +41,7 @@ class TextDecoder {
   void FillRaw();
   void Decode();
   void DecodeUtf8();
+  void EndLinesWithLf(char* text, std::size_t size);
   void NoteFault(std::size_t textBefore);
 
   ByteSource& m_bytes;
@@ -53,6 +54,8 @@ class TextDecoder {
   std::size_t m_end = 0;
   std::string m_decoded;    // of bytes that are not UTF-8
   std::string_view m_text;  // what Next gives next, in one of the two
+  bool m_isBeginning = true;
+  bool m_hasCrAlone = false;  // at the ends of its lines
   bool m_isAtEnd = false;
   bool m_isGiven = false;
   std::size_t m_lines = 0;      // before m_text

@@ -99,6 +99,10 @@
         <source>%1: a code such as he or pt-br was expected: %2</source>
         <translation>%1: ein Kürzel wie he oder pt-br wurde erwartet: %2</translation>
     </message>
+    <message>
+        <source>Left out, as it is %1 and the other files are not.</source>
+        <translation>Ausgelassen, da sie %1 ist und die anderen Dateien nicht.</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

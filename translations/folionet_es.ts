@@ -99,6 +99,10 @@
         <source>%1: a code such as he or pt-br was expected: %2</source>
         <translation>%1: se esperaba un código como he o pt-br: %2</translation>
     </message>
+    <message>
+        <source>Left out, as it is %1 and the other files are not.</source>
+        <translation>Se omite, pues es %1 y los demás archivos no.</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

@@ -39,9 +39,8 @@ std::string OutputPath(const CompileArguments& arguments, const Session& session
 
 // A folder that cannot be made, as in a home that is read only, does not matter where nothing of it is needed.
 std::string ProgramFolderOf(Session& session, const CompileArguments& arguments) {
-  if (arguments.dryRun) return ProgramFolderToRead(session.chosenProgramFolder);
   try {
-    return FindProgramFolder(session.chosenProgramFolder);
+    return FindProgramFolder(session.chosenProgramFolder, arguments.dryRun ? Doing::kPlan : Doing::kChange);
   } catch (const RunTimeError& error) {
     if (!session.options.chkCSS) return ProgramFolderToRead(session.chosenProgramFolder);
     session.ui.ShowErrorReport({Procedure::kFormLoad, error});
@@ -155,6 +154,7 @@ CompileRequest RequestOf(const CompileArguments& arguments, const CompileArgumen
   request.isTranslationNamed = !arguments.translation.empty();
   request.cboLang = BookTitlesFile(session.store, session.glob);
   request.programFolder = ProgramFolderOf(session, arguments);
+  request.styleSheet = StyleSheetToRead(session.chosenProgramFolder);
   session.LoadOwnHtml(request.programFolder);
   request.texts = session.texts;
   const LinkEffects effects = Effects(request.options.frmEffects);

@@ -29,6 +29,7 @@ struct CompileRequest {
   int cboStartBook = 0;              // places in the book lists
   int cboEndBook = 65;
   std::string programFolder;       // where default.css is; ends in the folder separator
+  std::string styleSheet;          // its path; empty for default.css in that folder
   bool makeOutputFolder = false;   // whether a missing output folder is made
   std::string sitemapAddress;      // the output folder's public address; empty for no sitemap.xml
   bool onlyChosen = false;         // whether the pages of the books after the ending one are deleted too

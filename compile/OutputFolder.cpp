@@ -1,14 +1,12 @@
 #include "OutputFolder.h"
 
 #include <algorithm>
-#include <cerrno>
-#include <filesystem>
 #include <set>
 #include <string_view>
-#include <system_error>
 #include <unordered_map>
 
 #include "ChapterNav.h"
+#include "MakeFolders.h"
 #include "Numbers.h"
 #include "PageFile.h"
 #include "Paths.h"
@@ -28,27 +26,17 @@ void Remove(const CompileRequest& request, RunFolder& folder, const std::string&
   if (folder.site.HasKeptOld()) request.changes->Kept(name);
 }
 
-void MakeOutputFolder(const CompileRequest& request) {
-  if (!request.makeOutputFolder || !IsFolderChosen(request) || request.dryRun) return;
-  const std::string& folder = request.txtOutputPath;
-  if (FolderExists(folder)) return;
-  std::error_code error;
-  std::filesystem::create_directories(folder, error);
-  if (!FolderExists(folder)) {
-    throw RunTimeError::FromErrno(error ? error.value() : ENOTDIR, folder).About(Subject::kOutputFolder);
-  }
-}
-
 }  // namespace
 
 void OpenOutputFolder(const CompileRequest& request, RunFolder& folder) {
   if (folder.site.IsOpen()) return;
-  MakeOutputFolder(request);
-  if (request.dryRun) {
-    folder.site.OpenToPlan(request.txtOutputPath);
-  } else {
-    folder.site.Open(request.txtOutputPath);
+  const std::string& path = request.txtOutputPath;
+  const Doing doing = request.dryRun ? Doing::kPlan : Doing::kChange;
+  if (request.makeOutputFolder && IsFolderChosen(request)) {
+    const int systemError = MakeFolders(path, doing);
+    if (systemError != 0) throw RunTimeError::FromErrno(systemError, path).About(Subject::kOutputFolder);
   }
+  folder.site.Open(path, doing);
   folder.site.Lock();
   folder.journal.emplace(request.stateFolder, folder.site.Path());
   folder.site.SetWatch(&*folder.journal);
@@ -70,7 +58,7 @@ void ForgetChanges(const CompileRequest& request, RunFolder& folder) {
 
 void CopyCSS(const CompileRequest& request, RunFolder& folder) {
   if (!IsFolderChosen(request)) return;
-  const std::string source = request.programFolder + kStyleSheet;
+  const std::string source = request.styleSheet.empty() ? request.programFolder + kStyleSheet : request.styleSheet;
   const std::string content = WorkAbout(Subject::kStyleSheet, [&] { return ReadWholeFile(source); });
   OpenOutputFolder(request, folder);
   if (folder.site.IsSameFile(kStyleSheet, source)) {

@@ -12,6 +12,8 @@
 #include <utility>
 
 #include "FileLock.h"
+#include "FileMaker.h"
+#include "FilePlan.h"
 #include "GeneratorLine.h"
 #include "OpenBeneath.h"
 #include "Paths.h"
@@ -47,22 +49,20 @@ void SiteFolder::Check(int systemError, const std::string& name) const {
   if (systemError != 0) throw RunTimeError::FromErrno(systemError, m_path + name);
 }
 
-void SiteFolder::Open(const std::string& path) {
+void SiteFolder::Open(const std::string& path, Doing doing) {
   m_path = path;
+  m_isPlan = doing == Doing::kPlan;
+  m_changes = m_isPlan ? std::unique_ptr<FileChanges>(new FilePlan) : std::make_unique<FileMaker>();
   m_folder = FileHandle::Open(m_path.c_str(), O_RDONLY | O_DIRECTORY);
-  if (!m_folder.IsOpen() && !(m_dryRun && errno == ENOENT)) {
+  if (!m_folder.IsOpen() && !(m_isPlan && errno == ENOENT)) {
     throw RunTimeError::FromErrno(errno, m_path).About(Subject::kOutputFolder);
   }
   m_isOpen = true;
 }
 
-void SiteFolder::OpenToPlan(const std::string& path) {
-  m_dryRun = true;
-  Open(path);
-}
-
 void SiteFolder::Lock() const {
-  if (m_dryRun || LockFile(m_folder.Get(), std::chrono::milliseconds(0))) return;
+  if (!m_folder.IsOpen()) return;
+  if (m_isPlan ? !IsLockHeld(m_folder.Get()) : LockFile(m_folder.Get(), std::chrono::milliseconds(0))) return;
   throw RunTimeError(
       kPermissionDenied, m_path,
       LockHolder(m_folder.Get()) + " is writing into this folder. Wait for that to end, or choose another folder.")
@@ -72,23 +72,22 @@ void SiteFolder::Lock() const {
 PageChange SiteFolder::Write(const std::string& name, std::string_view text) {
   m_hasKeptOld = false;
   m_writtenBytes = text.size();
-  const bool triesNew = m_expected == PageChange::kNew && !m_dryRun;
+  const bool triesNew = m_expected == PageChange::kNew;
   if (triesNew && WriteNew(name, text)) return m_expected = PageChange::kNew;
   OldFile old = m_folder.IsOpen() ? OpenOld(name) : OldFile{{}, ENOENT};
   if (old.file.IsOpen()) return m_expected = WriteOld(name, std::move(old), text);
   if (old.denied != ENOENT) Check(old.denied, name);
-  if (m_dryRun) {
-    // Where a file could not be made, the plan fails as the run would.
-    if (m_folder.IsOpen() && faccessat(m_folder.Get(), ".", W_OK, AT_EACCESS) != 0) Check(errno, name);
-  } else if (!WriteNew(name, text)) {
-    Check(EEXIST, name);
-  }
+  if (!WriteNew(name, text)) Check(EEXIST, name);
   return m_expected = PageChange::kNew;
 }
 
+void SiteFolder::WillChange(const std::string& name) const {
+  if (m_watch != nullptr && !m_isPlan) m_watch->WillChange(name);
+}
+
 bool SiteFolder::WriteNew(const std::string& name, std::string_view text) {
-  if (m_watch != nullptr) m_watch->WillChange(name);
-  const int systemError = m_maker.Make(m_folder.Get(), name, text);
+  WillChange(name);
+  const int systemError = m_changes->Make(m_folder.Get(), name, text, nullptr);
   if (systemError == EEXIST) return false;
   Check(systemError, name);
   return true;
@@ -159,19 +158,26 @@ PageChange SiteFolder::WriteOld(const std::string& name, OldFile old, std::strin
   Check(old.denied, name);
   const struct stat status = StatusOf(old.file, m_path + name);
   if (!IsOurs(name, old.file, text)) Keep(name, old.file, status);
-  if (m_dryRun) return PageChange::kChanged;
-  if (m_watch != nullptr) m_watch->WillChange(name);
+  WillChange(name);
   if (status.st_nlink > 1) {
-    Check(m_maker.Replace(m_folder.Get(), name, text, status.st_mode & 0777), name);
+    Replace(name, text, status);
   } else {
-    Overwrite(name, std::move(old.file), text, status.st_size);
+    Overwrite(name, std::move(old.file), text, status);
   }
   return PageChange::kChanged;
 }
 
-void SiteFolder::Overwrite(const std::string& name, FileHandle file, std::string_view text, off_t oldSize) const {
-  if (!WriteAll(file.Get(), text, 0)) Check(errno, name);
-  if (oldSize > static_cast<off_t>(text.size()) && !CutToLength(file.Get(), text.size())) Check(errno, name);
+void SiteFolder::Replace(const std::string& name, std::string_view text, const struct stat& old) const {
+  if (IsWayBlocked(m_folder.Get())) {
+    throw RunTimeError(kPathFileAccessError, m_path + name,
+                       "\"" + std::string(kOnItsWay) + "\" beside it is in the way. Remove it.");
+  }
+  Check(m_changes->Replace(m_folder.Get(), name, text, old), name);
+}
+
+void SiteFolder::Overwrite(const std::string& name, FileHandle file, std::string_view text,
+                           const struct stat& old) const {
+  Check(m_changes->Overwrite(file, text, old), name);
   if (file.Close()) return;
   const int systemError = errno;
   if (m_watch != nullptr) m_watch->CouldNotClose(name);
@@ -193,18 +199,23 @@ bool SiteFolder::IsOneFile(const std::string& name, const std::string& other) co
 }
 
 // Once is enough: what a person puts there later was put over a page of ours.
+bool SiteFolder::IsKept(const std::string& name) const {
+  struct stat status {};
+  const bool isThere = fstatat(m_folder.Get(), KeptName(name).c_str(), &status, AT_SYMLINK_NOFOLLOW) == 0;
+  return (isThere && S_ISREG(status.st_mode)) || m_kept.contains(name);
+}
+
+void SiteFolder::NoteKept(const std::string& name) {
+  m_hasKeptOld = true;
+  m_kept.insert(name);
+}
+
 void SiteFolder::Keep(const std::string& name, const FileHandle& file, const struct stat& status) {
   constexpr std::size_t kLongest = std::size_t{64} << 20;
-  const std::string kept = KeptName(name);
-  if (Has(kept)) return;
-  if (!m_dryRun) {
-    const std::string bytes = ReadOpenFile(file, m_path + name, kLongest);
-    const int systemError = m_maker.Make(m_folder.Get(), kept, bytes, status.st_mode & 0777);
-    if (systemError != EEXIST) Check(systemError, kept);
-    const struct timespec times[] = {status.st_atim, status.st_mtim};
-    utimensat(m_folder.Get(), kept.c_str(), times, AT_SYMLINK_NOFOLLOW);
-  }
-  m_hasKeptOld = true;
+  if (IsKept(name)) return;
+  const std::string bytes = ReadOpenFile(file, m_path + name, kLongest);
+  Check(m_changes->Make(m_folder.Get(), KeptName(name), bytes, &status), KeptName(name));
+  NoteKept(name);
 }
 
 // Whether a regular file is a person's that is not kept yet; nothing where that cannot be known.
@@ -212,41 +223,24 @@ std::optional<bool> SiteFolder::IsToKeep(const std::string& name) const {
   const FileHandle file = FileHandle::OpenAt(m_folder.Get(), name.c_str(), O_RDONLY | O_NONBLOCK | O_NOFOLLOW);
   std::string head;
   if (!file.IsOpen() || !ReadAll(file.Get(), head, kGeneratorHead, 0)) return std::nullopt;
-  return !head.empty() && !IsOurPage(head) && !Has(KeptName(name));
+  return !head.empty() && !IsOurPage(head) && !IsKept(name);
 }
 
 Removal SiteFolder::Remove(const std::string& name) {
   m_hasKeptOld = false;
+  const int folder = m_folder.Get();
   struct stat status {};
-  if (!m_folder.IsOpen() || fstatat(m_folder.Get(), name.c_str(), &status, AT_SYMLINK_NOFOLLOW) != 0) {
+  if (!m_folder.IsOpen() || fstatat(folder, name.c_str(), &status, AT_SYMLINK_NOFOLLOW) != 0) {
     return Removal::kNotThere;
   }
-  if (!MayRemove(name, status)) return Removal::kFailed;
+  if (S_ISDIR(status.st_mode)) return Removal::kFailed;
   const std::optional<bool> isToKeep = S_ISREG(status.st_mode) ? IsToKeep(name) : false;
-  if (!isToKeep) return Removal::kFailed;
-  m_hasKeptOld = *isToKeep;
-  if (m_dryRun) return Removal::kRemoved;
-  const int folder = m_folder.Get();
-  const int result =
-      m_hasKeptOld ? renameat(folder, name.c_str(), folder, KeptName(name).c_str()) : unlinkat(folder, name.c_str(), 0);
-  if (result == 0) return Removal::kRemoved;
-  m_hasKeptOld = false;
-  return Removal::kFailed;
-}
-
-// What unlinkat refuses, so that a plan says what a run will do.
-bool SiteFolder::MayRemove(const std::string& name, const struct stat& status) const {
-  if (S_ISDIR(status.st_mode)) return false;
-  struct stat folder {};
-  if (fstat(m_folder.Get(), &folder) != 0 || faccessat(m_folder.Get(), ".", W_OK | X_OK, AT_EACCESS) != 0) return false;
-  const uid_t user = geteuid();
-  if ((folder.st_mode & S_ISVTX) != 0 && user != 0 && user != folder.st_uid && user != status.st_uid) return false;
-  constexpr auto kFixed = STATX_ATTR_IMMUTABLE | STATX_ATTR_APPEND;
-  struct statx file {};
-  struct statx parent {};
-  const bool known = statx(m_folder.Get(), name.c_str(), AT_SYMLINK_NOFOLLOW, 0, &file) == 0 &&
-                     statx(m_folder.Get(), "", AT_EMPTY_PATH, 0, &parent) == 0;
-  return !known || ((file.stx_attributes | parent.stx_attributes) & kFixed) == 0;
+  if (!isToKeep || (*isToKeep && Has(KeptName(name)))) return Removal::kFailed;
+  const int systemError =
+      *isToKeep ? m_changes->Rename(folder, name, status, KeptName(name)) : m_changes->Remove(folder, name, status);
+  if (systemError != 0) return Removal::kFailed;
+  if (*isToKeep) NoteKept(name);
+  return Removal::kRemoved;
 }
 
 std::time_t SiteFolder::LastChange(const std::string& name) const {

@@ -4,12 +4,15 @@
 
 #include <cstddef>
 #include <ctime>
+#include <memory>
 #include <optional>
+#include <set>
 #include <string>
 #include <string_view>
 
+#include "FileChanges.h"
 #include "FileHandle.h"
-#include "FileMaker.h"
+#include "MakeFolders.h"
 
 namespace folionet {
 
@@ -41,15 +44,14 @@ class ChangeWatch {
 // where a file of ours goes is kept beside as "<name>.before-folionet", the first time.
 class SiteFolder {
  public:
-  // Opens the folder `path`, which ends in the separator. Throws RunTimeError.
-  void Open(const std::string& path);
-
-  // The same for a dry run: nothing will be written, and a folder that is not there is as good as an empty one.
-  void OpenToPlan(const std::string& path);
+  // Opens the folder `path`, which ends in the separator, to change its files or to plan that: a plan finds, says and
+  // throws what a run would, but writes nothing, and a folder that is not there is to it as an empty one. Throws
+  // RunTimeError.
+  void Open(const std::string& path, Doing doing);
 
   bool IsOpen() const { return m_isOpen; }
 
-  // Keeps the folder for this run alone until the end; a dry run has no need to. Throws RunTimeError
+  // Keeps the folder for this run alone until the end; a plan only asks whether a run has it. Throws RunTimeError
   // (kPermissionDenied) naming the program that has it. A file system that knows no locks is let pass.
   void Lock() const;
 
@@ -92,19 +94,23 @@ class SiteFolder {
   FileHandle OpenThroughLink(const std::string& name, int flags) const;
   bool HasText(const std::string& name, const FileHandle& file, std::string_view text);
   bool IsOurs(const std::string& name, const FileHandle& file, std::string_view text);
+  void WillChange(const std::string& name) const;
   bool WriteNew(const std::string& name, std::string_view text);
   PageChange WriteOld(const std::string& name, OldFile old, std::string_view text);
-  void Overwrite(const std::string& name, FileHandle file, std::string_view text, off_t oldSize) const;
+  void Replace(const std::string& name, std::string_view text, const struct stat& old) const;
+  void Overwrite(const std::string& name, FileHandle file, std::string_view text, const struct stat& old) const;
+  bool IsKept(const std::string& name) const;
   std::optional<bool> IsToKeep(const std::string& name) const;
   void Keep(const std::string& name, const FileHandle& file, const struct stat& status);
-  bool MayRemove(const std::string& name, const struct stat& status) const;
+  void NoteKept(const std::string& name);
   void Check(int systemError, const std::string& name) const;
 
   std::string m_path;
   FileHandle m_folder;
-  FileMaker m_maker;
+  std::unique_ptr<FileChanges> m_changes;  // a FileMaker, or a FilePlan
   bool m_isOpen = false;
-  bool m_dryRun = false;
+  bool m_isPlan = false;
+  std::set<std::string> m_kept;  // what was kept since the folder was opened, or would be
   bool m_hasKeptOld = false;
   std::size_t m_writtenBytes = 0;
   // What the file before was: the pages of a site are mostly all new, all changed or all the same.

@@ -1,9 +1,9 @@
 #include "ProgramFolder.h"
 
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <array>
 #include <cerrno>
 #include <filesystem>
 #include <system_error>
@@ -17,6 +17,8 @@
 namespace folionet {
 namespace {
 
+constexpr char kStyleSheet[] = "default.css";
+
 // A file that cannot be opened, or a link that leads nowhere, is the person's all the same.
 bool IsNameTaken(const std::string& path) {
   struct stat status {};
@@ -26,9 +28,9 @@ bool IsNameTaken(const std::string& path) {
 // Where the delivered files are that a person's own folder is filled from: beside the program, as in a build that
 // belongs to somebody else, or where an installation, moved or not, has them.
 std::string InstalledDataFolder() {
-  if (FileExists(ExecutableFolder() + "default.css")) return ExecutableFolder();
+  if (FileExists(ExecutableFolder() + kStyleSheet)) return ExecutableFolder();
   const std::string beside = ExecutableFolder() + "../share/folionet/";
-  return FileExists(beside + "default.css") ? beside : std::string(FOLIONET_DATA_FOLDER) + "/";
+  return FileExists(beside + kStyleSheet) ? beside : std::string(FOLIONET_DATA_FOLDER) + "/";
 }
 
 std::string UserDataFolder() {
@@ -54,7 +56,7 @@ namespace {
 std::string ProgramFolderPath(const std::string& chosen) {
   if (!chosen.empty()) return WithSeparator(NativePath(chosen));
   const std::string own = ExecutableFolder();
-  return IsNameTaken(own + "default.css") && access(own.c_str(), W_OK) == 0 ? own : UserDataFolder();
+  return IsNameTaken(own + kStyleSheet) && access(own.c_str(), W_OK) == 0 ? own : UserDataFolder();
 }
 
 }  // namespace
@@ -63,21 +65,32 @@ std::string MissingFolder(const std::string& chosen) {
   return chosen.empty() || FolderExists(chosen) ? std::string() : "there is no folder \"" + chosen + "\"";
 }
 
-void DeliverFiles(const std::string& from, const std::string& folder) {
-  for (const std::string name : {"default.css", "lang.txt", "enc.txt"}) {
-    if (!IsNameTaken(folder + name)) ReplaceWholeFile(folder + name, ReadWholeFile(from + name));
+void DeliverFiles(const std::string& from, const std::string& folder, Doing doing) {
+  for (const std::string name : {kStyleSheet, "lang.txt", "enc.txt"}) {
+    if (IsNameTaken(folder + name)) continue;
+    const std::string bytes = ReadWholeFile(from + name);
+    if (doing == Doing::kChange) {
+      ReplaceWholeFile(folder + name, bytes);
+    } else if (const int systemError = FolderExists(folder) ? WhyNotMake(AT_FDCWD, folder + name) : 0) {
+      throw RunTimeError::FromErrno(systemError, folder + name);
+    }
   }
 }
 
-std::string FindProgramFolder(const std::string& chosen) {
-  std::string folder = ProgramFolderPath(chosen);
+std::string FindProgramFolder(const std::string& chosen, Doing doing) {
+  const std::string folder = ProgramFolderPath(chosen);
   if (folder.empty()) return InstalledDataFolder();
   if (!chosen.empty() || folder == ExecutableFolder()) return folder;
-  std::error_code error;
-  std::filesystem::create_directories(folder, error);
-  if (error) throw RunTimeError::FromErrno(error.value(), folder).About(Subject::kProgramFolder);
-  WorkAbout(Subject::kProgramFolder, [&] { DeliverFiles(InstalledDataFolder(), folder); });
-  return folder;
+  if (const int systemError = MakeFolders(folder, doing)) {
+    throw RunTimeError::FromErrno(systemError, folder).About(Subject::kProgramFolder);
+  }
+  WorkAbout(Subject::kProgramFolder, [&] { DeliverFiles(InstalledDataFolder(), folder, doing); });
+  return doing == Doing::kChange ? folder : ProgramFolderToRead(chosen);
+}
+
+std::string StyleSheetToRead(const std::string& chosen) {
+  const std::string own = ProgramFolderPath(chosen) + kStyleSheet;
+  return chosen.empty() && !IsNameTaken(own) ? InstalledDataFolder() + kStyleSheet : own;
 }
 
 std::string ProgramFolderToRead(const std::string& chosen) {

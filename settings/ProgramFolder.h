@@ -2,6 +2,8 @@
 
 #include <string>
 
+#include "MakeFolders.h"
+
 namespace folionet {
 
 // The folder of the running executable, ending in the folder separator.
@@ -14,12 +16,16 @@ std::string MissingFolder(const std::string& chosen);
 // folder separator: `chosen` when it is not empty; else the executable's folder when it holds default.css and can be
 // written to; else $XDG_DATA_HOME/Folionet, which is made when missing and given any of the three delivered files for
 // which it has no name at all; else, where the environment names no such folder, the one that the delivered files are
-// in. Throws RunTimeError when a folder of the person cannot be made or filled.
-std::string FindProgramFolder(const std::string& chosen);
+// in. Throws RunTimeError when a folder of the person cannot be made or filled, a plan also when it could not: that
+// makes and fills none, and gives ProgramFolderToRead.
+std::string FindProgramFolder(const std::string& chosen, Doing doing = Doing::kChange);
+
+// The style sheet that is in that folder, or that FindProgramFolder would put there.
+std::string StyleSheetToRead(const std::string& chosen);
 
 // Gives a folder those of the delivered files for which it has no name at all: one of the person's own that cannot be
 // opened stays, and whoever reads it tells. Both folders end in the separator. Throws RunTimeError.
-void DeliverFiles(const std::string& from, const std::string& folder);
+void DeliverFiles(const std::string& from, const std::string& folder, Doing doing = Doing::kChange);
 
 // The same folder, with nothing made or filled: where the person's own is not there yet, the one that the delivered
 // files are in.

@@ -63,6 +63,8 @@ bool LockFile(int descriptor, std::chrono::milliseconds patience) {
   return true;
 }
 
+bool IsLockHeld(int descriptor) { return HoldingProcess(descriptor).has_value(); }
+
 std::string LockHolder(int descriptor) {
   const std::optional<int> process = HoldingProcess(descriptor);
   if (!process) return "Another program";

@@ -12,6 +12,9 @@ inline constexpr std::chrono::milliseconds kLongestWait(2000);
 // one of them holds it still. A file system that knows no locks, as some of a network do, is let pass.
 bool LockFile(int descriptor, std::chrono::milliseconds patience);
 
+// Whether another program is known to hold the lock of an open file or folder; nothing is locked by that.
+bool IsLockHeld(int descriptor);
+
 // Who holds the lock of an open file or folder, as a sentence begins: "Another program, folionet-cli (process 4711),",
 // or "Another program" where the system does not tell.
 std::string LockHolder(int descriptor);

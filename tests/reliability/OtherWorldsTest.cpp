@@ -1,6 +1,4 @@
 #include <gtest/gtest.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
 #include "FolderContent.h"
 #include "Library.h"
@@ -76,39 +74,15 @@ TEST(OtherWorlds, AHomeThatCannotBeWrittenIsNoHindrance) {
   const ProgramResult styled = RunProgram(With(compile, {"--set=chkCSS=1"}), home.Path());
   EXPECT_EQ(styled.status, 3);
   EXPECT_NE(styled.errors.find(file + "/Folionet/"), std::string::npos) << styled.errors;
-}
-
-// The pages that a plan, or a folder, tells as removed; rows that only the administrator can arrange are his.
-TEST(OtherWorlds, APlanKnowsWhatCannotBeDeleted) {
-  const struct {
-    const char* protect;
-    bool isForRoot = false;
-  } cases[] = {{"true"},
-               {"chmod 555 out"},
-               {"chown 0 out out/genesis_1.html && chmod 1777 out", true},
-               {"chattr +i out/genesis_2.html", true},
-               {"chattr +a out/genesis_3.html", true},
-               {"chattr +a out", true}};
-  for (const auto& c : cases) {
-    const bool isRoot = geteuid() == 0;
-    if (c.isForRoot && !isRoot) continue;
-    SCOPED_TRACE(c.protect);
-    const TemporaryFolder home;
-    MakeSmallLibrary(home);
-    ASSERT_EQ(RunProgram(CompileSmall({"--quiet"}), home.Path()).status, 0);
-    const auto shell = [&](const std::string& line) { return RunProgram({"/bin/sh", "-c", line}, home.Path()).status; };
-    ASSERT_TRUE(!isRoot || shell("chown -R 65534 .") == 0);
-    if (shell(c.protect) != 0 && c.isForRoot) continue;  // a file system without such marks
-    Command compile = CompileSmall({"--quiet", "--start-book=2"});
-    if (isRoot) compile = With({"/usr/bin/setpriv", "--reuid=65534", "--clear-groups"}, compile);
-    const std::string plan = RunProgram(With(compile, {"--dry-run"}), home.Path()).output;
-    const ProgramResult run = RunProgram(compile, home.Path());
-    EXPECT_EQ(run.status, 0) << run.errors;
-    for (const std::string name : {"genesis_1.html", "genesis_2.html", "genesis_3.html"}) {
-      EXPECT_EQ(plan.find("removed  " + name + "\n") != std::string::npos, !home.Has("out/" + name)) << name << plan;
-    }
-    shell("chmod 755 out; chattr -ia out out/* || true");
-  }
+  // An installed one whose folder of the person is not made, or there for another reason and not filled.
+  for (const char* name : {"default.css", "lang.txt", "enc.txt"})
+    home.Write(std::string("share/folionet/") + name, "p");
+  EXPECT_EQ(RunProgram(With(compile, {"--set=chkCSS=1", "--dry-run"}), home.Path()).errors, styled.errors);
+  const Command inHome = With({"/usr/bin/env", "XDG_DATA_HOME="}, Command(compile.begin() + 4, compile.end()));
+  home.Write(".local/share/Folionet/library/Sysdefs/BOOKS.TXT", "");
+  const ProgramResult plan = RunProgram(With(inHome, {"--set=chkCSS=1", "--dry-run"}), home.Path());
+  EXPECT_NE(plan.output.find("new      default.css\n"), std::string::npos) << plan.errors;
+  EXPECT_FALSE(home.Has(".local/share/Folionet/default.css"));
 }
 
 }  // namespace

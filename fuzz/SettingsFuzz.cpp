@@ -34,8 +34,14 @@ void LoadAll(const std::string& folder) {
   });
   PageOptions options;
   for (const Option& option : OptionTable()) {
+    std::string text;
+    bool isRead = false;
+    Try([&] {
+      text = store.Text(option.key);
+      isRead = true;
+    });
+    if (!isRead) return;
     // A text has its option's form when it reads, and only then; free ones are read as one line.
-    const std::string text = store.Text(option.key);
     const bool isGood = CheckOption(option.form, IsFreeText(option.form) ? InOneLine(text) : text) == 0;
     Try([&] { LoadOption(store, option, options); });
     if (options.maySave.test(PlaceOf(option)) != isGood) std::abort();
@@ -50,6 +56,17 @@ void WriteAndRead(const std::string& text) {
   if (ParseIni(BuildIni(values)) != values) std::abort();
 }
 
+// What is changed in any file is read back, and all else as before.
+void EditAndRead(const std::string& file, const std::string& text) {
+  if (!IsUtf8(text) || file.find('\0') != std::string::npos) return;
+  Try([&] {
+    IniValues wanted = ParseIni(file);
+    wanted.insert_or_assign("Keys/Keywords", text);
+    wanted.insert_or_assign("New/key", text);
+    if (ParseIni(EditIni(file, {{"Keys/Keywords", text}, {"New/key", text}})) != wanted) std::abort();
+  });
+}
+
 }  // namespace
 }  // namespace folionet::fuzz
 
@@ -60,5 +77,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   folder.Write("Folionet.ini", parts[0]);
   LoadAll(folder.Path());
   WriteAndRead(parts[1]);
+  EditAndRead(parts[0], parts[1]);
   return 0;
 }

@@ -1,10 +1,14 @@
 #include "IniText.h"
 
 #include <algorithm>
+#include <set>
+#include <utility>
+#include <vector>
 
 #include "CodePage.h"
 #include "LineReader.h"
 #include "Text.h"
+#include "Utf16.h"
 #include "Utf8.h"
 
 namespace folionet {
@@ -49,7 +53,15 @@ bool IsWholeQuoted(std::string_view value) {
   return false;
 }
 
-void ReadLine(std::string_view line, std::string& section, IniValues& values) {
+// A line of an INI text. What has no name is no value.
+struct IniLine {
+  std::string bytes;    // with its end, if it was read
+  std::string section;  // with its slash; empty before the first one
+  std::string name;     // "section/key"
+  std::string value;
+};
+
+void ReadLine(std::string_view line, std::string& section, IniLine& read) {
   if (line.empty() || line.front() == ';' || line.front() == '#') return;
   if (line.front() == '[' && line.back() == ']') {
     section = line.size() > 2 ? Trimmed(line.substr(1, line.size() - 2), kIniBlanks) : std::string_view();
@@ -59,8 +71,26 @@ void ReadLine(std::string_view line, std::string& section, IniValues& values) {
   const std::size_t equals = line.find('=');
   if (equals == 0 || equals == std::string_view::npos) return;
   const std::string_view value = Trimmed(line.substr(equals + 1), kIniBlanks);
-  values.insert_or_assign(section + std::string(Trimmed(line.substr(0, equals), kIniBlanks)),
-                          IsWholeQuoted(value) ? Unquoted(value.substr(1, value.size() - 2)) : std::string(value));
+  read.name = section + std::string(Trimmed(line.substr(0, equals), kIniBlanks));
+  read.value = IsWholeQuoted(value) ? Unquoted(value.substr(1, value.size() - 2)) : std::string(value);
+}
+
+// Calls take(IniLine) for each line of a text that is no UTF-16.
+template <typename Take>
+void ForEachLine(std::string_view text, Take take) {
+  while (text.starts_with(kByteOrderMark)) text.remove_prefix(kByteOrderMark.size());
+  std::string section;
+  const char lineEnd = text.find('\n') == std::string_view::npos ? '\r' : '\n';
+  while (!text.empty()) {
+    const std::size_t length = std::min(text.find(lineEnd), text.size() - 1) + 1;
+    const std::string_view line = Trimmed(text.substr(0, length), kIniBlanks);
+    IniLine read;
+    ReadLine(IsUtf8(line) ? line : std::string_view(CodePage().Decode(line)), section, read);
+    read.bytes = text.substr(0, length);
+    read.section = section;
+    take(std::move(read));
+    text.remove_prefix(length);
+  }
 }
 
 std::string ValueText(std::string_view value) {
@@ -77,50 +107,84 @@ std::string ValueText(std::string_view value) {
   return quoted + '"';
 }
 
+// A value in that section, which its name begins with.
+IniLine LineOf(const std::string& section, const std::string& name, const std::string& value) {
+  return {name.substr(section.size()) + "=" + ValueText(value), section, name, value};
+}
+
+std::string SectionOf(const std::string& name) { return name.substr(0, name.find('/') + 1); }
+
+// Puts a value into its section, which is made at the end when missing.
+void Insert(std::vector<IniLine>& lines, IniLine line) {
+  const auto isOfSection = [&](const IniLine& known) {
+    return known.section == line.section && !Trimmed(known.bytes, kIniBlanks).empty();
+  };
+  const auto next = std::find_if(lines.begin(), lines.end(), [&](const IniLine& known) {
+    return known.section == line.section && known.name > line.name;
+  });
+  const auto last = std::find_if(lines.rbegin(), lines.rend(), isOfSection);
+  if (next != lines.end()) {
+    lines.insert(next, std::move(line));
+  } else if (last != lines.rend() || line.section.empty()) {
+    lines.insert(last.base(), std::move(line));
+  } else {
+    const std::string header = "[" + line.section.substr(0, line.section.size() - 1) + "]";
+    if (!lines.empty()) lines.push_back({{}, lines.back().section, {}, {}});
+    lines.push_back({header, line.section, {}, {}});
+    lines.push_back(std::move(line));
+  }
+}
+
 }  // namespace
 
-IniValues ParseIni(std::string_view text) {
-  if (text.starts_with(kByteOrderMark)) text.remove_prefix(kByteOrderMark.size());
+IniValues ParseIni(std::string_view text, const std::string& path) {
   IniValues values;
-  std::string section;
-  const char lineEnd = text.find('\n') == std::string_view::npos ? '\r' : '\n';
-  while (!text.empty()) {
-    const std::size_t end = std::min(text.find(lineEnd), text.size());
-    const std::string_view line = Trimmed(text.substr(0, end), kIniBlanks);
-    ReadLine(IsUtf8(line) ? line : std::string_view(CodePage().Decode(line)), section, values);
-    text.remove_prefix(std::min(end + 1, text.size()));
-  }
+  ForEachLine(FromUtf16(text, path), [&](IniLine line) {
+    if (!line.name.empty()) values.insert_or_assign(std::move(line.name), std::move(line.value));
+  });
   return values;
 }
 
-std::string BuildIni(const IniValues& values) {
-  std::string text;
-  std::string_view section;
-  for (const auto& [name, value] : values) {
-    const std::size_t slash = name.find('/');
-    const std::string_view own = std::string_view(name).substr(0, slash == std::string::npos ? 0 : slash);
-    if (own != section) {
-      if (!text.empty()) text += '\n';
-      text.append("[").append(own).append("]\n");
-      section = own;
+std::string EditIni(std::string_view text, const IniChanges& changes, const std::string& path) {
+  const std::string plain = FromUtf16(text, path);
+  const std::size_t end = plain.find('\n');
+  const bool isCrLf = end != std::string::npos && end > 0 && plain[end - 1] == '\r';
+  const bool isCr = end == std::string::npos && plain.find('\r') != std::string::npos;
+  const std::string lineEnd = isCrLf ? "\r\n" : isCr ? "\r" : "\n";
+  std::vector<IniLine> lines;
+  std::set<std::string_view> done;
+  ForEachLine(plain, [&](IniLine line) {
+    const auto change = line.name.empty() ? changes.end() : changes.find(line.name);
+    if (change != changes.end()) {
+      done.insert(change->first);
+      if (!change->second) return;
+      if (*change->second != line.value) line = LineOf(line.section, line.name, *change->second);
     }
-    text.append(name, slash == std::string::npos ? 0 : slash + 1).append("=").append(ValueText(value)).append("\n");
+    lines.push_back(std::move(line));
+  });
+  for (const auto& [name, value] : changes) {
+    if (value && !done.contains(name)) Insert(lines, LineOf(SectionOf(name), name, *value));
   }
-  return text;
+  std::string edited;
+  for (const IniLine& line : lines) {
+    edited += line.bytes;
+    if (line.bytes.empty() || line.bytes.back() != lineEnd.back()) edited += lineEnd;
+  }
+  return edited;
 }
 
-std::string ChangedAs(std::string_view present, std::string_view from, std::string_view to) {
-  const IniValues before = ParseIni(from);
-  const IniValues after = ParseIni(to);
-  IniValues values = ParseIni(present);
-  for (const auto& [name, value] : before) {
-    if (!after.contains(name)) values.erase(name);
+std::string BuildIni(const IniValues& values) { return EditIni({}, {values.begin(), values.end()}); }
+
+IniChanges ChangesBetween(const IniValues& from, const IniValues& to) {
+  IniChanges changes;
+  for (const auto& [name, value] : from) {
+    if (!to.contains(name)) changes.emplace(name, std::nullopt);
   }
-  for (const auto& [name, value] : after) {
-    const auto was = before.find(name);
-    if (was == before.end() || was->second != value) values.insert_or_assign(name, value);
+  for (const auto& [name, value] : to) {
+    const auto was = from.find(name);
+    if (was == from.end() || was->second != value) changes.insert_or_assign(name, value);
   }
-  return BuildIni(values);
+  return changes;
 }
 
 }  // namespace folionet

@@ -17,19 +17,19 @@
 namespace folionet {
 namespace {
 
-// The text of a settings file with changed values; `values` gets all of them.
-std::string Merged(std::string_view content, const IniValues& changes, IniValues& values) {
-  values = ParseIni(content);
-  for (const auto& [name, value] : changes) values.insert_or_assign(name, value);
-  return BuildIni(values);
+// The text of the settings file `path` with changed values; `values` gets all of them.
+std::string Merged(std::string_view content, const IniChanges& changes, const std::string& path, IniValues& values) {
+  std::string edited = EditIni(content, changes, path);
+  values = ParseIni(edited);
+  return edited;
 }
 
-// Where a settings file is kept whose options are dropped. One that was kept before stays.
+// Where a settings file is kept whose options are dropped. One that was kept before stays, and whatever is there.
 std::string KeptPath(const std::string& path) {
   const std::string first = path + ".before-restore";
   std::string kept = first;
   struct stat status {};
-  for (int number = 2; lstat(kept.c_str(), &status) == 0 && !S_ISDIR(status.st_mode); ++number) {
+  for (int number = 2; lstat(kept.c_str(), &status) == 0; ++number) {
     kept = first + "-" + std::to_string(number);
   }
   return kept;
@@ -62,13 +62,15 @@ void SettingsStore::MakeFolder(std::string_view application) const {
 
 void SettingsStore::Sync(std::string_view application) {
   // A refused value must not be tried again by every later one, nor be read as if it were stored.
-  const IniValues changes = std::exchange(m_unsaved, {});
+  const IniValues changed = std::exchange(m_unsaved, {});
   MakeFolder(application);
+  const std::string path = FilePath(application);
   // Another program may have saved since the file was read: what it changed is kept.
   IniValues values;
   WorkAbout(Subject::kSettingsFile, [&] {
-    EditWholeFile(FilePath(application), kLongestFile,
-                  [&](const std::string& content) { return Merged(content, changes, values); });
+    EditWholeFile(path, kLongestFile, [&](const std::string& content) {
+      return Merged(content, {changed.begin(), changed.end()}, path, values);
+    });
   });
   Take(application, std::move(values));
 }
@@ -92,11 +94,13 @@ void SettingsStore::SaveTogether(const std::function<void()>& saves) {
 
 void SettingsStore::SaveTogether(const std::function<void()>& saves, JointChange& change) {
   Gather(saves);
-  const IniValues changes = std::exchange(m_unsaved, {});
+  const IniValues changed = std::exchange(m_unsaved, {});
   MakeFolder(kApplicationTitle);
+  const std::string path = FilePath(kApplicationTitle);
   IniValues values;
-  change.Edit(FilePath(kApplicationTitle), kLongestFile,
-              [&](const std::string& content) { return Merged(content, changes, values); });
+  change.Edit(path, kLongestFile, [&](const std::string& content) {
+    return Merged(content, {changed.begin(), changed.end()}, path, values);
+  });
   change.Commit();
   Take(kApplicationTitle, std::move(values));
 }
@@ -127,12 +131,15 @@ void SettingsStore::RestoreSite() {
   WorkAbout(Subject::kSettingsFile, [&] {
     EditWholeFile(SitePath(), kLongestFile, [&](const std::string& content) {
       ReplaceWholeFile(KeptPath(SitePath()), content);
-      values = ParseIni(content);
-      std::erase_if(values, [&](const auto& value) { return value.first.starts_with(prefix); });
-      for (const Option& option : OptionTable()) {
-        if (OwnText(option.key)) values.insert_or_assign(prefix + std::string(option.key), option.defaultText);
+      IniChanges changes;
+      for (const auto& [name, value] : ParseIni(content, SitePath())) {
+        if (name.starts_with(prefix)) changes.emplace(name, std::nullopt);
       }
-      return BuildIni(values);
+      for (const Option& option : OptionTable()) {
+        if (OwnText(option.key))
+          changes.insert_or_assign(prefix + std::string(option.key), std::string(option.defaultText));
+      }
+      return Merged(content, changes, SitePath(), values);
     });
   });
   Take(kApplicationTitle, std::move(values));

@@ -29,8 +29,8 @@ class SettingsStore : public StoredSettings {
   void SaveTogether(const std::function<void()>& saves, JointChange& change);
 
   // Removes an application's whole area; its file is kept beside as "<file>.before-restore", or as the first of
-  // "<file>.before-restore-2" and so on that is no file yet. Throws RunTimeError when that fails, and everything is as
-  // it was.
+  // "<file>.before-restore-2" and so on that is not there yet. Throws RunTimeError when that fails, and everything is
+  // as it was.
   void DeleteSetting(std::string_view application);
 
   // The same of our own area as a part of a change of several files, which it makes.

@@ -44,7 +44,7 @@ std::string ShownName(const std::string& name) {
 std::optional<Sentence> WhyNoSite(const std::string& path) {
   IniValues values;
   try {
-    values = ParseIni(ReadWholeFile(path, kLongestFile));
+    values = ParseIni(ReadWholeFile(path, kLongestFile), path);
   } catch (const RunTimeError& error) {
     const std::string why = error.Detail().empty() ? std::string(StandardMessage(error.Number())) : error.Detail();
     return Sentence{Words("QObject", "%1 cannot be read: %2"), {path, why}};
@@ -106,7 +106,7 @@ void SaveSite(const std::string& path, const SiteChoices& choices, const PageOpt
       if (const auto why = content.empty() ? std::nullopt : WhyNoSite(path)) {
         throw RunTimeError(kBadFileName, path, why->InEnglish());
       }
-      return BuildIni(values);
+      return EditIni(content, ChangesBetween(ParseIni(content, path), values), path);
     });
   });
 }

@@ -35,7 +35,7 @@ void StoredSettings::UseSite(const std::string& path) {
   const std::filesystem::path whole = std::filesystem::absolute(path, failed);
   const std::string text = WorkAbout(Subject::kSettingsFile, [&] { return ReadWholeFile(path, kLongestFile); });
   m_sitePath = failed ? path : whole.string();
-  m_areas.insert_or_assign(m_sitePath, ParseIni(text));
+  m_areas.insert_or_assign(m_sitePath, WorkAbout(Subject::kSettingsFile, [&] { return ParseIni(text, path); }));
 }
 
 std::string StoredSettings::SiteText(std::string_view key) const {
@@ -61,7 +61,7 @@ void StoredSettings::FinishChange() const {
                          const std::string& present) -> std::optional<std::string> {
     std::error_code ignored;
     if (!std::filesystem::equivalent(path, OwnPath(kApplicationTitle), ignored)) return std::nullopt;
-    return ChangedAs(present, from, to);
+    return EditIni(present, ChangesBetween(ParseIni(from), ParseIni(to)), path);
   };
   WorkAbout(Subject::kSettingsFile, [&] { FinishJointChange(UnfinishedNote(), carry); });
   ReadAnew();
@@ -71,16 +71,18 @@ void StoredSettings::ReadAnew() const {
   try {
     const std::string path = OwnPath(kApplicationTitle);
     m_areas.insert_or_assign(path, ValuesOf(path));
+    // A site's file that is away for a while has not lost its settings.
+    if (!m_sitePath.empty()) m_areas.insert_or_assign(m_sitePath, ParseIni(ReadWholeFile(m_sitePath, kLongestFile)));
   } catch (const RunTimeError&) {
     // Where nothing was read before, the next reading tells.
   }
 }
 
 IniValues StoredSettings::ValuesOf(const std::string& path) const {
-  const std::optional<std::string> text =
-      m_folder.empty() ? std::nullopt
-                       : WorkAbout(Subject::kSettingsFile, [&] { return ReadIfThere(path, kLongestFile); });
-  return text ? ParseIni(*text) : IniValues();
+  return WorkAbout(Subject::kSettingsFile, [&] {
+    const std::optional<std::string> text = m_folder.empty() ? std::nullopt : ReadIfThere(path, kLongestFile);
+    return text ? ParseIni(*text, path) : IniValues();
+  });
 }
 
 std::string StoredSettings::GetSetting(std::string_view application, std::string_view section, std::string_view key,

@@ -57,8 +57,8 @@ class StoredSettings {
   // that of a library, which may be gone, stays when it cannot be made.
   void FinishChange() const;
 
-  // Reads the person's own settings anew, which another program may have saved since. Where that fails what was read
-  // before stands.
+  // Reads the person's own settings and the site's file anew, which another program may have saved since. Where that
+  // fails what was read before stands.
   void ReadAnew() const;
 
   // Gives a key of our own a value for this run only: it is read as if stored and never written.

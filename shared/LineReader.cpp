@@ -8,6 +8,7 @@
 
 #include "Numbers.h"
 #include "RunTimeError.h"
+#include "Utf16.h"
 
 namespace folionet {
 namespace {
@@ -35,7 +36,12 @@ LineReader::LineReader(const std::string& path, Subject subject, std::size_t lon
   // One byte more than the file has shows its end in the first fill.
   m_buffer.resize(std::min(kChunk, static_cast<std::size_t>(status.st_size) + 1));
   Fill();
-  if (std::string_view(m_buffer.data(), m_end).starts_with(kByteOrderMark)) m_begin = kByteOrderMark.size();
+  const std::string_view head(m_buffer.data(), m_end);
+  if (LooksUtf16(head)) {
+    throw RunTimeError(kTypeMismatch, path, "It is UTF-16, which editors call Unicode. Save it as UTF-8.")
+        .About(subject);
+  }
+  if (head.starts_with(kByteOrderMark)) m_begin = kByteOrderMark.size();
   FindLineEnd();
 }
 

@@ -15,7 +15,7 @@ inline constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
 // Reads a text file line by line, in constant memory. Lines end in CR LF or LF, or, in a file whose first line does, in
 // CR alone; the last one need not end. A UTF-8 byte-order mark at the start and a Ctrl+Z at the end are skipped; every
-// other byte, NUL included, is passed on as it is.
+// other byte, NUL included, is passed on as it is. A file in UTF-16 is refused.
 class LineReader {
  public:
   // A longer line is refused with kOutOfMemory: one of a text, and one of a list, which is kept.

@@ -264,8 +264,9 @@ TEST_F(Settings, AFailureToSaveIsToldAgain) {
 
 TEST_F(Settings, ARefusedRestoreChangesNothing) {
   Store("PageTitles", "mine");
+  Store("Charset", "utf-8 (Unicode)");
   ASSERT_TRUE(Start());
-  m_home.Write("config/Folionet.ini.before-restore/in_the_way", "");
+  m_home.Write("program/CustomFooter.txt/in_the_way", "");
   m_ui.yesNo = {true};
   Click("cmdRestoreAll");
   EXPECT_EQ(m_ui.log, (Log{"Restore Factory Settings?", "75 cmdRestoreAll_Click"}));

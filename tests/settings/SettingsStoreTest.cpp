@@ -49,13 +49,33 @@ TEST(SettingsStoreTest, ReadsWhatAPersonEdited) {
   }
 }
 
-TEST(SettingsStoreTest, KeepsKeysThatItDoesNotKnow) {
+TEST(SettingsStoreTest, ChangesWhatIsSavedAndNothingElse) {
+  const struct {
+    std::string before, after;
+  } cases[] = {
+      {"", "[Keys]\nFont=Arial\n"},
+      {"loose=1\n[Other]\nkey=a, b\n[Keys]\nchkCSS=1\n", "loose=1\n[Other]\nkey=a, b\n[Keys]\nFont=Arial\nchkCSS=1\n"},
+      {"; mine\r\n[Keys]\r\n# note\r\n  Font = b \r\nDir1 = \"/x\"\r\nodd\r\n",
+       "; mine\r\n[Keys]\r\n# note\r\nFont=Arial\r\nDir1 = \"/x\"\r\nodd\r\n"},
+      {"[Keys]\n Font = \"Arial\"\nFont=old\n\n\n[Other]", "[Keys]\n Font = \"Arial\"\nFont=Arial\n\n\n[Other]\n"},
+      {"[Keys]\n\n[Other]\nx=y", "[Keys]\nFont=Arial\n\n[Other]\nx=y\n"},
+      {"[Other]\rx=caf\xE9", "[Other]\rx=caf\xE9\r\r[Keys]\rFont=Arial\r"},
+      {"\xEF\xBB\xBF[Keys]\nAb=1", "[Keys]\nAb=1\nFont=Arial\n"},
+      {std::string("\xFF\xFE[\0K\0e\0y\0s\0]\0\n\0x\0=\0\x3D\xD8\x00\xDE", 24),
+       "[Keys]\nFont=Arial\nx=\xF0\x9F\x98\x80\n"},
+      {std::string("\0[\0K\0e\0y\0s\0]", 12), "[Keys]\nFont=Arial\n"},
+  };
+  for (const auto& c : cases) {
+    const TemporaryFolder folder;
+    folder.Write("Folionet.ini", c.before);
+    SettingsStore(folder.Path()).SaveText("Font", "Arial");
+    EXPECT_EQ(folder.Read("Folionet.ini"), c.after);
+    EXPECT_EQ(SettingsStore(folder.Path()).Text("Font"), "Arial");
+  }
   const TemporaryFolder folder;
-  folder.Write("Folionet.ini", "loose=1\n[Other]\nkey=a, b\n[Keys]\nchkCSS=1\n");
-  SettingsStore(folder.Path()).SaveText("Font", "Arial");
-  EXPECT_EQ(folder.Read("Folionet.ini"), "[Keys]\nFont=Arial\nchkCSS=1\n\n[Other]\nkey=a, b\n\n[]\nloose=1\n");
-  SettingsStore(folder.Path()).SaveText("Font", "Arial");
-  EXPECT_EQ(SettingsStore(folder.Path()).GetSetting("Folionet", "Other", "key", ""), "a, b");
+  folder.Write("Folionet.ini", "\xFF\xFE[");
+  EXPECT_THROW(SettingsStore(folder.Path()).SaveText("Font", "Arial"), RunTimeError);
+  EXPECT_EQ(folder.Read("Folionet.ini"), "\xFF\xFE[");
 }
 
 TEST(SettingsStoreTest, AFailedSaveIsToldAndNotTriedAgain) {
@@ -160,22 +180,28 @@ TEST(SettingsStoreTest, AnUnfinishedChangeIsMadeInLaterSettingsAndUndoneForOther
     const TemporaryFolder folder;
     std::string note = "Folionet: a change of files, not finished\n";
     for (const std::string& text :
-         {folder.Path() + "header", std::string("old"), std::string("old"), std::string("new"), folder.Path() + "added",
-          std::string("new"), std::string(), std::string("x"), folder.Path() + "Folionet.ini", std::string("old"),
-          before, after}) {
+         {folder.Path() + "own/header", std::string("old"), std::string("old"), std::string("new"),
+          folder.Path() + "own/added", std::string("new"), std::string(), std::string("x"),
+          folder.Path() + "Folionet.ini", std::string("old"), before, after}) {
       note += std::to_string(text.size()) + "\n" + text;
     }
     folder.Write(".Folionet.unfinished", note);
-    folder.Write("header", c.header);
-    folder.Write("added", "x");
+    folder.Write("own/header", c.header);
+    folder.Write("own/added", "x");
     folder.Write("Folionet.ini", c.ini);
     const SettingsStore store(folder.Path());
     EXPECT_EQ(store.Text("Charset"), c.ini.find("c d") == std::string::npos ? "a b" : "c d");
+    // A disk that is away has lost nothing: the change waits for it.
+    std::filesystem::rename(folder.Path() + "own", folder.Path() + "away");
+    EXPECT_THROW(OwnFolderToSave(store, folder.Path()), RunTimeError);
+    EXPECT_EQ(folder.Read(".Folionet.unfinished"), note);
+    EXPECT_EQ(folder.Read("Folionet.ini"), c.ini);
+    std::filesystem::rename(folder.Path() + "away", folder.Path() + "own");
     OwnFolderToSave(store, folder.Path());
     EXPECT_NE(c.wantedIni.find("Charset=" + store.Text("Charset")), std::string::npos);
-    EXPECT_EQ(folder.Read("header"), c.wantedHeader);
+    EXPECT_EQ(folder.Read("own/header"), c.wantedHeader);
     EXPECT_EQ(folder.Read("Folionet.ini"), c.wantedIni);
-    EXPECT_EQ(folder.Has("added"), c.wantedHeader == "new");
+    EXPECT_EQ(folder.Has("own/added"), c.wantedHeader == "new");
     EXPECT_FALSE(folder.Has(".Folionet.unfinished"));
   }
 }

@@ -104,7 +104,7 @@ RunTimeError RunTimeError::About(Subject subject) const {
 
 bool IsSameFailure(const RunTimeError& left, const RunTimeError& right) {
   return left.Number() == right.Number() && left.About() == right.About() && left.Item() == right.Item() &&
-         left.Line() == right.Line();
+         left.Line() == right.Line() && left.Detail() == right.Detail();
 }
 
 std::string RunTimeError::Extra() const {

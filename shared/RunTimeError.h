@@ -87,7 +87,8 @@ class RunTimeError : public std::exception {
   std::string m_what;
 };
 
-// Whether these are one failure to a person: of the same number, about the same thing, at the same place.
+// Whether these are one failure to a person: of the same number, about the same thing, at the same place, in the same
+// words: two settings of one file are told of by their words alone.
 bool IsSameFailure(const RunTimeError& left, const RunTimeError& right);
 
 // Runs `work`, which may know no more of a file than its path: an error that it throws without a subject is about this.

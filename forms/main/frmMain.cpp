@@ -84,6 +84,8 @@ CompileRequest frmMain::Gather() const { return GatherRequest(m_state, *m_ui, *m
 
 template <typename Dialog>
 void frmMain::Open() {
+  if (m_hasStopped) IsStarted();  // so that it shows what an editor may have mended since
+  if (m_hasEnded) return;
   m_dialogs.Open<Dialog>();
   IsStarted();
 }

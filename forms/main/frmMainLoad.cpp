@@ -41,6 +41,7 @@ bool frmMain::LoadForm() {
 // Takes the steps that are to be taken. What a person has set since the start stopped is not read over. False when the
 // program must end.
 bool frmMain::GoOnWithStart() {
+  if (m_hasStopped) m_state.store.ReadAnew();  // an editor may have mended what stopped it
   const bool goesOn = TakeSteps();
   m_state.options.areKept = m_nextStep < StartSteps().size();
   if (!m_state.options.areKept && goesOn) m_sites->NoteChoices(Gather());

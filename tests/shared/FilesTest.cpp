@@ -165,13 +165,14 @@ TEST(OpenBeneathTest, NoLinkLeadsOutWhateverTheKernel) {
   }).join();
 }
 
-// What a person was told of is not told again; another number, thing, place or line is.
-TEST(RunTimeErrorTest, IsTheSameFailureWhateverItsDetail) {
+// What a person was told of is not told again; another number, thing, place, line or reason is.
+TEST(RunTimeErrorTest, IsTheSameFailureWhenAllOfItIs) {
   const RunTimeError told = RunTimeError(kFileNotFound, "/a", "x", 2).About(Subject::kBookTitles);
-  EXPECT_TRUE(IsSameFailure(told, RunTimeError(kFileNotFound, "/a", "y", 2).About(Subject::kBookTitles)));
+  EXPECT_TRUE(IsSameFailure(told, RunTimeError(kFileNotFound, "/a", "x", 2).About(Subject::kBookTitles)));
   for (const RunTimeError& other : {RunTimeError(kFileNotFound, "/a", "x", 2),
                                     RunTimeError(kPathNotFound, "/a", "x", 2).About(Subject::kBookTitles),
                                     RunTimeError(kFileNotFound, "/b", "x", 2).About(Subject::kBookTitles),
+                                    RunTimeError(kFileNotFound, "/a", "y", 2).About(Subject::kBookTitles),
                                     RunTimeError(kFileNotFound, "/a", "x", 3).About(Subject::kBookTitles)}) {
     EXPECT_FALSE(IsSameFailure(told, other)) << other.what();
   }

@@ -288,8 +288,11 @@ void BibleBuilder::FindMissing() {
       lastBook = verse.book;
       lastChapter = 0;
     }
-    for (int chapter = lastChapter + 1; chapter < verse.chapter; ++chapter) {
-      name("missing-chapter", Words("Import", "Not in the text: %1"), title(lastBook) + " " + std::to_string(chapter));
+    if (verse.chapter > lastChapter + 1) {
+      const int first = lastChapter + 1;
+      const std::string end = verse.chapter - 1 == first ? "" : " to " + std::to_string(verse.chapter - 1);
+      name("missing-chapter", Words("Import", "Not in the text: %1"),
+           title(lastBook) + " " + std::to_string(first) + end);
     }
     lastChapter = verse.chapter;
   }

@@ -42,6 +42,7 @@ class BibleBuilder {
   void BeginChapter(std::string_view number);
   void BeginVerse(std::string_view field);
   void EndVerse();
+  void GoOnWithVerse() { m_isInVerse = m_hasVerse; }
 
   // Text counts where a verse or a canonical title is open, and is passed over elsewhere.
   void AddText(std::string_view text);

@@ -23,7 +23,24 @@ class BibleReader {
 
   void Take(const InputFile& file) {
     GoOn(file.name);
-    TextDecoder text(*file.bytes, m_source.charset);
+    try {
+      TextDecoder text(*file.bytes, m_source.charset);
+      TakeText(file, text);
+    } catch (const TextFault& fault) {
+      m_builder.SetFile(file.name);
+      m_builder.SetLine(fault.Line());
+      m_builder.Fail(fault.what());
+    }
+  }
+
+  ImportedBible Finish(const std::string& path) {
+    if (m_lineFault) throw RunTimeError(*m_lineFault);
+    if (m_kind == FormKind::kNone) throw RunTimeError(kInvalidProcedureCall, path, kForms);
+    return m_builder.Finish();
+  }
+
+ private:
+  void TakeText(const InputFile& file, TextDecoder& text) {
     const FormKind kind = FormOf(text.Head());
     if (kind == FormKind::kNone) {
       if (file.isGiven) throw RunTimeError(kInvalidProcedureCall, file.name, kForms);
@@ -40,13 +57,6 @@ class BibleReader {
     }
   }
 
-  ImportedBible Finish(const std::string& path) {
-    if (m_lineFault) throw RunTimeError(*m_lineFault);
-    if (m_kind == FormKind::kNone) throw RunTimeError(kInvalidProcedureCall, path, kForms);
-    return m_builder.Finish();
-  }
-
- private:
   // Whether a file is of the text, though it has not the form of those before it.
   bool BelongsHere(FormKind kind, const InputFile& file) {
     if (kind == FormKind::kLines && m_kind != FormKind::kNone && !file.isGiven) {

@@ -107,13 +107,14 @@ LinesForm::LinesForm(BibleBuilder& builder) : m_builder(builder) { m_builder.Let
 bool LinesForm::IsLine(std::string_view line) { return ColumnsOfHeader(line) || ColumnsOf(line); }
 
 std::optional<LinesForm::Columns> LinesForm::ColumnsOfHeader(std::string_view line) {
-  constexpr std::array<std::array<std::string_view, 4>, 4> kNames{{{"b", "book", "bookid", "bookname"},
+  constexpr std::array<std::array<std::string_view, 4>, 5> kNames{{{"b", "book", "bookid", "bookname"},
                                                                    {"c", "chapter", "chapternumber", "chapternum"},
                                                                    {"v", "verse", "versenumber", "versenum"},
-                                                                   {"t", "text", "versetext", "scripture"}}};
+                                                                   {"t", "text", "versetext", "scripture"},
+                                                                   {"reference", "ref", "verseref", "osisref"}}};
   for (const char separator : {'\t', ',', ';', '|'}) {
-    std::array<std::size_t, 4> places{};
-    std::array<bool, 4> found{};
+    std::array<std::size_t, kNames.size()> places{};
+    std::array<bool, kNames.size()> found{};
     const std::vector<std::string> fields = Split(line, separator);
     for (std::size_t i = 0; i < fields.size(); ++i) {
       std::string name = BookKey(fields[i]);
@@ -124,9 +125,10 @@ std::optional<LinesForm::Columns> LinesForm::ColumnsOfHeader(std::string_view li
         found[column] = true;
       }
     }
-    if (std::all_of(found.begin(), found.end(), [](bool is) { return is; })) {
-      return Columns{separator, false, places[0], places[1], places[2], places[3]};
+    if (std::all_of(found.begin(), found.end() - 1, [](bool is) { return is; })) {
+      return Columns{separator, false, ':', places[0], places[1], places[2], places[3]};
     }
+    if (found[3] && found[4]) return Columns{separator, true, '\0', places[4], places[4], places[4], places[3]};
   }
   return std::nullopt;
 }
@@ -136,14 +138,31 @@ std::optional<LinesForm::Columns> LinesForm::ColumnsOf(std::string_view line) {
     const std::vector<std::string> fields = Split(line, separator);
     const std::size_t count = fields.size();
     if (count >= 5 && IsNumber(fields[0]) && IsNumber(fields[1]) && IsNumber(fields[2]) && IsNumber(fields[3])) {
-      return Columns{separator, false, 1, 2, 3, 4};
+      return Columns{separator, false, ':', 1, 2, 3, 4};
+    }
+    // The name of the translation before the book.
+    if (count >= 5 && FindBook(fields[1]) != 0 && IsNumber(fields[2]) && IsNumber(fields[3])) {
+      return Columns{separator, false, ':', 1, 2, 3, 4};
     }
     if (count >= 4 && IsNumber(fields[1]) && FieldLength(TrimBlanks(fields[2])) != 0) return Columns{separator};
     if (count < 2) continue;
-    const auto reference = SplitReference(fields[0]);
-    if (reference && TrimBlanks(reference->text).empty()) return Columns{separator, true};
+    const auto point = PointOf(fields[0]);
+    if (point && TrimBlanks(SplitReference(fields[0], *point)->text).empty()) {
+      return Columns{separator, true, *point, 0, 0, 0, 1};
+    }
   }
-  if (SplitReference(line)) return Columns{};
+  const auto point = PointOf(line);
+  return point ? std::optional(Columns{'\0', true, *point}) : std::nullopt;
+}
+
+// What stands between chapter and verse of a reference at the start of a line. A full stop or a comma may stand in any
+// text, so behind a known book only.
+std::optional<char> LinesForm::PointOf(std::string_view reference) {
+  if (SplitReference(reference, ':')) return ':';
+  for (const char point : {'.', ','}) {
+    const auto row = SplitReference(reference, point);
+    if (row && FindBook(row->book) != 0) return point;
+  }
   return std::nullopt;
 }
 
@@ -161,10 +180,15 @@ std::optional<LinesForm::Row> LinesForm::SplitShortReference(std::string_view li
   return row;
 }
 
-// The reference ends at the line's first colon and the verse number behind it, so a text may hold any character.
-std::optional<LinesForm::Row> LinesForm::SplitReference(std::string_view line) {
+// The reference ends at the line's first colon and the verse number behind it, so a text may hold any character. Of
+// full stops and commas, it is the first one between two digits.
+std::optional<LinesForm::Row> LinesForm::SplitReference(std::string_view line, char point) {
   if (auto row = SplitShortReference(line)) return row;
-  const std::size_t colon = line.find(':');
+  std::size_t colon = line.find(point);
+  while (point != ':' && colon != std::string_view::npos && colon != 0 &&
+         !(IsDigit(line[colon - 1]) && colon + 1 < line.size() && IsDigit(line[colon + 1]))) {
+    colon = line.find(point, colon + 1);
+  }
   if (colon == std::string_view::npos || colon == 0) return std::nullopt;
   const std::size_t before = line.find_last_not_of(kDigits, colon - 1);
   if (before == std::string_view::npos || before + 1 == colon) return std::nullopt;
@@ -185,18 +209,17 @@ std::optional<LinesForm::Row> LinesForm::SplitReference(std::string_view line) {
 
 std::optional<LinesForm::Row> LinesForm::SplitRow(std::string_view line, const Columns& columns,
                                                   std::vector<std::string>& fields) {
-  if (columns.separator == '\0') return SplitReference(line);
-  if (columns.isReference) {
-    fields = Split(line, columns.separator, 2);
-    if (fields.empty()) return std::nullopt;
-    auto row = SplitReference(fields[0]);
-    if (row && fields.size() > 1) row->text = fields[1];
-    return row;
-  }
+  if (columns.separator == '\0') return SplitReference(line, columns.point);
   const std::size_t last = std::max({columns.book, columns.chapter, columns.verse, columns.text});
   fields = Split(line, columns.separator, last + 1);
   if (fields.size() <= last && !(fields.size() == last && columns.text == last)) return std::nullopt;
   fields.resize(last + 1);
+  if (columns.isReference) {
+    const std::string_view reference = fields[columns.book];
+    auto row = SplitReference(reference, columns.point != '\0' ? columns.point : PointOf(reference).value_or(':'));
+    if (row) row->text = fields[columns.text];
+    return row;
+  }
   return Row{TrimBlanks(fields[columns.book]), TrimBlanks(fields[columns.chapter]), TrimBlanks(fields[columns.verse]),
              fields[columns.text]};
 }

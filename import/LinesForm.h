@@ -19,10 +19,12 @@ namespace folionet {
 //   1,1,1,"In the beginning God created"
 //   "Genesis 1:1","In the beginning"
 //   Jude 5 But I will remind you
+//   Gen.1.1 In the beginning
+//   1. Mose 1,1 Am Anfang
 //
 // A field in quotes may hold line breaks, where no tabs separate. A table may begin with a line that names its columns
-// (book, chapter, verse and text, or b, c, v and t; others are passed over), and may have a running number before the
-// book. Blank lines and those that begin with "#" are skipped.
+// (book, chapter, verse and text, or b, c, v and t; or reference and text; others are passed over), and may have a
+// running number before the book. Blank lines and those that begin with "#" are skipped.
 class LinesForm : public TextForm {
  public:
   explicit LinesForm(BibleBuilder& builder);
@@ -37,7 +39,8 @@ class LinesForm : public TextForm {
   // Where the columns of a table are. Without a separator a line begins with its reference.
   struct Columns {
     char separator = '\0';
-    bool isReference = false;  // the first column is "GEN 1:1", the second the text
+    bool isReference = false;  // the column of the book holds "GEN 1:1"
+    char point = ':';          // what stands between chapter and verse
     std::size_t book = 0;
     std::size_t chapter = 1;
     std::size_t verse = 2;
@@ -53,7 +56,8 @@ class LinesForm : public TextForm {
 
   static std::optional<Columns> ColumnsOfHeader(std::string_view line);
   static std::optional<Columns> ColumnsOf(std::string_view line);
-  static std::optional<Row> SplitReference(std::string_view line);
+  static std::optional<char> PointOf(std::string_view reference);
+  static std::optional<Row> SplitReference(std::string_view line, char point);
   static std::optional<Row> SplitShortReference(std::string_view line);
   static std::optional<Row> SplitRow(std::string_view line, const Columns& columns, std::vector<std::string>& fields);
 

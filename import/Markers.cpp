@@ -50,7 +50,7 @@ constexpr std::array<std::pair<std::string_view, MarkerKind>, 173> kMarkers{{
     {"fw", MarkerKind::kLeftOutCharacter},
     {"glo", MarkerKind::kLeftOutParagraph},
     {"h", MarkerKind::kHeader},
-    {"h1", MarkerKind::kLeftOutParagraph},
+    {"h1", MarkerKind::kHeader},
     {"h2", MarkerKind::kLeftOutParagraph},
     {"h3", MarkerKind::kLeftOutParagraph},
     {"ib", MarkerKind::kLeftOutParagraph},

@@ -6,6 +6,7 @@
 
 #include "BookTable.h"
 #include "LineReader.h"
+#include "Numbers.h"
 #include "Text.h"
 
 namespace folionet {
@@ -56,12 +57,22 @@ std::string FieldOf(const OsisReference& first, std::string_view id) {
 
 // Those whose text is none of the verse they stand in.
 bool IsLeftOut(std::string_view name) {
-  constexpr std::array<std::string_view, 7> kLeftOut{"note", "figure", "speaker", "rdg", "index", "head", "label"};
+  constexpr std::array<std::string_view, 4> kLeftOut{"note", "figure", "rdg", "index"};
   return std::find(kLeftOut.begin(), kLeftOut.end(), name) != kLeftOut.end();
 }
 
+bool IsHeading(std::string_view name) { return name == "speaker" || name == "head" || name == "label"; }
+
+// Divisions that hold no verses.
+bool IsBesideText(std::string_view type) {
+  constexpr std::array<std::string_view, 8> kBeside{"introduction", "preface", "front",       "back",
+                                                    "glossary",     "index",   "concordance", "appendix"};
+  return std::find(kBeside.begin(), kBeside.end(), type) != kBeside.end();
+}
+
 bool IsBlock(std::string_view name) {
-  constexpr std::array<std::string_view, 9> kBlocks{"p", "l", "lg", "lb", "list", "item", "table", "row", "cell"};
+  constexpr std::array<std::string_view, 11> kBlocks{"p",     "l",   "lg",   "lb",     "list",  "item",
+                                                     "table", "row", "cell", "closer", "salute"};
   return std::find(kBlocks.begin(), kBlocks.end(), name) != kBlocks.end();
 }
 
@@ -73,12 +84,14 @@ XmlForm::Part OsisForm::Begin(const XmlElement& element) {
   if (name == "verse") return BeginVerse(element);
   if (name == "title") return BeginTitle(element);
   if (IsLeftOut(name)) return Part::kLeftOut;
+  if (IsHeading(name)) return Part::kHeading;
   if (IsBlock(name)) return Part::kBlock;
-  if (name == "div") {
-    if (element.Get("type") == "book") GoTo(ParseReference(element.Get("osisID")).book, {});
-    return Part::kBlock;
+  if (name == "div") return BeginDivision(element);
+  if (name == "q" && !IsCapturing() && !(element.Get("sID").empty() && element.Get("eID").empty())) {
+    Builder().AddText(element.Get("marker"));
   }
   if (name == "chapter") {
+    if (!element.Get("eID").empty()) Builder().EndVerse();
     const std::string_view id = element.Get("osisID");
     const OsisReference place = ParseReference(id.empty() ? element.Get("sID") : id);
     if (!place.chapter.empty()) GoTo(place.book, place.chapter);
@@ -95,6 +108,20 @@ XmlForm::Part OsisForm::Begin(const XmlElement& element) {
     Builder().SetLanguage(element.Get("lang"));
   }
   return Part::kPass;
+}
+
+// One that is a milestone may stand within a verse, which does not hold what is in it.
+XmlForm::Part OsisForm::BeginDivision(const XmlElement& element) {
+  const std::string_view type = element.Get("type");
+  if (type == "book") GoTo(ParseReference(element.Get("osisID")).book, {});
+  if (!IsBesideText(type)) return Part::kBlock;
+  if (!element.Get("sID").empty()) {
+    m_goesOn = Builder().IsInVerse();
+    Builder().EndVerse();
+  } else if (!element.Get("eID").empty() && std::exchange(m_goesOn, false)) {
+    Builder().GoOnWithVerse();
+  }
+  return Part::kBlock;
 }
 
 void OsisForm::GoTo(std::string_view book, std::string_view chapter) {
@@ -116,7 +143,8 @@ XmlForm::Part OsisForm::BeginVerse(const XmlElement& element) {
     return Part::kPass;
   }
   const std::string_view start = element.Get("sID");
-  const std::string_view id = element.Get("osisID").empty() ? start : element.Get("osisID");
+  const std::string_view id = TrimBlanks(element.Get("osisID").empty() ? start : element.Get("osisID"));
+  m_goesOn = false;
   const OsisReference place = ParseVerseReference(id);
   if (place.verse.empty()) Builder().Fail("the osisID of a verse, such as \"Gen.1.1\", was expected: " + Quoted(id));
   GoTo(place.book, place.chapter);
@@ -133,7 +161,7 @@ XmlForm::Part OsisForm::BeginTitle(const XmlElement& element) {
   if (IsCapturing()) return Part::kBlock;  // a line of a title
   const bool isOfBook = !m_book.empty() && m_chapter.empty();
   if (!isOfBook || type == "psalm") {
-    return type == "psalm" || element.Get("canonical") == "true" ? Part::kCanonicalTitle : Part::kLeftOut;
+    return type == "psalm" || element.Get("canonical") == "true" ? Part::kCanonicalTitle : Part::kHeading;
   }
   if (!type.empty() && type != "main" && type != "runningHead") return Part::kLeftOut;
   Builder().AddTitle(TitleKind::kShort, element.Get("short"));

@@ -22,6 +22,7 @@ class OsisForm : public XmlForm {
   // Modules of verses that are written as OSIS, one by one, have elements that end in another verse, or nowhere.
   bool PutsUpWithEnd(std::string_view name) override { return NoteEnd(name); }
 
+  Part BeginDivision(const XmlElement& element);
   Part BeginTitle(const XmlElement& element);
   Part BeginVerse(const XmlElement& element);
   void GoTo(std::string_view book, std::string_view chapter);
@@ -29,6 +30,7 @@ class OsisForm : public XmlForm {
   enum class Captured { kName, kRunningHead, kMainTitle, kTitle };
   Captured m_captured = Captured::kName;
   bool m_isInWork = false;
+  bool m_goesOn = false;  // the verse, behind the division beside the text that stands in it
   std::string m_book;     // as osisID has it; empty for none
   std::string m_chapter;  // empty for none
 };

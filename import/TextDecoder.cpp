@@ -79,6 +79,12 @@ bool IsNameOfUtf8(const std::string& name) {
   return EqualIgnoringCase(name, "utf-8") || EqualIgnoringCase(name, "utf8");
 }
 
+bool IsKnown(const std::string& charset) {
+  UErrorCode status = U_ZERO_ERROR;
+  ucnv_close(ucnv_open(charset.c_str(), &status));
+  return U_SUCCESS(status);
+}
+
 }  // namespace
 
 void TextDecoder::CloseConverter::operator()(UConverter* converter) const { ucnv_close(converter); }
@@ -112,12 +118,21 @@ void TextDecoder::ChooseEncoding(const std::string& charset) {
   } else if (!charset.empty()) {
     OpenConverter(charset);
   } else if (const std::string named = EncodingOfXml(raw); !named.empty()) {
-    OpenConverter(named);
+    OpenNamed(named);
   } else if (const std::string page = EncodingOfUsfm(raw); !page.empty()) {
     // Many a text that was turned into UTF-8 still names the code page that it was in before.
     const std::size_t unfinished = m_isAtEnd ? 0 : UnfinishedLength(raw);
     if (!IsUtf8(raw.substr(0, raw.size() - unfinished))) OpenConverter(page);
   }
+}
+
+// A declaration of UTF-16 is of no account here: it was made for the text before that was written as UTF-8.
+void TextDecoder::OpenNamed(const std::string& charset) {
+  if (AsciiLower(charset).starts_with("utf-16")) return;
+  if (!IsKnown(charset)) {
+    throw TextFault("the name of a charset, such as windows-1251, was expected: " + Quoted(charset), 1);
+  }
+  OpenConverter(charset);
 }
 
 void TextDecoder::OpenConverter(const std::string& charset) {

@@ -16,7 +16,8 @@ namespace folionet {
 // itself (in an XML declaration or behind \ide); UTF-8.
 class TextDecoder {
  public:
-  // Reads the beginning. `charset` is empty when none was given. Throws RunTimeError for a charset that is not known.
+  // Reads the beginning. `charset` is empty when none was given. Throws RunTimeError for a charset that is not known,
+  // TextFault where the file names it.
   TextDecoder(ByteSource& bytes, const std::string& charset);
   TextDecoder(const TextDecoder&) = delete;
   TextDecoder& operator=(const TextDecoder&) = delete;
@@ -36,6 +37,7 @@ class TextDecoder {
   using Converter = std::unique_ptr<UConverter, CloseConverter>;
 
   void ChooseEncoding(const std::string& charset);
+  void OpenNamed(const std::string& charset);
   void OpenConverter(const std::string& charset);
   std::string_view Raw() const { return std::string_view(m_raw).substr(m_start, m_end - m_start); }
   void FillRaw();

@@ -77,8 +77,11 @@ FormKind FormOf(std::string_view head) {
     return root == "xmlbible" ? FormKind::kZefania : FormKind::kNone;
   }
   if (head[first] == '\\') {
-    const bool isUsfm = head.find("\\id ") != std::string_view::npos || head.find("\\id\t") != std::string_view::npos;
-    return isUsfm ? FormKind::kUsfm : FormKind::kNone;
+    // A text whose \id is missing is told so.
+    for (const std::string_view marker : {"\\id ", "\\id\t", "\n\\c ", "\n\\v "}) {
+      if (head.find(marker) != std::string_view::npos) return FormKind::kUsfm;
+    }
+    return FormKind::kNone;
   }
   if (HoldsLines(head)) return FormKind::kLines;
   // What stands before the marker, such as a licence, is none of the text.

@@ -4,6 +4,7 @@
 
 #include "LineReader.h"
 #include "RunTimeError.h"
+#include "Text.h"
 
 namespace folionet {
 namespace {
@@ -121,6 +122,11 @@ void UsfmForm::TakeArgument(std::string_view text) {
   if (m_role == Role::kText) TakeVerseText(text.substr(end));
 }
 
+void UsfmForm::NeedBook(const char* marker, const std::string& argument) const {
+  if (m_hasBook) return;
+  m_builder.Fail(std::string("\\id and the code of a book were expected before ") + marker + " " + Quoted(argument));
+}
+
 void UsfmForm::EndArgument() {
   const Role role = m_role;
   if (role == Role::kText || role == Role::kLeftOut) return;
@@ -129,6 +135,7 @@ void UsfmForm::EndArgument() {
   std::swap(argument, m_argument);
   switch (role) {
     case Role::kBook:
+      m_hasBook = true;
       m_builder.BeginBook(argument);
       break;
     case Role::kTitle:
@@ -136,10 +143,12 @@ void UsfmForm::EndArgument() {
       m_builder.AddTitle(m_title, argument);
       break;
     case Role::kChapter:
+      NeedBook("\\c", argument);
       m_builder.BeginChapter(argument);
       m_role = Role::kText;
       break;
     case Role::kVerse:
+      NeedBook("\\v", argument);
       m_builder.BeginVerse(argument);
       m_role = Role::kText;
       break;

@@ -53,6 +53,8 @@ XmlForm::Part UsfxForm::PartOfMarker(std::string_view marker) {
       return Part::kPass;
     case MarkerKind::kUnknown:
       return marker == "table" || marker == "optionalLineBreak" ? Part::kBlock : Part::kPass;
+    case MarkerKind::kLeftOutParagraph:
+      return Part::kHeading;
     default:
       return Part::kLeftOut;
   }

@@ -13,6 +13,10 @@ void XmlForm::Start(const XmlElement& element) {
   m_isJustBegun = true;
   const Part part = Begin(element);
   switch (part) {
+    case Part::kHeading:
+      AddBreak();
+      m_leftOut = 1;
+      return;
     case Part::kLeftOut:
       m_leftOut = 1;
       return;
@@ -57,6 +61,7 @@ void XmlForm::End(std::string_view /*name*/) {
       break;
     case Part::kPass:
     case Part::kLeftOut:
+    case Part::kHeading:
       break;
   }
 }

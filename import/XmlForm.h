@@ -21,6 +21,7 @@ class XmlForm : public TextForm, protected XmlHandler {
   enum class Part {
     kPass,            // its text belongs to what it stands in
     kLeftOut,         // with all that is in it
+    kHeading,         // as kLeftOut, and what stands around it is parted
     kBlock,           // as kPass, between blanks
     kVerse,           // a verse, which ends with it; in a file where those that came so far hold nothing, with the next
     kCanonicalTitle,  // ends with it

@@ -12,8 +12,18 @@ namespace folionet {
 namespace {
 
 bool IsLeftOut(std::string_view name) {
-  constexpr std::array<std::string_view, 6> kLeftOut{"note", "remark", "xref", "caption", "prolog", "media"};
+  constexpr std::array<std::string_view, 4> kLeftOut{"note", "remark", "xref", "media"};
   return std::find(kLeftOut.begin(), kLeftOut.end(), name) != kLeftOut.end();
+}
+
+// The verse number of "vnumber", the last one of several in "enumber", and a part of a verse in "aix": "2-4", "3a".
+std::string FieldOf(const XmlElement& element) {
+  std::string field(element.Get("vnumber"));
+  const std::string_view part = element.Get("aix");
+  if (part.size() == 1 && part[0] >= 'a' && part[0] <= 'z') field += part;
+  const std::string_view end = element.Get("enumber");
+  if (!end.empty() && end != element.Get("vnumber")) field.append("-").append(end);
+  return field;
 }
 
 }  // namespace
@@ -21,7 +31,7 @@ bool IsLeftOut(std::string_view name) {
 XmlForm::Part ZefaniaForm::Begin(const XmlElement& element) {
   const std::string name = AsciiLower(element.Name());
   if (name == "vers" || name == "verse") {
-    Builder().BeginVerse(element.Get("vnumber"));
+    Builder().BeginVerse(FieldOf(element));
     return Part::kVerse;
   }
   if (name == "chapter") {
@@ -48,6 +58,7 @@ XmlForm::Part ZefaniaForm::Begin(const XmlElement& element) {
     return Part::kCaptured;
   }
   if (IsLeftOut(name)) return Part::kLeftOut;
+  if (name == "caption" || name == "prolog") return Part::kHeading;
   return name == "br" ? Part::kBlock : Part::kPass;
 }
 

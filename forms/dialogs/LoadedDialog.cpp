@@ -45,7 +45,7 @@ void LoadedDialog::showEvent(QShowEvent* event) {
 
 void LoadedDialog::changeEvent(QEvent* event) {
   QDialog::changeEvent(event);
-  if (event->type() == QEvent::PaletteChange) DressBoxes(*this);
+  if (event->type() == QEvent::PaletteChange || event->type() == QEvent::FontChange) DressBoxes(*this);
 }
 
 }  // namespace folionet

@@ -44,9 +44,18 @@ void frmAddnew::keyPressEvent(QKeyEvent* event) {
 }
 
 void frmAddnew::showEvent(QShowEvent* event) {
+  Dress();
+  QDialog::showEvent(event);
+}
+
+void frmAddnew::changeEvent(QEvent* event) {
+  QDialog::changeEvent(event);
+  if (event->type() == QEvent::PaletteChange || event->type() == QEvent::FontChange) Dress();
+}
+
+void frmAddnew::Dress() {
   AlignLabels({m_ui->lblLangAbbr, m_ui->lblLangLang, m_ui->lblEncAbbr, m_ui->lblEncLang});
   DressBoxes(*this);
-  QDialog::showEvent(event);
 }
 
 void frmAddnew::reject() {

@@ -36,11 +36,13 @@ class frmAddnew : public QDialog {
 
  protected:
   void showEvent(QShowEvent* event) override;
+  void changeEvent(QEvent* event) override;
 
   // Enter adds the record that is being typed; a dialog's own would press one and the same button for both.
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
+  void Dress();  // by palette and font
   void AddRecord(const char* fileName, Procedure procedure, const QLineEdit& abbreviation, const QLineEdit& language);
 
   AppState& m_state;

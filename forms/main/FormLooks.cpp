@@ -35,6 +35,14 @@ void DressCompile(const QPalette& desktop, QPushButton& compile) {
   compile.setPalette(button);
 }
 
+// On a large screen the content stays one block in the middle, in which nothing is far from what belongs to it.
+void HoldTogether(QWidget& content) {
+  constexpr int kColumns = 200;
+  constexpr int kLines = 44;
+  const QFontMetrics metrics = content.fontMetrics();
+  content.setMaximumSize(kColumns * metrics.averageCharWidth(), kLines * metrics.height());
+}
+
 }  // namespace
 
 void DressForm(QWidget& form, const Ui::frmMain& controls) {
@@ -43,6 +51,7 @@ void DressForm(QWidget& form, const Ui::frmMain& controls) {
   AlignLabels({controls.lblBibleName, controls.lblBibleSel, controls.lblFilename, controls.lblStartBook,
                controls.lblEndBook, controls.lblLang, controls.lblDrive, controls.lblDir1, controls.lblOutputPath,
                controls.lblhttpRoot});
+  HoldTogether(*controls.page);
 }
 
 }  // namespace folionet

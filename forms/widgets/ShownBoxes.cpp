@@ -1,5 +1,8 @@
 #include "ShownBoxes.h"
 
+#include <QApplication>
+#include <QComboBox>
+#include <QEvent>
 #include <QLabel>
 #include <QLineEdit>
 
@@ -18,6 +21,19 @@ void GiveRoom(QLineEdit& box) {
 }
 
 void GiveRoom(TextBox& /*box*/) {}
+
+// For the lines of a hint that is a whole paragraph.
+void GiveRoom(QPlainTextEdit& box) {
+  constexpr int kLines = 6;
+  const int around = 2 * (box.frameWidth() + static_cast<int>(box.document()->documentMargin()));
+  box.setMinimumHeight(kLines * box.fontMetrics().lineSpacing() + around);
+}
+
+// Qt keeps the least size of a list from before a change of the font.
+void GiveRoom(QComboBox& list) {
+  QEvent change(QEvent::StyleChange);
+  QApplication::sendEvent(&list, &change);
+}
 
 template <typename Box>
 void DressBox(Box& box, const QPalette& form) {
@@ -58,9 +74,12 @@ void DressBoxes(QWidget& form) {
   KeepToTheStart<QLineEdit>(form);
   Dress<QLineEdit>(form);
   Dress<TextBox>(form);
+  for (QComboBox* list : form.findChildren<QComboBox*>()) GiveRoom(*list);
   // Of plain boxes those with a hint alone: the sample of the page's text has colours of its own.
   for (QPlainTextEdit* box : form.findChildren<QPlainTextEdit*>()) {
-    if (!box->placeholderText().isEmpty()) DressBox(*box, form.palette());
+    if (box->placeholderText().isEmpty() || qobject_cast<TextBox*>(box) != nullptr) continue;
+    DressBox(*box, form.palette());
+    GiveRoom(*box);
   }
 }
 

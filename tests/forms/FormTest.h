@@ -2,7 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QEvent>
+#include <QFont>
+#include <QFontDatabase>
 #include <QWidget>
 #include <filesystem>
 #include <functional>
@@ -79,6 +82,25 @@ class FormTest : public testing::Test {
 
  private:
   QWidget& Find(const std::string& name) const;
+};
+
+// In a font that many desktops have; skipped by its name where that is not installed.
+class InFont : public FormTest, public testing::WithParamInterface<const char*> {
+ public:
+  static std::string NameOf(const testing::TestParamInfo<const char*>& font) {
+    return FromQt(QString::fromLatin1(font.param).remove(QLatin1Char(' ')));
+  }
+
+ protected:
+  void SetUp() override {
+    if (!QFontDatabase::hasFamily(QString::fromLatin1(GetParam()))) {
+      GTEST_SKIP() << "The font " << GetParam() << " is not installed.";
+    }
+  }
+  void TearDown() override { QApplication::setFont(m_before); }
+
+ private:
+  const QFont m_before = QApplication::font();
 };
 
 }  // namespace folionet

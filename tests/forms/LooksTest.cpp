@@ -66,21 +66,40 @@ TEST_F(Looks, PickersChangeTheSample) {
 }
 
 // A form that is as large as it wants to be has room for all four, whatever the height of a line of the font is.
-TEST_F(Looks, TheSampleShowsItsFourLines) {
+class LooksIn : public InFont {};
+
+TEST_P(LooksIn, TheSampleShowsItsFourLines) {
   constexpr int kMostLines = 6;
   ASSERT_TRUE(Start());
   const auto& sample = Get<SampleTextBox>("txtSample");
-  for (const char* family : {"DejaVu Serif", "DejaVu Math TeX Gyre", "Liberation Serif", "Noto Sans"}) {
-    for (const double points : {8.0, 10.5, 12.0, 13.5}) {
-      m_ui.fonts = {{family, points, false, false, 0, 0}};
-      Click("cmdFont");
-      QApplication::processEvents();
-      m_form->resize(m_form->sizeHint());
-      QApplication::processEvents();
-      EXPECT_EQ(sample.verticalScrollBar()->maximum(), 0) << family << points;
-      EXPECT_LE(sample.height(), kMostLines * sample.fontMetrics().lineSpacing()) << family << points;
-    }
+  for (const double points : {8.0, 10.5, 12.0, 13.5}) {
+    m_ui.fonts = {{GetParam(), points, false, false, 0, 0}};
+    Click("cmdFont");
+    QApplication::processEvents();
+    m_form->resize(m_form->sizeHint());
+    QApplication::processEvents();
+    EXPECT_EQ(sample.verticalScrollBar()->maximum(), 0) << points;
+    EXPECT_LE(sample.height(), kMostLines * sample.fontMetrics().lineSpacing()) << points;
   }
+}
+
+INSTANTIATE_TEST_SUITE_P(Fonts, LooksIn,
+                         testing::Values("DejaVu Serif", "DejaVu Math TeX Gyre", "Liberation Serif", "Noto Sans"),
+                         InFont::NameOf);
+
+// Maximised, the form is one block in the middle, whose columns end where each other does.
+TEST_F(Looks, ALargeScreenKeepsTheContentTogether) {
+  ASSERT_TRUE(Start());
+  m_form->resize(1920, 1052);
+  QApplication::processEvents();
+  const auto place = [&](const char* name) {
+    const QWidget& part = Get(name);
+    return QRect(part.mapTo(m_form.get(), QPoint()), part.size());
+  };
+  EXPECT_EQ(place("frmDialogs").bottom(), place("frmOutput").bottom());
+  EXPECT_NEAR(place("page").center().x(), m_form->width() / 2, 1);
+  EXPECT_LE(place("cmdCompile").right() - place("cboBibleName").left(), 1920 * 3 / 4);
+  EXPECT_LE(place("cmdLinkToMain").top() - place("cmdPageEncoding").bottom(), 2 * Get("cmdLinkToMain").height());
 }
 
 TEST_F(Looks, TheLinkBackStandsAsChosen) {

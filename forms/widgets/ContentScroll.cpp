@@ -21,11 +21,14 @@ ContentScroll::ContentScroll(QWidget* parent) : QScrollArea(parent) {
   setBackgroundRole(QPalette::Window);
 }
 
+int ContentScroll::BarRoom() const { return verticalScrollBar()->sizeHint().width() + kGap; }
+
+// With room for the bar: texts that it made so narrow that they wrap would need it from then on.
 // What changed in the content while it was hidden counts once its layout has heard of it.
 QSize ContentScroll::sizeHint() const {
   if (widget() == nullptr) return {};
   if (QLayout* layout = widget()->layout()) layout->activate();
-  return widget()->sizeHint();
+  return widget()->sizeHint() + QSize(BarRoom(), 0);
 }
 
 // As wide as the content where the screen has room for that, so that nothing is scrolled sideways without need.
@@ -33,10 +36,9 @@ QSize ContentScroll::minimumSizeHint() const {
   if (widget() == nullptr) return {};
   constexpr int kLines = 6;
   const QSize content = widget()->minimumSizeHint();
-  const int bar = verticalScrollBar()->sizeHint().width() + kGap;
   const int widest = screen()->availableSize().width() * 9 / 10;
   const int height = std::min(content.height(), kLines * fontMetrics().lineSpacing());
-  return {std::min(content.width() + bar, widest), height};
+  return {std::min(content.width() + BarRoom(), widest), height};
 }
 
 bool ContentScroll::eventFilter(QObject* watched, QEvent* event) {

@@ -21,6 +21,7 @@ class ContentScroll : public QScrollArea {
   void resizeEvent(QResizeEvent* event) override;
 
  private:
+  int BarRoom() const;
   void KeepOffBar();  // room between the content and a scroll bar that is there
 };
 

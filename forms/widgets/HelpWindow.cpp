@@ -110,6 +110,7 @@ HelpWindow::HelpWindow(QWidget* parent) : QDialog(parent), m_page(new HelpPage(t
   m_page->setObjectName(QStringLiteral("helpPage"));
   m_page->setAccessibleName(tr("Help"));
   m_page->setOpenExternalLinks(true);
+  m_page->document()->setDefaultStyleSheet(QStringLiteral("pre { white-space: pre-wrap; }"));  // none scrolls sideways
   auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
   buttons->button(QDialogButtonBox::Close)->setText(tr("&Close"));
   QPushButton* contents = buttons->addButton(tr("C&ontents"), QDialogButtonBox::ActionRole);

@@ -17,6 +17,7 @@ struct CheckedLibrary {
   std::string titlesFile;  // the chosen file of book titles
   TypedTexts typed;        // for the pages, with the language that they declare
   Findings& findings;
+  std::string translation = {};  // that is examined alone
 
   // `line` is counted from 1; 0 is a fault of the file as a whole.
   void Add(const char* kind, const std::string& path, std::size_t line, Sentence what, BiblePlace place = {});

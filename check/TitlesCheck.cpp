@@ -46,17 +46,18 @@ class PageNameCheck {
   std::map<std::string, int> m_bookOfName;
 };
 
-// The charset of a file of titles: that of the imported translation that it belongs to, or the declared one.
-CodePage CodePageOf(const std::string& fileName, const CheckedLibrary& library) {
+// The imported translation that a file of titles belongs to.
+const ImportedText* ImportOf(const std::string& fileName, const CheckedLibrary& library) {
   for (const ImportedText& text : library.glob.BibleImports) {
-    if (text.IsThere() && EqualIgnoringCase(text.titles, fileName)) return CodePage(text.charset);
+    if (text.IsThere() && EqualIgnoringCase(text.titles, fileName)) return &text;
   }
-  return library.codePage;
+  return nullptr;
 }
 
 void CheckTitleFile(const std::string& fileName, CheckedLibrary& whole) {
   const ModGlob& glob = whole.glob;
-  const CodePage codePage = CodePageOf(fileName, whole);
+  const ImportedText* const imported = ImportOf(fileName, whole);
+  const CodePage codePage = imported != nullptr ? CodePage(imported->charset) : whole.codePage;
   CheckedLibrary library{whole.glob, codePage, whole.titlesFile, whole.typed, whole.findings};
   try {
     const std::string path = SysdefsFile(glob, fileName);
@@ -90,7 +91,9 @@ void CheckTitles(CheckedLibrary& library) {
   CheckTitleFile(chosen, library);
   try {
     for (const std::string& name : LanguageFiles(library.glob)) {
-      if (!EqualIgnoringCase(name, chosen)) CheckTitleFile(name, library);
+      // The titles of another language may be in another charset than the one translation that is asked about.
+      const bool isAskedAbout = library.translation.empty() || ImportOf(name, library) != nullptr;
+      if (isAskedAbout && !EqualIgnoringCase(name, chosen)) CheckTitleFile(name, library);
     }
   } catch (const RunTimeError& error) {
     library.findings.Add(FindingOf(error));

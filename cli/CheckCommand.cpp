@@ -11,7 +11,8 @@ namespace folionet {
 namespace {
 
 // What to do about a finding that does not say so itself.
-constexpr char kCorrectPlace[] = "Correct this place, or let Versalia install the translation anew.";
+constexpr char kCorrectPlace[] =
+    "Correct this place, or install the translation anew, in Versalia or by \"folionet-cli import --replace\".";
 
 void ShowAll(const Findings& findings, ConsoleUi& ui) {
   for (Finding finding : findings.Kept()) {
@@ -40,15 +41,16 @@ ExitStatus RunCheck(const CommonOptions& common, const CheckArguments& arguments
   const std::string programFolder = ProgramFolderToRead(session.chosenProgramFolder);
   session.LoadOwnHtml(programFolder);
   Findings findings;
+  const std::string siteTranslation = session.store.SiteText(kSiteTranslation);
+  const std::string& translation = arguments.translation.empty() ? siteTranslation : arguments.translation;
   LibraryCheck check({session.glob,
                       session.codePage,
                       session.store.Text("cboLang"),
                       {session.options, session.texts, programFolder},
-                      findings});
+                      findings,
+                      translation});
   check.ExamineLists();
   const std::size_t count = session.glob.cboBibleName.size();
-  const std::string siteTranslation = session.store.SiteText(kSiteTranslation);
-  const std::string& translation = arguments.translation.empty() ? siteTranslation : arguments.translation;
   if (translation.empty()) {
     for (std::size_t place = 0; place < count; ++place) check.ExamineTranslation(session.glob.BibleFiles[place]);
   } else {
@@ -59,7 +61,8 @@ ExitStatus RunCheck(const CommonOptions& common, const CheckArguments& arguments
   if (findings.Count(Severity::kFault) == 0) return ui.Done();
   ui.Tell(count == 0 ? "Give Versalia's folders with --versalia-path FOLDER and --module-path FOLDER, or install a "
                        "translation in Versalia."
-                     : "Correct these places, or let Versalia install the translation anew, and check again.");
+                     : "Correct these places, or install the translation anew, in Versalia or by \"folionet-cli import "
+                       "--replace\", and check again.");
   return kExitRefused;
 }
 

@@ -9,7 +9,8 @@ constexpr std::string_view kCorrectSetting =
 // A run of "compile" that failed.
 std::string_view NextStepOfCompile(const ErrorReport& report) {
   if (report.line != 0) {
-    return "Correct this line of the translation's text, or let Versalia install the translation anew; \"folionet-cli "
+    return "Correct this line of the translation's text, or install the translation anew, in Versalia or by "
+           "\"folionet-cli import --replace\"; \"folionet-cli "
            "check\" names every such line.";
   }
   switch (report.number) {

@@ -85,7 +85,7 @@ class FactFinder {
                        "%1 pages of earlier compiles, such as %2, lie in the folder. This one does not write "
                        "them, and its index page does not lead to them."),
                  {std::to_string(old.size()), *old.begin()}},
-                {"\"folionet-cli verify FOLDER\" names them: delete them where nobody needs them."}));
+                {"\"folionet-cli verify FOLDER --remove-stale\" deletes them and prints their names."}));
   }
 
   int Books() const { return static_cast<int>(m_glob.cboStartBook.size()); }

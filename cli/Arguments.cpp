@@ -118,7 +118,7 @@ void AddImport(CLI::App& app, Arguments& asked) {
   const auto arguments = std::make_shared<ImportArguments>();
   command
       .add_option("PATH", arguments->paths,
-                  "Files, folders or zip archives, or - for standard\n"
+                  "Files, folders or archives, or - for standard\n"
                   "input: USFM, USX, USFX, OSIS, Zefania XML, or one\nverse a line")
       ->required()
       ->type_name("");

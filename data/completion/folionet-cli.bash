@@ -61,7 +61,7 @@ _folionet_cli() {
       mapfile -t COMPREPLY < <(compgen -f -- "$word")
       return
       ;;
-    --index-address | --sitemap | --index | --name | --stem | --charset)
+    --index-address | --sitemap | --index | --name | --stem | --charset | --language)
       return
       ;;
   esac

@@ -430,6 +430,18 @@
         <source>The text of the translation is not in %1, which its import has noted in %2.</source>
         <translation>Der Text der Übersetzung ist nicht in %1, wie der Import in %2 vermerkt hat.</translation>
     </message>
+    <message>
+        <source>no page that %1 leads to links here; it is not marked as a page of Folionet.</source>
+        <translation>keine Seite, zu der %1 führt, verweist hierher; sie ist nicht als Seite von Folionet gekennzeichnet.</translation>
+    </message>
+    <message>
+        <source>%2 pages, up to %3: no page that %1 leads to links to them; they are not marked as pages of Folionet.</source>
+        <translation>%2 Seiten, bis %3: keine Seite, zu der %1 führt, verweist auf sie; sie sind nicht als Seiten von Folionet gekennzeichnet.</translation>
+    </message>
+    <message>
+        <source>Link to it from one of your pages, or move it away.</source>
+        <translation>Verweisen Sie von einer Ihrer Seiten darauf, oder bringen Sie sie weg.</translation>
+    </message>
 </context>
 <context>
     <name>folionet::CommandCopy</name>

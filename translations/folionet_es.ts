@@ -430,6 +430,18 @@
         <source>The text of the translation is not in %1, which its import has noted in %2.</source>
         <translation>El texto de la traducción no está en %1, como la importación anotó en %2.</translation>
     </message>
+    <message>
+        <source>no page that %1 leads to links here; it is not marked as a page of Folionet.</source>
+        <translation>ninguna página a la que lleva %1 enlaza aquí; no está marcada como página de Folionet.</translation>
+    </message>
+    <message>
+        <source>%2 pages, up to %3: no page that %1 leads to links to them; they are not marked as pages of Folionet.</source>
+        <translation>%2 páginas, hasta %3: ninguna página a la que lleva %1 las enlaza; no están marcadas como páginas de Folionet.</translation>
+    </message>
+    <message>
+        <source>Link to it from one of your pages, or move it away.</source>
+        <translation>Enlácela desde una de sus páginas, o sáquela de la carpeta.</translation>
+    </message>
 </context>
 <context>
     <name>folionet::CommandCopy</name>

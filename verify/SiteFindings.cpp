@@ -9,12 +9,6 @@
 namespace folionet {
 namespace {
 
-struct FaultWords {
-  const char* kind;
-  const char* onOne;   // page: %1 is what is named, %3 the name that is there
-  const char* onMany;  // pages: %2 is their number
-};
-
 constexpr FaultWords kMissing{"missing", Words("QObject", "\"%1\" is not there."),
                               Words("QObject", "\"%1\" is not there (%2 pages, this one first).")};
 constexpr FaultWords kOtherCase{
@@ -124,6 +118,28 @@ void SiteFindings::AddLinkedFolder(const std::string& link) {
 }
 
 void SiteFindings::AddUnreached(const std::vector<std::string>& pages, const std::string& index) {
+  AddByBook(pages, index,
+            {"unreached",
+             Words("QObject",
+                   "no page that %1 leads to links here: left from an earlier compile, or outside the chosen books."),
+             Words("QObject",
+                   "%2 pages, up to %3: no page that %1 leads to links to them: left from an earlier compile, "
+                   "or outside the chosen books.")},
+            Remedy(Step::kUnreached));
+}
+
+void SiteFindings::AddOwnUnreached(const std::vector<std::string>& pages, const std::string& index) {
+  AddByBook(
+      pages, index,
+      {"unreached", Words("QObject", "no page that %1 leads to links here; it is not marked as a page of Folionet."),
+       Words("QObject",
+             "%2 pages, up to %3: no page that %1 leads to links to them; they are not marked as pages of "
+             "Folionet.")},
+      {Words("QObject", "Link to it from one of your pages, or move it away.")});
+}
+
+void SiteFindings::AddByBook(const std::vector<std::string>& pages, const std::string& index, const FaultWords& words,
+                             const Sentence& remedy) {
   std::vector<std::string> sorted = pages;
   std::sort(sorted.begin(), sorted.end(), IsBefore);
   for (auto first = sorted.begin(); first != sorted.end();) {
@@ -131,21 +147,12 @@ void SiteFindings::AddUnreached(const std::vector<std::string>& pages, const std
     const auto end = std::find_if(std::next(first), sorted.end(),
                                   [&](const std::string& page) { return !book.IsSameBook(Split(page)); });
     const auto count = static_cast<std::size_t>(end - first);
-    Finding finding{.kind = "unreached",
-                    .severity = Severity::kNote,
-                    .file = *first,
-                    .what = {Words("QObject",
-                                   "no page that %1 leads to links here: left from an earlier compile, or "
-                                   "outside the chosen books."),
-                             {index, std::to_string(count), *std::prev(end)}}};
-    if (count > 1) {
-      finding.what.pattern =
-          Words("QObject",
-                "%2 pages, up to %3: no page that %1 leads to links to them: left from an earlier compile, "
-                "or outside the chosen books.");
-    }
-    finding.remedy = Remedy(Step::kUnreached);
-    m_findings.push_back(std::move(finding));
+    m_findings.push_back(
+        {.kind = words.kind,
+         .severity = Severity::kNote,
+         .file = *first,
+         .what = {count > 1 ? words.onMany : words.onOne, {index, std::to_string(count), *std::prev(end)}},
+         .remedy = remedy});
     first = end;
   }
 }

@@ -32,6 +32,12 @@ struct BrokenTarget {
   std::size_t pages = 0;   // how many name it
 };
 
+struct FaultWords {
+  const char* kind;
+  const char* onOne;   // page: %1 is what is named, %3 the name that is there
+  const char* onMany;  // pages: %2 is their number
+};
+
 // Words what is found in a site, and what a person does about it.
 class SiteFindings {
  public:
@@ -41,7 +47,8 @@ class SiteFindings {
   void AddUnread(const std::string& file, std::string why);
   void AddUtf16(const std::string& page);
   void AddLinkedFolder(const std::string& link);
-  void AddUnreached(const std::vector<std::string>& pages, const std::string& index);
+  void AddUnreached(const std::vector<std::string>& pages, const std::string& index);  // pages of Folionet
+  void AddOwnUnreached(const std::vector<std::string>& pages, const std::string& index);
   void OfferRemoval();  // of pages that nothing leads to
   void AddEmptyIndex(const std::string& index);
 
@@ -52,6 +59,8 @@ class SiteFindings {
   enum class Step { kPermissions, kUtf8, kCharset, kTitles, kPictures, kCorrect, kBooks, kUnreached };
 
   void Add(Finding finding, Step step);
+  void AddByBook(const std::vector<std::string>& pages, const std::string& index, const FaultWords& words,
+                 const Sentence& remedy);
   Sentence Remedy(Step step) const;
   static Step StepFor(const BrokenTarget& broken);
 

@@ -307,6 +307,7 @@ class SiteReader {
         if (m_linked.contains(target) && reached.insert(target).second) waiting.push_back(target);
       }
     }
+    std::vector<std::string> own;
     std::size_t chapters = 0;
     for (const auto& [page, links] : m_linked) {
       const bool isOurs = m_ours.contains(page);
@@ -314,14 +315,15 @@ class SiteReader {
         if (isOurs && page != index) ++chapters;
       } else if (IsHtmlName(page)) {
         m_report.unreached.push_back(page);
-        if (isOurs) m_report.stale.push_back(page);
+        (isOurs ? m_report.stale : own).push_back(page);
       }
     }
     if (chapters == 0 && !m_report.stale.empty()) {
       m_report.isStaleCertain = false;
       m_findings.AddEmptyIndex(index);
     }
-    m_findings.AddUnreached(m_report.unreached, index);
+    m_findings.AddUnreached(m_report.stale, index);
+    m_findings.AddOwnUnreached(own, index);
     if (!m_report.stale.empty()) m_findings.OfferRemoval();
   }
 

@@ -60,7 +60,7 @@ ExitStatus RunCheck(const CommonOptions& common, const CheckArguments& arguments
   ShowAll(findings, ui);
   if (findings.Count(Severity::kFault) == 0) return ui.Done();
   ui.Tell(count == 0 ? "Give Versalia's folders with --versalia-path FOLDER and --module-path FOLDER, or install a "
-                       "translation in Versalia."
+                       "translation: in Versalia, or by \"folionet-cli import FILE\"."
                      : "Correct these places, or install the translation anew, in Versalia or by \"folionet-cli import "
                        "--replace\", and check again.");
   return kExitRefused;

@@ -97,7 +97,7 @@ std::string_view StepBeforeReport(Procedure procedure) {
   if (procedure != Procedure::kPopulateCombos) return {};
   return "Give Versalia's folders with --versalia-path FOLDER, which holds Sysdefs and Index, and --module-path "
          "FOLDER, which holds Bible, or other book titles with --language-file NAME; \"folionet-cli check\" names what "
-         "is wrong.";
+         "is wrong. Without Versalia, import a text: \"folionet-cli import FILE\".";
 }
 
 std::string_view NextStepAfterReport(const ErrorReport& report) {

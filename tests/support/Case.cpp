@@ -43,7 +43,7 @@ std::string WithShortReports(std::string text) {
   const std::string saysHow =
       "Give Versalia's folders with --versalia-path FOLDER, which holds Sysdefs and Index, and --module-path FOLDER, "
       "which holds Bible, or other book titles with --language-file NAME; \"folionet-cli check\" names what is "
-      "wrong.\n\n";
+      "wrong. Without Versalia, import a text: \"folionet-cli import FILE\".\n\n";
   const std::string asks =
       "\nPath and/or file not found: This error has probably occured because you have an older version of Versalia\n"
       "or because Versalia is not correctly installed.\n"

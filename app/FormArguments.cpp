@@ -15,6 +15,7 @@
 #include "BuildInfo.h"
 #include "ProgramFolder.h"
 #include "QtText.h"
+#include "Text.h"
 #include "Utf8.h"
 
 namespace folionet {
@@ -71,7 +72,7 @@ std::string Whole(const std::string& folder) {
 }
 
 ExitStatus Refuse(const std::string& text) {
-  std::fprintf(stderr, "%s\nSee \"folionet --help\".\n", text.c_str());
+  std::fprintf(stderr, "%s\nSee \"folionet --help\".\n", Escaped(text).c_str());
   return kExitUsage;
 }
 

@@ -14,6 +14,7 @@ namespace {
 // What the compile over an older site takes away, and the file of a person that it keeps under another name.
 bool IsToRemove(const std::string& name) { return name.starts_with("site/genesis_"); }
 constexpr char kKept[] = "site/genesis_1.html.before-folionet";
+constexpr char kOfTwoNames[] = "exodus_2.html";
 
 class Compiles : public EveryCall {
  protected:
@@ -61,7 +62,11 @@ class Compiles : public EveryCall {
         EXPECT_EQ(DescribeDifference(expected, now), "");
       } else {
         // A translation whose text cannot be opened is not among those there are; it is told by its stem.
-        ExpectReport(run, struck.path.ends_with("/KJV.TXT") ? "KJV" : IsNameless(struck) ? "" : LastPart(struck.path));
+        // Nor is a file on its way to replace a page known to a person.
+        ExpectReport(run, struck.path.ends_with("/KJV.TXT")         ? "KJV"
+                          : struck.path.ends_with("/.folionet-new") ? kOfTwoNames
+                          : IsNameless(struck)                      ? ""
+                                                                    : LastPart(struck.path));
         ExpectWholePages(now, name);
       }
       const FaultyRun next = job.Run(home);
@@ -92,14 +97,27 @@ TEST_F(Compiles, IntoANewFolder) {
                "stat", "unlink", "write"}});
 }
 
-// With the books before the second one taken away.
+TEST_F(Compiles, WhereEveryFileHasAName) {
+  Job job{"named",
+          ArrangeLibrary,
+          [](const TemporaryFolder&) {
+            return With({"/usr/bin/env", "FAULT_NAMED=1"}, Compile({"--output=made/site"}));
+          },
+          {"allocate", "close", "create", "ftruncate", "lock", "map", "mkdir", "open", "opendir", "read", "readdir",
+           "stat", "unlink", "write"}};
+  job.mostKinds = 2;
+  TryCompile(job);
+}
+
+// With the books before the second one taken away, and a copy of the site that is made of hard links.
 TEST_F(Compiles, OverAnOlderSite) {
   const auto arrange = [](const TemporaryFolder& home) {
     ArrangeLibrary(home);
     home.Write("site/genesis_1.html", "a person's page");
     const std::string ours = "<meta name=\"GENERATOR\" content=\"Versalia Folionet Ver 1.0\">";
     home.Write("site/exodus_1.html", ours + std::string(5000, 'x'));
-    home.Write("site/exodus_2.html", ours + "shorter");
+    const std::string page = home.Write(std::string("site/") + kOfTwoNames, ours + "shorter");
+    std::filesystem::create_hard_link(page, home.Path() + "copy.html");
     home.Write("site/not-ours.html", "not ours");
   };
   TryCompile({"over",
@@ -107,8 +125,8 @@ TEST_F(Compiles, OverAnOlderSite) {
               [](const TemporaryFolder&) {
                 return Compile({"--output=site", "--start-book=2"});
               },
-              {"allocate", "close", "create", "ftruncate", "lock", "map", "mkdir", "open", "opendir", "read", "readdir",
-               "rename", "stat", "unlink", "write"}});
+              {"allocate", "chmod", "close", "create", "ftruncate", "lock", "map", "mkdir", "open", "opendir", "read",
+               "readdir", "rename", "stat", "unlink", "write"}});
 }
 
 // With the names of the pages that it has changed by then, and no page in part.
@@ -119,11 +137,12 @@ TEST_F(Compiles, EndBetweenTwoPagesOnceTheyAreStopped) {
   int stopped = 0;
   for (std::size_t at = 1; at <= calls.size(); ++at) {
     if (calls[at - 1].name != "write" || IsNote(calls[at - 1])) continue;
-    const int signal = stopped % 2 == 0 ? SIGTERM : SIGINT;
+    constexpr int kSignals[] = {SIGTERM, SIGINT, SIGHUP};
+    const int signal = kSignals[stopped % std::size(kSignals)];
     const TemporaryFolder home;
     m_list.arrange(home);
     const FaultyRun run = m_list.Run(home, {at, "stop" + std::to_string(signal)});
-    EXPECT_EQ(run.result.status, 128 + signal);
+    EXPECT_EQ(run.result.status, 128 + (signal == SIGINT ? SIGINT : SIGTERM));
     std::size_t listed = 0;
     for (const auto& [name, bytes] : ReadFolder(home.Path() + "site")) {
       if (name.ends_with(".before-folionet")) continue;
@@ -159,6 +178,73 @@ TEST_F(Compiles, ThatWereKilledAreToldByTheNextOne) {
     const bool isDelivered = killed.result.output == whole.output;
     EXPECT_TRUE(isDelivered || lines(m_list.Run(home).result.output) == lines(whole.output));
   }
+}
+
+// Into the folder that was opened, and no other: the link to it is pointed elsewhere before each call.
+TEST_F(Compiles, StayInTheFolderThatWasOpened) {
+  const auto arrange = [](const TemporaryFolder& home) {
+    ArrangeLibrary(home);
+    for (const std::string name : {"one", "other"}) {
+      home.Write(name + "/genesis_1.html", "a person's page");
+      home.Write(name + "/exodus_2.html", "<meta name=\"GENERATOR\" content=\"Versalia Folionet Ver 1.0\">");
+    }
+    std::filesystem::create_symlink("one", home.Path() + "here");
+    std::filesystem::create_symlink("other", home.Path() + "there");
+  };
+  const Job job{"link",
+                arrange,
+                [](const TemporaryFolder&) {
+                  return Compile({"--output=here", "--start-book=2"});
+                },
+                {}};
+  const TemporaryFolder first;
+  arrange(first);
+  const std::size_t calls = job.Run(first).calls.size();
+  const FolderContent site = ReadFolder(first.Path() + "one");
+  const FolderContent before = ReadFolder(first.Path() + "other");
+  std::set<std::string> places;
+  for (std::size_t at = 1; at <= calls; ++at) {
+    const TemporaryFolder home;
+    arrange(home);
+    const FaultyRun run = job.Run(home, {at, "swap"});
+    SCOPED_TRACE("call " + std::to_string(at) + ", " + run.calls[at - 1].name + " " + run.calls[at - 1].path);
+    EXPECT_EQ(run.result.status, 0) << run.result.errors;
+    const std::string place = home.Read("one/exodus_2.html") == site.at("exodus_2.html") ? "one" : "other";
+    EXPECT_EQ(DescribeDifference(site, ReadFolder(home.Path() + place)), "");
+    EXPECT_EQ(DescribeDifference(before, ReadFolder(home.Path() + (place == "one" ? "other" : "one"))), "");
+    places.insert(place);
+  }
+  EXPECT_EQ(places.size(), 2U);
+}
+
+// The folder that pages are links into is swapped with a link that leads out, before each call.
+TEST_F(Compiles, WriteNothingOutsideWhateverIsSwapped) {
+  const auto arrange = [](const TemporaryFolder& home) {
+    ArrangeLibrary(home);
+    for (const char* page : {"outside/1.html", "outside/2.html", "site/here/1.html", "site/here/2.html"}) {
+      home.Write(page, "not ours");
+    }
+    std::filesystem::create_symlink("../outside", home.Path() + "site/there");
+    std::filesystem::create_symlink("here/1.html", home.Path() + "site/genesis_1.html");
+    std::filesystem::create_symlink(home.Path() + "site/here/2.html", home.Path() + "site/exodus_2.html");
+  };
+  Job job{"swap", arrange, [](const TemporaryFolder&) { return Compile({"--output=site"}); }, {}};
+  job.watched = "site/";
+  const TemporaryFolder first;
+  arrange(first);
+  const std::size_t calls = job.Run(first).calls.size();
+  EXPECT_TRUE(first.Read("site/here/1.html") != "not ours" && first.Read("site/here/2.html") != "not ours");
+  std::set<int> statuses;
+  for (std::size_t at = 1; at <= calls; ++at) {
+    const TemporaryFolder home;
+    arrange(home);
+    const FaultyRun run = job.Run(home, {at, "swap"});
+    SCOPED_TRACE("call " + std::to_string(at) + ", " + run.calls[at - 1].name + " " + run.calls[at - 1].path);
+    for (const char* page : {"outside/1.html", "outside/2.html"}) EXPECT_EQ(home.Read(page), "not ours");
+    EXPECT_EQ(run.result.errors.find("leads out of the output folder") != std::string::npos, run.result.status != 0);
+    statuses.insert(run.result.status);
+  }
+  EXPECT_EQ(statuses, (std::set<int>{0, 3}));
 }
 
 // A check of the site says the same, or names what it could not read.

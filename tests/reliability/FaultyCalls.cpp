@@ -6,7 +6,9 @@
 //   FAULT_AT      the number of the call that goes wrong, from 1; 0 for none
 //   FAULT_KIND    a value of errno to fail with; "short": half is read or written; "kill": the program is killed
 //                 before the call; "torn": it is killed after half of the bytes are written; "stop15": it
-//                 gets that signal, and the call is made
+//                 gets that signal, and the call is made; "swap": "here" and "there" in the folder change places
+//                 before the call
+//   FAULT_NAMED   not empty: there are no files without a name, as some file systems know none
 //
 // It uses system calls directly, so that nothing it does itself is counted.
 
@@ -24,6 +26,7 @@
 #include <climits>
 #include <csignal>
 #include <cstdarg>
+#include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <string>
@@ -51,9 +54,17 @@ class Plan {
       syscall(SYS_kill, syscall(SYS_getpid), std::atoi(m_kind.c_str() + 4));
       return Strike::kNone;
     }
+    if (m_kind == "swap") {
+      const std::string here = m_folder + "here";
+      const std::string there = m_folder + "there";
+      syscall(SYS_renameat2, AT_FDCWD, here.c_str(), AT_FDCWD, there.c_str(), RENAME_EXCHANGE);
+      return Strike::kNone;
+    }
     errno = std::atoi(m_kind.c_str());
     return Strike::kFail;
   }
+
+  static bool HasNameless() { return *Variable("FAULT_NAMED") == '\0'; }
 
   [[noreturn]] static void Kill() {
     syscall(SYS_kill, syscall(SYS_getpid), SIGKILL);
@@ -110,6 +121,10 @@ bool HasMode(int flags) { return (flags & O_CREAT) != 0 || (flags & O_TMPFILE) =
 
 int Open(int folder, const char* path, int flags, mode_t mode) {
   if (Fails((flags & O_CREAT) != 0 ? "create" : "open", PathAt(folder, path))) return -1;
+  if ((flags & O_TMPFILE) == O_TMPFILE && !Plan::HasNameless()) {
+    errno = EOPNOTSUPP;
+    return -1;
+  }
   return static_cast<int>(syscall(SYS_openat, folder, path, flags, mode));
 }
 

@@ -17,7 +17,7 @@ struct Call {
   std::string path;
 };
 
-// Which call goes wrong, counted from 1 (0 for none), and how: a value of errno, "short", "kill", "torn" or "stop15".
+// Which call goes wrong, counted from 1 (0 for none), and how: a value of errno, or a word that FaultyCalls.cpp has.
 struct Fault {
   std::size_t at = 0;
   std::string kind;

@@ -158,12 +158,11 @@ std::optional<LinesForm::Columns> LinesForm::ColumnsOf(std::string_view line) {
 // What stands between chapter and verse of a reference at the start of a line. A full stop or a comma may stand in any
 // text, so behind a known book only.
 std::optional<char> LinesForm::PointOf(std::string_view reference) {
-  if (SplitReference(reference, ':')) return ':';
   for (const char point : {'.', ','}) {
-    const auto row = SplitReference(reference, point);
+    const auto row = SplitShortReference(reference) ? std::nullopt : SplitReference(reference, point);
     if (row && FindBook(row->book) != 0) return point;
   }
-  return std::nullopt;
+  return SplitReference(reference, ':') ? std::optional(':') : std::nullopt;
 }
 
 // "Jude 5 text": a book of one chapter, which is left out.

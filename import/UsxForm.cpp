@@ -52,6 +52,8 @@ XmlForm::Part UsxForm::PartOfStyle(std::string_view style) {
         Builder().Note("unknown-mark", Words("Import", "Text in the unknown style %1 is kept."), std::string(style));
       }
       return Part::kPass;
+    case MarkerKind::kLeftOutParagraph:
+      return Part::kHeading;
     default:
       return Part::kLeftOut;
   }

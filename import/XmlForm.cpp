@@ -2,9 +2,22 @@
 
 #include <utility>
 
+#include "Text.h"
+
 namespace folionet {
+namespace {
+
+bool BeginsVerse(const XmlElement& element) {
+  const std::string name = AsciiLower(element.Name());
+  return (name == "verse" || name == "vers" || name == "v") && element.Get("eID").empty() && element.Get("eid").empty();
+}
+
+}  // namespace
 
 void XmlForm::Start(const XmlElement& element) {
+  if (m_leftOut > 0) {
+    if (BeginsVerse(element)) EndLeftOutBefore(element);
+  }
   if (m_leftOut > 0) {
     ++m_leftOut;
     return;
@@ -15,10 +28,10 @@ void XmlForm::Start(const XmlElement& element) {
   switch (part) {
     case Part::kHeading:
       AddBreak();
-      m_leftOut = 1;
+      BeginLeftOut(part, element);
       return;
     case Part::kLeftOut:
-      m_leftOut = 1;
+      BeginLeftOut(part, element);
       return;
     case Part::kBlock:
       AddBreak();
@@ -34,6 +47,23 @@ void XmlForm::Start(const XmlElement& element) {
       break;
   }
   m_parts.push_back(part);
+}
+
+void XmlForm::BeginLeftOut(Part part, const XmlElement& element) {
+  m_leftOut = 1;
+  m_leftOutPart = part;
+  m_leftOutName = element.Name();
+  m_leftOutLine = m_reader.Line();
+}
+
+// A heading may hold the start of a verse. What else does so has not ended, and would take the verses with it.
+void XmlForm::EndLeftOutBefore(const XmlElement& verse) {
+  if (m_leftOutPart != Part::kHeading) {
+    m_builder.SetLine(m_reader.Line());
+    m_builder.Fail("the end of " + m_leftOutName + " (line " + std::to_string(m_leftOutLine) +
+                   ") was expected before " + std::string(verse.Name()));
+  }
+  m_parts.insert(m_parts.end(), static_cast<std::size_t>(std::exchange(m_leftOut, 0)), Part::kBlock);
 }
 
 void XmlForm::End(std::string_view /*name*/) {

@@ -21,7 +21,7 @@ class XmlForm : public TextForm, protected XmlHandler {
   enum class Part {
     kPass,            // its text belongs to what it stands in
     kLeftOut,         // with all that is in it
-    kHeading,         // as kLeftOut, and what stands around it is parted
+    kHeading,         // as kLeftOut, up to a verse; what stands around it is parted
     kBlock,           // as kPass, between blanks
     kVerse,           // a verse, which ends with it; in a file where those that came so far hold nothing, with the next
     kCanonicalTitle,  // ends with it
@@ -47,11 +47,16 @@ class XmlForm : public TextForm, protected XmlHandler {
   void End(std::string_view name) override;
   void Text(std::string_view text) override;
   void AddBreak();
+  void BeginLeftOut(Part part, const XmlElement& element);
+  void EndLeftOutBefore(const XmlElement& verse);
 
   BibleBuilder& m_builder;
   XmlReader m_reader;
-  std::vector<Part> m_parts;        // of the elements that are open
-  int m_leftOut = 0;                // how many open elements are left out
+  std::vector<Part> m_parts;  // of the elements that are open
+  int m_leftOut = 0;          // how many open elements are left out
+  Part m_leftOutPart = Part::kLeftOut;
+  std::string m_leftOutName;  // the outermost of them
+  std::size_t m_leftOutLine = 0;
   bool m_isJustBegun = false;       // an element, and nothing of it has come yet
   bool m_doVersesHoldText = false;  // those that are kVerse
   int m_capturing = 0;

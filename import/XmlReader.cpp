@@ -41,6 +41,8 @@ const XmlLibrary& Library() {
 
 std::string_view View(const xmlChar* text) { return reinterpret_cast<const char*>(text); }
 
+const xmlChar* BytesOf(const char* text) { return reinterpret_cast<const xmlChar*>(text != nullptr ? text : ""); }
+
 }  // namespace
 
 std::string_view XmlElement::Get(std::string_view attribute) const {
@@ -99,8 +101,10 @@ void XmlReader::OnStart(void* self, const xmlChar* name, const xmlChar* /*prefix
     if (reader.m_depth >= kDeepest) {
       throw TextFault("elements at most " + std::to_string(kDeepest) + " deep were expected", reader.Line());
     }
-    if (reader.m_names.size() == reader.m_depth) reader.m_names.emplace_back();
-    reader.m_names[reader.m_depth++] = View(name);
+    if (reader.m_opened.size() == reader.m_depth) reader.m_opened.emplace_back();
+    Opened& opened = reader.m_opened[reader.m_depth++];
+    opened.name = View(name);
+    opened.line = reader.Line();
     reader.m_handler.Start(XmlElement(View(name), attributes, count));
   });
 }
@@ -115,35 +119,47 @@ void XmlReader::OnEnd(void* self, const xmlChar* name, const xmlChar* /*prefix*/
 }
 
 void XmlReader::EndElement(std::string_view name) {
-  if (m_depth != 0 && m_names[m_depth - 1] == name) {
+  if (m_depth != 0 && m_opened[m_depth - 1].name == name) {
     --m_depth;
     m_handler.End(name);
     return;
   }
   if (!m_handler.PutsUpWithEnd(name)) {
-    throw TextFault("well-formed XML was expected: the end of " + (m_depth == 0 ? "the file" : m_names[m_depth - 1]) +
-                        ", not of " + std::string(name),
+    throw TextFault("well-formed XML was expected: the end of " +
+                        (m_depth == 0 ? "the file" : m_opened[m_depth - 1].name) + ", not of " + std::string(name),
                     Line());
   }
-  const auto end = m_names.begin() + static_cast<std::ptrdiff_t>(m_depth);
-  if (std::find(m_names.begin(), end, name) == end) return;
+  m_hasMisfits = true;
+  const auto end = m_opened.begin() + static_cast<std::ptrdiff_t>(m_depth);
+  if (std::none_of(m_opened.begin(), end, [&](const Opened& opened) { return opened.name == name; })) return;
   for (bool isIt = false; !isIt;) {
     --m_depth;
-    isIt = m_names[m_depth] == name;
-    m_handler.End(m_names[m_depth]);
+    isIt = m_opened[m_depth].name == name;
+    m_handler.End(m_opened[m_depth].name);
   }
 }
 
+void XmlReader::FailAtEnd() const {
+  const Opened& last = m_opened[m_depth - 1];
+  throw TextFault("well-formed XML was expected: the end of " + last.name + " (line " + std::to_string(last.line) +
+                      "), not of the file",
+                  Line());
+}
+
 void XmlReader::TakeError(const xmlError& error) {
+  // One that a file elsewhere would declare: its character would be lost.
+  if (error.code == XML_WAR_UNDECLARED_ENTITY) return OnEntity(this, BytesOf(error.str1), 0, nullptr, nullptr, nullptr);
   if (error.level != XML_ERR_FATAL) return;
   if (error.code == XML_ERR_TAG_NAME_MISMATCH && error.str2 != nullptr) {
     m_misfit = error.str2;
     m_misfit.erase(0, m_misfit.find(':') + 1);
     return;
   }
+  const bool isCut = m_isFinishing && (error.code == XML_ERR_TAG_NOT_FINISHED || error.code == XML_ERR_DOCUMENT_END);
   // What is open to the library at the end of the file may have been ended by a misfit.
-  if (error.code == XML_ERR_TAG_NOT_FINISHED && m_depth == 0) return;
+  if (isCut && m_depth == 0 && m_hasMisfits) return;
   Guarded([&] {
+    if (isCut && m_depth != 0) FailAtEnd();
     std::string why = error.message != nullptr ? error.message : "it cannot be read";
     while (why.ends_with('\n') || why.ends_with(' ')) why.pop_back();
     throw TextFault("well-formed XML was expected: " + why,
@@ -180,8 +196,9 @@ void XmlReader::Read(std::string_view piece) {
 }
 
 void XmlReader::Finish() {
+  m_isFinishing = true;
   Parse(nullptr, 0, true);
-  if (m_depth != 0) throw TextFault("well-formed XML was expected: " + m_names[m_depth - 1] + " does not end", Line());
+  if (m_depth != 0) FailAtEnd();
 }
 
 }  // namespace folionet

@@ -67,6 +67,7 @@ class XmlReader {
   static void OnText(void* self, const xmlChar* text, int length);
   static void OnEntity(void* self, const xmlChar* name, int type, const xmlChar* publicId, const xmlChar* systemId,
                        xmlChar* content);
+  [[noreturn]] void FailAtEnd() const;
   void TakeError(const xmlError& error);
   void EndElement(std::string_view name);
 
@@ -76,10 +77,16 @@ class XmlReader {
 
   XmlHandler& m_handler;
   xmlParserCtxtPtr m_context = nullptr;
-  std::vector<std::string> m_names;  // of the elements that are open, and of some that were
-  std::size_t m_depth = 0;           // how many are open
-  std::string m_misfit;              // the name of an end that does not fit, while it is being told
-  std::exception_ptr m_thrown;       // no exception may pass through the library
+  struct Opened {
+    std::string name;
+    std::size_t line = 0;
+  };
+  std::vector<Opened> m_opened;  // the elements that are open, and some that were
+  std::size_t m_depth = 0;       // how many are open
+  std::string m_misfit;          // the name of an end that does not fit, while it is being told
+  bool m_hasMisfits = false;
+  bool m_isFinishing = false;
+  std::exception_ptr m_thrown;  // no exception may pass through the library
 };
 
 }  // namespace folionet

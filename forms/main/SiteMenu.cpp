@@ -15,7 +15,7 @@
 namespace folionet {
 namespace {
 
-constexpr char kFilter[] = "Folionet (*.folionet)|*.folionet";
+constexpr char kFilter[] = "Folionet|*.folionet";
 
 QString Shown(QString text) { return text.replace(QLatin1Char('&'), QStringLiteral("&&")); }
 

@@ -1,9 +1,10 @@
+#include "CharsetFacts.h"
+
 #include <string>
 #include <utility>
 
 #include "CodePage.h"
 #include "ImportedText.h"
-#include "RunFacts.h"
 #include "TextCharset.h"
 #include "TypedFindings.h"
 

@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "ChapterIndex.h"
+#include "CharsetFacts.h"
 #include "CodePage.h"
 #include "FileHandle.h"
 #include "FolderFacts.h"

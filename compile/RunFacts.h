@@ -24,10 +24,6 @@ inline constexpr char kRemovesLaterPages[] = "removes-later-pages";
 // Of the chosen books: for a line beside the two lists too. Needs ChapterIndex.
 std::vector<Finding> FindRangeFacts(const CompileRequest& request, const ModGlob& glob);
 
-// What is wrong between the charset of the pages and the bytes of the verse file and of the book titles (BookCodes and
-// the start-book list).
-std::vector<Finding> FindCharsetFacts(const CompileRequest& request, const ModGlob& glob);
-
 // The pages of ours in the output folder that this run neither writes nor deletes.
 std::set<std::string> FindOldPages(const CompileRequest& request, const ModGlob& glob);
 

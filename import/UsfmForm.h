@@ -4,8 +4,8 @@
 #include <string_view>
 #include <vector>
 
-#include "Markers.h"
 #include "TextForm.h"
+#include "UsfmMarkers.h"
 
 namespace folionet {
 

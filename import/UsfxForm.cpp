@@ -1,6 +1,6 @@
 #include "UsfxForm.h"
 
-#include "Markers.h"
+#include "UsfmMarkers.h"
 
 namespace folionet {
 

@@ -1,6 +1,6 @@
 #include "UsxForm.h"
 
-#include "Markers.h"
+#include "UsfmMarkers.h"
 
 namespace folionet {
 

@@ -29,9 +29,10 @@ struct CompileContext : PageTexts {
   std::int16_t BookNumber = 0;
   std::int16_t ChapterNumber = 0;
   std::string BookTitle;
-  std::string
-      PageTitle;  // the META description: frmKeywords.txtDescription filled in, on the index page txtDescriptionI
-  std::string PageMeta;  // the META keywords: frmKeywords.txtKeyWords filled in, on the index page txtKeywordsI
+  // Not the <title>, which PageHead prints: the META description, frmKeywords.txtDescription filled in, on the index
+  // page txtDescriptionI; and the META keywords, txtKeyWords or txtKeywordsI.
+  std::string PageTitle;
+  std::string PageMeta;
   std::int16_t PagesCreated = 2;
 
   // The block of chapter links of NavigationBook (0 for none yet), which all pages of a book carry.

@@ -6,7 +6,7 @@
 #include <QWidget>
 #include <utility>
 
-#include "CommandLine.h"
+#include "CommandText.h"
 #include "QtText.h"
 #include "RunTimeError.h"
 

@@ -7,9 +7,9 @@
 #include "FolderFacts.h"
 #include "FolderPickers.h"
 #include "LibraryLists.h"
-#include "MainCompile.h"
 #include "PageNames.h"
 #include "QtText.h"
+#include "RequestOfForm.h"
 #include "RunFacts.h"
 #include "ui_frmMain.h"
 

@@ -1,4 +1,4 @@
-#include "MainCompile.h"
+#include "RequestOfForm.h"
 
 #include <QCoreApplication>
 

@@ -1,4 +1,4 @@
-#include "Markers.h"
+#include "UsfmMarkers.h"
 
 #include <algorithm>
 #include <array>

@@ -1,4 +1,4 @@
-#include "CommandLine.h"
+#include "CommandText.h"
 
 #include <algorithm>
 #include <string_view>

@@ -1,8 +1,13 @@
 #include "BookTable.h"
 
+#include <unicode/uchar.h>
+#include <unicode/unorm2.h>
+#include <unicode/ustring.h>
+
 #include <algorithm>
 #include <array>
 #include <map>
+#include <string>
 #include <utility>
 
 #include "CodePage.h"
@@ -103,6 +108,34 @@ std::map<std::string, int> MakeKeys() {
   return keys;
 }
 
+// A key without its accents, whether they are characters of their own or not.
+std::string WithoutAccents(const std::string& key) {
+  if (std::all_of(key.begin(), key.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; })) return key;
+  UErrorCode status = U_ZERO_ERROR;
+  constexpr std::size_t kMostPerByte = 4;
+  std::u16string text(key.size(), u'\0');
+  std::int32_t length = 0;
+  u_strFromUTF8(text.data(), static_cast<std::int32_t>(text.size()), &length, key.data(),
+                static_cast<std::int32_t>(key.size()), &status);
+  std::u16string apart(kMostPerByte * key.size(), u'\0');
+  const std::int32_t count = unorm2_normalize(unorm2_getNFDInstance(&status), text.data(), length, apart.data(),
+                                              static_cast<std::int32_t>(apart.size()), &status);
+  if (U_FAILURE(status)) return key;
+  apart.resize(static_cast<std::size_t>(count));
+  std::erase_if(apart, [](char16_t c) { return u_charType(c) == U_NON_SPACING_MARK; });
+  std::string bare(kMostPerByte * apart.size(), '\0');
+  u_strToUTF8(bare.data(), static_cast<std::int32_t>(bare.size()), &length, apart.data(),
+              static_cast<std::int32_t>(apart.size()), &status);
+  bare.resize(U_FAILURE(status) ? 0 : static_cast<std::size_t>(length));
+  return bare;
+}
+
+std::map<std::string, int> MakeBareKeys(const std::map<std::string, int>& keys) {
+  std::map<std::string, int> bare;
+  for (const auto& [key, number] : keys) bare.emplace(WithoutAccents(key), number);
+  return bare;
+}
+
 }  // namespace
 
 const Book& BookAt(int number) { return kTable.at(static_cast<std::size_t>(number) - 1); }
@@ -131,14 +164,17 @@ std::string BookKey(std::string_view name) {
       break;
     }
   }
-  std::erase_if(lower, [](char c) { return c == ' ' || c == '.'; });
+  std::erase_if(lower, [](char c) { return c == ' ' || c == '.' || c == '_' || c == '-'; });
   return lower;
 }
 
 int FindBook(std::string_view name) {
   static const std::map<std::string, int> keys = MakeKeys();
-  const auto found = keys.find(BookKey(name));
-  return found == keys.end() ? 0 : found->second;
+  static const std::map<std::string, int> bareKeys = MakeBareKeys(keys);
+  const std::string key = BookKey(name);
+  if (const auto found = keys.find(key); found != keys.end()) return found->second;
+  const auto found = bareKeys.find(WithoutAccents(key));
+  return found == bareKeys.end() ? 0 : found->second;
 }
 
 }  // namespace folionet

@@ -23,12 +23,12 @@ bool HasOneChapter(int number);
 // The short label that Versalia keeps for a book: its code in the form "Gen", "1Sa".
 std::string BookLabel(int number);
 
-// What makes two spellings the same name: letters in lower case, blanks and full stops left out, a leading number
+// What makes two spellings the same name: letters in lower case, blanks, "." "_" and "-" left out, a leading number
 // in letters as a digit. "II Samuel", "2 samuel" and "2Samuel" all give "2samuel".
 std::string BookKey(std::string_view name);
 
 // The number of the book that a name means in any case: a code of USFM, OSIS or the VPL form, a common synonym, or a
-// title in one of the languages of TitleLanguages; 0 when it is none of them.
+// title in one of the languages of TitleLanguages, with its accents or without; 0 when it is none of them.
 int FindBook(std::string_view name);
 
 }  // namespace folionet

@@ -73,7 +73,7 @@ FormKind FormOf(std::string_view head) {
     const std::string root = RootOf(head);
     if (root == "usx") return FormKind::kUsx;
     if (root == "usfx") return FormKind::kUsfx;
-    if (root == "osis" || root == "osistext") return FormKind::kOsis;
+    if (root == "osis" || root == "osistext" || root == "osiscorpus") return FormKind::kOsis;
     return root == "xmlbible" ? FormKind::kZefania : FormKind::kNone;
   }
   if (head[first] == '\\') {

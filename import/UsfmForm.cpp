@@ -136,6 +136,7 @@ void UsfmForm::EndArgument() {
   switch (role) {
     case Role::kBook:
       m_hasBook = true;
+      argument.resize(std::min(argument.find_first_of(":;,-"), argument.size()));
       m_builder.BeginBook(argument);
       break;
     case Role::kTitle:
@@ -162,6 +163,13 @@ void UsfmForm::BeginMarker(std::string_view name) {
   EndArgument();
   m_isInAttributes = false;
   m_isInMilestone = false;
+  // "\v1" stands for "\v 1".
+  const bool isNumbered = name.size() > 1 && (name[0] == 'c' || name[0] == 'v') && name[1] >= '0' && name[1] <= '9';
+  if (isNumbered) {
+    BeginLine(name[0] == 'c' ? MarkerKind::kChapter : MarkerKind::kVerse, name);
+    m_argument = name.substr(1);
+    return EndArgument();
+  }
   const MarkerKind kind = KindOfMarker(name);
   switch (kind) {
     case MarkerKind::kUnknown:

@@ -8,6 +8,7 @@ namespace folionet {
 namespace {
 
 bool BeginsVerse(const XmlElement& element) {
+  if (AsciiLower(element.Name().front()) != 'v') return false;
   const std::string name = AsciiLower(element.Name());
   return (name == "verse" || name == "vers" || name == "v") && element.Get("eID").empty() && element.Get("eid").empty();
 }

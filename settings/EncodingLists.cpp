@@ -1,6 +1,9 @@
 #include "EncodingLists.h"
 
 #include <array>
+#include <cerrno>
+#include <optional>
+#include <utility>
 
 #include "RecordReader.h"
 
@@ -9,12 +12,12 @@ namespace folionet {
 EncodingList ReadEncodingList(const OwnFolder& folder, std::string_view name) {
   EncodingList list;
   try {
-    const OwnTextSource source = WorkAbout(Subject::kEncodingList, [&] { return FindOwnText(folder, name); });
-    RecordReader records(source.path, Subject::kEncodingList);
+    const std::string path = folder.path + std::string(name);
+    std::optional<std::string> text = WorkAbout(Subject::kEncodingList, [&] { return ReadOwnText(folder, name); });
+    if (!text) throw RunTimeError::FromErrno(ENOENT, path).About(Subject::kEncodingList);
+    RecordReader records(path, *std::move(text), Subject::kEncodingList);
     std::array<std::string_view, 2> fields;
-    while (records.Next(fields)) {
-      list.entries.push_back(source.codePage.Decode(std::string(fields[0]).append(" ").append(fields[1])));
-    }
+    while (records.Next(fields)) list.entries.push_back(std::string(fields[0]).append(" ").append(fields[1]));
   } catch (const RunTimeError& error) {
     list.failure = error;
   }

@@ -7,7 +7,9 @@
 #include <system_error>
 #include <utility>
 
+#include "KeptLetters.h"
 #include "LineReader.h"
+#include "Utf16.h"
 #include "Utf8.h"
 #include "WholeFile.h"
 
@@ -28,33 +30,32 @@ struct Content {
   CodePage codePage;
 };
 
+// Whether an editor has saved it in another way than ours: with a mark of UTF-8, or in UTF-16.
+bool IsOfEditor(std::string_view bytes) { return bytes.starts_with(kByteOrderMark) || LooksUtf16(bytes); }
+
 std::optional<Content> ReadContent(const OwnFolder& folder, std::string_view name) {
   std::optional<std::string> bytes = ReadIfThere(PathOf(folder, name));
   if (!bytes) return std::nullopt;
+  if (LooksUtf16(*bytes)) return Content{FromUtf16(*bytes, PathOf(folder, name)), CodePage("utf-8")};
   if (!bytes->starts_with(kByteOrderMark)) return Content{std::move(*bytes), folder.codePage};
   while (bytes->starts_with(kByteOrderMark)) bytes->erase(0, kByteOrderMark.size());
   const bool isUtf8 = IsUtf8(*bytes);
   return Content{std::move(*bytes), isUtf8 ? CodePage("utf-8") : folder.codePage};
 }
 
-// The text beside the file, when it counts.
-std::optional<std::string> Letters(const OwnFolder& folder, std::string_view name, const std::string& bytes) {
-  std::optional<std::string> text = ReadIfThere(LettersPath(folder, name));
-  return text && folder.codePage.Encode(*text) == bytes ? text : std::nullopt;
+// The text beside the file.
+std::optional<std::string> Letters(const OwnFolder& folder, std::string_view name) {
+  return ReadIfThere(LettersPath(folder, name));
 }
 
 bool HoldsAllLetters(const CodePage& codePage, std::string_view text) {
   return codePage.Decode(codePage.Encode(text)) == text;
 }
 
-bool HasLettersFile(const OwnFolder& folder, std::string_view name) {
-  return ReadIfThere(LettersPath(folder, name)).has_value();
-}
-
 // Whether the file is in the folder's code page, so that what is in it can be added to it as it is.
 bool IsInCodePage(const OwnFolder& folder, std::string_view name) {
   const std::optional<std::string> bytes = ReadIfThere(PathOf(folder, name));
-  return !HasLettersFile(folder, name) && !(bytes && bytes->starts_with(kByteOrderMark));
+  return !Letters(folder, name) && !(bytes && IsOfEditor(*bytes));
 }
 
 // A text with another line, on a line of its own, at its end, which is a Ctrl+Z where there is one.
@@ -66,23 +67,19 @@ std::string WithLine(std::string text, std::string_view line) {
 
 }  // namespace
 
-OwnTextSource FindOwnText(const OwnFolder& folder, std::string_view name) {
-  const std::optional<Content> content = ReadContent(folder, name);
-  if (content && Letters(folder, name, content->bytes)) return {LettersPath(folder, name), CodePage("utf-8")};
-  return {PathOf(folder, name), content ? content->codePage : folder.codePage};
-}
-
 std::optional<std::string> ReadOwnText(const OwnFolder& folder, std::string_view name) {
   const std::optional<Content> content = ReadContent(folder, name);
   if (!content) return std::nullopt;
-  const std::optional<std::string> letters = Letters(folder, name, content->bytes);
-  return letters ? letters : content->codePage.Decode(content->bytes);
+  std::string text = content->codePage.Decode(content->bytes);
+  const std::optional<std::string> letters = Letters(folder, name);
+  if (!letters) return text;
+  return folder.codePage.Encode(*letters) == content->bytes ? *letters : WithLetters(*letters, folder.codePage, text);
 }
 
 void SaveOwnText(const OwnFolder& folder, std::string_view name, std::string_view text) {
   const std::string bytes = folder.codePage.Encode(text);
   const bool isWhole = HoldsAllLetters(folder.codePage, text);
-  if (isWhole && !HasLettersFile(folder, name)) return ReplaceWholeFile(PathOf(folder, name), bytes);
+  if (isWhole && !Letters(folder, name)) return ReplaceWholeFile(PathOf(folder, name), bytes);
   std::error_code ignored;
   std::filesystem::create_directories(std::filesystem::path(folder.note).parent_path(), ignored);
   JointChange change(folder.note);
@@ -104,7 +101,7 @@ void AddToOwnText(const OwnFolder& folder, std::string_view name, std::string_vi
 void RecodeOwnText(const OwnFolder& folder, std::string_view name, const CodePage& to, JointChange& change) {
   const std::optional<std::string> text = ReadOwnText(folder, name);
   if (!text) return;
-  if (!HoldsAllLetters(to, *text) || HasLettersFile(folder, name)) change.Replace(LettersPath(folder, name), *text);
+  if (!HoldsAllLetters(to, *text) || Letters(folder, name)) change.Replace(LettersPath(folder, name), *text);
   const std::string bytes = to.Encode(*text);
   if (bytes != ReadIfThere(PathOf(folder, name))) change.Replace(PathOf(folder, name), bytes);
 }

@@ -12,20 +12,14 @@ namespace folionet {
 // The texts of a person's own in the program folder: the custom header and footer, the lists of languages and charsets.
 // A file holds its text in the code page of the pages, where a letter that this code page lacks is a character
 // reference. So that such a letter is not lost, the text as it was typed is then kept as UTF-8 beside the file, in
-// ".<name>.utf-8"; it counts for as long as the file is what is made from it. A file that a person's editor has saved
-// with a byte-order mark is UTF-8, and comes back to the code page, without the mark, when it is next saved.
+// ".<name>.utf-8"; where an editor has changed the file, it gives its letters to the references that were left as they
+// were. A file that an editor has saved with a byte-order mark is UTF-8, or UTF-16, and comes back to the code page,
+// without the mark, when it is next saved.
 struct OwnFolder {
   std::string path;     // ends in the folder separator
   CodePage codePage{};  // of the files
   std::string note{};   // of a change that was not finished; see JointChange.h
 };
-
-// Where a text stands whole, and in which code page.
-struct OwnTextSource {
-  std::string path;
-  CodePage codePage;
-};
-OwnTextSource FindOwnText(const OwnFolder& folder, std::string_view name);
 
 // The text as UTF-8; nothing when there is no such file. Throws RunTimeError.
 std::optional<std::string> ReadOwnText(const OwnFolder& folder, std::string_view name);

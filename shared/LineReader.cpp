@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
+#include <utility>
 
 #include "Numbers.h"
 #include "RunTimeError.h"
@@ -45,6 +46,18 @@ LineReader::LineReader(const std::string& path, Subject subject, std::size_t lon
   FindLineEnd();
 }
 
+LineReader::LineReader(std::string path, std::string text, Subject subject, std::size_t longest)
+    : m_path(std::move(path)),
+      m_subject(subject),
+      m_longest(longest),
+      m_buffer(std::move(text)),
+      m_end(m_buffer.size()),
+      m_bytesRead(m_end),
+      m_atEnd(true) {
+  CutEnd();
+  FindLineEnd();
+}
+
 // A CR that no LF follows, however many CRs stand between, ends the first line of a file only where all lines end so.
 void LineReader::FindLineEnd() {
   for (;;) {
@@ -72,14 +85,18 @@ void LineReader::Fill() {
     if (count < 0) throw RunTimeError::FromErrno(errno, m_path).About(m_subject);
     if (count == 0) {
       m_atEnd = true;
-      while (m_end > m_begin && m_buffer[m_end - 1] == kCtrlZ) {
-        --m_end;
-        --m_bytesRead;
-      }
+      CutEnd();
       break;
     }
     m_end += static_cast<std::size_t>(count);
     m_bytesRead += static_cast<std::size_t>(count);
+  }
+}
+
+void LineReader::CutEnd() {
+  while (m_end > m_begin && m_buffer[m_end - 1] == kCtrlZ) {
+    --m_end;
+    --m_bytesRead;
   }
 }
 

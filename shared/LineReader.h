@@ -25,6 +25,9 @@ class LineReader {
   // Opens the file; throws RunTimeError when that fails or when it is no regular file. Every error is about `subject`.
   explicit LineReader(const std::string& path, Subject subject, std::size_t longest = kLongestLine);
 
+  // Reads a text that was read from the file `path`.
+  LineReader(std::string path, std::string text, Subject subject, std::size_t longest);
+
   // Gives the next line without its end; false at the end of the file. The line is valid until the next call. Throws
   // RunTimeError when reading fails.
   bool Next(std::string_view& line) { return NextInMemory(line) || NextFromFile(line); }
@@ -70,6 +73,7 @@ class LineReader {
   }
 
   void Fill();
+  void CutEnd();
   void FindLineEnd();
   void SkipLine();
   [[noreturn]] void FailTooLong() const;

@@ -4,6 +4,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "LineReader.h"
 
@@ -18,6 +19,10 @@ namespace folionet {
 class RecordReader {
  public:
   RecordReader(const std::string& path, Subject subject) : m_lines(path, subject, LineReader::kLongestEntry) {}
+
+  // Of a text that was read from that file.
+  RecordReader(const std::string& path, std::string text, Subject subject)
+      : m_lines(path, std::move(text), subject, LineReader::kLongestEntry) {}
 
   // Reads the next record into `fields`, which must be as many as the record has; they are valid until the next call.
   // False at the end of the file. Throws RunTimeError: kInputPastEnd when the record has fewer fields or a quote is not

@@ -194,7 +194,7 @@ void AddCheck(CLI::App& app, Arguments& asked) {
 void AddVerify(CLI::App& app, Arguments& asked) {
   CLI::App& verify = *app.add_subcommand("verify", "Reads a written site and names the broken links");
   const auto arguments = std::make_shared<VerifyArguments>();
-  verify.add_option("FOLDER", arguments->folder, "The folder of the site")->required()->type_name("");
+  CLI::Option* const folder = verify.add_option("FOLDER", arguments->folder, "The folder of the site")->type_name("");
   verify
       .add_option("--index", arguments->indexName, "File name of the index page (default: index.html,\nelse index.htm)")
       ->type_name("NAME");
@@ -202,14 +202,16 @@ void AddVerify(CLI::App& app, Arguments& asked) {
       verify.add_flag("--stale", arguments->stale, "Only print the pages of ours that nothing\nleads to");
   verify.add_flag("--remove-stale", arguments->removeStale, "Delete those pages, and print their names")
       ->excludes(stale);
+  AddSite(verify, asked.common);
   AddJson(verify, asked.common);
   verify.footer(
       "Also lists the pages that the index page does not lead to. Changes nothing but\n"
       "what --remove-stale deletes. Exit status 1 when a link is broken.\n\n"
       "Example:\n"
       "  folionet-cli verify ~/site");
-  verify.callback([&asked, arguments] {
-    asked.run = [arguments](const CommonOptions& /*common*/, ConsoleUi& ui) { return RunVerify(*arguments, ui); };
+  verify.callback([&asked, arguments, folder] {
+    if (folder->empty() && asked.common.site.empty()) throw CLI::RequiredError("FOLDER or --settings");
+    asked.run = [arguments](const CommonOptions& common, ConsoleUi& ui) { return RunVerify(common, *arguments, ui); };
   });
 }
 

@@ -56,6 +56,8 @@ std::string_view NextStepOfStart(const ErrorReport& report) {
   switch (report.subject) {
     case Subject::kSetting:
       return kCorrectSetting;
+    case Subject::kUnfinishedChange:
+      return "Do as the report says, or see that this file is there and may be written, and run this command again.";
     case Subject::kSettingsFile:
       return "See that this is a file of settings that may be read, or move it away: then every setting has its "
              "default, and Versalia's folder can be given with --versalia-path FOLDER.";

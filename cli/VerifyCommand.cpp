@@ -8,10 +8,14 @@
 #include "CommandEnd.h"
 #include "Counted.h"
 #include "GeneratorLine.h"
+#include "OptionLoading.h"
+#include "PageNames.h"
 #include "Paths.h"
 #include "RunTimeError.h"
+#include "SiteFile.h"
 #include "SiteVerification.h"
 #include "StalePages.h"
+#include "StoredSettings.h"
 
 namespace folionet {
 namespace {
@@ -90,9 +94,21 @@ std::string FoundIndex(const std::string& folder) {
   RefuseUsage("There is no index.html and no index.htm in \"" + folder + "\": give the index page with --index NAME.");
 }
 
+// Takes the folder and the index page of a site's file, where they are not given.
+void TakeFromSite(const std::string& site, VerifyArguments& arguments) {
+  StoredSettings store(StoredSettings::DefaultFolder());
+  store.UseSite(site);
+  const std::string folder = store.Text("Dir1");
+  if (!IsChosenFolder(folder)) RefuseUsage(site + " names no folder with Dir1: give the one that compile wrote into.");
+  if (arguments.folder.empty()) arguments.folder = NativePath(folder);
+  const std::string address = store.SiteText(kSiteIndexAddress);
+  if (arguments.indexName.empty() && !address.empty()) arguments.indexName = IndexFileName(address);
+}
+
 }  // namespace
 
-ExitStatus RunVerify(const VerifyArguments& arguments, ConsoleUi& ui) {
+ExitStatus RunVerify(const CommonOptions& common, VerifyArguments arguments, ConsoleUi& ui) {
+  if (!common.site.empty()) TakeFromSite(common.site, arguments);
   const std::string& folder = arguments.folder;
   const std::string& indexName = arguments.indexName;
   if (!FolderExists(folder)) {

@@ -35,6 +35,15 @@ std::string KeptPath(const std::string& path) {
   return kept;
 }
 
+// The text of an option as it is saved: "+20" is "20". A text that has not the option's form as it is.
+std::string InItsForm(std::string_view key, const std::string& text) {
+  const Option* const option = FindOption(key);
+  if (option == nullptr || CheckOption(option->form, text) != 0) return text;
+  PageOptions options;
+  SetOption(*option, text, options);
+  return OptionText(*option, options);
+}
+
 }  // namespace
 
 SettingsStore::SettingsStore(const std::string& folder) : StoredSettings(folder) {}
@@ -63,6 +72,7 @@ void SettingsStore::MakeFolder(std::string_view application) const {
 void SettingsStore::Sync(std::string_view application) {
   // A refused value must not be tried again by every later one, nor be read as if it were stored.
   const IniValues changed = std::exchange(m_unsaved, {});
+  if (changed.empty()) return;
   MakeFolder(application);
   const std::string path = FilePath(application);
   // Another program may have saved since the file was read: what it changed is kept.
@@ -146,6 +156,9 @@ void SettingsStore::RestoreSite() {
 }
 
 void SettingsStore::SaveText(std::string_view key, std::string_view value) {
+  // A folder stays as a person wrote it, so that a site can move with its file; and the drive is that of the folder.
+  if (key == "Dir1" && NamesStoredFolder(value)) return;
+  if (!SitePath().empty() && (key == "Drive1" || InItsForm(key, Text(key)) == value)) return;
   SaveSetting(kApplicationTitle, kSettingsSection, key, value);
 }
 

@@ -40,7 +40,8 @@ class SettingsStore : public StoredSettings {
   // Throws RunTimeError, and the file is as it was.
   void RestoreSite();
 
-  // Stores one of our own keys.
+  // Stores one of our own keys, but in a site's file none that is as it should be already, there or in the person's own
+  // settings, and no folder that merely is written in another way.
   void SaveText(std::string_view key, std::string_view value);
 
  protected:

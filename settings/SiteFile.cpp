@@ -39,6 +39,15 @@ std::string ShownName(const std::string& name) {
   return slash == std::string::npos ? name : "[" + name.substr(0, slash) + "] " + name.substr(slash + 1);
 }
 
+// The folder as it is written in the site's file, where it is still that one.
+void KeepFolder(const IniValues& before, const std::string& path, IniValues& values) {
+  const std::string name = NameOf(kSettingsSection, "Dir1");
+  const auto written = before.find(name);
+  const auto wanted = values.find(name);
+  if (written == before.end() || wanted == values.end()) return;
+  if (IsSameFolder(FolderOfSite(written->second, path), wanted->second)) wanted->second = written->second;
+}
+
 }  // namespace
 
 std::optional<Sentence> WhyNoSite(const std::string& path) {
@@ -97,7 +106,7 @@ void SaveSite(const std::string& path, const SiteChoices& choices, const PageOpt
     if (!options.maySave.test(PlaceOf(option))) continue;
     const std::string text = OptionText(option, options);
     const bool isLeftToText = choices.bringsEncoding && option.part == OptionPart::kEncoding && !store.Has(option.key);
-    const bool isNoFolder = option.part == OptionPart::kFolders && !IsChosenFolder(text);
+    const bool isNoFolder = option.key == "Drive1" || (option.key == "Dir1" && !IsChosenFolder(text));
     if (isNoFolder || isLeftToText) continue;
     values.emplace(NameOf(kSettingsSection, option.key), text);
   }
@@ -106,7 +115,9 @@ void SaveSite(const std::string& path, const SiteChoices& choices, const PageOpt
       if (const auto why = content.empty() ? std::nullopt : WhyNoSite(path)) {
         throw RunTimeError(kBadFileName, path, why->InEnglish());
       }
-      return EditIni(content, ChangesBetween(ParseIni(content, path), values), path);
+      const IniValues before = ParseIni(content, path);
+      KeepFolder(before, path, values);
+      return EditIni(content, ChangesBetween(before, values), path);
     });
   });
 }

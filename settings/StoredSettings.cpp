@@ -63,7 +63,17 @@ void StoredSettings::FinishChange() const {
     if (!std::filesystem::equivalent(path, OwnPath(kApplicationTitle), ignored)) return std::nullopt;
     return EditIni(present, ChangesBetween(ParseIni(from), ParseIni(to)), path);
   };
-  WorkAbout(Subject::kSettingsFile, [&] { FinishJointChange(UnfinishedNote(), carry); });
+  try {
+    FinishJointChange(UnfinishedNote(), carry);
+  } catch (const RunTimeError& error) {
+    const std::string more =
+        error.Item() == UnfinishedNote()
+            ? " Where letters of the custom header, the custom footer or the lists of encodings are wrong then, save "
+              "that "
+              "file in the charset of the pages."
+            : ". A change of the charset was broken off; it is completed once this file can be written.";
+    throw RunTimeError(error.Number(), error.Item(), error.Detail() + more).About(Subject::kUnfinishedChange);
+  }
   ReadAnew();
 }
 
@@ -111,10 +121,10 @@ std::optional<std::string> StoredSettings::Stored(std::string_view application, 
   const std::string path = FilePath(application);
   if (path != m_sitePath) return find(path, name);
   const std::string folder = NameOf(kSettingsSection, "Dir1");
-  const std::optional<std::string> value = find(path, name);
-  if (value) return name == folder ? FolderOfSite(*value, path) : value;
   // A site's folder is on the drive that it is on.
   if (name == NameOf(kSettingsSection, "Drive1") && find(path, folder)) return std::nullopt;
+  const std::optional<std::string> value = find(path, name);
+  if (value) return name == folder ? FolderOfSite(*value, path) : value;
   return find(OwnPath(application), name);
 }
 
@@ -134,6 +144,14 @@ std::optional<std::string> StoredSettings::OwnText(std::string_view key) const {
 
 bool StoredSettings::Has(std::string_view key) const {
   return m_overrides.contains(key) || Stored(kApplicationTitle, NameOf(kSettingsSection, key)).has_value();
+}
+
+bool StoredSettings::NamesStoredFolder(std::string_view folder) const {
+  const std::string path = FilePath(kApplicationTitle);
+  const IniValues& values = Area(path);
+  const auto stored = values.find(NameOf(kSettingsSection, "Dir1"));
+  if (stored == values.end()) return false;
+  return IsSameFolder(path == m_sitePath ? FolderOfSite(stored->second, path) : stored->second, folder);
 }
 
 std::string StoredSettings::Text(std::string_view key) const {

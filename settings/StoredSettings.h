@@ -74,6 +74,10 @@ class StoredSettings {
   // Whether a key of our own is stored, by the site or the person, or overridden.
   bool Has(std::string_view key) const;
 
+  // Whether the file that "Dir1" is saved in has this folder there already, be it in other words: a relative path, or
+  // with another separator at its end.
+  bool NamesStoredFolder(std::string_view folder) const;
+
   // The text of an option, or its default.
   std::string Text(std::string_view key) const;
 

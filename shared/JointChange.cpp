@@ -273,7 +273,9 @@ void FinishJointChange(const std::string& note, const CarryChange& carry) {
   if (fstat(file.Get(), &status) != 0) throw RunTimeError::FromErrno(errno, note);
   if (status.st_nlink == 0) return;  // the program that was waited for has made the change itself
   auto files = ReadNote(ReadOpenFile(file, note, kLongestNote));
-  if (!files) throw RunTimeError(kPathFileAccessError, note, "It is no note of an unfinished change. Remove it.");
+  if (!files)
+    throw RunTimeError(kPathFileAccessError, note,
+                       "It is no note of an unfinished change, or is damaged. Move it away.");
   Apply(std::move(*files), carry);
   if (unlink(note.c_str()) != 0 && errno != ENOENT) throw RunTimeError::FromErrno(errno, note);
 }

@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstdlib>
+#include <filesystem>
+#include <system_error>
 #include <utility>
 
 #include "CodePage.h"
@@ -55,6 +57,16 @@ std::string WithSeparator(std::string_view path) {
   std::string result(path);
   if (!EndsInSeparator(result)) result += kFolderSeparator;
   return result;
+}
+
+bool IsSameFolder(std::string_view left, std::string_view right) {
+  const auto whole = [](std::string_view path) {
+    std::error_code ignored;
+    const std::filesystem::path native = NativePath(path);
+    const std::filesystem::path absolute = std::filesystem::absolute(native, ignored);
+    return WithSeparator((absolute.empty() ? native : absolute).lexically_normal().string());
+  };
+  return whole(left) == whole(right);
 }
 
 bool FileExists(const std::string& path) {

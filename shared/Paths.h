@@ -20,6 +20,9 @@ bool EndsInSeparator(std::string_view path);
 // The path with a separator at its end; one that is there already is not doubled.
 std::string WithSeparator(std::string_view path);
 
+// Whether two paths name one folder, be one of them relative to the current folder or without a separator at its end.
+bool IsSameFolder(std::string_view left, std::string_view right);
+
 // True when `path` is a file that can be opened for reading; false on any failure, a folder included.
 bool FileExists(const std::string& path);
 

@@ -32,8 +32,9 @@ std::string_view StandardMessage(int number);
 // What a failure is about, for those who tell a person what to do.
 enum class Subject {
   kNone,
-  kSetting,       // the value of one
-  kSettingsFile,  // a file that settings are stored in, or the note of a change of it
+  kSetting,           // the value of one
+  kSettingsFile,      // a file that settings are stored in
+  kUnfinishedChange,  // of the charset, which a program that was killed has left: its note, or a file that it changes
   kProgramFolder,
   kEncodingList,  // of charsets or languages
   kCustomHtml,    // the header or footer of a person's own

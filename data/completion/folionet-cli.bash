@@ -82,7 +82,7 @@ _folionet_cli() {
     list) common="translations languages books charsets settings --settings $common" ;;
     check) common+=" --translation --set --settings --json" ;;
     verify)
-      common+=" --index --stale --remove-stale --json"
+      common+=" --index --settings --stale --remove-stale --json"
       if [[ $word != -* ]]; then
         compopt -o filenames 2> /dev/null
         mapfile -t COMPREPLY < <(compgen -d -- "$word")

@@ -207,6 +207,16 @@ std::vector<Finding> FindRangeFacts(const CompileRequest& request, const ModGlob
                      .severity = isReversed ? Severity::kWarning : Severity::kNote,
                      .what = {words, {std::to_string(pages)}}});
   };
+  int chosen = 0;
+  for (int book = request.cboStartBook + 1; book <= std::min(request.cboEndBook + 1, kBooks); ++book) {
+    chosen += pagesOf(book);
+  }
+  if (chosen == 0 && !isReversed) {
+    facts.push_back(Warning(
+        kNoChapters,
+        {Words("QObject", "The chapter index counts no chapter of the chosen books: the index page has no links."), {}},
+        {"Choose books that it counts with --books, or with --start-book and --end-book."}));
+  }
   int before = 0;
   for (int book = 1; book <= std::min(request.cboStartBook, kBooks); ++book) before += pagesOf(book);
   addRemoval(kRemovesPages, Words("QObject", "%1 pages are removed, those of the books before the starting book."),

@@ -16,6 +16,9 @@ namespace folionet {
 // The kind of the fact that the ending book stands before the starting one.
 inline constexpr char kEndsBeforeStart[] = "ends-before-start";
 
+// The kind of the fact that the text has no chapter of the chosen books.
+inline constexpr char kNoChapters[] = "no-chapters";
+
 // The kinds of the two facts that tell of deletions; their first argument is the number of pages. Of the books before
 // the starting one it is a warning where some of the pages are there now.
 inline constexpr char kRemovesPages[] = "removes-pages";

@@ -442,6 +442,10 @@
         <source>Link to it from one of your pages, or move it away.</source>
         <translation>Verweisen Sie von einer Ihrer Seiten darauf, oder bringen Sie sie weg.</translation>
     </message>
+    <message>
+        <source>The chapter index counts no chapter of the chosen books: the index page has no links.</source>
+        <translation>Der Kapitelindex zählt kein Kapitel der gewählten Bücher: Die Indexseite hat keine Links.</translation>
+    </message>
 </context>
 <context>
     <name>folionet::CommandCopy</name>

@@ -442,6 +442,10 @@
         <source>Link to it from one of your pages, or move it away.</source>
         <translation>Enlácela desde una de sus páginas, o sáquela de la carpeta.</translation>
     </message>
+    <message>
+        <source>The chapter index counts no chapter of the chosen books: the index page has no links.</source>
+        <translation>El índice de capítulos no cuenta ningún capítulo de los libros elegidos: la página de índice no tiene enlaces.</translation>
+    </message>
 </context>
 <context>
     <name>folionet::CommandCopy</name>

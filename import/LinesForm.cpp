@@ -106,6 +106,13 @@ LinesForm::LinesForm(BibleBuilder& builder) : m_builder(builder) { m_builder.Let
 
 bool LinesForm::IsLine(std::string_view line) { return ColumnsOfHeader(line) || ColumnsOf(line); }
 
+bool LinesForm::MayStandBefore(std::string_view line) {
+  constexpr std::size_t kLongestName = 100;
+  const std::size_t digit = line.find_first_of(kDigits, 1);  // that of "2 John" comes before
+  const std::size_t end = std::min({digit, line.find('\t'), line.size(), kLongestName});
+  return FindBook(line.substr(0, end)) == 0;
+}
+
 std::optional<LinesForm::Columns> LinesForm::ColumnsOfHeader(std::string_view line) {
   constexpr std::array<std::array<std::string_view, 4>, 5> kNames{{{"b", "book", "bookid", "bookname"},
                                                                    {"c", "chapter", "chapternumber", "chapternum"},
@@ -260,6 +267,11 @@ void LinesForm::TakeLine(std::string_view line) {
     m_columns = ColumnsOfHeader(line);
     if (m_columns) return;
     m_columns = ColumnsOf(line);
+    if (!m_columns && m_before < kMostBefore && MayStandBefore(line)) {
+      ++m_before;
+      m_builder.SetLine(m_line);
+      return m_builder.Note("left-out-line", Words("Import", "Left out, as it is no verse: %1"), Quoted(line));
+    }
   }
   m_builder.SetLine(m_line);
   const bool mayGoOn = Separator() != '\0' && Separator() != '\t' && line.find('"') != std::string_view::npos;

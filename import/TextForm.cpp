@@ -31,15 +31,17 @@ std::string RootOf(std::string_view head) {
   return {};
 }
 
-// Whether the first line that is not skipped is a verse.
+// Whether one of the first lines that are not skipped is a verse.
 bool HoldsLines(std::string_view head) {
+  int before = 0;
   while (!head.empty()) {
     const std::size_t end = head.find('\n');
     std::string_view line = head.substr(0, end);
     head = end == std::string_view::npos ? std::string_view() : head.substr(end + 1);
     if (line.ends_with('\r')) line.remove_suffix(1);
     if (line.find_first_not_of(kBlanks) == std::string_view::npos || line.starts_with('#')) continue;
-    return LinesForm::IsLine(line);
+    if (LinesForm::IsLine(line)) return before == 0 || !LinesForm::MayStandBefore(line);
+    if (++before > LinesForm::kMostBefore || !LinesForm::MayStandBefore(line)) return false;
   }
   return false;
 }
@@ -83,9 +85,9 @@ FormKind FormOf(std::string_view head) {
     }
     return FormKind::kNone;
   }
-  if (HoldsLines(head)) return FormKind::kLines;
   // What stands before the marker, such as a licence, is none of the text.
-  return head.find("\n\\id ") != std::string_view::npos ? FormKind::kUsfm : FormKind::kNone;
+  if (head.find("\n\\id ") != std::string_view::npos) return FormKind::kUsfm;
+  return HoldsLines(head) ? FormKind::kLines : FormKind::kNone;
 }
 
 std::unique_ptr<TextForm> MakeForm(FormKind kind, BibleBuilder& builder) {

@@ -49,7 +49,9 @@ void UsfmForm::ReadRest(Piece piece) {
     const std::size_t slash = std::min(rest.find('\\'), rest.size());
     if (slash > 0) {
       const std::size_t length = slash == rest.size() && !isLast ? slash - HalfBreak(rest) : slash;
-      TakeText(rest.substr(0, length));
+      const std::size_t kept = EndsUnknown(rest.substr(slash)) ? std::min(rest.find('|'), length) : length;
+      TakeText(rest.substr(0, kept));
+      CountLines(rest.substr(kept, length - kept));
       rest.remove_prefix(length);
       if (length < slash) break;
       continue;
@@ -73,6 +75,14 @@ void UsfmForm::ReadRest(Piece piece) {
     rest.remove_prefix(end);
   }
   m_rest.erase(0, m_rest.size() - rest.size());
+}
+
+// Whether the end of the marker that we do not know follows: what stands behind a "|" before it are attributes.
+bool UsfmForm::EndsUnknown(std::string_view rest) const {
+  if (m_unknown.empty() || rest.empty()) return false;
+  rest.remove_prefix(1);
+  if (rest.starts_with('+')) rest.remove_prefix(1);
+  return rest.starts_with(m_unknown) && rest.substr(m_unknown.size()).starts_with('*');
 }
 
 void UsfmForm::TakeText(std::string_view text) {
@@ -163,6 +173,7 @@ void UsfmForm::BeginMarker(std::string_view name) {
   EndArgument();
   m_isInAttributes = false;
   m_isInMilestone = false;
+  m_unknown.clear();
   // "\v1" stands for "\v 1".
   const bool isNumbered = name.size() > 1 && (name[0] == 'c' || name[0] == 'v') && name[1] >= '0' && name[1] <= '9';
   if (isNumbered) {
@@ -197,6 +208,7 @@ void UsfmForm::BeginMarker(std::string_view name) {
 }
 
 void UsfmForm::BeginUnknown(std::string_view name) {
+  m_unknown = name;
   // Kept, as a mark that we do not know may stand for anything; one of an own make ("z...") is no fault.
   if (m_role == Role::kText && m_builder.IsInVerse() && !name.starts_with('z')) {
     m_builder.Note("unknown-mark", Words("Import", "The unknown marker %1 is passed over, its text is kept."),
@@ -257,6 +269,7 @@ void UsfmForm::BeginLine(MarkerKind kind, std::string_view name) {
 
 void UsfmForm::EndMarker(std::string_view name) {
   EndArgument();
+  m_unknown.clear();
   m_isInAttributes = false;
   m_isInMilestone = false;
   if (!m_note.empty()) {

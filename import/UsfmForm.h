@@ -40,6 +40,7 @@ class UsfmForm : public TextForm {
   void TakeText(std::string_view text);
   void TakeVerseText(std::string_view text);
   void TakeArgument(std::string_view text);
+  bool EndsUnknown(std::string_view rest) const;
   void NeedBook(const char* marker, const std::string& argument) const;
   void EndArgument();
   void BeginMarker(std::string_view name);
@@ -58,6 +59,7 @@ class UsfmForm : public TextForm {
   std::vector<Style> m_styles;
   std::string m_note;  // the marker of the note that is open; empty for none
   std::size_t m_noteLine = 0;
+  std::string m_unknown;   // the marker at hand that we do not know; empty for none
   bool m_hasBook = false;  // \id was there
   bool m_isInAttributes = false;
   bool m_isInMilestone = false;

@@ -8,7 +8,7 @@ namespace folionet {
 namespace {
 
 // Every marker of USFM 3, sorted; one with a level, such as "q2", is under its name without the number.
-constexpr std::array<std::pair<std::string_view, MarkerKind>, 173> kMarkers{{
+constexpr std::array<std::pair<std::string_view, MarkerKind>, 174> kMarkers{{
     {"add", MarkerKind::kCharacter},
     {"addpn", MarkerKind::kCharacter},
     {"b", MarkerKind::kParagraph},
@@ -132,6 +132,7 @@ constexpr std::array<std::pair<std::string_view, MarkerKind>, 173> kMarkers{{
     {"qt", MarkerKind::kCharacter},
     {"r", MarkerKind::kLeftOutParagraph},
     {"rb", MarkerKind::kCharacter},
+    {"ref", MarkerKind::kCharacter},
     {"rem", MarkerKind::kLeftOutParagraph},
     {"restore", MarkerKind::kLeftOutParagraph},
     {"rq", MarkerKind::kLeftOutCharacter},

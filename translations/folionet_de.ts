@@ -103,6 +103,10 @@
         <source>Left out, as it is %1 and the other files are not.</source>
         <translation>Ausgelassen, da sie %1 ist und die anderen Dateien nicht.</translation>
     </message>
+    <message>
+        <source>Left out, as it is no verse: %1</source>
+        <translation>Ausgelassen, da es kein Vers ist: %1</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

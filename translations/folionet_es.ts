@@ -103,6 +103,10 @@
         <source>Left out, as it is %1 and the other files are not.</source>
         <translation>Se omite, pues es %1 y los demás archivos no.</translation>
     </message>
+    <message>
+        <source>Left out, as it is no verse: %1</source>
+        <translation>Se omite, pues no es ningún versículo: %1</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

@@ -113,7 +113,11 @@ ExitStatus RunImport(const CommonOptions& common, const ImportArguments& argumen
     StoredSettings(StoredSettings::DefaultFolder()).FinishChange();
     const ImportedBible bible = ReadBible({arguments.paths, arguments.charset});
     const LibraryPlan plan = PlanLibrary(bible, request);
-    if (!arguments.dryRun) WriteLibrary(bible, plan);
+    if (arguments.dryRun) {
+      TryLibrary(plan);
+    } else {
+      WriteLibrary(bible, plan);
+    }
     if (!common.quiet || common.json) {
       TellFindings(bible, ui);
       TellLanguage(plan, ui);

@@ -18,8 +18,10 @@
 #include "JointChange.h"
 #include "LibraryTitles.h"
 #include "LineReader.h"
+#include "MakeFolders.h"
 #include "OwnLibrary.h"
 #include "Paths.h"
+#include "Replacement.h"
 #include "RunTimeError.h"
 #include "StoredSettings.h"
 #include "Text.h"
@@ -230,18 +232,16 @@ void AddDeliveredTitles(LibraryPlan& plan) {
   add("BOOKS.TXT", TitleLanguages().front());
 }
 
-void MakeFolder(const std::string& path) {
-  std::error_code error;
-  fs::create_directories(path, error);
-  if (!FolderExists(path)) throw RunTimeError::FromErrno(error ? error.value() : ENOTDIR, path);
+void MakeFolder(const std::string& path, Doing doing) {
+  if (const int systemError = MakeFolders(path, doing)) throw RunTimeError::FromErrno(systemError, path);
 }
 
 // Where the change is noted: with the person's settings, as every start looks there; where they have none, in the
 // library, where nobody completes it.
-std::string NotePath(const std::string& sysdefs) {
+std::string NotePath(const std::string& sysdefs, Doing doing) {
   const StoredSettings settings(StoredSettings::DefaultFolder());
   if (StoredSettings::DefaultFolder().empty()) return sysdefs + "/.import";
-  MakeFolder(StoredSettings::DefaultFolder());
+  MakeFolder(StoredSettings::DefaultFolder(), doing);
   return settings.ImportNote();
 }
 
@@ -333,20 +333,38 @@ std::string WriteVerses(const ImportedBible& bible, const LibraryPlan& plan,
   return index;
 }
 
-void WriteLibrary(const ImportedBible& bible, const LibraryPlan& plan) {
-  const std::string indexFile = IndexFile(plan, plan.stem);
-  MakeFolder(fs::path(indexFile).parent_path().string());
-  for (const auto& [path, content] : plan.files) MakeFolder(fs::path(path).parent_path().string());
-  const std::string sysdefs = fs::path(plan.catalogue).parent_path().string();
-  const FileHandle lock = FileHandle::Open(sysdefs.c_str(), O_RDONLY | O_DIRECTORY);
-  const bool isTaken = lock.IsOpen() && !LockFile(lock.Get(), std::chrono::milliseconds(0));
+namespace {
+
+// Makes the folders, and sees that nobody else writes into the library, or asks for that.
+FileHandle TakeLibrary(const LibraryPlan& plan, Doing doing) {
+  MakeFolder(fs::path(IndexFile(plan, plan.stem)).parent_path().string(), doing);
+  for (const auto& [path, content] : plan.files) MakeFolder(fs::path(path).parent_path().string(), doing);
+  MakeFolder(fs::path(plan.verseFile).parent_path().string(), doing);
+  FileHandle lock = FileHandle::Open(fs::path(plan.catalogue).parent_path().c_str(), O_RDONLY | O_DIRECTORY);
+  const bool isTaken = lock.IsOpen() && (doing == Doing::kPlan ? IsLockHeld(lock.Get())
+                                                               : !LockFile(lock.Get(), std::chrono::milliseconds(0)));
   if (isTaken || ReadIfThere(plan.catalogue).value_or("") != plan.catalogueBefore) {
     throw RunTimeError(kPermissionDenied, plan.folder, "Another import is writing into this library. Import again.");
   }
-  JointChange change(NotePath(sysdefs));
+  return lock;
+}
+
+}  // namespace
+
+void TryLibrary(const LibraryPlan& plan) {
+  TakeLibrary(plan, Doing::kPlan);
+  NotePath(fs::path(plan.catalogue).parent_path().string(), Doing::kPlan);
+  TryReplacement(plan.verseFile);
+  TryReplacement(IndexFile(plan, plan.stem));
+  for (const auto& [path, content] : plan.files) TryReplacement(path);
+}
+
+void WriteLibrary(const ImportedBible& bible, const LibraryPlan& plan) {
+  const FileHandle lock = TakeLibrary(plan, Doing::kChange);
+  JointChange change(NotePath(fs::path(plan.catalogue).parent_path().string(), Doing::kChange));
   std::string index;
   change.Write(plan.verseFile, [&](const JointChange::Pieces& take) { index = WriteVerses(bible, plan, take); });
-  change.Replace(indexFile, index);
+  change.Replace(IndexFile(plan, plan.stem), index);
   for (const auto& [path, content] : plan.files) change.Replace(path, content);
   change.Commit();
 }

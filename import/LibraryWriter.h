@@ -71,6 +71,9 @@ LibraryPlan PlanLibrary(const ImportedBible& bible, const LibraryRequest& reques
 std::string WriteVerses(const ImportedBible& bible, const LibraryPlan& plan,
                         const std::function<void(std::string_view piece)>& take);
 
+// Throws RunTimeError where WriteLibrary would, as far as that can be known; nothing is written.
+void TryLibrary(const LibraryPlan& plan);
+
 // Writes the plan that was made of the text, all of it or nothing (JointChange.h). Throws RunTimeError; the library is
 // then as it was. What a killed program left half done is completed by StoredSettings::FinishChange.
 void WriteLibrary(const ImportedBible& bible, const LibraryPlan& plan);

@@ -10,6 +10,7 @@
 #include <memory>
 
 #include "FileLock.h"
+#include "MakeFolders.h"
 #include "RunTimeError.h"
 #include "WholeFile.h"
 
@@ -117,6 +118,20 @@ void Replacement::AddContent(std::string_view bytes) {
 
 void Replacement::EndContent() const {
   if (!SyncToDisk(m_file.Get())) throw RunTimeError::FromErrno(errno, m_path);
+}
+
+void TryReplacement(const std::string& path) {
+  const std::string target = BehindLinks(path);
+  struct stat status {};
+  const int found = lstat(target.c_str(), &status) == 0 ? 0 : errno;
+  if (found == 0 && !S_ISREG(status.st_mode)) {
+    throw RunTimeError(kPathFileAccessError, target, "It is not a regular file.");
+  }
+  const int systemError = found == 0 || found == ENOENT ? WhyNotMake(AT_FDCWD, OnItsWay(target)) : found;
+  // One that a killed program left is used again.
+  if (systemError != 0 && systemError != ENOENT && systemError != EEXIST) {
+    throw RunTimeError::FromErrno(systemError, target);
+  }
 }
 
 std::string OnItsWay(const std::string& path) {

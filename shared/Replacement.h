@@ -59,6 +59,10 @@ class Replacement {
   bool m_isCommitted = false;
 };
 
+// Throws RunTimeError where a Replacement of that file could not be begun; nothing is made. In a folder that is not
+// there everything can be done.
+void TryReplacement(const std::string& path);
+
 // The path of a file's new content until it takes the file's place.
 std::string OnItsWay(const std::string& path);
 

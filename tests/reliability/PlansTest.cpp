@@ -132,6 +132,32 @@ TEST_P(Plans, SayWhatTheRunDoes) {
   EXPECT_EQ(Planned(plan.output), Done(before, ReadFolder(home.Path() + "out"))) << plan.output;
 }
 
+TEST(ImportPlans, FailWhereTheImportWould) {
+  const std::pair<const char*, int> places[] = {{"mkdir lib; chmod 555 lib", 3},
+                                                {"echo mine > lib", 3},
+                                                {"mkdir -p lib/Sysdefs; chmod 555 lib/Sysdefs", 3},
+                                                {"mkdir -p lib/Index/TEXT.TXT.INDEX", 3},
+                                                {"mkdir -p lib/Modules", 0}};
+  for (const auto& [arrange, status] : places) {
+    SCOPED_TRACE(arrange);
+    const TemporaryFolder home;
+    home.Write("text", "Ge1:1 a verse\n");
+    const auto shell = [&](const std::string& line) { RunProgram({"/bin/sh", "-c", line}, home.Path()); };
+    shell(geteuid() == 0 ? "chown 65534 ." : "true");
+    Command import{FOLIONET_CLI, "import", "text", "--name=Text", "--stem=TEXT", "--into=lib", "--quiet"};
+    const Command other{"/usr/bin/setpriv", "--reuid=65534", "--clear-groups"};
+    RunProgram(With(geteuid() == 0 ? other : Command{}, {"/bin/sh", "-c", arrange}), home.Path());
+    if (geteuid() == 0) import = With(other, import);
+    const ProgramResult plan = RunProgram(With(import, {"--dry-run"}), home.Path());
+    EXPECT_FALSE(home.Has("lib/Sysdefs/Translations.txt"));
+    const ProgramResult run = RunProgram(import, home.Path());
+    shell("chmod -R u+rwX .");
+    EXPECT_EQ(run.status, status) << run.errors;
+    EXPECT_EQ(plan.status, run.status);
+    EXPECT_EQ(plan.errors, run.errors);
+  }
+}
+
 INSTANTIATE_TEST_SUITE_P(Of, Plans, testing::ValuesIn(kRows), [](const auto& row) { return row.param.name; });
 
 }  // namespace

@@ -90,6 +90,7 @@ class Look {
       QMetaObject::invokeMethod(&loop, &QEventLoop::quit, Qt::QueuedConnection);
     });
     loop.exec();
+    m_isStopped = true;  // the program may end, and nothing waits for the rest
     reader.join();
     if (m_failure) throw RunTimeError(*m_failure);
     return std::move(m_report);

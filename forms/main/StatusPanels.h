@@ -30,7 +30,6 @@ class StatusPanels : public QObject {
   // The progress bar shows with the first text that a run sets: one that is refused sets none.
   void BeginRun(int steps);
   void EndRun(CompileOutcome outcome);
-  bool IsRunning() const { return m_isRunning; }
 
  private:
   void ShowProgress();

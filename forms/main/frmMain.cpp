@@ -349,10 +349,6 @@ void frmMain::End() {
 }
 
 void frmMain::closeEvent(QCloseEvent* event) {
-  if (m_panels->IsRunning()) {
-    event->ignore();
-    return;
-  }
   if (!m_hasEnded && !m_state.ui.AskYesNo("Confirm Exit", "All settings will be saved.\r\nOK?")) {
     event->ignore();
     return;

@@ -17,6 +17,10 @@ RunGuard::~RunGuard() {
 }
 
 bool RunGuard::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == &m_window && event->type() == QEvent::Close) {
+    event->ignore();
+    return true;
+  }
   if (QApplication::activeModalWidget() != nullptr) return QObject::eventFilter(watched, event);
   switch (event->type()) {
     case QEvent::MouseButtonPress:

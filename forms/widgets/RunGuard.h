@@ -6,7 +6,7 @@
 namespace folionet {
 
 // While one lives, a run holds the program: the window shows a busy pointer and takes no clicks and keys, so that
-// nothing starts twice. Boxes that the run itself shows are served.
+// nothing starts twice, and does not close. Boxes that the run itself shows are served.
 class RunGuard : public QObject {
   Q_OBJECT
 

@@ -59,6 +59,8 @@ std::string WriteImportedText(const ImportedText& text) {
 
 void ChooseImported(ModGlob& glob, std::size_t place) {
   glob.Imported = place < glob.BibleImports.size() ? glob.BibleImports[place] : ImportedText();
+  glob.ChaptersInBook = {};
+  glob.missingChapters.clear();
 }
 
 std::string BookTitlesFile(const StoredSettings& store, const ModGlob& glob) {

@@ -31,7 +31,8 @@ std::optional<ImportedText> ReadImportedText(const std::string& verseFile);
 // The content of the small file.
 std::string WriteImportedText(const ImportedText& text);
 
-// Chooses the translation at a place of BibleNames: fills Imported from BibleImports.
+// Chooses the translation at a place of BibleNames: fills Imported from BibleImports. The chapters of the one before
+// are forgotten; BooksInChapters counts those of this one.
 void ChooseImported(ModGlob& glob, std::size_t place);
 
 // The file of book titles to read: that of the chosen translation, when it was imported and the person has chosen no

@@ -327,17 +327,22 @@ void frmMain::OfferRestore() {
 void frmMain::Restore() {
   try {
     RestoreSettings(m_state.store, m_state.programFolder);
-    if (m_state.store.SitePath().empty()) m_memory->Forget();
-    m_state.options.areKept = false;
-    m_dialogs.Renew<frmEffects>();
-    m_dialogs.Renew<frmPAgeTitles>();
   } catch (const RunTimeError& error) {
     m_state.ui.ShowErrorReport({Procedure::kRestoreAll, error});
     return;
   }
-  m_state.options.txtSample = PageOptions().txtSample;
-  m_style->ShowSample();
-  UseEncoding(m_state, ReadEncoding(m_state));
+  // From here on the program must end: at an exit it would store again what was removed.
+  try {
+    if (m_state.store.SitePath().empty()) m_memory->Forget();
+    m_state.options.areKept = false;
+    m_dialogs.Renew<frmEffects>();
+    m_dialogs.Renew<frmPAgeTitles>();
+    m_state.options.txtSample = PageOptions().txtSample;
+    m_style->ShowSample();
+    UseEncoding(m_state, ReadEncoding(m_state));
+  } catch (const RunTimeError& error) {
+    m_state.ui.ShowErrorReport({Procedure::kRestoreAll, error});
+  }
   m_state.ui.ShowMessage({MessageIcon::kInformation, std::string("Restart ") + kApplicationTitle,
                           std::string("Please restart ") + kApplicationTitle + " to complete."});
   End();
@@ -349,19 +354,12 @@ void frmMain::End() {
 }
 
 void frmMain::closeEvent(QCloseEvent* event) {
-  if (!m_hasEnded && !m_state.ui.AskYesNo("Confirm Exit", "All settings will be saved.\r\nOK?")) {
-    event->ignore();
-    return;
-  }
-  if (!m_hasEnded) {
-    m_state.lastSaveFailure.reset();
-    if (!SaveDefaults() && !LeavesUnsaved()) {
-      event->ignore();
-      return;
-    }
-    m_memory->Save();
-    End();
-  }
+  event->setAccepted(m_hasEnded);
+  if (m_hasEnded || !m_state.ui.AskYesNo("Confirm Exit", "All settings will be saved.\r\nOK?")) return;
+  m_state.lastSaveFailure.reset();
+  if (!SaveDefaults() && !LeavesUnsaved()) return;
+  m_memory->Save();
+  End();
   event->accept();
 }
 

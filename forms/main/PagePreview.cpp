@@ -1,16 +1,23 @@
 #include "PagePreview.h"
 
+#include <QDir>
 #include <QObject>
 #include <QTemporaryDir>
+#include <cerrno>
 #include <filesystem>
-#include <fstream>
+#include <string>
+#include <string_view>
+#include <utility>
 
 #include "Compile.h"
+#include "Installation.h"
 #include "PageNames.h"
+#include "Paths.h"
 #include "QtText.h"
 #include "RunTimeError.h"
 #include "Validation.h"
 #include "VerseFileReader.h"
+#include "WholeFile.h"
 
 namespace folionet {
 namespace {
@@ -35,20 +42,28 @@ class OnlyFailures : public UserInterface {
 
 // Writes the verses of a book's chapter 1 alone. False when the text has none.
 bool WriteChapter(const std::string& from, int book, const std::string& to) {
-  std::ofstream chapter(to, std::ios::binary);
-  bool isFound = false;
+  std::string chapter;
   VerseFileReader verses(from);
   while (verses.Next()) {
     const Verse& verse = verses.Current();
     if (verse.book != book || verse.chapter != 1) {
-      if (isFound) break;
+      if (!chapter.empty()) break;
       continue;
     }
-    isFound = true;
-    chapter << '\t' << verse.bookField << '\t' << verse.chapterField << '\t' << verse.verse << '\t' << verse.text
-            << "\r\n";
+    for (const std::string_view field : {verse.bookField, verse.chapterField, verse.verse, verse.text}) {
+      chapter.append("\t").append(field);
+    }
+    chapter += "\r\n";
   }
-  return isFound;
+  if (!chapter.empty()) ReplaceWholeFile(to, chapter);
+  return !chapter.empty();
+}
+
+// A compile that lacks it ends the program, which a preview does not.
+void RequireIndex(const CompileRequest& request, const ModGlob& glob) {
+  const std::string& stem = glob.BibleFiles.at(static_cast<std::size_t>(request.cboBibleName));
+  const std::string index = IndexFile(glob, CodePage(request.texts.PageCharset), stem);
+  if (!FileExists(index)) throw RunTimeError::FromErrno(ENOENT, index).About(Subject::kChapterIndex);
 }
 
 // The picture lies beside the pages, if anywhere.
@@ -65,12 +80,27 @@ void CopyPicture(const CompileRequest& request, const std::string& folder) {
 PagePreview::PagePreview() = default;
 PagePreview::~PagePreview() = default;
 
+std::string PagePreview::Folder() {
+  if (!m_folder || !QDir(m_folder->path()).exists()) {
+    // Not Qt's own place, which is the root where the one that is named is not there.
+    const QString named = qEnvironmentVariable("TMPDIR");
+    const QString place = named.isEmpty() ? QStringLiteral("/tmp") : named;
+    auto folder = std::make_unique<QTemporaryDir>(place + QStringLiteral("/folionet-XXXXXX"));
+    if (!folder->isValid()) {
+      throw RunTimeError(kPathFileAccessError, FromQt(place), FromQt(folder->errorString()));
+    }
+    m_folder = std::move(folder);
+  }
+  return FromQt(m_folder->path()) + "/";
+}
+
 void PagePreview::Show(CompileRequest request, const ModGlob& glob, UserInterface& ui) {
-  if (!m_folder) m_folder = std::make_unique<QTemporaryDir>();
-  const std::string folder = FromQt(m_folder->path()) + "/";
+  std::string folder;
   const int book = request.cboStartBook + 1;
   try {
+    folder = Folder();
     if (request.cboBibleName >= 0) {
+      RequireIndex(request, glob);
       const std::string chapter = folder + "verses";
       if (!WriteChapter(request.txtFilename, book, chapter)) {
         ui.ShowMessage({MessageIcon::kInformation, FromQt(QObject::tr("Preview page")),

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <string>
 
 #include "CompileRequest.h"
 #include "UserInterface.h"
@@ -21,6 +22,9 @@ class PagePreview {
   void Show(CompileRequest request, const ModGlob& glob, UserInterface& ui);
 
  private:
+  // Made anew when it was removed. Throws RunTimeError where none can be made.
+  std::string Folder();
+
   std::unique_ptr<QTemporaryDir> m_folder;
 };
 

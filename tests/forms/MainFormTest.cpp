@@ -208,6 +208,25 @@ TEST_F(MainForm, RemembersAddressesFoldersAndPlaces) {
   EXPECT_TRUE(sites->actions()[0]->isChecked());
 }
 
+TEST_F(MainForm, APreviewWithoutATemporaryFolderIsReportedAndTheNextHasOne) {
+  ASSERT_TRUE(Start());
+  const QByteArray before = qgetenv("TMPDIR");
+  qputenv("TMPDIR", (m_home.Path() + "none").c_str());
+  Click("cmdPreviewPage");
+  ASSERT_EQ(m_ui.log, Log{"75 cmdPreviewPage_Click"});
+  EXPECT_TRUE(m_ui.said.back().starts_with(m_home.Path() + "none\r\n")) << m_ui.said.back();
+  qputenv("TMPDIR", (m_home.Path() + "site").c_str());
+  for (int i = 0; i < 2; ++i) {
+    Click("cmdPreviewPage");
+    EXPECT_TRUE(m_ui.pageShown.starts_with(m_home.Path() + "site/")) << m_ui.pageShown;
+    EXPECT_TRUE(std::filesystem::exists(m_ui.pageShown));
+    for (const auto& entry : std::filesystem::directory_iterator(m_home.Path() + "site")) {
+      std::filesystem::remove_all(entry);  // as cleaners of temporary files do
+    }
+  }
+  before.isNull() ? qunsetenv("TMPDIR") : qputenv("TMPDIR", before);
+}
+
 // Seconds that this thread has worked, whatever else the machine does.
 double ThreadTime() {
   timespec time{};

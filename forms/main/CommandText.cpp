@@ -55,13 +55,14 @@ void AddFolders(const AppState& state, Command& command) {
   if (state.programFolder != ProgramFolderToRead({})) command.Add("--program-folder", state.programFolder);
 }
 
-// A code that was typed into Page Encoding is in use and in no entry.
+// A code that was typed into Page Encoding is in use and in no entry; one that an imported text brings needs none.
 std::string ValueOf(const Option& option, const AppState& state) {
   std::string text = OptionText(option, state.options);
   const bool isCharset = option.key == "Charset";
-  if (state.glob.Imported.IsThere() || (!isCharset && option.key != "Lang")) return text;
+  if (!isCharset && option.key != "Lang") return text;
   const std::string& code = isCharset ? state.texts.PageCharset : state.texts.PageLanguage;
-  return EncodingCode(text, option.key) == code ? text : code + " ";
+  const std::string ofText = CodeOfText(state.glob.Imported, state.store, option.key);
+  return (ofText.empty() ? EncodingCode(text, option.key) : ofText) == code ? text : code + " ";
 }
 
 void AddOptions(const AppState& state, Command& command) {

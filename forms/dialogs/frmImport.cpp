@@ -52,6 +52,7 @@ void frmImport::ConnectControls() {
     Take(m_boxes.ChooseFolder(FromQt(QDir::homePath()), FromQt(tr("Choose the folder of the text"))));
   });
   connect(m_ui->txtPath, &QLineEdit::textChanged, this, [this] {
+    m_isImportWanted = false;
     m_import.Forget();
     m_ui->txtFound->clear();
     ShowStep();
@@ -178,7 +179,7 @@ void frmImport::ShowFound() {
 
 void frmImport::ShowStep() {
   const TextImport::Step step = m_import.AtHand();
-  const bool isWriting = step == TextImport::Step::kWriting || m_isImportWanted;
+  const bool isWriting = IsImporting();
   const bool isFound = m_import.Bible() != nullptr;
   m_ui->progressImport->setVisible(step == TextImport::Step::kReading || isWriting);
   m_ui->cmdStop->setVisible(step == TextImport::Step::kReading);
@@ -202,12 +203,12 @@ void frmImport::reject() {
 }
 
 void frmImport::dragEnterEvent(QDragEnterEvent* event) {
-  if (!DraggedPath(event->mimeData()).isEmpty()) event->acceptProposedAction();
+  if (!DraggedPath(event->mimeData()).isEmpty() && !IsImporting()) event->acceptProposedAction();
 }
 
 void frmImport::dropEvent(QDropEvent* event) {
   const QString path = DraggedPath(event->mimeData());
-  if (path.isEmpty() || m_import.AtHand() == TextImport::Step::kWriting) return;
+  if (path.isEmpty() || IsImporting()) return;
   event->acceptProposedAction();
   Take(FromQt(path));
 }

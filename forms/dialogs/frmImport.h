@@ -43,6 +43,7 @@ class frmImport : public LoadedDialog {
   void Read();
   void Stop();
   void Import();
+  bool IsImporting() const { return m_isImportWanted || m_import.AtHand() == TextImport::Step::kWriting; }
   void ShowStep();
   void ShowFound();
   bool IsRefused();

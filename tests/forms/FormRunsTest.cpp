@@ -120,6 +120,18 @@ class FormRuns : public FormTest {
     QTest::keyClick(&control, key.key(), key.keyboardModifiers());
   }
 
+  void Drop(const Line& line, bool isTaken) const {
+    QMimeData data;
+    data.setUrls({QUrl::fromLocalFile(ToQt(line.text))});
+    QDragEnterEvent enter(QPoint(1, 1), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QDropEvent drop(QPointF(1, 1), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    for (QEvent* event : {static_cast<QEvent*>(&enter), static_cast<QEvent*>(&drop)}) {
+      QApplication::sendEvent(&Get(line.name), event);
+      EXPECT_EQ(event->isAccepted(), isTaken) << line.text;
+    }
+    QCoreApplication::processEvents();  // the dialog of a dropped text opens behind the drop
+  }
+
   // Where F1 opens the help, when there is such a place and the keys go on from it.
   std::string Topic(const std::string& control) const {
     QWidget& window = *Get(control).window();
@@ -199,17 +211,9 @@ const std::map<std::string, FormRuns::Act>& FormRuns::Actions() {
       {"store", [](Test& t, const Line& l) { t.Store(l.name, l.text); }},
       {"output", [](Test& t, const Line&) { t.ChooseOutput(); }},
       {"drop",  // a file or a folder on a window
-       [](Test& t, const Line& l) {
-         QMimeData data;
-         data.setUrls({QUrl::fromLocalFile(ToQt(l.text))});
-         QDragEnterEvent enter(QPoint(1, 1), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-         QDropEvent drop(QPointF(1, 1), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-         for (QEvent* event : {static_cast<QEvent*>(&enter), static_cast<QEvent*>(&drop)}) {
-           QApplication::sendEvent(&t.Get(l.name), event);
-           EXPECT_TRUE(event->isAccepted()) << l.text;
-         }
-         QCoreApplication::processEvents();  // the dialog of a dropped text opens behind the drop
-       }},
+       [](Test& t, const Line& l) { t.Drop(l, true); }},
+      {"refuse",  // what is dropped
+       [](Test& t, const Line& l) { t.Drop(l, false); }},
       {"scanned",  // the chosen folder
        [](Test& t, const Line&) { EXPECT_TRUE(QTest::qWaitFor([&] { return !t.m_form->Facts().IsLooking(); })); }},
       {"settled",  // what the import does beside the form

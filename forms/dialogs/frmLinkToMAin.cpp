@@ -31,7 +31,9 @@ frmLinkToMAin::frmLinkToMAin(AppState& state, QWidget* parent)
   }
   connect(m_ui->cboSize, &QComboBox::textActivated, this, [this](const QString& size) {
     m_record.cboSize = FromQt(size);
-    SetFontSize(size.toInt());
+    ShowFontSize(size.toInt());
+    SaveFontSize(size.toInt());
+    SetString();
   });
   connect(m_ui->cmdRefresh, &QPushButton::clicked, this, &frmLinkToMAin::Refresh);
   connect(m_ui->cmdClose, &QPushButton::clicked, this, &frmLinkToMAin::Close);
@@ -41,7 +43,13 @@ frmLinkToMAin::~frmLinkToMAin() = default;
 
 void frmLinkToMAin::Load() {
   LoadOptions(m_state.store, OptionPart::kLinkToMain, m_state.options);
-  SetFontSize(static_cast<int>(ReadInteger(m_record.cboSize, kInt16Min, kInt16Max).value));
+  const auto size = static_cast<int>(ReadInteger(m_record.cboSize, kInt16Min, kInt16Max).value);
+  const SettingsStore& store = m_state.store;
+  const bool isStored = store.Has("LinkBackSize") && store.Text("LinkBackSize") == std::to_string(size);
+  ShowFontSize(size);
+  // The file of a site changes by what a person chooses alone.
+  if (!isStored && store.SitePath().empty()) SaveFontSize(size);
+  SetString();
 }
 
 void frmLinkToMAin::ShowRecord() {
@@ -73,16 +81,18 @@ void frmLinkToMAin::ShowJustification() {
   }
 }
 
-void frmLinkToMAin::SetFontSize(int size) {
+void frmLinkToMAin::ShowFontSize(int size) {
   constexpr int kLargestShown = 72;
   for (QLineEdit* box : {m_ui->txtLinkToMain, m_ui->txtLinkToMainOK}) {
     QFont font = box->font();
     font.setPointSize(std::clamp(size + 8, 1, kLargestShown));
     box->setFont(font);
   }
+}
+
+void frmLinkToMAin::SaveFontSize(int size) {
   TrySave(m_state, Procedure::kSetFontSize,
           [&](SettingsStore& store) { SaveOption(store, "LinkBackSize", std::to_string(size), m_state.options); });
-  SetString();
 }
 
 void frmLinkToMAin::SetString() {

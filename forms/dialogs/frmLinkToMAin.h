@@ -33,7 +33,8 @@ class frmLinkToMAin : public LoadedDialog {
 
   void Justify(int justification);
   void ShowJustification();
-  void SetFontSize(int size);
+  void ShowFontSize(int size);
+  void SaveFontSize(int size);
   void showEvent(QShowEvent* event) override;
   void Refresh();
   void Close();

@@ -1,11 +1,11 @@
 #pragma once
 
 #include <QObject>
-#include <QTimer>
 #include <memory>
 #include <set>
 #include <string>
 
+#include "BackgroundWork.h"
 #include "FolderFacts.h"
 
 namespace folionet {
@@ -30,13 +30,10 @@ class FolderScan : public QObject {
   Q_OBJECT
 
  public:
-  FolderScan();
-  ~FolderScan() override;
-
   // Begins to look; what was looked for before counts no more.
   void Start(FolderQuestion question);
 
-  bool IsLooking() const { return m_poll.isActive(); }
+  bool IsLooking() const { return m_work.IsRunning(); }
 
   // What was looked for last, and what was found then; nothing while it is looked for.
   const FolderQuestion& Question() const { return m_question; }
@@ -46,13 +43,9 @@ class FolderScan : public QObject {
   void Done();
 
  private:
-  struct Look;
-  void Poll();
-
   FolderQuestion m_question;
-  std::shared_ptr<Look> m_look;
-  std::unique_ptr<FolderAnswer> m_answer;
-  QTimer m_poll;
+  std::shared_ptr<const FolderAnswer> m_answer;
+  BackgroundWork m_work;
 };
 
 }  // namespace folionet

@@ -1,5 +1,6 @@
 #include "BackgroundWork.h"
 
+#include <exception>
 #include <thread>
 #include <utility>
 
@@ -23,7 +24,11 @@ void BackgroundWork::Start(Work work, std::function<void()> done) {
   m_run = std::make_shared<Run>();
   m_done = std::move(done);
   std::thread([run = m_run, work = std::move(work)] {
-    work(run->isWanted);
+    try {
+      work(run->isWanted);
+    } catch (const std::exception&) {
+      // Its owner finds nothing given.
+    }
     run->isDone = true;
   }).detach();
   m_poll.start();

@@ -19,8 +19,8 @@ class BackgroundWork : public QObject {
   BackgroundWork();
   ~BackgroundWork() override;
 
-  // Begins `work`, which must let no exception out; `done` is called when it has ended. What was begun before is told
-  // that it is not wanted any more, and its end counts no more.
+  // Begins `work`; `done` is called when it has ended, by an exception too. What was begun before is told that it is
+  // not wanted any more, and its end counts no more.
   void Start(Work work, std::function<void()> done);
 
   void Drop();

@@ -50,7 +50,7 @@ ExitStatus ListLanguages(Session& session) {
 
 ExitStatus ListCharsets(Session& session) {
   const EncodingList list =
-      ReadEncodingList({ProgramFolderToRead(session.chosenProgramFolder), session.codePage}, kCharsetList);
+      ReadEncodingList(OwnFolderOfRun(session.store, ProgramFolderToRead(session.chosenProgramFolder)), kCharsetList);
   if (list.failure) throw RunTimeError(*list.failure);
   for (const std::string& entry : list.entries) session.ui.Print(entry);
   return kExitDone;

@@ -7,6 +7,7 @@
 #include "Installation.h"
 #include "RunTimeError.h"
 #include "SilentUi.h"
+#include "Utf16.h"
 #include "VerseFileReader.h"
 
 namespace folionet::fuzz {
@@ -20,6 +21,7 @@ void CheckCurrent(const Verse& verse, std::string_view input) {
 }
 
 void ReadVerses(const std::string& path, std::string_view input) {
+  if (LooksUtf16(input)) return;  // is refused as a whole
   VerseFileReader reader(path);
   const Verse& verse = reader.Current();
   for (bool more = true; more;) {

@@ -11,7 +11,9 @@
 #include "CodePage.h"
 #include "RecordReader.h"
 #include "RunTimeError.h"
+#include "Utf16.h"
 #include "Utf8.h"
+#include "WholeFile.h"
 
 namespace folionet {
 namespace {
@@ -25,7 +27,7 @@ bool IsPlainCode(std::string_view code) {
 // Whether a list of languages, "code","description" a line, holds a code.
 bool IsListed(const std::string& path, const std::string& code) {
   try {
-    RecordReader records(path, Subject::kEncodingList);
+    RecordReader records(path, FromUtf16(ReadWholeFile(path), path), Subject::kEncodingList);
     std::array<std::string_view, 2> fields;
     while (records.Next(fields)) {
       if (EqualIgnoringCase(fields[0], code)) return true;

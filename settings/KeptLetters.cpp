@@ -67,7 +67,7 @@ class ShortestEdit {
   // What stays, in order; nothing where too much is changed.
   std::vector<Match> Stays() {
     const int most = std::min(static_cast<int>(m_old.size() + m_now.size()), kMostChanges);
-    std::vector<int> furthest(static_cast<std::size_t>(2 * most + 3), 0);
+    std::vector<int> furthest(At(most, most) + 2, 0);
     std::vector<std::vector<int>> steps;
     for (int changes = 0; changes <= most; ++changes) {
       steps.push_back(furthest);
@@ -81,7 +81,7 @@ class ShortestEdit {
   }
 
  private:
-  static std::size_t At(int k, int most) { return static_cast<std::size_t>(k + most + 1); }
+  static std::size_t At(std::ptrdiff_t k, std::ptrdiff_t most) { return static_cast<std::size_t>(k + most + 1); }
   static int Size(const Parts& parts) { return static_cast<int>(parts.size()); }
 
   static bool TakesIn(const std::vector<int>& furthest, int changes, int k, int most) {

@@ -9,9 +9,9 @@
 #include <utility>
 #include <vector>
 
+#include "ImportError.h"
 #include "LateLibrary.h"
 #include "LineReader.h"
-#include "RunTimeError.h"
 #include "Text.h"
 
 namespace folionet {
@@ -88,8 +88,9 @@ class ArchiveReader : public ByteSource {
       const char* path = Library().pathnameUtf8(entry);
       if (path == nullptr) path = Library().pathname(entry);
       name = path != nullptr ? path : "";
-      if (LeadsOut(name)) Fail("Paths that stay in the archive were expected: " + Quoted(name));
-      if (++m_entries > kMostEntries) Fail("At most " + std::to_string(kMostEntries) + " files were expected.");
+      if (LeadsOut(name)) Fail({Words("Import", "Paths that stay in the archive were expected: %1"), {Quoted(name)}});
+      if (++m_entries > kMostEntries)
+        Fail({Words("Import", "At most %1 files were expected."), {std::to_string(kMostEntries)}});
       if (Library().filetype(entry) == AE_IFREG || Library().filetype(entry) == 0) return true;
     }
   }
@@ -98,12 +99,12 @@ class ArchiveReader : public ByteSource {
     const la_ssize_t count = Library().readData(m_archive.get(), bytes, size);
     if (count < 0) Unsound();  // a warning too tells that there are no bytes
     m_unpacked += static_cast<std::size_t>(count);
-    if (m_unpacked > kMostBytes) Fail("An archive that unpacks into at most 512 MiB was expected.");
+    if (m_unpacked > kMostBytes) Fail({Words("Import", "An archive that unpacks into at most 512 MiB was expected.")});
     return static_cast<std::size_t>(count);
   }
 
  private:
-  [[noreturn]] void Fail(const std::string& detail) const { throw RunTimeError(kPathFileAccessError, m_file, detail); }
+  [[noreturn]] void Fail(Sentence what) const { throw ImportError(kPathFileAccessError, m_file, std::move(what)); }
 
   void Check(int status) {
     if (status < ARCHIVE_WARN || m_thrown) Unsound();
@@ -112,7 +113,8 @@ class ArchiveReader : public ByteSource {
   [[noreturn]] void Unsound() {
     if (m_thrown) std::rethrow_exception(std::exchange(m_thrown, nullptr));
     const char* const text = Library().errorText(m_archive.get());
-    Fail(std::string("A sound archive was expected: ") + (text != nullptr ? text : "it cannot be read"));
+    if (text == nullptr) Fail({Words("Import", "A sound archive was expected.")});
+    Fail({Words("Import", "A sound archive was expected: %1"), {text}});
   }
 
   static la_ssize_t OnRead(archive* /*archive*/, void* self, const void** bytes) {

@@ -3,9 +3,9 @@
 #include <algorithm>
 
 #include "BookTable.h"
+#include "ImportError.h"
 #include "LineReader.h"
 #include "Numbers.h"
-#include "RunTimeError.h"
 #include "Text.h"
 #include "Utf8.h"
 
@@ -65,8 +65,8 @@ std::string BibleBuilder::Place() const {
   return place + ": ";
 }
 
-void BibleBuilder::Fail(const std::string& what) const {
-  throw RunTimeError(kInvalidProcedureCall, m_file, Place() + what, m_line);
+void BibleBuilder::Fail(Sentence what) const {
+  throw ImportError(kInvalidProcedureCall, m_file, std::move(what), m_line, Place());
 }
 
 void BibleBuilder::Note(const char* kind, const char* pattern, const std::string& about) {
@@ -81,7 +81,7 @@ void BibleBuilder::NoteLeftOutFile(const std::string& file, const std::string& f
 
 void BibleBuilder::BeginBook(std::string_view name) {
   const std::string clean = WithSingleBlanks(name);
-  if (clean.empty()) Fail("the code or the name of a book was expected");
+  if (clean.empty()) Fail({Words("Import", "the code or the name of a book was expected")});
   const int number = FindBook(clean);
   OpenBook(number != 0 ? number : OutsideBook(clean));
   if (number != 0) m_bible.names[static_cast<std::size_t>(number)] = clean;
@@ -100,7 +100,7 @@ int BibleBuilder::OutsideBook(std::string_view name) {
   const auto [found, isNew] = m_outsideByName.emplace(BookKey(kept), kBooks + 1 + static_cast<int>(m_outside.size()));
   if (isNew) {
     m_outside.push_back({kept, 0});
-    if (m_outside.size() > kMostOutside) Fail("there are more than 1000 different names of books");
+    if (m_outside.size() > kMostOutside) Fail({Words("Import", "there are more than 1000 different names of books")});
   }
   return found->second;
 }
@@ -125,23 +125,24 @@ void BibleBuilder::AddTitle(TitleKind kind, std::string_view title) {
 void BibleBuilder::BeginChapter(std::string_view number) {
   CloseChapter();
   m_chapter = 0;
-  if (m_book == 0) Fail("a book was expected before chapter " + Quoted(number));
+  if (m_book == 0) Fail({Words("Import", "a book was expected before chapter %1"), {Quoted(number)}});
   const IntegerReading reading = ReadInteger(CleanField(number), 1, kHighestChapter);
   if (reading.error != 0) {
     if (m_book > kBooks) return;
-    Fail("a chapter from 1 to 255 was expected: " + Quoted(number));
+    Fail({Words("Import", "a chapter from 1 to 255 was expected: %1"), {Quoted(number)}});
   }
   m_chapter = static_cast<int>(reading.value);
 }
 
 void BibleBuilder::BeginVerse(std::string_view field) {
   CloseVerse();
-  if (m_book == 0) Fail("a book was expected before verse " + Quoted(field));
+  if (m_book == 0) Fail({Words("Import", "a book was expected before verse %1"), {Quoted(field)}});
   if (m_chapter == 0 && HasOneChapter(m_book)) m_chapter = 1;
-  if (m_chapter == 0 && m_book <= kBooks) Fail("a chapter was expected before verse " + Quoted(field));
+  if (m_chapter == 0 && m_book <= kBooks)
+    Fail({Words("Import", "a chapter was expected before verse %1"), {Quoted(field)}});
   m_field = CleanField(field);
   if (!IsVerseField(m_field)) {
-    if (m_book <= kBooks) Fail("the number of a verse was expected: " + Quoted(field));
+    if (m_book <= kBooks) Fail({Words("Import", "the number of a verse was expected: %1"), {Quoted(field)}});
     m_field = "0";
   }
   m_verseLine = m_line;
@@ -167,7 +168,7 @@ void BibleBuilder::AddText(std::string_view text) {
       m_title.Clear();
     }
   }
-  if (flow != nullptr && !flow->Add(text)) Fail("a verse of at most 1 MiB was expected");
+  if (flow != nullptr && !flow->Add(text)) Fail({Words("Import", "a verse of at most 1 MiB was expected")});
 }
 
 void BibleBuilder::AddBreak() {
@@ -308,9 +309,8 @@ void BibleBuilder::CheckCounts() const {
     count = verse.book == last.book && verse.chapter == last.chapter ? count + 1 : 1;
     last = verse;
     if (count <= kMostVerses) continue;
-    throw RunTimeError(kOverflow, m_file,
-                       std::string(BookAt(verse.book).title) + " " + std::to_string(verse.chapter) +
-                           ": at most 255 verses in a chapter were expected");
+    throw ImportError(kOverflow, m_file, {Words("Import", "at most 255 verses in a chapter were expected")}, 0,
+                      std::string(BookAt(verse.book).title) + " " + std::to_string(verse.chapter) + ": ");
   }
 }
 
@@ -318,11 +318,12 @@ ImportedBible BibleBuilder::Finish() {
   CloseChapter();
   UseNamesInOrder();
   if (m_bible.VerseCount() == 0) {
-    throw RunTimeError(kInvalidProcedureCall, m_file,
-                       m_outside.empty()
-                           ? "a text with verses was expected; there is none"
-                           : "verses of one of the 66 books were expected; the books are others, such as " +
-                                 Quoted(m_outside.front().name));
+    Sentence what{Words("Import", "a text with verses was expected; there is none")};
+    if (!m_outside.empty()) {
+      what = {Words("Import", "verses of one of the 66 books were expected; the books are others, such as %1"),
+              {Quoted(m_outside.front().name)}};
+    }
+    throw ImportError(kInvalidProcedureCall, m_file, what);
   }
   m_bible.Sort();
   CheckCounts();

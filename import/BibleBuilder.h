@@ -62,7 +62,7 @@ class BibleBuilder {
   void NoteLeftOutFile(const std::string& file, const std::string& form);
 
   // The file has another mistake than those above: throws, with the place at hand.
-  [[noreturn]] void Fail(const std::string& what) const;
+  [[noreturn]] void Fail(Sentence what) const;
 
   // Ends a file.
   void EndFile();

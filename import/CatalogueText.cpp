@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <array>
 
+#include "ImportError.h"
 #include "Numbers.h"
 #include "RecordReader.h"
-#include "RunTimeError.h"
 #include "Utf8.h"
 #include "WholeFile.h"
 
@@ -54,7 +54,8 @@ int CatalogueText::LowestFree() const {
     const auto isIt = [number](const Record& record) { return record.number == number; };
     if (std::none_of(m_records.begin(), m_records.end(), isIt)) return number;
   }
-  throw RunTimeError(kOverflow, m_path, "A free number from 1 to 999 was expected for the translation.");
+  throw ImportError(kOverflow, m_path,
+                    {Words("Import", "A free number from 1 to 999 was expected for the translation.")});
 }
 
 std::string CatalogueText::With(const CatalogueEntry& entry) const {

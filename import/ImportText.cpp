@@ -4,8 +4,8 @@
 #include <optional>
 
 #include "BibleBuilder.h"
+#include "ImportError.h"
 #include "InputFiles.h"
-#include "RunTimeError.h"
 #include "TextDecoder.h"
 #include "TextFault.h"
 #include "TextForm.h"
@@ -13,7 +13,8 @@
 namespace folionet {
 namespace {
 
-constexpr char kForms[] = "A Bible text was expected: USFM, USX, USFX, OSIS, Zefania XML, or one verse a line.";
+constexpr const char* kForms =
+    Words("Import", "A Bible text was expected: USFM, USX, USFX, OSIS, Zefania XML, or one verse a line.");
 
 // Reads the files of one text, which all have the same form. A file of a folder or an archive that looks like one verse
 // a line beside files of another form is none of the text: a licence, a list of verse counts.
@@ -29,13 +30,13 @@ class BibleReader {
     } catch (const TextFault& fault) {
       m_builder.SetFile(file.name);
       m_builder.SetLine(fault.Line());
-      m_builder.Fail(fault.what());
+      m_builder.Fail(fault.What());
     }
   }
 
   ImportedBible Finish(const std::string& path) {
-    if (m_lineFault) throw RunTimeError(*m_lineFault);
-    if (m_kind == FormKind::kNone) throw RunTimeError(kInvalidProcedureCall, path, kForms);
+    if (m_lineFault) throw ImportError(*m_lineFault);
+    if (m_kind == FormKind::kNone) throw ImportError(kInvalidProcedureCall, path, {kForms});
     return m_builder.Finish();
   }
 
@@ -43,7 +44,7 @@ class BibleReader {
   void TakeText(const InputFile& file, TextDecoder& text) {
     const FormKind kind = FormOf(text.Head());
     if (kind == FormKind::kNone) {
-      if (file.isGiven) throw RunTimeError(kInvalidProcedureCall, file.name, kForms);
+      if (file.isGiven) throw ImportError(kInvalidProcedureCall, file.name, {kForms});
       return;
     }
     if (kind != m_kind && !BelongsHere(kind, file)) return;
@@ -69,9 +70,9 @@ class BibleReader {
       for (const std::string& name : m_lineFiles) NoteLeftOut(name);
       m_lineFiles.clear();
     } else if (m_kind != FormKind::kNone) {
-      throw RunTimeError(kInvalidProcedureCall, file.name,
-                         "Files of one form were expected: this one is " + std::string(NameOf(kind)) + ", " + m_first +
-                             " is " + std::string(NameOf(m_kind)) + ".");
+      throw ImportError(kInvalidProcedureCall, file.name,
+                        {Words("Import", "Files of one form were expected: this one is %1, %2 is %3."),
+                         {std::string(NameOf(kind)), m_first, std::string(NameOf(m_kind))}});
     }
     m_kind = kind;
     m_first = file.name;
@@ -87,8 +88,10 @@ class BibleReader {
     try {
       ReadFile(FormKind::kLines, name, text);
       m_builder.EndFile();
-    } catch (const RunTimeError& fault) {
+    } catch (const ImportError& fault) {
       m_lineFault = fault;
+    } catch (const RunTimeError& fault) {
+      m_lineFault = ImportError(fault);
     }
   }
 
@@ -107,7 +110,7 @@ class BibleReader {
       form->Finish();
     } catch (const TextFault& fault) {
       m_builder.SetLine(fault.Line());
-      m_builder.Fail(fault.what());
+      m_builder.Fail(fault.What());
     }
   }
 
@@ -117,7 +120,7 @@ class BibleReader {
   std::string m_first;                   // the file that told the form
   bool m_isFormSure = false;             // files of another form than m_kind are a fault
   std::vector<std::string> m_lineFiles;  // those of one verse a line that were not named themselves
-  std::optional<RunTimeError> m_lineFault;
+  std::optional<ImportError> m_lineFault;
 };
 
 }  // namespace

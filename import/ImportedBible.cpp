@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <tuple>
 
-#include "RunTimeError.h"
+#include "ImportError.h"
 
 namespace folionet {
 namespace {
@@ -24,7 +24,9 @@ ImportedBible::Verse ImportedBible::VerseAt(std::size_t i) const {
 void ImportedBible::Add(const Verse& verse) {
   const std::size_t length = verse.field.size() + verse.text.size();
   m_length += length;
-  if (m_length > kLongestText) throw RunTimeError(kOutOfMemory, "The text", "It is longer than 64 MiB.");
+  if (m_length > kLongestText) {
+    throw ImportError(kOutOfMemory, "The text", {Words("Import", "It is longer than 64 MiB.")});
+  }
   if (m_blocks.empty() || m_blocks.back().capacity() - m_blocks.back().size() < length) {
     m_blocks.emplace_back().reserve(std::max(kBlock, length));
   }

@@ -13,7 +13,7 @@
 
 #include "Archive.h"
 #include "FileHandle.h"
-#include "RunTimeError.h"
+#include "ImportError.h"
 
 namespace folionet {
 namespace {
@@ -75,7 +75,9 @@ FileHandle OpenRegular(const std::string& path) {
   FileHandle file = FileHandle::Open(path.c_str(), O_RDONLY | O_NONBLOCK);
   struct stat status {};
   if (!file.IsOpen() || fstat(file.Get(), &status) != 0) throw RunTimeError::FromErrno(errno, path);
-  if (!S_ISREG(status.st_mode)) throw RunTimeError(kPathFileAccessError, path, "It is not a regular file.");
+  if (!S_ISREG(status.st_mode)) {
+    throw ImportError(kPathFileAccessError, path, {Words("Import", "It is not a regular file.")});
+  }
   return file;
 }
 
@@ -87,7 +89,8 @@ void TakeFolder(const std::string& folder, const Take& take) {
     std::error_code ignored;
     if (at->is_regular_file(ignored)) files.push_back(at->path().string());
     if (files.size() > kMostFiles) {
-      throw RunTimeError(kPathFileAccessError, folder, "A folder with at most 10000 files was expected.");
+      throw ImportError(kPathFileAccessError, folder,
+                        {Words("Import", "A folder with at most 10000 files was expected.")});
     }
   }
   if (error) throw RunTimeError::FromErrno(error.value(), folder);

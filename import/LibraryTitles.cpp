@@ -6,8 +6,8 @@
 #include "BookTitles.h"
 #include "CodePage.h"
 #include "FlowingText.h"
+#include "ImportError.h"
 #include "LineReader.h"
-#include "RunTimeError.h"
 #include "TitleLanguages.h"
 #include "Utf8.h"
 
@@ -55,8 +55,9 @@ BookTitleList ReadTitlesFile(const std::string& path) {
   for (std::size_t book = 1; book <= kBooks; ++book) {
     std::string_view line;
     if (!NextTitleLine(lines, line)) {
-      throw RunTimeError(kInputPastEnd, path,
-                         "The titles of 66 books were expected, " + std::to_string(book - 1) + " found.");
+      throw ImportError(
+          kInputPastEnd, path,
+          {Words("Import", "The titles of 66 books were expected, %1 found."), {std::to_string(book - 1)}});
     }
     const std::string title = ParseBookTitle(lines, line).title;
     titles[book] = IsUtf8(title) ? title : CodePage().Decode(title);

@@ -14,6 +14,7 @@
 #include "FileHandle.h"
 #include "FileLock.h"
 #include "FlowingText.h"
+#include "ImportError.h"
 #include "ImportedText.h"
 #include "JointChange.h"
 #include "LibraryTitles.h"
@@ -22,7 +23,6 @@
 #include "OwnLibrary.h"
 #include "Paths.h"
 #include "Replacement.h"
-#include "RunTimeError.h"
 #include "StoredSettings.h"
 #include "Text.h"
 #include "TextLanguage.h"
@@ -61,8 +61,8 @@ std::string AbsoluteFolder(const std::string& folder) {
 std::string ChosenFolder(const LibraryRequest& request) {
   const std::string folder = request.folder.empty() ? OwnLibraryFolder() : request.folder;
   if (!folder.empty()) return AbsoluteFolder(folder);
-  throw RunTimeError(kPathNotFound, "library",
-                     "HOME names no folder that it could be in. Give one with --into FOLDER.");
+  throw ImportError(kPathNotFound, "library",
+                    {Words("Import", "HOME names no folder that it could be in. Give one with --into FOLDER.")});
 }
 
 // A language's code as pages declare it: "eng" is "en".
@@ -344,7 +344,8 @@ FileHandle TakeLibrary(const LibraryPlan& plan, Doing doing) {
   const bool isTaken = lock.IsOpen() && (doing == Doing::kPlan ? IsLockHeld(lock.Get())
                                                                : !LockFile(lock.Get(), std::chrono::milliseconds(0)));
   if (isTaken || ReadIfThere(plan.catalogue).value_or("") != plan.catalogueBefore) {
-    throw RunTimeError(kPermissionDenied, plan.folder, "Another import is writing into this library. Import again.");
+    throw ImportError(kPermissionDenied, plan.folder,
+                      {Words("Import", "Another import is writing into this library. Import again.")});
   }
   return lock;
 }

@@ -235,7 +235,7 @@ void LinesForm::Read(std::string_view piece) {
     const std::size_t end = piece.find('\n');
     if (m_rest.size() + std::min(end, piece.size()) > LineReader::kLongestLine) {
       m_builder.SetLine(m_line + 1);
-      m_builder.Fail("a line of at most 4 MiB was expected");
+      m_builder.Fail({Words("Import", "a line of at most 4 MiB was expected")});
     }
     if (end == std::string_view::npos) {
       m_rest += piece;
@@ -297,12 +297,13 @@ void LinesForm::TakeMore(std::string_view line) {
 
 void LinesForm::FailQuote() {
   m_builder.SetLine(m_recordLine);
-  m_builder.Fail("a closing quote was expected: " + Quoted(m_record));
+  m_builder.Fail({Words("Import", "a closing quote was expected: %1"), {Quoted(m_record)}});
 }
 
 void LinesForm::TakeRecord(std::string_view line) {
   const auto row = m_columns ? SplitRow(line, *m_columns, m_fields) : std::nullopt;
-  if (!row) m_builder.Fail("a verse such as \"GEN 1:1 In the beginning\" was expected: " + Quoted(line));
+  if (!row)
+    m_builder.Fail({Words("Import", "a verse such as \"GEN 1:1 In the beginning\" was expected: %1"), {Quoted(line)}});
   TakeRow(*row);
 }
 

@@ -146,7 +146,8 @@ XmlForm::Part OsisForm::BeginVerse(const XmlElement& element) {
   const std::string_view id = TrimBlanks(element.Get("osisID").empty() ? start : element.Get("osisID"));
   m_goesOn = false;
   const OsisReference place = ParseVerseReference(id);
-  if (place.verse.empty()) Builder().Fail("the osisID of a verse, such as \"Gen.1.1\", was expected: " + Quoted(id));
+  if (place.verse.empty())
+    Builder().Fail({Words("Import", "the osisID of a verse, such as \"Gen.1.1\", was expected: %1"), {Quoted(id)}});
   GoTo(place.book, place.chapter);
   Builder().BeginVerse(FieldOf(place, id));
   return start.empty() ? Part::kVerse : Part::kPass;

@@ -130,7 +130,8 @@ void TextDecoder::ChooseEncoding(const std::string& charset) {
 void TextDecoder::OpenNamed(const std::string& charset) {
   if (AsciiLower(charset).starts_with("utf-16")) return;
   if (!IsKnown(charset)) {
-    throw TextFault("the name of a charset, such as windows-1251, was expected: " + Quoted(charset), 1);
+    throw TextFault(
+        {Words("Import", "the name of a charset, such as windows-1251, was expected: %1"), {Quoted(charset)}}, 1);
   }
   OpenConverter(charset);
 }
@@ -166,8 +167,9 @@ bool TextDecoder::Next(std::string_view& piece) {
   }
   m_isGiven = true;
   if (m_text.empty() && m_faultLine != 0) {
-    throw TextFault("text in " + m_encoding + " was expected; give the charset of the file with --charset NAME",
-                    m_faultLine);
+    throw TextFault(
+        {Words("Import", "text in %1 was expected; give the charset of the file with --charset NAME"), {m_encoding}},
+        m_faultLine);
   }
   piece = m_text;
   return !m_text.empty();

@@ -134,7 +134,8 @@ void UsfmForm::TakeArgument(std::string_view text) {
 
 void UsfmForm::NeedBook(const char* marker, const std::string& argument) const {
   if (m_hasBook) return;
-  m_builder.Fail(std::string("\\id and the code of a book were expected before ") + marker + " " + Quoted(argument));
+  m_builder.Fail(
+      {Words("Import", "\\id and the code of a book were expected before %1 %2"), {marker, Quoted(argument)}});
 }
 
 void UsfmForm::EndArgument() {
@@ -188,7 +189,8 @@ void UsfmForm::BeginMarker(std::string_view name) {
     case MarkerKind::kCharacter:
     case MarkerKind::kLeftOutCharacter:
       if (!m_note.empty()) return;
-      if (m_styles.size() >= kLongestMarker) m_builder.Fail("character styles at most 40 deep were expected");
+      if (m_styles.size() >= kLongestMarker)
+        m_builder.Fail({Words("Import", "character styles at most 40 deep were expected")});
       m_styles.push_back({std::string(name), kind == MarkerKind::kLeftOutCharacter});
       return;
     case MarkerKind::kCell:

@@ -61,8 +61,8 @@ void XmlForm::BeginLeftOut(Part part, const XmlElement& element) {
 void XmlForm::EndLeftOutBefore(const XmlElement& verse) {
   if (m_leftOutPart != Part::kHeading) {
     m_builder.SetLine(m_reader.Line());
-    m_builder.Fail("the end of " + m_leftOutName + " (line " + std::to_string(m_leftOutLine) +
-                   ") was expected before " + std::string(verse.Name()));
+    m_builder.Fail({Words("Import", "the end of %1 (line %2) was expected before %3"),
+                    {m_leftOutName, std::to_string(m_leftOutLine), std::string(verse.Name())}});
   }
   m_parts.insert(m_parts.end(), static_cast<std::size_t>(std::exchange(m_leftOut, 0)), Part::kBlock);
 }

@@ -99,7 +99,8 @@ void XmlReader::OnStart(void* self, const xmlChar* name, const xmlChar* /*prefix
   XmlReader& reader = *static_cast<XmlReader*>(self);
   reader.Guarded([&] {
     if (reader.m_depth >= kDeepest) {
-      throw TextFault("elements at most " + std::to_string(kDeepest) + " deep were expected", reader.Line());
+      throw TextFault({Words("Import", "elements at most %1 deep were expected"), {std::to_string(kDeepest)}},
+                      reader.Line());
     }
     if (reader.m_opened.size() == reader.m_depth) reader.m_opened.emplace_back();
     Opened& opened = reader.m_opened[reader.m_depth++];
@@ -125,8 +126,13 @@ void XmlReader::EndElement(std::string_view name) {
     return;
   }
   if (!m_handler.PutsUpWithEnd(name)) {
-    throw TextFault("well-formed XML was expected: the end of " +
-                        (m_depth == 0 ? "the file" : m_opened[m_depth - 1].name) + ", not of " + std::string(name),
+    const std::string found(name);
+    if (m_depth == 0) {
+      throw TextFault({Words("Import", "well-formed XML was expected: the end of the file, not of %1"), {found}},
+                      Line());
+    }
+    throw TextFault({Words("Import", "well-formed XML was expected: the end of %1, not of %2"),
+                     {m_opened[m_depth - 1].name, found}},
                     Line());
   }
   m_hasMisfits = true;
@@ -141,8 +147,8 @@ void XmlReader::EndElement(std::string_view name) {
 
 void XmlReader::FailAtEnd() const {
   const Opened& last = m_opened[m_depth - 1];
-  throw TextFault("well-formed XML was expected: the end of " + last.name + " (line " + std::to_string(last.line) +
-                      "), not of the file",
+  throw TextFault({Words("Import", "well-formed XML was expected: the end of %1 (line %2), not of the file"),
+                   {last.name, std::to_string(last.line)}},
                   Line());
 }
 
@@ -162,7 +168,7 @@ void XmlReader::TakeError(const xmlError& error) {
     if (isCut && m_depth != 0) FailAtEnd();
     std::string why = error.message != nullptr ? error.message : "it cannot be read";
     while (why.ends_with('\n') || why.ends_with(' ')) why.pop_back();
-    throw TextFault("well-formed XML was expected: " + why,
+    throw TextFault({Words("Import", "well-formed XML was expected: %1"), {why}},
                     error.line > 0 ? static_cast<std::size_t>(error.line) : Line());
   });
 }
@@ -178,7 +184,8 @@ void XmlReader::OnEntity(void* self, const xmlChar* name, int /*type*/, const xm
                          const xmlChar* /*systemId*/, xmlChar* /*content*/) {
   XmlReader& reader = *static_cast<XmlReader*>(self);
   reader.Guarded([&] {
-    throw TextFault("a text without entities of its own was expected: " + Quoted(View(name)), reader.Line());
+    throw TextFault({Words("Import", "a text without entities of its own was expected: %1"), {Quoted(View(name))}},
+                    reader.Line());
   });
 }
 

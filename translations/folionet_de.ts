@@ -107,6 +107,166 @@
         <source>Left out, as it is no verse: %1</source>
         <translation>Ausgelassen, da es kein Vers ist: %1</translation>
     </message>
+    <message>
+        <source>Paths that stay in the archive were expected: %1</source>
+        <translation>Pfade, die im Archiv bleiben, wurden erwartet: %1</translation>
+    </message>
+    <message>
+        <source>At most %1 files were expected.</source>
+        <translation>Höchstens %1 Dateien wurden erwartet.</translation>
+    </message>
+    <message>
+        <source>An archive that unpacks into at most 512 MiB was expected.</source>
+        <translation>Ein Archiv, das entpackt höchstens 512 MiB groß ist, wurde erwartet.</translation>
+    </message>
+    <message>
+        <source>A sound archive was expected.</source>
+        <translation>Ein unbeschädigtes Archiv wurde erwartet.</translation>
+    </message>
+    <message>
+        <source>A sound archive was expected: %1</source>
+        <translation>Ein unbeschädigtes Archiv wurde erwartet: %1</translation>
+    </message>
+    <message>
+        <source>the code or the name of a book was expected</source>
+        <translation>Kürzel oder Name eines Buches wurde erwartet</translation>
+    </message>
+    <message>
+        <source>there are more than 1000 different names of books</source>
+        <translation>Es gibt mehr als 1000 verschiedene Namen von Büchern</translation>
+    </message>
+    <message>
+        <source>a book was expected before chapter %1</source>
+        <translation>vor Kapitel %1 wurde ein Buch erwartet</translation>
+    </message>
+    <message>
+        <source>a chapter from 1 to 255 was expected: %1</source>
+        <translation>ein Kapitel von 1 bis 255 wurde erwartet: %1</translation>
+    </message>
+    <message>
+        <source>a book was expected before verse %1</source>
+        <translation>vor Vers %1 wurde ein Buch erwartet</translation>
+    </message>
+    <message>
+        <source>a chapter was expected before verse %1</source>
+        <translation>vor Vers %1 wurde ein Kapitel erwartet</translation>
+    </message>
+    <message>
+        <source>the number of a verse was expected: %1</source>
+        <translation>die Nummer eines Verses wurde erwartet: %1</translation>
+    </message>
+    <message>
+        <source>a verse of at most 1 MiB was expected</source>
+        <translation>ein Vers von höchstens 1 MiB wurde erwartet</translation>
+    </message>
+    <message>
+        <source>at most 255 verses in a chapter were expected</source>
+        <translation>höchstens 255 Verse in einem Kapitel wurden erwartet</translation>
+    </message>
+    <message>
+        <source>a text with verses was expected; there is none</source>
+        <translation>ein Text mit Versen wurde erwartet; es gibt keinen Vers</translation>
+    </message>
+    <message>
+        <source>verses of one of the 66 books were expected; the books are others, such as %1</source>
+        <translation>Verse aus einem der 66 Bücher wurden erwartet; es sind andere Bücher, etwa %1</translation>
+    </message>
+    <message>
+        <source>A free number from 1 to 999 was expected for the translation.</source>
+        <translation>Eine freie Nummer von 1 bis 999 wurde für die Übersetzung erwartet.</translation>
+    </message>
+    <message>
+        <source>It is longer than 64 MiB.</source>
+        <translation>Er ist länger als 64 MiB.</translation>
+    </message>
+    <message>
+        <source>A Bible text was expected: USFM, USX, USFX, OSIS, Zefania XML, or one verse a line.</source>
+        <translation>Ein Bibeltext wurde erwartet: USFM, USX, USFX, OSIS, Zefania XML oder ein Vers je Zeile.</translation>
+    </message>
+    <message>
+        <source>Files of one form were expected: this one is %1, %2 is %3.</source>
+        <translation>Dateien einer Form wurden erwartet: Diese ist %1, %2 ist %3.</translation>
+    </message>
+    <message>
+        <source>It is not a regular file.</source>
+        <translation>Es ist keine gewöhnliche Datei.</translation>
+    </message>
+    <message>
+        <source>A folder with at most 10000 files was expected.</source>
+        <translation>Ein Ordner mit höchstens 10000 Dateien wurde erwartet.</translation>
+    </message>
+    <message>
+        <source>The titles of 66 books were expected, %1 found.</source>
+        <translation>Die Titel von 66 Büchern wurden erwartet, %1 gefunden.</translation>
+    </message>
+    <message>
+        <source>HOME names no folder that it could be in. Give one with --into FOLDER.</source>
+        <translation>HOME nennt keinen Ordner, in dem sie liegen könnte. Nennen Sie einen mit --into FOLDER.</translation>
+    </message>
+    <message>
+        <source>Another import is writing into this library. Import again.</source>
+        <translation>Ein anderer Import schreibt in diese Bibliothek. Importieren Sie noch einmal.</translation>
+    </message>
+    <message>
+        <source>a line of at most 4 MiB was expected</source>
+        <translation>eine Zeile von höchstens 4 MiB wurde erwartet</translation>
+    </message>
+    <message>
+        <source>a closing quote was expected: %1</source>
+        <translation>ein schließendes Anführungszeichen wurde erwartet: %1</translation>
+    </message>
+    <message>
+        <source>a verse such as &quot;GEN 1:1 In the beginning&quot; was expected: %1</source>
+        <translation>ein Vers wie „GEN 1:1 Am Anfang“ wurde erwartet: %1</translation>
+    </message>
+    <message>
+        <source>the osisID of a verse, such as &quot;Gen.1.1&quot;, was expected: %1</source>
+        <translation>die osisID eines Verses, etwa „Gen.1.1“, wurde erwartet: %1</translation>
+    </message>
+    <message>
+        <source>the name of a charset, such as windows-1251, was expected: %1</source>
+        <translation>der Name eines Zeichensatzes, etwa windows-1251, wurde erwartet: %1</translation>
+    </message>
+    <message>
+        <source>text in %1 was expected; give the charset of the file with --charset NAME</source>
+        <translation>Text in %1 wurde erwartet; nennen Sie den Zeichensatz der Datei mit --charset NAME</translation>
+    </message>
+    <message>
+        <source>\id and the code of a book were expected before %1 %2</source>
+        <translation>vor %1 %2 wurden \id und das Kürzel eines Buches erwartet</translation>
+    </message>
+    <message>
+        <source>character styles at most 40 deep were expected</source>
+        <translation>höchstens 40 ineinander liegende Zeichenformate wurden erwartet</translation>
+    </message>
+    <message>
+        <source>the end of %1 (line %2) was expected before %3</source>
+        <translation>vor %3 wurde das Ende von %1 (Zeile %2) erwartet</translation>
+    </message>
+    <message>
+        <source>elements at most %1 deep were expected</source>
+        <translation>höchstens %1 ineinander liegende Elemente wurden erwartet</translation>
+    </message>
+    <message>
+        <source>well-formed XML was expected: the end of the file, not of %1</source>
+        <translation>wohlgeformtes XML wurde erwartet: das Ende der Datei, nicht von %1</translation>
+    </message>
+    <message>
+        <source>well-formed XML was expected: the end of %1, not of %2</source>
+        <translation>wohlgeformtes XML wurde erwartet: das Ende von %1, nicht von %2</translation>
+    </message>
+    <message>
+        <source>well-formed XML was expected: the end of %1 (line %2), not of the file</source>
+        <translation>wohlgeformtes XML wurde erwartet: das Ende von %1 (Zeile %2), nicht der Datei</translation>
+    </message>
+    <message>
+        <source>well-formed XML was expected: %1</source>
+        <translation>wohlgeformtes XML wurde erwartet: %1</translation>
+    </message>
+    <message>
+        <source>a text without entities of its own was expected: %1</source>
+        <translation>ein Text ohne eigene Entitäten wurde erwartet: %1</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

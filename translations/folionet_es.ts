@@ -107,6 +107,166 @@
         <source>Left out, as it is no verse: %1</source>
         <translation>Se omite, pues no es ningún versículo: %1</translation>
     </message>
+    <message>
+        <source>Paths that stay in the archive were expected: %1</source>
+        <translation>Se esperaban rutas que no salgan del archivo comprimido: %1</translation>
+    </message>
+    <message>
+        <source>At most %1 files were expected.</source>
+        <translation>Se esperaban como máximo %1 archivos.</translation>
+    </message>
+    <message>
+        <source>An archive that unpacks into at most 512 MiB was expected.</source>
+        <translation>Se esperaba un archivo comprimido que ocupe como máximo 512 MiB al extraerlo.</translation>
+    </message>
+    <message>
+        <source>A sound archive was expected.</source>
+        <translation>Se esperaba un archivo comprimido sin daños.</translation>
+    </message>
+    <message>
+        <source>A sound archive was expected: %1</source>
+        <translation>Se esperaba un archivo comprimido sin daños: %1</translation>
+    </message>
+    <message>
+        <source>the code or the name of a book was expected</source>
+        <translation>se esperaba el código o el nombre de un libro</translation>
+    </message>
+    <message>
+        <source>there are more than 1000 different names of books</source>
+        <translation>hay más de 1000 nombres distintos de libros</translation>
+    </message>
+    <message>
+        <source>a book was expected before chapter %1</source>
+        <translation>se esperaba un libro antes del capítulo %1</translation>
+    </message>
+    <message>
+        <source>a chapter from 1 to 255 was expected: %1</source>
+        <translation>se esperaba un capítulo del 1 al 255: %1</translation>
+    </message>
+    <message>
+        <source>a book was expected before verse %1</source>
+        <translation>se esperaba un libro antes del versículo %1</translation>
+    </message>
+    <message>
+        <source>a chapter was expected before verse %1</source>
+        <translation>se esperaba un capítulo antes del versículo %1</translation>
+    </message>
+    <message>
+        <source>the number of a verse was expected: %1</source>
+        <translation>se esperaba el número de un versículo: %1</translation>
+    </message>
+    <message>
+        <source>a verse of at most 1 MiB was expected</source>
+        <translation>se esperaba un versículo de 1 MiB como máximo</translation>
+    </message>
+    <message>
+        <source>at most 255 verses in a chapter were expected</source>
+        <translation>se esperaban como máximo 255 versículos en un capítulo</translation>
+    </message>
+    <message>
+        <source>a text with verses was expected; there is none</source>
+        <translation>se esperaba un texto con versículos; no hay ninguno</translation>
+    </message>
+    <message>
+        <source>verses of one of the 66 books were expected; the books are others, such as %1</source>
+        <translation>se esperaban versículos de uno de los 66 libros; los libros son otros, como %1</translation>
+    </message>
+    <message>
+        <source>A free number from 1 to 999 was expected for the translation.</source>
+        <translation>Se esperaba un número libre del 1 al 999 para la traducción.</translation>
+    </message>
+    <message>
+        <source>It is longer than 64 MiB.</source>
+        <translation>Ocupa más de 64 MiB.</translation>
+    </message>
+    <message>
+        <source>A Bible text was expected: USFM, USX, USFX, OSIS, Zefania XML, or one verse a line.</source>
+        <translation>Se esperaba un texto bíblico: USFM, USX, USFX, OSIS, Zefania XML o un versículo por línea.</translation>
+    </message>
+    <message>
+        <source>Files of one form were expected: this one is %1, %2 is %3.</source>
+        <translation>Se esperaban archivos de un mismo formato: este es %1, %2 es %3.</translation>
+    </message>
+    <message>
+        <source>It is not a regular file.</source>
+        <translation>No es un archivo normal.</translation>
+    </message>
+    <message>
+        <source>A folder with at most 10000 files was expected.</source>
+        <translation>Se esperaba una carpeta con 10000 archivos como máximo.</translation>
+    </message>
+    <message>
+        <source>The titles of 66 books were expected, %1 found.</source>
+        <translation>Se esperaban los títulos de 66 libros y hay %1.</translation>
+    </message>
+    <message>
+        <source>HOME names no folder that it could be in. Give one with --into FOLDER.</source>
+        <translation>HOME no indica ninguna carpeta en la que pueda estar. Indique una con --into FOLDER.</translation>
+    </message>
+    <message>
+        <source>Another import is writing into this library. Import again.</source>
+        <translation>Otra importación está escribiendo en esta biblioteca. Importe de nuevo.</translation>
+    </message>
+    <message>
+        <source>a line of at most 4 MiB was expected</source>
+        <translation>se esperaba una línea de 4 MiB como máximo</translation>
+    </message>
+    <message>
+        <source>a closing quote was expected: %1</source>
+        <translation>se esperaban unas comillas de cierre: %1</translation>
+    </message>
+    <message>
+        <source>a verse such as &quot;GEN 1:1 In the beginning&quot; was expected: %1</source>
+        <translation>se esperaba un versículo como «GEN 1:1 En el principio»: %1</translation>
+    </message>
+    <message>
+        <source>the osisID of a verse, such as &quot;Gen.1.1&quot;, was expected: %1</source>
+        <translation>se esperaba el osisID de un versículo, como «Gen.1.1»: %1</translation>
+    </message>
+    <message>
+        <source>the name of a charset, such as windows-1251, was expected: %1</source>
+        <translation>se esperaba el nombre de un juego de caracteres, como windows-1251: %1</translation>
+    </message>
+    <message>
+        <source>text in %1 was expected; give the charset of the file with --charset NAME</source>
+        <translation>se esperaba texto en %1; indique el juego de caracteres del archivo con --charset NAME</translation>
+    </message>
+    <message>
+        <source>\id and the code of a book were expected before %1 %2</source>
+        <translation>se esperaban \id y el código de un libro antes de %1 %2</translation>
+    </message>
+    <message>
+        <source>character styles at most 40 deep were expected</source>
+        <translation>se esperaban como máximo 40 estilos de carácter anidados</translation>
+    </message>
+    <message>
+        <source>the end of %1 (line %2) was expected before %3</source>
+        <translation>se esperaba el final de %1 (línea %2) antes de %3</translation>
+    </message>
+    <message>
+        <source>elements at most %1 deep were expected</source>
+        <translation>se esperaban como máximo %1 elementos anidados</translation>
+    </message>
+    <message>
+        <source>well-formed XML was expected: the end of the file, not of %1</source>
+        <translation>se esperaba XML bien formado: el final del archivo, no el de %1</translation>
+    </message>
+    <message>
+        <source>well-formed XML was expected: the end of %1, not of %2</source>
+        <translation>se esperaba XML bien formado: el final de %1, no el de %2</translation>
+    </message>
+    <message>
+        <source>well-formed XML was expected: the end of %1 (line %2), not of the file</source>
+        <translation>se esperaba XML bien formado: el final de %1 (línea %2), no el del archivo</translation>
+    </message>
+    <message>
+        <source>well-formed XML was expected: %1</source>
+        <translation>se esperaba XML bien formado: %1</translation>
+    </message>
+    <message>
+        <source>a text without entities of its own was expected: %1</source>
+        <translation>se esperaba un texto sin entidades propias: %1</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

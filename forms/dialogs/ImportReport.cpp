@@ -61,10 +61,14 @@ QString FoundInText(const ImportedBible& bible, const LibraryPlan& plan) {
   return lines.join('\n');
 }
 
-QString WhyNoImport(const RunTimeError& error) {
+QString WhyNoImport(const ImportError& error) {
   QStringList lines{ToQt(error.Item())};
   if (error.Line() != 0) lines[0] += ", " + Import::Line(error.Line());
-  lines += error.Detail().empty() ? ToQt(StandardMessage(error.Number())) : ToQt(error.Detail());
+  if (!error.What().IsEmpty()) {
+    lines += ToQt(error.Place()) + OfImport(error.What());
+  } else {
+    lines += error.Detail().empty() ? ToQt(StandardMessage(error.Number())) : ToQt(error.Detail());
+  }
   lines += Import::Nothing();
   return lines.join('\n');
 }

@@ -2,9 +2,9 @@
 
 #include <QString>
 
+#include "ImportError.h"
 #include "ImportedBible.h"
 #include "LibraryWriter.h"
-#include "RunTimeError.h"
 
 namespace folionet {
 
@@ -13,7 +13,7 @@ namespace folionet {
 QString FoundInText(const ImportedBible& bible, const LibraryPlan& plan);
 
 // Why it cannot be read or written: file and line, and what was expected.
-QString WhyNoImport(const RunTimeError& error);
+QString WhyNoImport(const ImportError& error);
 
 // The sentence in the desktop's language.
 QString OfImport(const Sentence& sentence);

@@ -13,7 +13,7 @@ namespace folionet {
 struct TextImport::Shared {
   std::shared_ptr<const ImportedBible> bible;
   std::shared_ptr<const LibraryPlan> plan;
-  std::optional<RunTimeError> failure;
+  std::optional<ImportError> failure;
 
   std::mutex mutex;
   std::string fileAtHand;  // under the mutex
@@ -83,17 +83,19 @@ void TextImport::Begin(Step step, const std::shared_ptr<Shared>& shared, const T
       [shared, task](const std::atomic<bool>& isWanted) {
         try {
           task(*shared, [&isWanted] { return isWanted.load(); });
-        } catch (const RunTimeError& error) {
+        } catch (const ImportError& error) {
           shared->failure = error;
+        } catch (const RunTimeError& error) {
+          shared->failure = ImportError(error);
         } catch (const std::exception& error) {
-          shared->failure = RunTimeError(kOutOfMemory, {}, error.what());
+          shared->failure = ImportError(RunTimeError(kOutOfMemory, {}, error.what()));
         }
       },
       [this] { End(); });
 }
 
 void TextImport::End() {
-  if (const std::optional<RunTimeError>& failure = m_shared->failure) {
+  if (const std::optional<ImportError>& failure = m_shared->failure) {
     emit Failed(*failure);
     return;
   }

@@ -6,9 +6,9 @@
 #include <string>
 
 #include "BackgroundWork.h"
+#include "ImportError.h"
 #include "ImportedBible.h"
 #include "LibraryWriter.h"
-#include "RunTimeError.h"
 
 namespace folionet {
 
@@ -42,7 +42,7 @@ class TextImport : public QObject {
   void Found();
   void Planned();
   void Written();
-  void Failed(const RunTimeError& error);
+  void Failed(const ImportError& error);
 
  private:
   struct Shared;

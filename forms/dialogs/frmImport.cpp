@@ -163,7 +163,7 @@ bool frmImport::IsRefused() {
   return true;
 }
 
-void frmImport::Fail(const RunTimeError& error) {
+void frmImport::Fail(const ImportError& error) {
   m_isImportWanted = false;
   m_ui->txtFound->setPlainText(WhyNoImport(error));
   ShowStep();

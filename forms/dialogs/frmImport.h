@@ -48,7 +48,7 @@ class frmImport : public LoadedDialog {
   void ShowFound();
   bool IsRefused();
   void WriteOrAsk();
-  void Fail(const RunTimeError& error);
+  void Fail(const ImportError& error);
 
   UserInterface& m_boxes;
   std::unique_ptr<Ui::frmImport> m_ui;

@@ -27,6 +27,7 @@
 #include "Escapes.h"
 #include "FactLines.h"
 #include "FormTest.h"
+#include "frmImport.h"
 #include "frmMain.h"
 
 namespace folionet {
@@ -268,6 +269,21 @@ TEST_F(Texts, OpenWithinTheScreen) {
     const QWidget& widget = Get(control);
     EXPECT_LE(widget.mapTo(m_form.get(), widget.rect().bottomRight()).y(), m_form->height()) << control;
   }
+}
+
+TEST_F(Texts, OfAFailedImportAreInTheLanguageOfTheForm) {
+  const std::string file = m_home.Write("bad", "\\id GEN\n\\c 999\n");
+  ASSERT_TRUE(Start());
+  Click("cmdImport");
+  Give("frmImport.cmdFile", file);
+  ASSERT_TRUE(QTest::qWaitFor([&] { return !Get<frmImport>("frmImport.").IsBusy(); }));
+  const std::string shown = Shown("frmImport.txtFound");
+  const bool isEnglish = shown.find("Nothing was written.") != std::string::npos;
+  const std::string english =
+      file + ", line 2\nGenesis: a chapter from 1 to 255 was expected: \"999\"\nNothing was written.";
+  EXPECT_EQ(shown == english, isEnglish) << shown;
+  EXPECT_EQ(shown.find("was expected") != std::string::npos, isEnglish) << shown;
+  EXPECT_NE(shown.find("Genesis: "), std::string::npos) << shown;
 }
 
 }  // namespace

@@ -6,6 +6,7 @@
 
 #include "FormTest.h"
 #include "OptionTable.h"
+#include "RunTimeError.h"
 #include "TextBox.h"
 #include "frmMain.h"
 
@@ -273,6 +274,18 @@ TEST_F(Settings, ARefusedRestoreChangesNothing) {
   EXPECT_FALSE(m_hasEnded);
   EXPECT_EQ(m_state->options.frmPAgeTitles.txtPageTitles, "mine");
   EXPECT_EQ(m_store->Text("PageTitles"), "mine");
+}
+
+// Else the exit would store again what was removed.
+TEST_F(Settings, ARestoreThatFailsBehindTheRemovalEndsTheProgramToo) {
+  Store("PageTitles", "mine");
+  ASSERT_TRUE(Start());
+  m_ui.onPanel = [](int, std::string_view) { throw RunTimeError(kDeviceIoError, "panel"); };
+  m_ui.yesNo = {true};
+  Click("cmdRestoreAll");
+  EXPECT_EQ(m_ui.log, (Log{"Restore Factory Settings?", "57 cmdRestoreAll_Click", "Restart Folionet"}));
+  EXPECT_TRUE(m_hasEnded);
+  EXPECT_EQ(Stored("PageTitles"), "<missing>");
 }
 
 TEST_F(Settings, AreReadWhereTheyCannotBeWritten) {

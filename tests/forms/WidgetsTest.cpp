@@ -19,9 +19,12 @@
 #include <QTimer>
 #include <cstdlib>
 #include <filesystem>
+#include <new>
 #include <set>
+#include <string>
 #include <utility>
 
+#include "BackgroundWork.h"
 #include "FormUi.h"
 #include "QtText.h"
 #include "StatusPanels.h"
@@ -164,6 +167,15 @@ TEST(StatusPanelsTest, TellTheStepAtHandAndMoveTheBar) {
   EXPECT_LE(moves, time.elapsed() / 30) << "a timer may be early";
   panels.EndRun(CompileOutcome::kFailed);
   EXPECT_TRUE(progress.isHidden());
+}
+
+TEST(BackgroundWorkTest, AnExceptionIsAnEndAndWhatIsBegunAnewCountsAlone) {
+  std::string ends;
+  BackgroundWork work;
+  work.Start([](const auto& /*isWanted*/) {}, [&] { ends += "dropped "; });
+  work.Start([](const auto& /*isWanted*/) { throw std::bad_alloc(); }, [&] { ends += "failed "; });
+  EXPECT_TRUE(QTest::qWaitFor([&] { return !work.IsRunning(); }));
+  EXPECT_EQ(ends, "failed ");
 }
 
 TEST(VolumesTest, AreThoseThatAPersonKnows) {

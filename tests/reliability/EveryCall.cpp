@@ -45,7 +45,7 @@ std::vector<std::string> KindsAt(const Job& job, const std::vector<Call>& all, s
   std::vector<std::string> kinds = KindsOf(all[at - 1]);
   if (kinds.size() > job.mostKinds) kinds.resize(job.mostKinds);
   if (!job.isSample) return kinds;
-  static const std::set<std::string> writing{"create", "write", "fsync", "rename"};
+  static const std::set<std::string> writing{"chmod", "close", "create", "fsync", "ftruncate", "rename", "write"};
   if (!writing.contains(all[at - 1].name)) return {};
   return {kinds[at % kinds.size()]};
 }
@@ -98,17 +98,20 @@ void EveryCall::TryAll(const Job& job, const Check& check) {
   names.erase("link");  // where the file system has files without a name
   EXPECT_EQ(names, job.calls);
   m_after = Visible(first);
-  std::size_t runs = 0;
-  std::size_t kills = 0;
+  Counts counts;
   for (std::size_t at = 1; at <= calls.size(); ++at) {
     for (const std::string& kind : KindsAt(job, calls, at)) {
       SCOPED_TRACE("call " + std::to_string(at) + ", " + calls[at - 1].name + " " + calls[at - 1].path + ", " + kind);
       Try(job, {at, kind}, check);
-      ++runs;
-      if (m_isKilled) ++kills;
+      ++counts.runs;
+      if (m_isKilled) ++counts.kills;
     }
   }
-  std::printf("%s: %zu calls, %zu runs, %zu of them killed\n", job.name.c_str(), calls.size(), runs, kills);
+  PrintCounts(job.name, calls.size(), counts);
+}
+
+void EveryCall::PrintCounts(const std::string& job, std::size_t calls, const Counts& counts) {
+  std::printf("| %s | %zu | %zu | %zu |\n", job.c_str(), calls, counts.runs, counts.kills);
 }
 
 void EveryCall::Try(const Job& job, const Fault& fault, const Check& check) {

@@ -44,6 +44,13 @@ class EveryCall : public testing::Test {
   // anew; `note` is the file that tells of a change at work.
   void TryOneChange(const Job& job, const std::string& note, const Command& start);
 
+  // A line of the table in docs/reliability.md.
+  struct Counts {
+    std::size_t runs = 0;
+    std::size_t kills = 0;
+  };
+  static void PrintCounts(const std::string& job, std::size_t calls, const Counts& counts);
+
   void ExpectReport(const FaultyRun& run, const std::string& name) const;
 
   FolderContent m_before;  // what the folder holds before the job and after it

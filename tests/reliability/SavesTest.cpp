@@ -122,7 +122,7 @@ TEST_F(Imports, ReplaceAllFilesOfATextOrNone) {
                  "unlink", "write"},
                 {},
                 false,
-                2};
+                3};
   TryOneChange(job, "/.Folionet.import", {FOLIONET_CLI, "list", "languages", "--versalia-path=lib"});
 }
 

@@ -57,9 +57,11 @@ void XmlForm::BeginLeftOut(Part part, const XmlElement& element) {
   m_leftOutLine = m_reader.Line();
 }
 
-// A heading may hold the start of a verse. What else does so has not ended, and would take the verses with it.
+// A heading may hold the start of a verse, and a sidebar verses of its own. A note does not: it has not ended, and
+// would take the verses with it.
 void XmlForm::EndLeftOutBefore(const XmlElement& verse) {
   if (m_leftOutPart != Part::kHeading) {
+    if (m_leftOutName != "note") return;
     m_builder.SetLine(m_reader.Line());
     m_builder.Fail({Words("Import", "the end of %1 (line %2) was expected before %3"),
                     {m_leftOutName, std::to_string(m_leftOutLine), std::string(verse.Name())}});

@@ -1,6 +1,7 @@
 #include "Swatches.h"
 
 #include <QLabel>
+#include <QLocale>
 #include <cmath>
 
 #include "Contrast.h"
@@ -30,7 +31,7 @@ void ShowSwatch(const Swatch& swatch, QLabel& label) {
 QString ContrastAdvice(Colour colour, Colour background) {
   const double ratio = ContrastRatio(colour, background);
   // Cut, not rounded: a ratio must not look readable when it is not.
-  const QString text = QStringLiteral("%1 : 1").arg(std::floor(ratio * 100) / 100, 0, 'f', 2);
+  const QString text = QLocale().toString(std::floor(ratio * 100) / 100, 'f', 2) + QStringLiteral(" : 1");
   if (ratio >= kReadableContrast) return text;
   return text + (IsBestOnBlack(background) ? QObject::tr(", hard to read: choose a darker color")
                                            : QObject::tr(", hard to read: choose a lighter color"));

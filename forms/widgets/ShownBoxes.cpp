@@ -67,6 +67,14 @@ void KeepToTheStart(const QWidget& form) {
   }
 }
 
+// On a mirrored desktop the full stop of a hint would stand before its last line.
+void KeepInOrder(QPlainTextEdit& box) {
+  const QString hint = box.placeholderText();
+  if (box.layoutDirection() != Qt::RightToLeft || hint.isEmpty() || hint.isRightToLeft()) return;
+  const QChar mark(0x200E);  // left to right
+  if (!hint.endsWith(mark)) box.setPlaceholderText(hint + mark);
+}
+
 }  // namespace
 
 void DressBoxes(QWidget& form) {
@@ -74,6 +82,7 @@ void DressBoxes(QWidget& form) {
   KeepToTheStart<QLineEdit>(form);
   Dress<QLineEdit>(form);
   Dress<TextBox>(form);
+  for (QPlainTextEdit* box : form.findChildren<QPlainTextEdit*>()) KeepInOrder(*box);
   for (QComboBox* list : form.findChildren<QComboBox*>()) GiveRoom(*list);
   // Of plain boxes those with a hint alone: the sample of the page's text has colours of its own.
   for (QPlainTextEdit* box : form.findChildren<QPlainTextEdit*>()) {

@@ -990,22 +990,6 @@ Ersetzen? Um sie zu behalten, antworten Sie mit Nein und geben diesem Text einen
 <context>
     <name>folionet::frmKeywords</name>
     <message>
-        <source>&amp;Index Page</source>
-        <translation>&amp;Indexseite</translation>
-    </message>
-    <message>
-        <source>I&amp;ndex Page</source>
-        <translation>I&amp;ndexseite</translation>
-    </message>
-    <message>
-        <source>META Keywords - Index page</source>
-        <translation>META-Schlüsselwörter – Indexseite</translation>
-    </message>
-    <message>
-        <source>META Description Index page</source>
-        <translation>META-Beschreibung der Indexseite</translation>
-    </message>
-    <message>
         <source>META Keywords of the index page</source>
         <translation>META-Stichwörter der Indexseite</translation>
     </message>

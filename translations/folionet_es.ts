@@ -990,22 +990,6 @@ Replace it? To keep it, answer No and give this text another stem.</source>
 <context>
     <name>folionet::frmKeywords</name>
     <message>
-        <source>&amp;Index Page</source>
-        <translation>Página ín&amp;dice</translation>
-    </message>
-    <message>
-        <source>I&amp;ndex Page</source>
-        <translation>Pági&amp;na índice</translation>
-    </message>
-    <message>
-        <source>META Keywords - Index page</source>
-        <translation>Palabras clave META – Página índice</translation>
-    </message>
-    <message>
-        <source>META Description Index page</source>
-        <translation>Descripción META de la página índice</translation>
-    </message>
-    <message>
         <source>META Keywords of the index page</source>
         <translation>Palabras clave META de la página índice</translation>
     </message>

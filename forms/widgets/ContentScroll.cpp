@@ -13,6 +13,10 @@ constexpr int kGap = 6;  // between the content and its scroll bar
 
 }  // namespace
 
+int ScrolledContent::heightForWidth(int width) const {
+  return layout() == nullptr ? -1 : layout()->totalMinimumHeightForWidth(width);
+}
+
 ContentScroll::ContentScroll(QWidget* parent) : QScrollArea(parent) {
   setWidgetResizable(true);
   setFrameShape(QFrame::NoFrame);
@@ -67,7 +71,8 @@ void ContentScroll::KeepOffBar() {
 void ScrollAllButButtons(QDialog& dialog) {
   auto* outer = qobject_cast<QVBoxLayout*>(dialog.layout());
   if (outer == nullptr || outer->count() < 2) return;
-  auto* content = new QWidget(&dialog);  // in the same window all the time, which keeps the order of the Tab key
+  auto* content =
+      new ScrolledContent(&dialog);  // in the same window all the time, which keeps the order of the Tab key
   auto* inner = new QVBoxLayout(content);
   inner->setContentsMargins(0, 0, 0, 0);
   while (outer->count() > 1) {

@@ -5,6 +5,16 @@
 
 namespace folionet {
 
+// What scrolls: lists and texts in it give way before a bar is needed.
+class ScrolledContent : public QWidget {
+  Q_OBJECT
+
+ public:
+  using QWidget::QWidget;
+
+  int heightForWidth(int width) const override;
+};
+
 // Content that scrolls where there is not room enough for it, and takes up all of what there is. It asks for the size
 // of its content, frameless, and on its ground.
 class ContentScroll : public QScrollArea {

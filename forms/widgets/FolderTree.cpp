@@ -91,7 +91,7 @@ bool FolderTree::SetPath(const QString& path) {
 
 QSize FolderTree::sizeHint() const { return SizeFor(6); }
 
-QSize FolderTree::minimumSizeHint() const { return SizeFor(4); }
+QSize FolderTree::minimumSizeHint() const { return SizeFor(3); }
 
 QSize FolderTree::SizeFor(int lines) const {
   constexpr int kColumns = 20;

@@ -1,5 +1,6 @@
 #include "FormStyle.h"
 
+#include <QAbstractButton>
 #include <QAbstractScrollArea>
 #include <QApplication>
 #include <QFrame>
@@ -49,8 +50,24 @@ class OutlineStyle : public QProxyStyle {
         return QProxyStyle::drawPrimitive(element, &copy, painter, widget);
       }
     }
+    const bool isFocus = option != nullptr && (option->state & State_HasFocus) != 0;
+    if (isFocus && element == PE_FrameFocusRect && qobject_cast<const QAbstractButton*>(widget) != nullptr) {
+      return DrawRing(option->rect, RingColour(option->palette), 1, *painter);
+    }
     QProxyStyle::drawPrimitive(element, option, painter, widget);
     if (drawsOutline && element == PE_FrameGroupBox) DrawGroupFrame(*option, *painter);
+    // A list's own line has its focus by the list, which draws it.
+    if (isFocus && element == PE_PanelLineEdit && widget != nullptr && widget->focusProxy() == nullptr) {
+      DrawRing(option->rect, RingColour(option->palette), kRingWidth, *painter);
+    }
+  }
+
+  void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
+                          const QWidget* widget) const override {
+    QProxyStyle::drawComplexControl(control, option, painter, widget);
+    const bool isFocus = option != nullptr && (option->state & State_HasFocus) != 0;
+    if (!isFocus || (control != CC_ComboBox && control != CC_ToolButton && control != CC_SpinBox)) return;
+    DrawRing(option->rect, RingColour(option->palette), kRingWidth, *painter);
   }
 
   void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
@@ -109,21 +126,27 @@ class OutlineStyle : public QProxyStyle {
     return ring;
   }
 
-  // The style draws no focus around what scrolls, and one that cannot be seen on a button in another colour.
+  // The style draws no focus around what scrolls, and shows a button that has it as one that Return would press.
   static void DrawFocus(ControlElement element, const QStyleOption& option, QPainter& painter, const QWidget* widget) {
-    constexpr qreal kWidth = 2;
-    constexpr qreal kInside = 3.5;
+    constexpr int kInside = 3;
     const QPalette& palette = option.palette;
-    const bool isButton = element == CE_PushButton &&
-                          palette.color(QPalette::ButtonText).lightness() > palette.color(QPalette::Button).lightness();
+    const bool isButton = element == CE_PushButton;
     const bool isFrame = element == CE_ShapedFrame && qobject_cast<const QAbstractScrollArea*>(widget) != nullptr;
     if (!isButton && !isFrame) return;
+    if (isFrame) return DrawRing(option.rect, RingColour(palette), kRingWidth, painter);
+    const QRect within = option.rect.adjusted(kInside, kInside, -kInside, -kInside);
+    DrawRing(within, palette.color(QPalette::ButtonText), 1, painter);
+  }
+
+  static constexpr qreal kRingWidth = 2;
+
+  static void DrawRing(const QRect& around, const QColor& colour, qreal width, QPainter& painter) {
+    const qreal inside = width / 2;
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
-    const QColor ring = isButton ? palette.color(QPalette::ButtonText) : RingColour(palette);
-    painter.setPen(QPen(ring, isButton ? 1 : kWidth));
-    const qreal inside = isButton ? kInside : kWidth / 2;
-    painter.drawRoundedRect(QRectF(option.rect).adjusted(inside, inside, -inside, -inside), 2, 2);
+    painter.setPen(QPen(colour, width));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(QRectF(around).adjusted(inside, inside, -inside, -inside), 2, 2);
     painter.restore();
   }
 

@@ -71,9 +71,9 @@ TEST_F(Texts, NameEveryControlAndGiveItsOwnKey) {
     SCOPED_TRACE(FromQt(form->objectName()));
     std::set<const QWidget*> named;
     std::set<QChar> keys;
-    std::vector<const QWidget*> tabbed;
+    std::vector<QWidget*> tabbed;
     const bool isMain = form == forms.first();
-    for (const QWidget* control : form->findChildren<QWidget*>()) {
+    for (QWidget* control : form->findChildren<QWidget*>()) {
       if (!isMain && control->window() != form) continue;  // of a dialog's own dialog
       const QString caption = control->property("text").toString() + control->property("title").toString();
       const auto* label = qobject_cast<const QLabel*>(control);
@@ -88,7 +88,13 @@ TEST_F(Texts, NameEveryControlAndGiveItsOwnKey) {
       const bool isOurs = !control->objectName().isEmpty() && !control->objectName().startsWith("qt_");
       if (isOurs && (control->focusPolicy() & Qt::TabFocus) != 0) tabbed.push_back(control);
     }
-    for (const QWidget* control : tabbed) EXPECT_TRUE(named.contains(control)) << FromQt(control->objectName());
+    std::set<QString> heard;
+    for (QWidget* control : tabbed) {
+      EXPECT_TRUE(named.contains(control)) << FromQt(control->objectName());
+      const QString name = QAccessible::queryAccessibleInterface(control)->text(QAccessible::Name);
+      EXPECT_TRUE(!name.isEmpty() && heard.insert(name).second)
+          << FromQt(control->objectName() + " is heard as " + name);
+    }
     EXPECT_GT(keys.size(), isMain ? 15U : 0U);
   }
 }

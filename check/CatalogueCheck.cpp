@@ -48,7 +48,8 @@ void CheckRecord(const RecordReader& records, const CatalogueRecord& record, Che
   ModGlob& glob = library.glob;
   const std::string& path = records.Lines().Path();
   const std::size_t line = records.Lines().LineNumber();
-  const std::string text = record.isListed ? VerseFile(glob, library.codePage, record.stem) : std::string();
+  const std::string text =
+      record.isListed ? VerseFile(glob, library.codePage, record.stem, library.folders) : std::string();
   const auto imported = record.isListed ? CheckImported(records, record.name, text, library) : ImportedText();
   if (!imported) return;
   // The name of an imported translation is in UTF-8 where windows-1252 lacks its characters.

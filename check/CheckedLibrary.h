@@ -5,6 +5,7 @@
 
 #include "CodePage.h"
 #include "Finding.h"
+#include "FolderLister.h"
 #include "TypedFindings.h"
 #include "modGlob.h"
 
@@ -18,6 +19,7 @@ struct CheckedLibrary {
   TypedTexts typed;        // for the pages, with the language that they declare
   Findings& findings;
   std::string translation = {};  // that is examined alone
+  FolderLister folders{};        // which an examination changes nothing in
 
   // `line` is counted from 1; 0 is a fault of the file as a whole.
   void Add(const char* kind, const std::string& path, std::size_t line, Sentence what, BiblePlace place = {});

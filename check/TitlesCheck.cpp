@@ -4,7 +4,6 @@
 #include <set>
 
 #include "BookTitles.h"
-#include "CharacterReferences.h"
 #include "Installation.h"
 #include "LineReader.h"
 #include "PageFile.h"
@@ -24,9 +23,7 @@ class PageNameCheck {
   PageNameCheck(const LineReader& lines, CheckedLibrary& library) : m_lines(lines), m_library(library) {}
 
   void Add(int book, const std::string& title) {
-    const CodePage& codePage = m_library.codePage;
-    const std::string name =
-        WithoutCharacterReferences(codePage.Decode(ChapterPageName(title, book, 1, false, codePage)));
+    const std::string name = PageNames({title}, false, m_library.codePage).OnDisk(1, 1);
     if (title.empty() || !IsPageName(name) || name.size() > kLongestFileName) {
       m_library.Add("bad-title", m_lines.Path(), m_lines.LineNumber(),
                     {"The title cannot be a file name: %1", {Quoted(title)}}, {book});

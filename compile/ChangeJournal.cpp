@@ -19,7 +19,7 @@
 namespace folionet {
 namespace {
 
-constexpr char kDoubtful = '!';
+constexpr char kDoubtful = '/';  // with which no name begins
 constexpr std::size_t kLongest = std::size_t{16} << 20;
 
 // One number for each folder, whatever way leads to it (FNV-1a of its real path).

@@ -10,7 +10,10 @@
 #include "FileHandle.h"
 #include "FolderReader.h"
 #include "GeneratorLine.h"
+#include "OutputFolder.h"
 #include "PageNames.h"
+#include "SiteFolder.h"
+#include "Sitemap.h"
 #include "WholeFile.h"
 
 namespace folionet {
@@ -34,6 +37,7 @@ struct OldFile {
   bool isOurs = false;
   bool isIndex = false;
   std::string translation;  // UTF-8; empty when the page does not tell it
+  std::string head;
 };
 
 // The pages of chapters have this version whatever the program has; index pages have the program's.
@@ -53,7 +57,7 @@ OldFile ReadOldFile(int folder, const char* name, Look look) {
   struct stat status {};
   if (!file.IsOpen() || fstat(file.Get(), &status) != 0) return old;
   old.isFolder = S_ISDIR(status.st_mode);
-  std::string head;
+  std::string& head = old.head;
   if (!S_ISREG(status.st_mode) || !ReadAll(file.Get(), head, kGeneratorHead, 0)) return old;
   old.isOurs = IsOurPage(head);
   old.isIndex = old.isOurs && Between(head, kGenerator, "\"") != kChapterVersion;
@@ -67,9 +71,16 @@ OldFile ReadOldFile(int folder, const char* name, Look look) {
   return old;
 }
 
+// Empty when it cannot be read, which the compile tells.
+std::string StartOfStyleSheet(const CompileRequest& request) {
+  std::string start;
+  const FileHandle file = FileHandle::Open(StyleSheetOf(request).c_str(), O_RDONLY | O_NONBLOCK);
+  return file.IsOpen() && ReadAll(file.Get(), start, kAlikeStart, 0) ? start : std::string();
+}
+
 }  // namespace
 
-std::optional<FolderFacts> LookIntoFolder(const std::string& folder, const std::set<std::string>& written,
+std::optional<FolderFacts> LookIntoFolder(const std::string& folder, const WrittenFiles& written,
                                           const std::function<bool()>& isWanted) {
   constexpr std::size_t kAskedPages = 100;  // one in its first form among them is enough
   FolderFacts facts;
@@ -81,7 +92,8 @@ std::optional<FolderFacts> LookIntoFolder(const std::string& folder, const std::
     if (!isWanted()) return std::nullopt;
     const std::string name = entry->d_name;
     if (entry->d_type == DT_DIR) continue;
-    const bool isWritten = written.contains(name);
+    const auto of = written.find(name);
+    const bool isWritten = of != written.end();
     OldFile old;
     const bool isFile = entry->d_type == DT_REG || entry->d_type == DT_UNKNOWN;
     if (isFile && (isWritten || IsHtmlName(name))) {
@@ -93,7 +105,7 @@ std::optional<FolderFacts> LookIntoFolder(const std::string& folder, const std::
       ++facts.pages;
       if (!old.translation.empty()) (old.isIndex ? ofIndexPages : facts.translations).insert(old.translation);
     } else if (isWritten) {
-      facts.replaced.push_back(name);
+      if (of->second.empty() || !old.head.starts_with(of->second)) facts.replaced.push_back(name);
     } else {
       ++facts.others;
     }
@@ -102,16 +114,18 @@ std::optional<FolderFacts> LookIntoFolder(const std::string& folder, const std::
   return facts;
 }
 
-std::set<std::string> FilesOfSite(const CompileRequest& request, const ModGlob& glob, const CodePage& codePage) {
+WrittenFiles FilesOfSite(const CompileRequest& request, const ModGlob& glob, const CodePage& codePage) {
   const PageNames names(glob.cboStartBook, request.options.chkUse83, codePage);
-  std::set<std::string> files{IndexFileName(request.options.txthttpRoot)};
+  WrittenFiles files{{IndexFileName(request.options.txthttpRoot), {}}};
   const ChapterCounts chapters = CountChapters(glob);
   for (int book = 1; book <= static_cast<int>(glob.cboStartBook.size()); ++book) {
     ForEachChapter(glob, book, chapters[static_cast<std::size_t>(book)],
-                   [&](int chapter) { files.insert(names.OnDisk(book, chapter)); });
+                   [&](int chapter) { files.try_emplace(names.OnDisk(book, chapter)); });
   }
-  if (request.options.chkCSS) files.insert("default.css");
-  if (!request.sitemapAddress.empty()) files.insert("sitemap.xml");
+  if (request.options.chkCSS) files.insert_or_assign("default.css", StartOfStyleSheet(request));
+  if (!request.sitemapAddress.empty()) {
+    files.insert_or_assign("sitemap.xml", BuildSitemap(request.sitemapAddress, {}).substr(0, kAlikeStart));
+  }
   return files;
 }
 

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <functional>
+#include <map>
 #include <optional>
 #include <set>
 #include <string>
@@ -14,24 +15,28 @@
 
 namespace folionet {
 
+// The names of files that a compile writes, each with what one of ours begins with that is no page; of a page, which
+// its GENERATOR line tells, with an empty text.
+using WrittenFiles = std::map<std::string, std::string>;
+
 // What lies in an output folder before a compile, as a person wants to know it before anything is written.
 struct FolderFacts {
   bool isThere = false;                // whether there is such a folder, and it can be read
   std::size_t pages = 0;               // of an earlier compile: files with our GENERATOR line
   std::set<std::string> translations;  // the names that those pages tell (UTF-8): of all index pages, else of one page
-  std::vector<std::string> replaced;   // files that are no pages of ours and bear names that the compile will write
+  std::vector<std::string> replaced;   // files that are not ours and bear names that the compile will write
   std::size_t others = 0;              // all other files; they stay untouched
 };
 
 // Looks through a folder. `written` are the names that the compile will write, as FilesOfSite gives them. A folder of
 // 100,000 files takes about a second, so that `isWanted` is asked between files: once it says no, nothing is given.
 // Folders in the folder are passed over, and so is what cannot be read. Nothing is thrown.
-std::optional<FolderFacts> LookIntoFolder(const std::string& folder, const std::set<std::string>& written,
+std::optional<FolderFacts> LookIntoFolder(const std::string& folder, const WrittenFiles& written,
                                           const std::function<bool()>& isWanted);
 
-// The names of all files that a compile of this request writes: the index page, the chapter pages by the chapter index,
+// All files that a compile of this request writes: the index page, the chapter pages by the chapter index,
 // the style sheet and the sitemap. Needs the lists and the chapters of `glob`, and the page's code page.
-std::set<std::string> FilesOfSite(const CompileRequest& request, const ModGlob& glob, const CodePage& codePage);
+WrittenFiles FilesOfSite(const CompileRequest& request, const ModGlob& glob, const CodePage& codePage);
 
 // The translation whose pages lie in the output folder of a request, as its index page, or else the page of its start
 // book, tells it (UTF-8); empty where neither does. Takes no time to speak of.

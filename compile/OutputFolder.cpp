@@ -56,9 +56,13 @@ void ForgetChanges(const CompileRequest& request, RunFolder& folder) {
   if (folder.journal && !request.listsChanges) folder.journal->Forget();
 }
 
+std::string StyleSheetOf(const CompileRequest& request) {
+  return request.styleSheet.empty() ? request.programFolder + kStyleSheet : request.styleSheet;
+}
+
 void CopyCSS(const CompileRequest& request, RunFolder& folder) {
   if (!IsFolderChosen(request)) return;
-  const std::string source = request.styleSheet.empty() ? request.programFolder + kStyleSheet : request.styleSheet;
+  const std::string source = StyleSheetOf(request);
   const std::string content = WorkAbout(Subject::kStyleSheet, [&] { return ReadWholeFile(source); });
   OpenOutputFolder(request, folder);
   if (folder.site.IsSameFile(kStyleSheet, source)) {

@@ -23,6 +23,9 @@ struct RunFolder {
 // the request says so, and keeps it for this run alone, so that no two compiles mix their pages. Throws RunTimeError.
 void OpenOutputFolder(const CompileRequest& request, RunFolder& folder);
 
+// The style sheet that is copied into the site.
+std::string StyleSheetOf(const CompileRequest& request);
+
 // Writes a copy of the program folder's default.css, with one further CR LF, into the output folder. With no folder
 // chosen yet nothing is done. Throws RunTimeError; kFileAlreadyOpen when both are the same file.
 void CopyCSS(const CompileRequest& request, RunFolder& folder);

@@ -17,6 +17,7 @@
 #include "OutputFolder.h"
 #include "PageNames.h"
 #include "Paths.h"
+#include "RunTimeError.h"
 #include "TypedFindings.h"
 
 namespace folionet {
@@ -59,7 +60,13 @@ class FactFinder {
     const std::string& folder = m_request.txtOutputPath;
     if (folder.empty() || !FolderExists(folder)) return old;
     const std::unordered_set<std::string> known = NamesOfRun();
-    for (std::string& name : FolderEntries(folder)) {
+    std::vector<std::string> names;
+    try {
+      names = FolderEntries(folder);
+    } catch (const RunTimeError&) {
+      return old;  // of a folder that may be written and not be read nothing is known
+    }
+    for (std::string& name : names) {
       if (!IsHtmlName(name) || known.contains(name)) continue;
       const FileHandle file = FileHandle::Open((folder + name).c_str(), O_RDONLY | O_NONBLOCK);
       if (IsOurPage(file)) old.insert(std::move(name));

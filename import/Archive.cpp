@@ -29,6 +29,7 @@ struct ArchiveLibrary {
     library.Find(open, "archive_read_open");
     library.Find(nextHeader, "archive_read_next_header");
     library.Find(readData, "archive_read_data");
+    library.Find(format, "archive_format");
     library.Find(errorText, "archive_error_string");
     library.Find(pathname, "archive_entry_pathname");
     library.Find(pathnameUtf8, "archive_entry_pathname_utf8");
@@ -47,6 +48,7 @@ struct ArchiveLibrary {
   decltype(archive_read_open)* open = nullptr;
   decltype(archive_read_next_header)* nextHeader = nullptr;
   decltype(archive_read_data)* readData = nullptr;
+  decltype(archive_format)* format = nullptr;
   decltype(archive_error_string)* errorText = nullptr;
   decltype(archive_entry_pathname)* pathname = nullptr;
   decltype(archive_entry_pathname_utf8)* pathnameUtf8 = nullptr;
@@ -94,6 +96,9 @@ class ArchiveReader : public ByteSource {
       if (Library().filetype(entry) == AE_IFREG || Library().filetype(entry) == 0) return true;
     }
   }
+
+  // Whether it is no archive but a file that is only compressed, which has no name of its own.
+  bool IsAlone() const { return Library().format(m_archive.get()) == ARCHIVE_FORMAT_RAW; }
 
   std::size_t Read(char* bytes, std::size_t size) override {
     const la_ssize_t count = Library().readData(m_archive.get(), bytes, size);
@@ -158,8 +163,7 @@ void ForEachEntry(const std::string& file, ByteSource& bytes, const std::functio
   ArchiveReader reader(file, bytes);
   std::string name;
   while (reader.Next(name)) {
-    // A file that is only compressed has no name of its own.
-    const bool isAlone = name == "data";
+    const bool isAlone = reader.IsAlone();
     std::string shown = file;
     if (!isAlone) shown.append(": ").append(name);
     take({shown, isAlone, &reader});

@@ -43,6 +43,10 @@ bool IsOfStem(char c) {
   return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '-' || c == '_';
 }
 
+bool IsStem(std::string_view text) {
+  return text.size() <= kLongestStem && std::all_of(text.begin(), text.end(), IsOfStem);
+}
+
 bool IsOfLanguage(char c) { return c != '_' && IsOfStem(c); }
 
 bool HasControl(std::string_view text) {
@@ -100,8 +104,9 @@ std::string StemOf(std::string_view name) {
   return initials.size() > kFewestWords ? initials : all.substr(0, kLongestStem / 3);
 }
 
+// One for each thread: texts are planned beside each other.
 const CodePage& Windows1252() {
-  static const CodePage page;
+  thread_local const CodePage page;
   return page;
 }
 
@@ -147,6 +152,8 @@ std::string FreeStem(const LibraryPlan& plan, const CatalogueText& catalogue) {
 void ChooseStem(const LibraryRequest& request, const CatalogueText& catalogue, LibraryPlan& plan) {
   const CatalogueEntry* sameName = catalogue.WithName(CatalogueName(plan.text.name));
   if (sameName == nullptr) sameName = catalogue.WithName(plan.text.name);
+  if (sameName != nullptr && (sameName->stem.empty() || !IsStem(sameName->stem)))
+    sameName = nullptr;  // nothing of ours, and it may lead elsewhere
   if (request.stem.empty()) {
     plan.stem = sameName != nullptr ? sameName->stem : FreeStem(plan, catalogue);
   } else {
@@ -262,7 +269,7 @@ Sentence RefusalOf(const LibraryRequest& request) {
   if (request.name.size() > kLongestName) {
     return {Words("Import", "%1: a text of at most 200 bytes was expected."), {kName}};
   }
-  if (request.stem.size() > kLongestStem || !std::all_of(request.stem.begin(), request.stem.end(), IsOfStem)) {
+  if (!IsStem(request.stem)) {
     return {Words("Import", "%1: at most 60 letters and digits of ASCII, \"-\" and \"_\" were expected: %2"),
             {"--stem", Quoted(request.stem)}};
   }

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <array>
 
-#include "CodePage.h"
+#include "CharsetLabels.h"
 #include "LineReader.h"
 #include "RunTimeError.h"
 #include "Text.h"
@@ -75,8 +75,11 @@ std::string WideEncoding(std::string_view head) {
   return {};
 }
 
-bool IsNameOfUtf8(const std::string& name) {
-  return EqualIgnoringCase(name, "utf-8") || EqualIgnoringCase(name, "utf8");
+// What ICU calls the charset that a text says it is in, as browsers read it: windows-1252 is iso-8859-1 to them.
+std::string IcuNameOf(const std::string& charset) {
+  const std::string_view encoding = BrowserEncoding(charset);
+  const bool isOwn = encoding.empty() || encoding == "replacement" || encoding.starts_with("utf-16");
+  return isOwn ? charset : IcuName(encoding);
 }
 
 bool IsKnown(const std::string& charset) {
@@ -137,19 +140,15 @@ void TextDecoder::OpenNamed(const std::string& charset) {
 }
 
 void TextDecoder::OpenConverter(const std::string& charset) {
-  if (IsNameOfUtf8(charset)) return;
+  const std::string name = IcuNameOf(charset);
+  if (name == "utf-8") return;
   UErrorCode status = U_ZERO_ERROR;
-  m_from.reset(ucnv_open(charset.c_str(), &status));
+  m_from.reset(ucnv_open(name.c_str(), &status));
   if (U_FAILURE(status)) {
     throw RunTimeError(kInvalidProcedureCall, "Charset " + Quoted(charset),
                        "The name of a charset, such as windows-1251, was expected.");
   }
   m_encoding = charset;
-  // What calls itself iso-8859-1 is windows-1252, as browsers read it.
-  if (const std::string name = CodePage(charset).Name(); EqualIgnoringCase(name, "windows-1252")) {
-    const bool isLatin = EqualIgnoringCase(charset, "iso-8859-1") || EqualIgnoringCase(charset, "us-ascii");
-    if (isLatin) m_from.reset(ucnv_open(name.c_str(), &status));
-  }
   m_to.reset(ucnv_open("UTF-8", &status));
   ucnv_setToUCallBack(m_from.get(), UCNV_TO_U_CALLBACK_STOP, nullptr, nullptr, nullptr, &status);
   if (U_FAILURE(status)) throw RunTimeError(kOutOfMemory, "Charset " + Quoted(charset));

@@ -147,10 +147,9 @@ bool SiteFolder::HasText(const std::string& name, const FileHandle& file, std::s
 // A file of ours is a page with our GENERATOR line, or one that begins like the new one; of an empty one there is
 // nothing to keep.
 bool SiteFolder::IsOurs(const std::string& name, const FileHandle& file, std::string_view text) {
-  constexpr std::size_t kAlike = 64;
   if (m_old.empty() && !ReadAll(file.Get(), m_old, kGeneratorHead, 0)) Check(errno, name);
-  const std::string_view old = std::string_view(m_old).substr(0, kAlike);
-  return m_old.empty() || IsOurPage(m_old) || (old.size() == kAlike && old == text.substr(0, kAlike));
+  const std::string_view old = std::string_view(m_old).substr(0, kAlikeStart);
+  return m_old.empty() || IsOurPage(m_old) || (old.size() == kAlikeStart && old == text.substr(0, kAlikeStart));
 }
 
 PageChange SiteFolder::WriteOld(const std::string& name, OldFile old, std::string_view text) {

@@ -16,6 +16,9 @@
 
 namespace folionet {
 
+// A file that is no page is one of ours where so much of it begins like the one that is written.
+inline constexpr std::size_t kAlikeStart = 64;
+
 // What writing a file does to it.
 enum class PageChange { kNew, kChanged, kSame };
 

@@ -12,14 +12,13 @@
 namespace folionet {
 
 std::string EncodingCode(std::string_view entry, std::string_view what) {
-  const std::size_t start = entry.find_first_not_of(" \t");
-  const std::size_t blank = start == std::string_view::npos ? start : entry.find(' ', start);
-  if (blank == std::string_view::npos) {
+  const std::string_view code = CodeOfEntry(entry);
+  if (code.empty()) {
     throw RunTimeError(kInvalidProcedureCall, std::string(what),
                        "A code, a blank and a description were expected: \"" + std::string(entry) + "\"")
         .About(Subject::kSetting);
   }
-  return std::string(entry.substr(start, blank - start));
+  return std::string(code);
 }
 
 namespace {

@@ -1,5 +1,6 @@
 #include "CharsetLabels.h"
 
+#include <array>
 #include <string>
 #include <utility>
 
@@ -73,6 +74,17 @@ std::string_view BrowserEncoding(std::string_view label) {
     if (labels.find(wanted) != std::string_view::npos) return encoding;
   }
   return {};
+}
+
+std::string IcuName(std::string_view encoding) {
+  constexpr std::array<std::array<const char*, 2>, 4> kNames{{{"big5", "big5-hkscs"},
+                                                              {"euc-kr", "windows-949"},
+                                                              {"iso-8859-8-i", "iso-8859-8"},
+                                                              {"shift_jis", "windows-31j"}}};
+  for (const auto& [ours, icus] : kNames) {
+    if (encoding == ours) return icus;
+  }
+  return std::string(encoding);
 }
 
 }  // namespace folionet

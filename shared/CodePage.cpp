@@ -20,18 +20,6 @@ constexpr char kDefaultName[] = "windows-1252";
 
 void AppendUtf8(std::string& text, UChar32 character) { folionet::AppendUtf8(text, static_cast<char32_t>(character)); }
 
-// What ICU calls an encoding of the browsers, where it calls something narrower by their name.
-std::string IcuName(const std::string& encoding) {
-  constexpr std::array<std::array<const char*, 2>, 4> kNames{{{"big5", "big5-hkscs"},
-                                                              {"euc-kr", "windows-949"},
-                                                              {"iso-8859-8-i", "iso-8859-8"},
-                                                              {"shift_jis", "windows-31j"}}};
-  for (const auto& [ours, icus] : kNames) {
-    if (encoding == ours) return icus;
-  }
-  return encoding;
-}
-
 // iso-8859-16 from 0xA0 on, which ICU lacks and browsers know. The bytes before stand for themselves.
 constexpr std::array<char16_t, 96> kIso8859_16{
     0xA0,  0x104, 0x105, 0x141, 0x20AC, 0x201E, 0x160, 0xA7,  0x161, 0xA9,  0x218, 0xAB, 0x179, 0xAD,  0x17A, 0x17B,

@@ -56,6 +56,7 @@ std::optional<std::int16_t> LeadingInteger(std::string_view text) {
   if (first == std::string_view::npos) return 0;
   text.remove_prefix(first);
   if (text.front() == '+') text.remove_prefix(1);
+  if (text.substr(text.starts_with('-') ? 1 : 0, 1).find_first_of("0123456789.") == std::string_view::npos) return 0;
   // Nearly always the whole text is a small number.
   std::int16_t whole = 0;
   const auto [wholeEnd, wholeError] = std::from_chars(text.data(), text.data() + text.size(), whole);
@@ -64,7 +65,6 @@ std::optional<std::int16_t> LeadingInteger(std::string_view text) {
   const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value, std::chars_format::fixed);
   if (error == std::errc::invalid_argument) return 0;
   if (error == std::errc::result_out_of_range) return std::nullopt;
-  if (std::isnan(value)) return 0;
   const double rounded = RoundHalfEven(value);
   if (!(rounded >= kInt16Min && rounded <= kInt16Max)) return std::nullopt;
   return static_cast<std::int16_t>(rounded);

@@ -95,7 +95,7 @@ static_assert(kTable.size() <= kMostOptions);
 
 // A number's text without more digits than it needs: 12, 10.5
 std::string PlainText(double value) {
-  std::array<char, 32> buffer{};
+  std::array<char, 64> buffer{};  // the least number that is not 0 takes 48
   const auto result =
       std::to_chars(buffer.data(), buffer.data() + buffer.size(), static_cast<float>(value), std::chars_format::fixed);
   return {buffer.data(), result.ptr};
@@ -192,11 +192,17 @@ int CheckOption(OptionForm form, std::string_view text) {
       return reading.error == 0 && !isSingle ? kOverflow : reading.error;
     }
     case kEntry:
-      return text.find(' ') == std::string_view::npos ? kInvalidProcedureCall : 0;
+      return CodeOfEntry(text).empty() ? kInvalidProcedureCall : 0;
     case kText:
       break;
   }
   return 0;
+}
+
+std::string_view CodeOfEntry(std::string_view entry) {
+  entry.remove_prefix(std::min(entry.find_first_not_of(" \t"), entry.size()));
+  const std::size_t blank = entry.find(' ');
+  return blank == std::string_view::npos ? std::string_view() : entry.substr(0, blank);
 }
 
 std::string OptionText(const Option& option, const PageOptions& options) {

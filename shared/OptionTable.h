@@ -82,6 +82,10 @@ constexpr bool IsFreeText(OptionForm form) { return form == OptionForm::kText ||
 // 0 when `text` has the form; otherwise the number of the run-time error that reading it is.
 int CheckOption(OptionForm form, std::string_view text);
 
+// The code that an entry of the lists of encodings begins with, without the blanks before it; empty where no code with
+// a blank behind it is there.
+std::string_view CodeOfEntry(std::string_view entry);
+
 // The text that the option's field is stored as.
 std::string OptionText(const Option& option, const PageOptions& options);
 

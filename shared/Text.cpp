@@ -103,11 +103,8 @@ std::string Escaped(std::string_view text, std::string_view kept) {
 
 std::string Quoted(std::string_view text) {
   constexpr std::size_t kShown = 60;
-  std::size_t length = kShown;
-  while (length > kShown - 4 && !IsUtf8(text.substr(0, length))) --length;  // cuts no character in two
-  const bool isUtf8 = IsUtf8(text.substr(0, length));
-  const std::string shown =
-      isUtf8 ? std::string(text.substr(0, length)) : CodePage().DecodeForDisplay(text.substr(0, kShown));
+  const std::string_view part = CutToBytes(text, kShown);
+  const std::string shown = IsUtf8(part) ? std::string(part) : CodePage().DecodeForDisplay(text.substr(0, kShown));
   return "\"" + Escaped(shown) + (text.size() > kShown ? "..." : "") + "\"";
 }
 

@@ -75,9 +75,9 @@ std::string BookTitlesFile(const StoredSettings& store, const ModGlob& glob) {
 }
 
 void EncodeTitles(ModGlob& glob, const CodePage& codePage) {
-  for (std::string& title : glob.cboStartBook) {
-    title = codePage.Encode(IsUtf8(title) ? title : CodePage().Decode(title));
-  }
+  const auto encode = [&](std::string& text) { text = codePage.Encode(IsUtf8(text) ? text : CodePage().Decode(text)); };
+  std::for_each(glob.cboStartBook.begin(), glob.cboStartBook.end(), encode);
+  std::for_each(glob.BookCodes.begin(), glob.BookCodes.end(), encode);
   glob.cboEndBook = glob.cboStartBook;
 }
 

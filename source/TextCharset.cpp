@@ -1,5 +1,7 @@
 #include "TextCharset.h"
 
+#include <unicode/uloc.h>
+
 #include <algorithm>
 #include <array>
 #include <utility>
@@ -66,12 +68,22 @@ bool IsInOtherScript(std::string_view bytes) {
   return high > letters;
 }
 
+// Whether a code such as "zh-tw" is that of the language "zh-tw" or "zh".
+bool IsOfLanguage(std::string_view code, std::string_view language) {
+  constexpr std::size_t kLongest = 16;
+  if (language.find('-') != std::string_view::npos) return EqualIgnoringCase(code, language);
+  std::array<char, kLongest> own{};  // "ru" of "rus" too
+  UErrorCode status = U_ZERO_ERROR;
+  uloc_getLanguage(std::string(code).c_str(), own.data(), kLongest, &status);
+  return U_SUCCESS(status) && std::string_view(own.data()) == language;
+}
+
 // The entry that a text fits which is not in UTF-8.
 std::string EntryFor(std::string_view bytes, std::string_view pageLanguage) {
   const char* entry = "windows-1252 (ANSI Latin 1)";
   bool isLatin = true;
   for (const auto& [language, charset] : kCharsetsOfLanguages) {
-    if (!EqualIgnoringCase(pageLanguage.substr(0, language.size()), language)) continue;
+    if (!IsOfLanguage(pageLanguage, language)) continue;
     entry = charset;
     const std::string_view name = charset;
     isLatin = name.find("European") != std::string_view::npos || name.find("Baltic") != std::string_view::npos ||
@@ -101,8 +113,8 @@ TextSample SampleOfFile(const std::string& path) {
     if (IsAscii(bytes)) continue;
     // A character that the part cuts in two shows nothing: whole lines do.
     const bool isLast = bytes.size() < kChunk;
-    const std::size_t end = isLast ? bytes.size() : bytes.find_last_of("\r\n");
-    if (end == std::string::npos) break;
+    const std::size_t end = isLast ? bytes.size() : bytes.find_last_of("\r\n") + 1;
+    if (end == 0) break;
     TextSample sample = SampleOf(std::string_view(bytes).substr(0, end));
     if (sample.kind != TextKind::kAscii) return sample;
     if (!isLast) bytes.resize(end);

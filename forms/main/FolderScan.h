@@ -13,7 +13,7 @@ namespace folionet {
 // What is looked for: the facts of a folder for a compile that writes files of these names, and its index page.
 struct FolderQuestion {
   std::string folder;  // ends in the separator
-  std::set<std::string> written;
+  WrittenFiles written;
   std::string index;
 
   friend bool operator==(const FolderQuestion& left, const FolderQuestion& right) = default;

@@ -72,7 +72,7 @@ TEST(FolderFactsTest, TellWhatLiesInAFolder) {
       {{}, {}, {}, 0, {}},
       {{}, {"index.html", "genesis_1.html", "own.html"}, {"genesis_1.html", "index.html"}, 1, {}},
       {{"defaults"}, {}, {}, 0, {"King James Version"}},
-      {{"style-sheet"}, {}, {}, 3, {"King James Version"}},
+      {{"style-sheet"}, {}, {}, 2, {"King James Version"}},
       {{"russian"}, {"picture.png"}, {}, 1, {"Синодальный перевод"}},
       {{"defaults"}, {"index.html"}, {"index.html"}, 0, {"King James Version"}},
   };
@@ -88,7 +88,8 @@ TEST(FolderFactsTest, TellWhatLiesInAFolder) {
     const std::size_t pages = PagesOf(folder.Path()) - ownPages;
     std::filesystem::create_directory(folder.Path() + "pictures.html");
     SCOPED_TRACE(testing::PrintToString(c.sites) + testing::PrintToString(c.more));
-    auto facts = LookIntoFolder(folder.Path(), {"index.html", "genesis_1.html"}, [] { return true; });
+    auto facts = LookIntoFolder(folder.Path(), {{"index.html", ""}, {"genesis_1.html", ""}, {"default.css", "body {"}},
+                                [] { return true; });
     ASSERT_TRUE(facts && facts->isThere);
     EXPECT_EQ(facts->pages, pages);
     EXPECT_EQ(facts->others, c.others);

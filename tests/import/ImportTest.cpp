@@ -139,7 +139,7 @@ TEST(Text, IsInTheCharsetThatTheFileTells) {
        "1 1:1 a|"},
       {"\\id GEN\n\\ide 1251 - Cyrillic\n\\c 1\n\\v 1 \xC1", "1 1:1 Б|"},
       {"\\id GEN\n\\ide 1251\n\\c 1\n\\v 1 é", "1 1:1 é|"},  // turned into UTF-8 since
-      {"<?xml version='1.0' encoding='iso-8859-1'?><XMLBIBLE><BIBLEBOOK bnumber='1'><CHAPTER cnumber='1'><VERS "
+      {"<?xml version='1.0' encoding='latin1'?><XMLBIBLE><BIBLEBOOK bnumber='1'><CHAPTER cnumber='1'><VERS "
        "vnumber='1'>"
        "\x93\xE9</VERS></CHAPTER></BIBLEBOOK></XMLBIBLE>",
        "1 1:1 “é|"},

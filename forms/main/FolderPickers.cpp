@@ -3,6 +3,9 @@
 #include <QDir>
 #include <algorithm>
 #include <cerrno>
+#include <future>
+#include <thread>
+#include <utility>
 
 #include "CompileRequest.h"
 #include "FolderTree.h"
@@ -26,7 +29,10 @@ QString CleanPath(const std::string& path) { return QDir::cleanPath(ToQt(NativeP
 }  // namespace
 
 FolderPickers::FolderPickers(AppState& state, Ui::frmMain& controls, QObject* parent)
-    : QObject(parent), m_state(state), m_controls(controls) {
+    : QObject(parent),
+      askDisk([](const std::string& path) { FolderExists(path); }),
+      m_state(state),
+      m_controls(controls) {
   connect(m_controls.Drive1, &OpeningCombo::Opening, this, &FolderPickers::ListVolumes);
   connect(m_controls.Drive1, &QComboBox::activated, this, &FolderPickers::Drive1_Change);
   connect(m_controls.Dir1, &FolderTree::PathChosen, this, &FolderPickers::Dir1_Change);
@@ -62,11 +68,22 @@ void FolderPickers::ListVolumes() {
   }
 }
 
+// Throws RunTimeError when it does not answer; nothing waits for the thread then.
+void FolderPickers::AwaitDisk(const std::string& path) const {
+  std::packaged_task<void()> task([ask = askDisk, path] { ask(path); });
+  const std::future<void> answer = task.get_future();
+  std::thread(std::move(task)).detach();
+  if (answer.wait_for(patience) == std::future_status::timeout) {
+    throw RunTimeError(kDiskNotReady, path, "The disk does not answer.");
+  }
+}
+
 void FolderPickers::RestoreDrive() {
   if (!IsChosenFolder(m_state.options.main.Drive1)) return;
   const int item = m_controls.Drive1->findData(CleanPath(m_state.options.main.Drive1));
   try {
     if (item < 0) throw RunTimeError::FromErrno(ENODEV, m_state.options.main.Drive1);
+    AwaitDisk(m_state.options.main.Drive1);
     ListFolder(m_state.options.main.Drive1);
     ShowVolume(item);
   } catch (const RunTimeError& error) {
@@ -77,11 +94,14 @@ void FolderPickers::RestoreDrive() {
 void FolderPickers::RestoreFolder() {
   if (!IsChosenFolder(m_state.options.main.Dir1)) return;
   const QString folder = CleanPath(m_state.options.main.Dir1);
-  if (ShowFolder(folder)) {
-    Dir1_Change(folder);
-  } else {
-    ReportDrive(m_state.ui, RunTimeError(kPathNotFound, m_state.options.main.Dir1));
+  try {
+    AwaitDisk(FromQt(folder));
+    if (!ShowFolder(folder)) throw RunTimeError(kPathNotFound, m_state.options.main.Dir1);
+  } catch (const RunTimeError& error) {
+    ReportDrive(m_state.ui, error);
+    return;
   }
+  Dir1_Change(folder);
 }
 
 // Shows a folder of any volume: of the one shown when it is there, else of the one that it lies deepest in.
@@ -108,6 +128,7 @@ bool FolderPickers::ShowVolume(int item) {
 void FolderPickers::Drive1_Change(int item) {
   const QString path = m_controls.Drive1->itemData(item).toString();
   try {
+    AwaitDisk(FromQt(path));
     ListFolder(FromQt(path));
   } catch (const RunTimeError& error) {
     m_controls.Drive1->setCurrentIndex(m_controls.Drive1->findData(m_controls.Dir1->RootPath()));

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QObject>
+#include <chrono>
 #include <functional>
 #include <string>
 #include <vector>
@@ -37,10 +38,16 @@ class FolderPickers : public QObject {
 
   std::function<std::vector<Volume>()> volumes = MountedVolumes;
 
+  // Has the disk of a path answer, whatever the answer is, in a thread of its own. One that takes longer is reported as
+  // not ready: a server that is gone answers never, a disk that sleeps after some seconds.
+  std::function<void(const std::string& path)> askDisk;
+  std::chrono::milliseconds patience = std::chrono::seconds(10);
+
  signals:
   void Chosen();
 
  private:
+  void AwaitDisk(const std::string& path) const;
   void RestoreDrive();
   void RestoreFolder();
   void Drive1_Change(int item);

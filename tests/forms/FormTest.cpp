@@ -74,6 +74,10 @@ bool FormTest::Start() {
     m_whenOpen(dialog);
   };
   m_form->OptionDialogs().Get<frmEncoding>().openModal = [](QDialog& dialog) { dialog.show(); };
+  if (m_disk) {
+    m_form->Folders().askDisk = m_disk;
+    m_form->Folders().patience = {};
+  }
   m_form->Folders().volumes = [this] {
     const QString home = ToQt(m_home.Path());
     return std::vector<Volume>{{"Home", home.chopped(1)}, {"Computer", "/"}, {"Stick", home + "stick"}};

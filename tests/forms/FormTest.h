@@ -79,6 +79,7 @@ class FormTest : public testing::Test {
   Log m_opened;                              // dialogs, in their order
   std::function<void(QWidget&)> m_whenOpen;  // what a person does in a dialog of the main form
   bool m_hasEnded = false;
+  std::function<void(const std::string& path)> m_disk;  // what is asked in the place of disks, without patience
 
  private:
   QWidget& Find(const std::string& name) const;

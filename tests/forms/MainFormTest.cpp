@@ -9,6 +9,8 @@
 #include <QTimer>
 #include <algorithm>
 #include <ctime>
+#include <future>
+#include <string_view>
 
 #include "FactLines.h"
 #include "FolderPickers.h"
@@ -206,6 +208,20 @@ TEST_F(MainForm, RemembersAddressesFoldersAndPlaces) {
   emit sites->aboutToShow();
   EXPECT_EQ(FromQt(sites->actions()[0]->text()), "a&&b \u2014 " + m_home.Path().substr(0, m_home.Path().size() - 1));
   EXPECT_TRUE(sites->actions()[0]->isChecked());
+}
+
+TEST_F(MainForm, ADiskThatDoesNotAnswerDoesNotHoldTheStartUp) {
+  for (const char* key : {"Dir1", "Drive1"}) {
+    Remove("config/Folionet.ini");
+    Store(key, key == std::string_view("Dir1") ? m_home.Path() + "site" : "/");
+    std::promise<void> answer;
+    m_disk = [answered = answer.get_future().share()](const std::string& /*path*/) { answered.wait(); };
+    ASSERT_TRUE(Start());
+    answer.set_value();
+    EXPECT_EQ(m_ui.log, Log{"71 Drive_Change"}) << key;
+    EXPECT_EQ(Shown("txtOutputPath"), "");
+    EXPECT_EQ(Shown("Drive1").substr(0, 4), "Home");
+  }
 }
 
 TEST_F(MainForm, APreviewWithoutATemporaryFolderIsReportedAndTheNextHasOne) {

@@ -87,13 +87,16 @@ class FactFinder {
   void FindOldPages() {
     const std::set<std::string> old = OldPages();
     if (old.empty()) return;
-    m_facts.push_back(
-        Warning("old-pages",
-                {Words("QObject",
-                       "%1 pages of earlier compiles, such as %2, lie in the folder. This one does not write "
-                       "them, and its index page does not lead to them."),
-                 {std::to_string(old.size()), *old.begin()}},
-                {"\"folionet-cli verify FOLDER --remove-stale\" deletes them and prints their names."}));
+    m_facts.push_back(Warning(
+        "old-pages",
+        {old.size() == 1 ? Words("QObject",
+                                 "A page of an earlier compile, %2, lies in the folder. This one does not write "
+                                 "it, and its index page does not lead to it.")
+                         : Words("QObject",
+                                 "%1 pages of earlier compiles, such as %2, lie in the folder. This one does "
+                                 "not write them, and its index page does not lead to them."),
+         {std::to_string(old.size()), *old.begin()}},
+        {"\"folionet-cli verify FOLDER --remove-stale\" deletes such pages and prints their names."}));
   }
 
   int Books() const { return static_cast<int>(m_glob.cboStartBook.size()); }
@@ -208,11 +211,11 @@ std::vector<Finding> FindRangeFacts(const CompileRequest& request, const ModGlob
                                        [&](const auto& chapter) { return chapter.first == book; });
     return counts[static_cast<std::size_t>(book)] - static_cast<int>(missing);
   };
-  const auto addRemoval = [&](const char* kind, const char* words, int pages) {
+  const auto addRemoval = [&](const char* kind, int pages, const char* one, const char* many) {
     if (pages == 0) return;
     facts.push_back({.kind = kind,
                      .severity = isReversed ? Severity::kWarning : Severity::kNote,
-                     .what = {words, {std::to_string(pages)}}});
+                     .what = {pages == 1 ? one : many, {std::to_string(pages)}}});
   };
   int chosen = 0;
   for (int book = request.cboStartBook + 1; book <= std::min(request.cboEndBook + 1, kBooks); ++book) {
@@ -226,14 +229,14 @@ std::vector<Finding> FindRangeFacts(const CompileRequest& request, const ModGlob
   }
   int before = 0;
   for (int book = 1; book <= std::min(request.cboStartBook, kBooks); ++book) before += pagesOf(book);
-  addRemoval(kRemovesPages, Words("QObject", "%1 pages are removed, those of the books before the starting book."),
-             before);
+  addRemoval(kRemovesPages, before, Words("QObject", "1 page is removed, that of a book before the starting book."),
+             Words("QObject", "%1 pages are removed, those of the books before the starting book."));
   if (!request.onlyChosen) return facts;
   int after = 0;
   const PageNames names(glob.cboStartBook, request.options.chkUse83, CodePage(request.texts.PageCharset));
   for (const int book : BooksRemovedAfter(request, names)) after += pagesOf(book);
-  addRemoval(kRemovesLaterPages, Words("QObject", "%1 pages are removed, those of the books after the ending book."),
-             after);
+  addRemoval(kRemovesLaterPages, after, Words("QObject", "1 page is removed, that of a book after the ending book."),
+             Words("QObject", "%1 pages are removed, those of the books after the ending book."));
   return facts;
 }
 

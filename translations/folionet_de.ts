@@ -610,6 +610,30 @@
         <source>The chapter index counts no chapter of the chosen books: the index page has no links.</source>
         <translation>Der Kapitelindex zählt kein Kapitel der gewählten Bücher: Die Indexseite hat keine Links.</translation>
     </message>
+    <message>
+        <source>Nothing leads to this page of Folionet:</source>
+        <translation>Zu dieser Seite von Folionet führt nichts:</translation>
+    </message>
+    <message>
+        <source>Delete it?</source>
+        <translation>Soll sie gelöscht werden?</translation>
+    </message>
+    <message>
+        <source>1 page was deleted. Remove it from your server too.</source>
+        <translation>1 Seite wurde gelöscht. Entfernen Sie sie auch von Ihrem Server.</translation>
+    </message>
+    <message>
+        <source>A page of an earlier compile, %2, lies in the folder. This one does not write it, and its index page does not lead to it.</source>
+        <translation>Im Ordner liegt eine Seite eines früheren Laufs, %2. Dieser schreibt sie nicht, und seine Indexseite führt nicht zu ihr.</translation>
+    </message>
+    <message>
+        <source>1 page is removed, that of a book before the starting book.</source>
+        <translation>1 Seite wird gelöscht: die eines Buchs vor dem ersten.</translation>
+    </message>
+    <message>
+        <source>1 page is removed, that of a book after the ending book.</source>
+        <translation>1 Seite wird gelöscht: die eines Buchs nach dem letzten.</translation>
+    </message>
 </context>
 <context>
     <name>folionet::CommandCopy</name>

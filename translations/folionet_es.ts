@@ -610,6 +610,30 @@
         <source>The chapter index counts no chapter of the chosen books: the index page has no links.</source>
         <translation>El índice de capítulos no cuenta ningún capítulo de los libros elegidos: la página de índice no tiene enlaces.</translation>
     </message>
+    <message>
+        <source>Nothing leads to this page of Folionet:</source>
+        <translation>Nada lleva a esta página de Folionet:</translation>
+    </message>
+    <message>
+        <source>Delete it?</source>
+        <translation>¿Borrarla?</translation>
+    </message>
+    <message>
+        <source>1 page was deleted. Remove it from your server too.</source>
+        <translation>Se ha borrado 1 página. Quítela también de su servidor.</translation>
+    </message>
+    <message>
+        <source>A page of an earlier compile, %2, lies in the folder. This one does not write it, and its index page does not lead to it.</source>
+        <translation>En la carpeta hay una página de una compilación anterior, %2. Esta no la escribe, y su página de índice no lleva a ella.</translation>
+    </message>
+    <message>
+        <source>1 page is removed, that of a book before the starting book.</source>
+        <translation>Se elimina 1 página: la de un libro anterior al primero.</translation>
+    </message>
+    <message>
+        <source>1 page is removed, that of a book after the ending book.</source>
+        <translation>Se elimina 1 página: la de un libro posterior al último.</translation>
+    </message>
 </context>
 <context>
     <name>folionet::CommandCopy</name>

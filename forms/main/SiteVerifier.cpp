@@ -117,12 +117,16 @@ class Look {
 
 void OfferRemoval(const std::string& folder, const std::vector<std::string>& stale, UserInterface& ui) {
   const std::string title = FromQt(QObject::tr("Remove pages"));
-  const QStringList question{QObject::tr("Nothing leads to these %1 pages of Folionet:").arg(Shown(stale.size())),
-                             SomeNames(stale).join(", "), QObject::tr("Delete them?")};
+  const QStringList question{
+      stale.size() == 1 ? QObject::tr("Nothing leads to this page of Folionet:")
+                        : QObject::tr("Nothing leads to these %1 pages of Folionet:").arg(Shown(stale.size())),
+      SomeNames(stale).join(", "), stale.size() == 1 ? QObject::tr("Delete it?") : QObject::tr("Delete them?")};
   if (!ui.AskYesNo(title, FromQt(question.join("\r\n")))) return;
   const RemovedPages pages = RemovePages(folder, stale);
   QStringList lines{
-      QObject::tr("%1 pages were deleted. Remove them from your server too.").arg(Shown(pages.removed.size()))};
+      pages.removed.size() == 1
+          ? QObject::tr("1 page was deleted. Remove it from your server too.")
+          : QObject::tr("%1 pages were deleted. Remove them from your server too.").arg(Shown(pages.removed.size()))};
   lines += Some(pages.kept, FindingText);
   ui.ShowMessage(
       {pages.kept.empty() ? MessageIcon::kInformation : MessageIcon::kWarning, title, FromQt(lines.join("\r\n"))});

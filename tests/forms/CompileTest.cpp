@@ -92,9 +92,8 @@ TEST_F(CompileFromForm, ShowsProgressAndThenTheSite) {
   std::filesystem::copy(m_home.Path() + "site/index.html", m_home.Path() + "site/old_1.html");
   m_ui.yesNo = {true};
   Click("cmdVerifySite");
-  EXPECT_EQ(m_ui.said[m_ui.said.size() - 2],
-            "Nothing leads to these 1 pages of Folionet:\r\nold_1.html\r\nDelete them?");
-  EXPECT_EQ(m_ui.said.back(), "1 pages were deleted. Remove them from your server too.");
+  EXPECT_EQ(m_ui.said[m_ui.said.size() - 2], "Nothing leads to this page of Folionet:\r\nold_1.html\r\nDelete it?");
+  EXPECT_EQ(m_ui.said.back(), "1 page was deleted. Remove it from your server too.");
   EXPECT_FALSE(std::filesystem::exists(m_home.Path() + "site/old_1.html"));
   Remove("site/default.css");
   for (int i = 1; i < 13; ++i) {

@@ -60,7 +60,7 @@ ExitStatus TellStale(const VerifyArguments& arguments, const SiteReport& report,
     ShowNames(report.stale, "stale", ui);
     return ui.Done();
   }
-  const RemovedPages pages = RemovePages(arguments.folder, report.stale);
+  const RemovedPages pages = RemovePages(arguments.folder, report);
   ShowNames(pages.removed, "removed", ui);
   for (const Finding& finding : pages.kept) ui.Warn(finding);
   return pages.kept.empty() ? ui.Done() : kExitFailed;

@@ -32,6 +32,13 @@ constexpr MismatchWords kOfTitles{
     .remedy = "Give the charset that they are in: --set \"%1\".",
 };
 
+constexpr MismatchWords kOfName{
+    .kind = "name-charset",
+    .isUtf8 = Words("QObject", "The name of the translation is UTF-8, the pages %1."),
+    .isNot = Words("QObject", "The name of the translation is not UTF-8, the pages are."),
+    .remedy = "Give the charset that it is in: --set \"%1\".",
+};
+
 Finding Mismatch(const MismatchWords& words, const CharsetMismatch& mismatch, const CodePage& codePage) {
   Finding fact{.kind = words.kind, .severity = Severity::kWarning};
   if (mismatch.kind == TextKind::kUtf8) {
@@ -85,6 +92,10 @@ std::vector<Finding> FindCharsetFacts(const CompileRequest& request, const ModGl
   }
   if (auto fact = FindInCharset(request.texts.PageCharset, EntryOf(ofVerses, language))) {
     facts.push_back(*std::move(fact));
+  }
+  if (!glob.Imported.IsThere()) {
+    const auto wrong = FindMismatch(SampleOf(request.options.txtBibleSel), codePage, language);
+    if (wrong) facts.push_back(Mismatch(kOfName, *wrong, codePage));
   }
   const bool isEither = ofTitles.kind != TextKind::kAscii && ofVerses.kind != TextKind::kAscii;
   if (isEither && ofTitles.kind != ofVerses.kind) {

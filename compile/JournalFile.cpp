@@ -9,6 +9,7 @@
 #include <cstring>
 #include <utility>
 
+#include "FileLock.h"
 #include "WholeFile.h"
 
 namespace folionet {
@@ -24,6 +25,10 @@ bool JournalFile::Open(const std::string& path, std::size_t whole) {
   if (!file.IsOpen() || fstat(file.Get(), &status) != 0) return false;
   if (!S_ISREG(status.st_mode)) {
     errno = EINVAL;
+    return false;
+  }
+  if (!LockFile(file.Get(), std::chrono::milliseconds(0))) {
+    errno = EBUSY;
     return false;
   }
   m_size = std::min(whole, static_cast<std::size_t>(status.st_size));

@@ -17,7 +17,8 @@ class JournalFile {
   JournalFile& operator=(const JournalFile&) = delete;
   ~JournalFile();  // takes the NUL characters away
 
-  // Opens a regular file, or makes it; the first `whole` bytes of what it holds stay. False with errno set.
+  // Opens a regular file, or makes it; the first `whole` bytes of what it holds stay. No other program is to
+  // write into it meanwhile. False with errno set.
   bool Open(const std::string& path, std::size_t whole);
   bool IsOpen() const { return m_file.IsOpen(); }
 

@@ -72,6 +72,15 @@ void AddHtmlWord(const char* file, std::string_view text, std::vector<Finding>& 
               {}));
 }
 
+// Of one that an editor saved, as most do, in UTF-8.
+void AddCharset(const char* file, const PageTexts& texts, const std::string& text, std::vector<Finding>& findings) {
+  const CodePage codePage(texts.PageCharset);
+  if (codePage.Name() == "utf-8" || IsAscii(text) || !IsUtf8(text)) return;
+  findings.push_back(Warning("own-text-charset",
+                             {Words("QObject", "%1 is UTF-8, the pages %2."), {file, codePage.Name()}},
+                             {"Save it in the charset of the pages."}));
+}
+
 }  // namespace
 
 std::vector<Finding> FindInTypedTexts(const TypedTexts& typed) {
@@ -92,6 +101,8 @@ std::vector<Finding> FindInTypedTexts(const TypedTexts& typed) {
   AddWord("LinkToMain", options.frmLinkToMAin.txtLinkToMain, findings);
   AddHtmlWord("CustomHeader.txt", typed.texts.CustomHeader, findings);
   AddHtmlWord("CustomFooter.txt", typed.texts.CustomFooter, findings);
+  AddCharset("CustomHeader.txt", typed.texts, typed.texts.CustomHeader, findings);
+  AddCharset("CustomFooter.txt", typed.texts, typed.texts.CustomFooter, findings);
   return findings;
 }
 

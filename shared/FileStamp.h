@@ -25,11 +25,15 @@ struct FileStamp {
   }
 };
 
-// Nothing for a file that is not there.
+inline FileStamp StampOf(const struct stat& status) {
+  return {status.st_dev, status.st_ino, status.st_size, status.st_mtim, status.st_ctim};
+}
+
+// Nothing where the system tells nothing of the file, as of one that is not there.
 inline std::optional<FileStamp> StampOf(const std::string& path) {
   struct stat status {};
   if (stat(path.c_str(), &status) != 0) return std::nullopt;
-  return FileStamp{status.st_dev, status.st_ino, status.st_size, status.st_mtim, status.st_ctim};
+  return StampOf(status);
 }
 
 }  // namespace folionet

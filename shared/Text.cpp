@@ -77,14 +77,20 @@ std::string InOneLine(std::string_view text) {
 
 std::string Escaped(std::string_view text, std::string_view kept) {
   std::string shown;
-  for (std::size_t i = 0; i < text.size(); ++i) {
-    if (!IsControl(text, i) || kept.find(text[i]) != std::string_view::npos) {
-      shown += text[i];
+  for (std::size_t i = 0; i < text.size();) {
+    int32_t length = 0;
+    const bool isCharacter = FirstUtf8(text.substr(i, U8_MAX_LENGTH), length) >= 0;
+    const std::size_t size = isCharacter ? static_cast<std::size_t>(length) : 1;
+    // A terminal that knows no UTF-8 obeys the bytes from 0x80 on too.
+    const auto byte = static_cast<unsigned char>(text[i]);
+    const bool isObeyed = IsControl(text, i) || (!isCharacter && byte >= 0x80 && byte <= 0x9F);
+    const std::string_view piece = text.substr(i, size);
+    i += size;
+    if (!isObeyed || kept.find(piece[0]) != std::string_view::npos) {
+      shown += piece;
       continue;
     }
-    const bool isLong = text[i] == '\xC2';
-    if (isLong) ++i;
-    switch (text[i]) {
+    switch (piece.back()) {
       case '\n':
         shown += "\\n";
         break;
@@ -95,7 +101,7 @@ std::string Escaped(std::string_view text, std::string_view kept) {
         shown += "\\t";
         break;
       default:
-        shown += "\\x" + TwoHexDigits(static_cast<unsigned char>(text[i]));
+        shown += "\\x" + TwoHexDigits(static_cast<unsigned char>(piece.back()));
     }
   }
   return shown;

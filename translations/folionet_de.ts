@@ -634,6 +634,18 @@
         <source>1 page is removed, that of a book after the ending book.</source>
         <translation>1 Seite wird gelöscht: die eines Buchs nach dem letzten.</translation>
     </message>
+    <message>
+        <source>%1 is UTF-8, the pages %2.</source>
+        <translation>%1 ist in UTF-8, die Seiten in %2.</translation>
+    </message>
+    <message>
+        <source>The name of the translation is UTF-8, the pages %1.</source>
+        <translation>Der Name der Übersetzung ist in UTF-8, die Seiten in %1.</translation>
+    </message>
+    <message>
+        <source>The name of the translation is not UTF-8, the pages are.</source>
+        <translation>Der Name der Übersetzung ist nicht in UTF-8, die Seiten sind es.</translation>
+    </message>
 </context>
 <context>
     <name>folionet::CommandCopy</name>

@@ -634,6 +634,18 @@
         <source>1 page is removed, that of a book after the ending book.</source>
         <translation>Se elimina 1 página: la de un libro posterior al último.</translation>
     </message>
+    <message>
+        <source>%1 is UTF-8, the pages %2.</source>
+        <translation>%1 está en UTF-8 y las páginas en %2.</translation>
+    </message>
+    <message>
+        <source>The name of the translation is UTF-8, the pages %1.</source>
+        <translation>El nombre de la traducción está en UTF-8 y las páginas en %1.</translation>
+    </message>
+    <message>
+        <source>The name of the translation is not UTF-8, the pages are.</source>
+        <translation>El nombre de la traducción no está en UTF-8 y las páginas sí.</translation>
+    </message>
 </context>
 <context>
     <name>folionet::CommandCopy</name>

@@ -1,9 +1,11 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <vector>
 
+#include "FileStamp.h"
 #include "Finding.h"
 
 namespace folionet {
@@ -18,6 +20,12 @@ struct SiteReport {
   std::vector<std::string> unreached;  // pages that the index does not lead to, however many links are followed
   std::vector<std::string> stale;      // those of them that a compile has written
   bool isStaleCertain = true;          // false when files that could not be read might lead to those
+
+  // The folder, which is another one when a file was added to it or taken away, and its index page when the reading
+  // began.
+  std::string indexName;
+  std::optional<FileStamp> folder;
+  std::optional<FileStamp> index;
 
   std::size_t pages = 0;
   std::size_t links = 0;        // those that lead to files of the site

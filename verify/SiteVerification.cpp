@@ -63,6 +63,9 @@ class SiteReader {
  public:
   explicit SiteReader(const SiteRequest& request)
       : m_request(request), m_folder(WithSeparator(NativePath(request.folder))), m_findings(request.words) {
+    m_report.indexName = request.indexName;
+    m_report.folder = StampOf(m_folder);
+    m_report.index = StampOf(m_folder + request.indexName);
     for (std::string& name : ListFolder(m_folder)) m_names.insert(std::move(name));
   }
 

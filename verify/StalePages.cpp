@@ -1,5 +1,6 @@
 #include "StalePages.h"
 
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -36,9 +37,17 @@ int Remove(const FileHandle& top, const std::string& path) {
   return unlinkat(folder.Get(), name.c_str(), 0) == 0 ? 0 : errno;
 }
 
+// Whether the open folder, and its index page, are as they were.
+bool IsAsVerified(const FileHandle& top, const SiteReport& verified) {
+  struct stat folder {};
+  struct stat index {};
+  return fstat(top.Get(), &folder) == 0 && fstatat(top.Get(), verified.indexName.c_str(), &index, 0) == 0 &&
+         verified.folder == StampOf(folder) && verified.index == StampOf(index);
+}
+
 }  // namespace
 
-RemovedPages RemovePages(const std::string& folder, const std::vector<std::string>& pages) {
+RemovedPages RemovePages(const std::string& folder, const SiteReport& verified) {
   const std::string path = NativePath(folder);
   const FileHandle top = FileHandle::Open(path.c_str(), O_RDONLY | O_DIRECTORY);
   if (!top.IsOpen()) throw RunTimeError::FromErrno(errno, path);
@@ -46,8 +55,11 @@ RemovedPages RemovePages(const std::string& folder, const std::vector<std::strin
     throw RunTimeError(kPermissionDenied, path,
                        LockHolder(top.Get()) + " is writing into this folder. Wait for that to end.");
   }
+  if (!IsAsVerified(top, verified)) {
+    throw RunTimeError(kPermissionDenied, path, "This site was changed while it was verified. Verify it again.");
+  }
   RemovedPages result;
-  for (const std::string& page : pages) {
+  for (const std::string& page : verified.stale) {
     const int error = Remove(top, page);
     if (error == 0) {
       result.removed.push_back(page);

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "Finding.h"
+#include "SiteReport.h"
 
 namespace folionet {
 
@@ -13,9 +14,9 @@ struct RemovedPages {
   std::vector<Finding> kept;  // why the others are still there
 };
 
-// Deletes pages, given by their paths from a folder, each looked at once more: a file that is no page of a compile is
+// Deletes the stale pages of a site that was verified, each looked at once more: a file that is no page of a compile is
 // never deleted, nor anything behind a symbolic link. Throws RunTimeError when the folder cannot be opened, and
-// kPermissionDenied while a compile writes into it.
-RemovedPages RemovePages(const std::string& folder, const std::vector<std::string>& pages);
+// kPermissionDenied while a compile writes into it, or when the site is another one since it was verified.
+RemovedPages RemovePages(const std::string& folder, const SiteReport& verified);
 
 }  // namespace folionet

@@ -11,6 +11,8 @@
 namespace folionet::test {
 namespace {
 
+constexpr char kOurLine[] = "<meta name=\"GENERATOR\" content=\"Versalia Folionet Ver 1.0\">";
+
 // What the compile over an older site takes away, and the file of a person that it keeps under another name.
 bool IsToRemove(const std::string& name) { return name.starts_with("site/genesis_"); }
 constexpr char kKept[] = "site/genesis_1.html.before-folionet";
@@ -186,7 +188,7 @@ TEST_F(Compiles, StayInTheFolderThatWasOpened) {
     ArrangeLibrary(home);
     for (const std::string name : {"one", "other"}) {
       home.Write(name + "/genesis_1.html", "a person's page");
-      home.Write(name + "/exodus_2.html", "<meta name=\"GENERATOR\" content=\"Versalia Folionet Ver 1.0\">");
+      home.Write(name + "/exodus_2.html", kOurLine);
     }
     std::filesystem::create_symlink("one", home.Path() + "here");
     std::filesystem::create_symlink("other", home.Path() + "there");
@@ -216,6 +218,42 @@ TEST_F(Compiles, StayInTheFolderThatWasOpened) {
   }
   PrintCounts(job.name, calls, {calls, 0});
   EXPECT_EQ(places.size(), 2U);
+}
+
+// What nothing leads to is removed from the site that was verified, and from no other.
+TEST_F(Compiles, AreRidOfStalePagesWhereTheyWereVerified) {
+  const auto arrange = [](const TemporaryFolder& home) {
+    for (const std::string name : {"one", "other"}) {
+      for (const char* page : {"/a.html", "/b.html"}) home.Write(name + page, kOurLine);
+      const std::string linked = name == "one" ? "" : "<a href=b.html>b</a>";
+      home.Write(name + "/index.html", kOurLine + ("<a href=a.html>a</a>" + linked));
+    }
+    std::filesystem::create_symlink("one", home.Path() + "here");
+    std::filesystem::create_symlink("other", home.Path() + "there");
+  };
+  const Job job{"stale",
+                arrange,
+                [](const TemporaryFolder&) {
+                  return Command{FOLIONET_CLI, "verify", "here", "--remove-stale"};
+                },
+                {}};
+  const TemporaryFolder first;
+  arrange(first);
+  const FolderContent other = ReadFolder(first.Path() + "other");
+  const std::size_t calls = job.Run(first).calls.size();
+  EXPECT_EQ(ReadFolder(first.Path() + "one").size(), 2U);
+  std::set<int> statuses;
+  for (std::size_t at = 1; at <= calls; ++at) {
+    const TemporaryFolder home;
+    arrange(home);
+    const FaultyRun run = job.Run(home, {at, "swap"});
+    SCOPED_TRACE("call " + std::to_string(at) + ", " + run.calls[at - 1].name + " " + run.calls[at - 1].path);
+    EXPECT_EQ(DescribeDifference(other, ReadFolder(home.Path() + "other")), "");
+    EXPECT_EQ(run.result.errors.find("Verify it again.") != std::string::npos, run.result.status == 3);
+    statuses.insert(run.result.status);
+  }
+  PrintCounts(job.name, calls, {calls, 0});
+  EXPECT_EQ(statuses, (std::set<int>{0, 3}));
 }
 
 // The folder that pages are links into is swapped with a link that leads out, before each call.

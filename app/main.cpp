@@ -47,7 +47,7 @@ std::string ProgramFolderOf(const std::string& chosen, UserInterface& ui) {
     return FindProgramFolder(chosen);
   } catch (const RunTimeError& error) {
     ui.ShowErrorReport({Procedure::kFormLoad, error});
-    return ExecutableFolder();
+    return ProgramFolderToRead(chosen);
   }
 }
 

@@ -51,6 +51,7 @@ class FactFinder {
     FindSharedIndex();
     FindMeetingBooks();
     FindLostBooks();
+    FindLostIndex();
     FindOldPages();
     return std::move(m_facts);
   }
@@ -176,10 +177,21 @@ class FactFinder {
     m_facts.push_back(
         Warning("pages-not-found",
                 {Words("QObject",
-                       "No browser finds the pages of the books %2, such as %1: \"?\", \"#\" and \":\" have another "
-                       "meaning in a link."),
+                       "No browser finds the pages of the books %2, such as %1: \"?\", \"#\", \":\" and a quotation "
+                       "mark have another meaning in a link."),
                  {first, numbers}},
                 {"Give other titles with --language-file, or short names: --set \"Use83=1\"."}));
+  }
+
+  void FindLostIndex() {
+    const std::string& address = m_request.options.txthttpRoot;
+    if (address.find_first_of("\"#?", address.rfind('/') + 1) == std::string::npos) return;
+    m_facts.push_back(Warning(
+        "index-not-found",
+        {Words("QObject",
+               "No browser finds the index page %1: \"?\", \"#\" and a quotation mark have another meaning in a link."),
+         {m_index}},
+        {"Give it another name with --index-address."}));
   }
 
   const CompileRequest& m_request;

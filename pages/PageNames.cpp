@@ -65,7 +65,9 @@ PageNames::PageNames(const std::vector<std::string>& titles, bool use83, const C
     m_inLink.push_back(BookPart(titles[i], static_cast<int>(i) + 1, use83, codePage));
     const std::string asked = WithoutCharacterReferences(codePage.Decode(m_inLink.back()));
     m_onDisk.push_back(AsFileName(asked));
-    m_areReached.push_back(LocalTarget(asked) == m_onDisk.back());
+    // A quotation mark ends the link's address.
+    const bool isWhole = m_inLink.back().find('"') == std::string::npos;
+    m_areReached.push_back(isWhole && LocalTarget(asked) == m_onDisk.back());
   }
 }
 

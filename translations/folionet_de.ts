@@ -571,8 +571,8 @@
         <translation>Es ist keine Übersetzung genannt: Von %2 wird die erste genommen, %1.</translation>
     </message>
     <message>
-        <source>No browser finds the pages of the books %2, such as %1: &quot;?&quot;, &quot;#&quot; and &quot;:&quot; have another meaning in a link.</source>
-        <translation>Kein Browser findet die Seiten der Bücher %2, etwa %1: „?“, „#“ und „:“ haben in einem Link eine andere Bedeutung.</translation>
+        <source>No browser finds the pages of the books %2, such as %1: &quot;?&quot;, &quot;#&quot;, &quot;:&quot; and a quotation mark have another meaning in a link.</source>
+        <translation>Kein Browser findet die Seiten der Bücher %2, etwa %1: „?“, „#“, „:“ und ein Anführungszeichen haben in einem Link eine andere Bedeutung.</translation>
     </message>
     <message>
         <source>%1 cannot be read: %2</source>
@@ -645,6 +645,10 @@
     <message>
         <source>The name of the translation is not UTF-8, the pages are.</source>
         <translation>Der Name der Übersetzung ist nicht in UTF-8, die Seiten sind es.</translation>
+    </message>
+    <message>
+        <source>No browser finds the index page %1: &quot;?&quot;, &quot;#&quot; and a quotation mark have another meaning in a link.</source>
+        <translation>Kein Browser findet die Indexseite %1: „?“, „#“ und ein Anführungszeichen haben in einem Link eine andere Bedeutung.</translation>
     </message>
 </context>
 <context>

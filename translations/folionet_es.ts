@@ -571,8 +571,8 @@
         <translation>No se ha nombrado ninguna traducción: de %2 se toma la primera, %1.</translation>
     </message>
     <message>
-        <source>No browser finds the pages of the books %2, such as %1: &quot;?&quot;, &quot;#&quot; and &quot;:&quot; have another meaning in a link.</source>
-        <translation>Ningún navegador encuentra las páginas de los libros %2, como %1: «?», «#» y «:» tienen otro significado en un enlace.</translation>
+        <source>No browser finds the pages of the books %2, such as %1: &quot;?&quot;, &quot;#&quot;, &quot;:&quot; and a quotation mark have another meaning in a link.</source>
+        <translation>Ningún navegador encuentra las páginas de los libros %2, como %1: «?», «#», «:» y las comillas tienen otro significado en un enlace.</translation>
     </message>
     <message>
         <source>%1 cannot be read: %2</source>
@@ -645,6 +645,10 @@
     <message>
         <source>The name of the translation is not UTF-8, the pages are.</source>
         <translation>El nombre de la traducción no está en UTF-8 y las páginas sí.</translation>
+    </message>
+    <message>
+        <source>No browser finds the index page %1: &quot;?&quot;, &quot;#&quot; and a quotation mark have another meaning in a link.</source>
+        <translation>Ningún navegador encuentra la página de índice %1: «?», «#» y las comillas tienen otro significado en un enlace.</translation>
     </message>
 </context>
 <context>

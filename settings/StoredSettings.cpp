@@ -1,5 +1,7 @@
 #include "StoredSettings.h"
 
+#include <unistd.h>
+
 #include <filesystem>
 #include <system_error>
 
@@ -66,6 +68,12 @@ void StoredSettings::FinishChange() const {
   try {
     FinishJointChange(UnfinishedNote(), carry);
   } catch (const RunTimeError& error) {
+    const std::string folder = std::filesystem::path(UnfinishedNote()).parent_path().string();
+    if (access(folder.c_str(), X_OK) != 0) {
+      throw RunTimeError(error.Number(), folder,
+                         error.Detail() + ". This folder holds the settings. Name one of your own by XDG_CONFIG_HOME.")
+          .About(Subject::kSettingsFile);
+    }
     const std::string more =
         error.Item() == UnfinishedNote()
             ? " Where letters of the custom header, the custom footer or the lists of encodings are wrong then, save "

@@ -104,8 +104,15 @@ std::vector<Finding> FindCharsetFacts(const CompileRequest& request, const ModGl
   }
   if (const auto wrong = FindMismatch(ofVerses, codePage, language))
     facts.push_back(Mismatch(kOfText, *wrong, codePage));
-  if (const auto wrong = FindMismatch(ofTitles, codePage, language))
+  if (const auto wrong = FindMismatch(ofTitles, codePage, language)) {
     facts.push_back(Mismatch(kOfTitles, *wrong, codePage));
+  } else if (codePage.FindUndecodable(titles) != std::string::npos) {
+    facts.push_back(
+        {.kind = kOfTitles.kind,
+         .severity = Severity::kWarning,
+         .what = {Words("QObject", "The book titles are not in %1, the charset of the pages."), {codePage.Name()}},
+         .remedy = CharsetRemedy(kOfTitles.remedy, EntryOf(ofTitles, language))});
+  }
   return facts;
 }
 

@@ -75,7 +75,8 @@ void AddHtmlWord(const char* file, std::string_view text, std::vector<Finding>& 
 // Of one that an editor saved, as most do, in UTF-8.
 void AddCharset(const char* file, const PageTexts& texts, const std::string& text, std::vector<Finding>& findings) {
   const CodePage codePage(texts.PageCharset);
-  if (codePage.Name() == "utf-8" || IsAscii(text) || !IsUtf8(text)) return;
+  const std::string bytes = codePage.Name() == "utf-8" ? std::string() : codePage.Encode(text);
+  if (IsAscii(bytes) || !IsUtf8(bytes)) return;
   findings.push_back(Warning("own-text-charset",
                              {Words("QObject", "%1 is UTF-8, the pages %2."), {file, codePage.Name()}},
                              {"Save it in the charset of the pages."}));

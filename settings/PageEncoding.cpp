@@ -8,6 +8,8 @@
 #include "JointChange.h"
 #include "OptionLoading.h"
 #include "RunTimeError.h"
+#include "Utf8.h"
+#include "WholeFile.h"
 
 namespace folionet {
 
@@ -43,6 +45,19 @@ void RecodeOwnTexts(const OwnFolder& own, const CodePage& to, JointChange& chang
   }
 }
 
+// Whether a header or footer is in UTF-8, as an editor saves it for a run that says so.
+bool HasUtf8Html(const std::string& programFolder) {
+  const auto isUtf8 = [&](const CustomHtmlKind& html) {
+    try {
+      const std::string text = ReadIfThere(programFolder + std::string(html.fileName)).value_or("");
+      return !IsAscii(text) && IsUtf8(text);
+    } catch (const RunTimeError&) {
+      return false;  // told when it is loaded
+    }
+  };
+  return isUtf8(kCustomHeader) || isUtf8(kCustomFooter);
+}
+
 }  // namespace
 
 CodePage StoredCodePage(const StoredSettings& store) { return CodePageOf(store.Text("Charset")); }
@@ -61,7 +76,8 @@ OwnFolder OwnFolderToSave(const StoredSettings& store, const std::string& progra
 
 OwnFolder OwnFolderOfRun(const StoredSettings& store, const std::string& programFolder) {
   OwnFolder own = StoredOwnFolder(store, programFolder);
-  if (const auto stored = store.OwnText("Charset"); stored) own.codePage = CodePageOf(*stored);
+  const bool isStored = store.OwnText("Charset").has_value();
+  if (isStored || !HasUtf8Html(programFolder)) own.codePage = CodePageOf(OwnCharset(store));
   return own;
 }
 

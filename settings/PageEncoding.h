@@ -33,7 +33,8 @@ OwnFolder StoredOwnFolder(const StoredSettings& store, const std::string& progra
 // The same to save to: a change that was not finished is completed first. Throws RunTimeError when it cannot be.
 OwnFolder OwnFolderToSave(const StoredSettings& store, const std::string& programFolder);
 
-// The same for a run that may have another charset than the stored one, which a person's texts stay in.
+// The same for a run that may have another charset than the stored one, which a person's texts stay in. Where none was
+// ever stored, texts in UTF-8 were made for the run.
 OwnFolder OwnFolderOfRun(const StoredSettings& store, const std::string& programFolder);
 
 // Stores the entries that were chosen, those that are not empty, and, when that changes the code page, brings the

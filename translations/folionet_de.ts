@@ -650,6 +650,10 @@
         <source>No browser finds the index page %1: &quot;?&quot;, &quot;#&quot; and a quotation mark have another meaning in a link.</source>
         <translation>Kein Browser findet die Indexseite %1: „?“, „#“ und ein Anführungszeichen haben in einem Link eine andere Bedeutung.</translation>
     </message>
+    <message>
+        <source>The book titles are not in %1, the charset of the pages.</source>
+        <translation>Die Buchtitel sind nicht in %1, dem Zeichensatz der Seiten.</translation>
+    </message>
 </context>
 <context>
     <name>folionet::CommandCopy</name>

@@ -650,6 +650,10 @@
         <source>No browser finds the index page %1: &quot;?&quot;, &quot;#&quot; and a quotation mark have another meaning in a link.</source>
         <translation>Ningún navegador encuentra la página de índice %1: «?», «#» y las comillas tienen otro significado en un enlace.</translation>
     </message>
+    <message>
+        <source>The book titles are not in %1, the charset of the pages.</source>
+        <translation>Los títulos de los libros no están en %1, el juego de caracteres de las páginas.</translation>
+    </message>
 </context>
 <context>
     <name>folionet::CommandCopy</name>

@@ -230,7 +230,7 @@ ExitStatus RunCompile(const CommonOptions& common, const CompileArguments& given
   if (!arguments.dryRun) PrintChanges(arguments, changes, ui);
   if (outcome == CompileOutcome::kDone && arguments.dryRun) PrintPlan(request, session.glob, changes, ui);
   if (request.listsChanges && changes.knowsPending && std::fflush(stdout) == 0) {
-    ChangesDelivered(request.stateFolder, request.txtOutputPath);
+    ChangesDelivered(changes.journal);
   }
   switch (outcome) {
     case CompileOutcome::kDone:

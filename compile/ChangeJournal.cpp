@@ -99,9 +99,8 @@ std::string UserStateFolder() {
   return folder.empty() ? folder : folder + kApplicationTitle;
 }
 
-void ChangesDelivered(const std::string& stateFolder, const std::string& outputFolder) {
-  const std::string path = JournalPath(stateFolder, outputFolder);
-  if (!path.empty()) unlink(path.c_str());
+void ChangesDelivered(const std::string& journal) {
+  if (!journal.empty()) unlink(journal.c_str());
 }
 
 }  // namespace folionet

@@ -12,7 +12,7 @@ namespace folionet {
 
 // Which files of a site were changed by runs that did not come to their end, or whose list was not delivered: a file of
 // its own for each output folder, "<state folder>/<number>.changes", with a name a line in the order of the changes;
-// one that could not be closed has "!" before it. A name is there before its file is changed, so that nothing is
+// one that could not be closed has "/" before it. A name is there before its file is changed, so that nothing is
 // missing when the program is killed.
 class ChangeJournal : public ChangeWatch {
  public:
@@ -28,6 +28,9 @@ class ChangeJournal : public ChangeWatch {
 
   // What earlier runs left, in the order of the changes.
   const std::vector<std::string>& Pending() const { return m_pending; }
+
+  // Its file; empty where nothing is kept.
+  const std::string& Path() const { return m_path; }
 
   // Why changes cannot be kept; empty while they can.
   const std::string& Trouble() const { return m_trouble; }
@@ -47,8 +50,8 @@ class ChangeJournal : public ChangeWatch {
   std::string m_trouble;
 };
 
-// The list of all that had changed has reached whoever wanted it: nothing is pending any more.
-void ChangesDelivered(const std::string& stateFolder, const std::string& outputFolder);
+// The list of all that had changed has reached whoever wanted it: nothing of that journal is pending any more.
+void ChangesDelivered(const std::string& journal);
 
 // $XDG_STATE_HOME/Folionet, or ~/.local/state/Folionet; empty where neither is a whole path.
 std::string UserStateFolder();

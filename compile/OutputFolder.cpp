@@ -44,6 +44,7 @@ void OpenOutputFolder(const CompileRequest& request, RunFolder& folder) {
 
 void EndRun(const CompileRequest& request, RunFolder& folder) {
   if (folder.journal && request.changes != nullptr) {
+    request.changes->journal = folder.journal->Path();
     request.changes->knowsPending = folder.journal->KnowsPending();
     request.changes->trouble = folder.journal->Trouble();
     for (const std::string& name : folder.journal->Pending()) {

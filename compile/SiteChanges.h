@@ -37,6 +37,9 @@ class SiteChanges {
   // Whether `pending` is known: a run that ends before it has come to the output folder tells of no other.
   bool knowsPending = false;
 
+  // The file that they are kept in until they have been told; empty for none.
+  std::string journal;
+
   // Why a list of this run could be lost if it were broken off; empty where it could not.
   std::string trouble;
 

@@ -8,7 +8,6 @@
 #include "JointChange.h"
 #include "OptionLoading.h"
 #include "RunTimeError.h"
-#include "Utf8.h"
 #include "WholeFile.h"
 
 namespace folionet {
@@ -45,17 +44,17 @@ void RecodeOwnTexts(const OwnFolder& own, const CodePage& to, JointChange& chang
   }
 }
 
-// Whether a header or footer is in UTF-8, as an editor saves it for a run that says so.
-bool HasUtf8Html(const std::string& programFolder) {
-  const auto isUtf8 = [&](const CustomHtmlKind& html) {
+// Whether the header and the footer can be in a code page.
+bool CanBeIn(const CodePage& codePage, const std::string& programFolder) {
+  const auto fits = [&](const CustomHtmlKind& html) {
     try {
       const std::string text = ReadIfThere(programFolder + std::string(html.fileName)).value_or("");
-      return !IsAscii(text) && IsUtf8(text);
+      return codePage.FindUndecodable(text) == std::string::npos;
     } catch (const RunTimeError&) {
-      return false;  // told when it is loaded
+      return true;  // told when it is loaded
     }
   };
-  return isUtf8(kCustomHeader) || isUtf8(kCustomFooter);
+  return fits(kCustomHeader) && fits(kCustomFooter);
 }
 
 }  // namespace
@@ -77,7 +76,7 @@ OwnFolder OwnFolderToSave(const StoredSettings& store, const std::string& progra
 OwnFolder OwnFolderOfRun(const StoredSettings& store, const std::string& programFolder) {
   OwnFolder own = StoredOwnFolder(store, programFolder);
   const bool isStored = store.OwnText("Charset").has_value();
-  if (isStored || !HasUtf8Html(programFolder)) own.codePage = CodePageOf(OwnCharset(store));
+  if (isStored || !CanBeIn(own.codePage, programFolder)) own.codePage = CodePageOf(OwnCharset(store));
   return own;
 }
 

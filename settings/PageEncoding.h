@@ -34,7 +34,7 @@ OwnFolder StoredOwnFolder(const StoredSettings& store, const std::string& progra
 OwnFolder OwnFolderToSave(const StoredSettings& store, const std::string& programFolder);
 
 // The same for a run that may have another charset than the stored one, which a person's texts stay in. Where none was
-// ever stored, texts in UTF-8 were made for the run.
+// ever stored, texts that can be in the run's charset were made for it.
 OwnFolder OwnFolderOfRun(const StoredSettings& store, const std::string& programFolder);
 
 // Stores the entries that were chosen, those that are not empty, and, when that changes the code page, brings the

@@ -153,13 +153,14 @@ void AddList(CLI::App& app, Arguments& asked) {
   const auto subject = std::make_shared<std::string>();
   const auto isSubject = [](const std::string& what) {
     if (IsListSubject(what)) return std::string();
-    return "translations, languages, books, charsets or settings was expected: \"" + what + "\"";
+    return "translations, languages, books, charsets, codes or settings was expected: \"" + what + "\"";
   };
   list.add_option("WHAT", *subject,
                   "translations: file stem and name of each;\n"
                   "languages: the files of book titles;\n"
                   "books: number, title, code, as cboLang has them;\n"
                   "charsets: for --set Charset=...;\n"
+                  "codes: of languages, for --set Lang=... and import;\n"
                   "settings: KEY=VALUE, stored or default")
       ->required()
       ->type_name("")

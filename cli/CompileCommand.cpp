@@ -135,8 +135,8 @@ void SelectBooks(const CompileArguments& arguments, const std::string& option, c
     request.cboStartBook = books.first;
     request.cboEndBook = books.last;
   }
-  if (!arguments.startBook.empty()) request.cboStartBook = session.FindBook(arguments.startBook);
-  if (!arguments.endBook.empty()) request.cboEndBook = session.FindBook(arguments.endBook);
+  if (!arguments.startBook.empty()) request.cboStartBook = session.FindBook("--start-book", arguments.startBook);
+  if (!arguments.endBook.empty()) request.cboEndBook = session.FindBook("--end-book", arguments.endBook);
 }
 
 // The pages' options and what is to be compiled, of arguments that have the site's in them; `given` are those of the

@@ -1,29 +1,74 @@
 #include "ImportCommand.h"
 
 #include <filesystem>
+#include <string_view>
 #include <system_error>
 
 #include "BookTable.h"
 #include "CommandEnd.h"
 #include "Counted.h"
 #include "Finding.h"
+#include "ImportError.h"
 #include "ImportText.h"
 #include "LibraryWriter.h"
+#include "PageEncoding.h"
 #include "Paths.h"
 #include "RunTimeError.h"
 #include "Session.h"
 #include "StoredSettings.h"
+#include "TextDecoder.h"
 
 namespace folionet {
 namespace {
 
+namespace fs = std::filesystem;
+
+// What a person does next, where the message does not say so.
+std::string_view NextStepAfter(const RunTimeError& error) {
+  const bool isInWords = dynamic_cast<const ImportError*>(&error) != nullptr;
+  switch (error.Number()) {
+    case kFileAlreadyOpen:
+      return " Replace it with --replace, or give this one another --name and --stem.";
+    case kDiskFull:
+      return " Make room on the disk, or give a library elsewhere with --into FOLDER, and import again.";
+    case kPermissionDenied:
+    case kPathNotFound:
+      if (isInWords) return {};
+      break;
+    default:
+      break;
+  }
+  if (isInWords || error.Line() != 0) return " Mend that, or give another file, and import again.";
+  return " See that this file or folder can be read and written, and import again.";
+}
+
+// A translation that is there and is not to be replaced is a refusal.
 ExitStatus TellError(const RunTimeError& error, ConsoleUi& ui) {
   std::string text = error.Item();
   if (error.Line() != 0) text += ":" + std::to_string(error.Line());
   if (!error.Detail().empty()) text += ": " + error.Detail();
   ui.Tell(text);
-  ui.Tell("Nothing was written.");
-  return kExitFailed;
+  ui.Tell("Nothing was written." + std::string(NextStepAfter(error)));
+  return error.Number() == kFileAlreadyOpen ? kExitRefused : kExitFailed;
+}
+
+void RefuseWrongArguments(const ImportArguments& arguments, const LibraryRequest& request) {
+  if (const Sentence refusal = RefusalOf(request); !refusal.IsEmpty()) RefuseUsage(refusal.InEnglish());
+  if (!arguments.charset.empty() && !IsCharset(arguments.charset)) {
+    RefuseUsage("--charset: the name of a charset, such as windows-1251, was expected: \"" + arguments.charset + "\"");
+  }
+  const auto isMissing = [](const std::string& path) {
+    std::error_code ignored;
+    return fs::status(NativePath(path), ignored).type() == fs::file_type::not_found;
+  };
+  for (const std::string& path : arguments.paths) {
+    if (path != "-" && isMissing(path)) {
+      RefuseUsage("There is no file or folder \"" + path + "\": give one that holds a Bible text.");
+    }
+  }
+  if (!arguments.titles.empty() && isMissing(arguments.titles)) {
+    RefuseUsage("--titles: there is no file \"" + arguments.titles + "\": give one of book titles.");
+  }
 }
 
 void TellFindings(const ImportedBible& bible, ConsoleUi& ui) {
@@ -39,18 +84,33 @@ void TellFindings(const ImportedBible& bible, ConsoleUi& ui) {
   }
 }
 
+// The code that pages declare of a text that names no language; empty where the settings have none that can be read.
+std::string LanguageOfSettings() {
+  try {
+    return EncodingCode(StoredSettings(StoredSettings::DefaultFolder()).Text("Lang"), "Lang");
+  } catch (const RunTimeError&) {
+    return {};
+  }
+}
+
 // Where the text did not name it.
 void TellLanguage(const LibraryPlan& plan, ConsoleUi& ui) {
-  const auto tell = [&](const char* pattern) {
-    ui.Remark({.kind = "language", .severity = Severity::kNote, .what = {pattern, {plan.text.language}}});
+  const auto tell = [&](const std::string& how) {
+    ui.Remark(
+        {.kind = "language",
+         .severity = Severity::kNote,
+         .what = {"The text names no language%1 with --language CODE; \"folionet-cli list codes\" shows the codes.",
+                  {how}}});
   };
   switch (plan.languageFrom) {
-    case LanguageSource::kNone:
-      return tell("The text names no language; its pages declare that of the settings. Name it with --language.");
+    case LanguageSource::kNone: {
+      const std::string code = LanguageOfSettings();
+      return tell((code.empty() ? "" : "; its pages declare " + code + ", that of the settings") + ". Name it");
+    }
     case LanguageSource::kScript:
-      return tell("The text names no language; by its letters it is %1. Name another with --language.");
+      return tell("; by its letters it is " + plan.text.language + ". Name another");
     case LanguageSource::kTitles:
-      return tell("The text names no language; by its book titles it is %1. Name another with --language.");
+      return tell("; by its book titles it is " + plan.text.language + ". Name another");
     case LanguageSource::kGiven:
     case LanguageSource::kText:
       break;
@@ -89,7 +149,7 @@ void TellHowToChoose(const CommonOptions& common, const LibraryPlan& plan, Conso
   const Session session(common, ui);
   const std::string known = session.glob.InstallPath;
   std::error_code ignored;
-  if (std::filesystem::equivalent(known, plan.folder, ignored)) return;
+  if (fs::equivalent(known, plan.folder, ignored)) return;
   if (known.empty()) {
     ui.Tell("Choose this library with --versalia-path " + plan.folder);
     return;
@@ -108,7 +168,7 @@ ExitStatus RunImport(const CommonOptions& common, const ImportArguments& argumen
   request.titlesFile = NativePath(arguments.titles);
   request.fallbackName = NameOfPath(arguments.paths.front());
   request.replace = arguments.replace;
-  if (const Sentence refusal = RefusalOf(request); !refusal.IsEmpty()) RefuseUsage(refusal.InEnglish());
+  RefuseWrongArguments(arguments, request);
   try {
     StoredSettings(StoredSettings::DefaultFolder()).FinishChange();
     const ImportedBible bible = ReadBible({arguments.paths, arguments.charset});

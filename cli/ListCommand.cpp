@@ -48,9 +48,9 @@ ExitStatus ListLanguages(Session& session) {
   return kExitDone;
 }
 
-ExitStatus ListCharsets(Session& session) {
+ExitStatus ListEncodings(const Session& session, std::string_view name) {
   const EncodingList list =
-      ReadEncodingList(OwnFolderOfRun(session.store, ProgramFolderToRead(session.chosenProgramFolder)), kCharsetList);
+      ReadEncodingList(OwnFolderOfRun(session.store, ProgramFolderToRead(session.chosenProgramFolder)), name);
   if (list.failure) throw RunTimeError(*list.failure);
   for (const std::string& entry : list.entries) session.ui.Print(entry);
   return kExitDone;
@@ -74,7 +74,7 @@ ExitStatus ListSettings(Session& session) {
 }  // namespace
 
 bool IsListSubject(std::string_view subject) {
-  constexpr std::string_view kSubjects[] = {"translations", "languages", "books", "charsets", "settings"};
+  constexpr std::string_view kSubjects[] = {"translations", "languages", "books", "charsets", "codes", "settings"};
   return std::find(std::begin(kSubjects), std::end(kSubjects), subject) != std::end(kSubjects);
 }
 
@@ -84,7 +84,8 @@ ExitStatus RunList(const CommonOptions& common, const std::string& subject, Cons
   if (subject == "languages") return ListLanguages(session);
   if (subject == "books") session.ChooseFirst();
   session.LoadCodePage();
-  if (subject == "charsets") return ListCharsets(session);
+  if (subject == "charsets") return ListEncodings(session, kCharsetList);
+  if (subject == "codes") return ListEncodings(session, kLanguageList);
   if (subject == "books") {
     session.LoadBookTitles();
     return ListBooks(session);

@@ -140,10 +140,11 @@ std::size_t Session::FindTranslation(const std::string& option, const std::strin
               "\". \"folionet-cli list translations\" shows those that are installed.");
 }
 
-int Session::FindBook(const std::string& text) const {
+int Session::FindBook(const std::string& option, const std::string& text) const {
   if (const auto place = ChooseBook(glob, codePage, text)) return *place;
-  RefuseUsage("There is no book \"" + text +
-              "\": a number from 1 to 66, a title or a code was expected. \"folionet-cli list books\" shows them.");
+  RefuseUsage(option + ": there is no book \"" + text +
+              "\": a number from 1 to 66, a title or a code was expected. \"folionet-cli list books\" shows them." +
+              (ChooseBooks(glob, codePage, text) ? " A part of the Bible is chosen with --books." : ""));
 }
 
 BookRange Session::FindBooks(const std::string& option, const std::string& text) const {

@@ -63,7 +63,7 @@ class Session {
   std::size_t FindTranslation(const std::string& option, const std::string& nameOrStem) const;
 
   // As ChooseBook and ChooseBooks; end the command where there are no such books.
-  int FindBook(const std::string& text) const;
+  int FindBook(const std::string& option, const std::string& text) const;
   BookRange FindBooks(const std::string& option, const std::string& text) const;
 
   StoredSettings store;

@@ -164,13 +164,10 @@ void ChooseStem(const LibraryRequest& request, const CatalogueText& catalogue, L
   plan.replaces = sameStem != nullptr || !file.empty();
   if (!plan.replaces || request.replace) return;
   if (sameStem == nullptr) {
-    throw RunTimeError(kFileAlreadyOpen, file,
-                       "It is there already, though the library does not list it. Replace it with --replace, or give "
-                       "this translation another --stem.");
+    throw RunTimeError(kFileAlreadyOpen, file, "It is there already, though the library does not list it.");
   }
   throw RunTimeError(kFileAlreadyOpen, plan.folder,
-                     "The library holds a translation with the stem " + sameStem->stem +
-                         " already. Replace it with --replace, or give this one another --name and --stem.");
+                     "The library holds a translation with the stem " + sameStem->stem + " already.");
 }
 
 // A name for the file of titles that no other translation and no language has.

@@ -82,13 +82,13 @@ std::string IcuNameOf(const std::string& charset) {
   return isOwn ? charset : IcuName(encoding);
 }
 
-bool IsKnown(const std::string& charset) {
+}  // namespace
+
+bool IsCharset(const std::string& name) {
   UErrorCode status = U_ZERO_ERROR;
-  ucnv_close(ucnv_open(charset.c_str(), &status));
+  ucnv_close(ucnv_open(IcuNameOf(name).c_str(), &status));
   return U_SUCCESS(status);
 }
-
-}  // namespace
 
 void TextDecoder::CloseConverter::operator()(UConverter* converter) const { ucnv_close(converter); }
 
@@ -132,7 +132,7 @@ void TextDecoder::ChooseEncoding(const std::string& charset) {
 // A declaration of UTF-16 is of no account here: it was made for the text before that was written as UTF-8.
 void TextDecoder::OpenNamed(const std::string& charset) {
   if (AsciiLower(charset).starts_with("utf-16")) return;
-  if (!IsKnown(charset)) {
+  if (!IsCharset(charset)) {
     throw TextFault(
         {Words("Import", "the name of a charset, such as windows-1251, was expected: %1"), {Quoted(charset)}}, 1);
   }

@@ -11,6 +11,9 @@ struct UConverter;
 
 namespace folionet {
 
+// Whether `name` is that of a charset that a text can be in.
+bool IsCharset(const std::string& name);
+
 // The text of a file in UTF-8, piece by piece. Lines that end in CR alone end in LF. Its encoding is, in this order:
 // what its byte-order mark tells; UTF-16 when it looks like that; the charset that was given; the one that it names
 // itself (in an XML declaration or behind \ide); UTF-8.

@@ -47,6 +47,14 @@ _folionet_cli() {
       _folionet_cli_lines "$word" < <(folionet-cli list charsets 2> /dev/null)
       return
       ;;
+    Lang)
+      _folionet_cli_lines "$word" < <(folionet-cli list codes 2> /dev/null)
+      return
+      ;;
+    --language)
+      _folionet_cli_lines "$word" < <(folionet-cli list codes 2> /dev/null | cut -d ' ' -f 1)
+      return
+      ;;
     --start-book | --end-book)
       _folionet_cli_lines "$word" < <(folionet-cli "${folders[@]}" list books 2> /dev/null | cut -f 2,3 | tr '\t' '\n')
       return
@@ -61,7 +69,7 @@ _folionet_cli() {
       mapfile -t COMPREPLY < <(compgen -f -- "$word")
       return
       ;;
-    --index-address | --sitemap | --index | --name | --stem | --charset | --language)
+    --index-address | --sitemap | --index | --name | --stem | --charset)
       return
       ;;
   esac
@@ -79,7 +87,7 @@ _folionet_cli() {
         return
       fi
       ;;
-    list) common="translations languages books charsets settings --settings $common" ;;
+    list) common="translations languages books charsets codes settings --settings $common" ;;
     check) common+=" --translation --set --settings --json" ;;
     verify)
       common+=" --index --settings --stale --remove-stale --json"

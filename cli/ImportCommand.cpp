@@ -17,6 +17,7 @@
 #include "Session.h"
 #include "StoredSettings.h"
 #include "TextDecoder.h"
+#include "TitleLanguages.h"
 
 namespace folionet {
 namespace {
@@ -117,6 +118,22 @@ void TellLanguage(const LibraryPlan& plan, ConsoleUi& ui) {
   }
 }
 
+// Where pages have English names of books, and their text is in another language.
+void TellTitles(const ImportedBible& bible, const LibraryPlan& plan, ConsoleUi& ui) {
+  const bool isEnglish = &NearestLanguage("en") == &NearestLanguage(plan.text.language);
+  if (!isEnglish || plan.text.language.empty() || plan.text.language.substr(0, plan.text.language.find('-')) == "en") {
+    return;
+  }
+  for (std::size_t i = 0; i < bible.VerseCount(); ++i) {
+    if (!bible.titles[static_cast<std::size_t>(bible.VerseAt(i).book)].empty()) continue;
+    return ui.Remark(
+        {.kind = "book-names",
+         .severity = Severity::kNote,
+         .what = {"The text does not name all of its books; the names of the others are English. Name them "
+                  "with --titles BOOKS_FILE."}});
+  }
+}
+
 std::string ResultLine(const LibraryPlan& plan) {
   return plan.stem + ": " + plan.text.name + ": " + Counted(static_cast<std::size_t>(plan.books), "book") + ", " +
          Counted(static_cast<std::size_t>(plan.chapters), "chapter") + ", " + Counted(plan.verses, "verse") + ", " +
@@ -181,6 +198,7 @@ ExitStatus RunImport(const CommonOptions& common, const ImportArguments& argumen
     if (!common.quiet || common.json) {
       TellFindings(bible, ui);
       TellLanguage(plan, ui);
+      if (arguments.titles.empty()) TellTitles(bible, plan, ui);
     }
     if (common.json) ShowPlan(bible, plan, ui);
     ui.Sum(ResultLine(plan), Severity::kNote);

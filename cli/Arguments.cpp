@@ -160,7 +160,7 @@ void AddList(CLI::App& app, Arguments& asked) {
                   "languages: the files of book titles;\n"
                   "books: number, title, code, as cboLang has them;\n"
                   "charsets: for --set Charset=...;\n"
-                  "codes: of languages, for --set Lang=... and import;\n"
+                  "codes: languages for --set Lang=... and import;\n"
                   "settings: KEY=VALUE, stored or default")
       ->required()
       ->type_name("")

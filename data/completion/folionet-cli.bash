@@ -1,15 +1,21 @@
 # Completion of folionet-cli for bash.
 
-# Offers the lines of standard input that begin with the word at hand.
+# Offers the lines of standard input that begin with the word at hand, in whatever case and quoted in whatever way.
 _folionet_cli_lines() {
-  local line
+  local line word=${1//\\/} quote=""
+  [[ $word != [\"\']* ]] || quote=${word:0:1} word=${word:1}
   while IFS= read -r line; do
-    [[ $line != "$1"* ]] || COMPREPLY+=("$(printf %q "$line")")
+    [[ ${line,,} == "${word,,}"* ]] || continue
+    [[ $quote ]] || line=$(printf %q "$line")
+    COMPREPLY+=("$line")
   done
 }
 
+# The titles and codes of books.
+_folionet_cli_books() { folionet-cli "$@" list books 2> /dev/null | cut -f 2,3 | tr '\t' '\n'; }
+
 _folionet_cli() {
-  local word=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD - 1]} command="" folders=() i at
+  local word=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD - 1]} command="" folders=() first i at
   # bash takes "--set=x" for three words.
   [[ $word != = ]] || word=""
   [[ $before != = ]] || before=${COMP_WORDS[COMP_CWORD - 2]}
@@ -56,12 +62,18 @@ _folionet_cli() {
       return
       ;;
     --start-book | --end-book)
-      _folionet_cli_lines "$word" < <(folionet-cli "${folders[@]}" list books 2> /dev/null | cut -f 2,3 | tr '\t' '\n')
+      _folionet_cli_lines "$word" < <(_folionet_cli_books "${folders[@]}")
       return
       ;;
     --books)
-      _folionet_cli_lines "$word" < <(printf '%s\n' OT NT Law History Poetry Prophets Gospels Letters
-        folionet-cli "${folders[@]}" list books 2> /dev/null | cut -f 2,3 | tr '\t' '\n')
+      if [[ $word == *-* ]]; then
+        first=${word//[\\\"\']/}
+        first=${first%-*}-
+        _folionet_cli_lines "$word" < <(_folionet_cli_books "${folders[@]}" | while IFS= read -r i; do echo "$first$i"; done)
+      else
+        _folionet_cli_lines "$word" < <(printf '%s\n' OT NT Law History Poetry Prophets Gospels Letters
+          _folionet_cli_books "${folders[@]}")
+      fi
       return
       ;;
     --titles | --settings | --save-settings)

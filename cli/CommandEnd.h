@@ -1,10 +1,12 @@
 #pragma once
 
+#include <csignal>
 #include <exception>
 #include <stdexcept>
 #include <string>
 
 #include "ExitStatus.h"
+#include "StopSignals.h"
 
 namespace folionet {
 
@@ -23,6 +25,9 @@ class UsageError : public std::runtime_error {
  public:
   using std::runtime_error::runtime_error;
 };
+
+// How a command ends that a signal has stopped.
+inline ExitStatus StoppedStatus() { return StopSignal() == SIGINT ? kExitInterrupted : kExitTerminated; }
 
 [[noreturn]] inline void RefuseUsage(const std::string& text) { throw UsageError(text); }
 

@@ -1,6 +1,5 @@
 #include "CompileCommand.h"
 
-#include <csignal>
 #include <cstdio>
 #include <filesystem>
 #include <system_error>
@@ -108,7 +107,7 @@ void PrintChanges(const CompileArguments& arguments, const SiteChanges& changes,
 // The run was broken off by a person, or by a machine that is shut down.
 ExitStatus EndStopped(ConsoleUi& ui) {
   ui.Tell("Stopped: the page at hand was finished, the others are as they were. Compile again.");
-  return StopSignal() == SIGINT ? kExitInterrupted : kExitTerminated;
+  return StoppedStatus();
 }
 
 void RefuseOtherThanFolders(const std::string& option, const std::string& sitemap) {

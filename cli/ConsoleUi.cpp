@@ -85,8 +85,10 @@ void ConsoleUi::Sum(const std::string& line, Severity worst) {
   if (!m_common.json && !(m_common.quiet && worst == Severity::kNote)) Print(line);
 }
 
+bool ConsoleUi::Flush() { return std::fflush(stdout) == 0 && std::ferror(stdout) == 0; }
+
 bool ConsoleUi::Finish() {
-  if (std::fflush(stdout) == 0 && std::ferror(stdout) == 0) return true;
+  if (Flush()) return true;
   std::fputs("folionet-cli: standard output cannot be written. Send it to a file on a disk with room.\n", stderr);
   return false;
 }

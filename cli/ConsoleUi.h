@@ -54,7 +54,10 @@ class ConsoleUi : public UserInterface {
   // nothing is to be said, nor in JSON.
   void Sum(const std::string& line, Severity worst);
 
-  // Hands all of standard output on. False, having said so, when it cannot be written.
+  // Hands on what was printed by now; false when that cannot be done.
+  bool Flush();
+
+  // The same at the end, saying so when it cannot be done.
   bool Finish();
 
   // kExitDone, or kExitRefused when there were warnings and they are to count.

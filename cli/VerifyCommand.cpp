@@ -1,6 +1,7 @@
 #include "VerifyCommand.h"
 
 #include <algorithm>
+#include <csignal>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -15,6 +16,7 @@
 #include "SiteFile.h"
 #include "SiteVerification.h"
 #include "StalePages.h"
+#include "StopSignals.h"
 #include "StoredSettings.h"
 
 namespace folionet {
@@ -36,14 +38,30 @@ void ShowReport(const SiteReport& report, ConsoleUi& ui) {
   for (const Sentence& remedy : report.remedies) ui.Tell(remedy.InEnglish());
 }
 
-void ShowNames(const std::vector<std::string>& pages, const char* kind, ConsoleUi& ui) {
-  for (const std::string& page : pages) {
-    if (ui.IsJson()) {
-      ui.Show({.kind = kind, .severity = Severity::kNote, .file = page});
-    } else {
-      ui.Print(page);
-    }
+void ShowName(const std::string& page, const char* kind, ConsoleUi& ui) {
+  if (ui.IsJson()) {
+    ui.Show({.kind = kind, .severity = Severity::kNote, .file = page});
+  } else {
+    ui.Print(page);
   }
+}
+
+// Each name is out before its page is deleted, for nothing would tell it again.
+ExitStatus RemoveStale(const SiteReport& report, ConsoleUi& ui) {
+  std::signal(SIGPIPE, SIG_IGN);  // what is left is told also when nobody reads the names any more
+  const StopSignals noted;
+  const RemovedPages pages = RemovePages(report, [&](const std::string& page) {
+    if (StopSignal() != 0) return false;
+    ShowName(page, "removed", ui);
+    return ui.Flush();
+  });
+  for (const Finding& finding : pages.kept) ui.Warn(finding);
+  if (pages.left > 0) {
+    ui.Tell("Stopped: " + Counted(pages.left, "page") + (pages.left == 1 ? " was" : " were") +
+            " not removed. Remove the stale pages again.");
+    return StopSignal() != 0 ? StoppedStatus() : kExitFailed;
+  }
+  return pages.kept.empty() ? ui.Done() : kExitFailed;
 }
 
 // Lists or removes the pages that nothing leads to, where that is certain.
@@ -56,14 +74,9 @@ ExitStatus TellStale(const VerifyArguments& arguments, const SiteReport& report,
             ": what the index leads to is not certain.");
     return kExitRefused;
   }
-  if (!arguments.removeStale) {
-    ShowNames(report.stale, "stale", ui);
-    return ui.Done();
-  }
-  const RemovedPages pages = RemovePages(arguments.folder, report);
-  ShowNames(pages.removed, "removed", ui);
-  for (const Finding& finding : pages.kept) ui.Warn(finding);
-  return pages.kept.empty() ? ui.Done() : kExitFailed;
+  if (arguments.removeStale) return RemoveStale(report, ui);
+  for (const std::string& page : report.stale) ShowName(page, "stale", ui);
+  return ui.Done();
 }
 
 // Ends the command when there is no such index page in a folder.

@@ -35,6 +35,9 @@ class FileHandle {
   bool IsOpen() const { return m_descriptor >= 0; }
   int Get() const { return m_descriptor; }
 
+  // Gives the descriptor away; this one is then not open.
+  int Release() { return std::exchange(m_descriptor, -1); }
+
   // Closes now; false, with errno set, when the system reports a failure. A signal that comes between is none: the file
   // is closed all the same.
   bool Close() {

@@ -9,21 +9,18 @@
 #include "Utf8.h"
 
 namespace folionet {
-namespace {
 
-bool Exists(const std::string& path) {
+bool FolderLister::IsThere(const std::string& path) const {
   struct stat status {};
-  return stat(path.c_str(), &status) == 0;
+  return fstatat(m_at, path.c_str(), &status, 0) == 0;
 }
-
-}  // namespace
 
 const FolderLister::Entries& FolderLister::EntriesOf(const std::string& folder) {
   const auto [place, isNew] = m_folders.try_emplace(folder);
   Entries& entries = place->second;
   if (!isNew) return entries;
   try {
-    for (const std::string& name : ListFolder(folder)) entries.try_emplace(FoldCase(name), name);
+    for (const std::string& name : ListFolder(folder, m_at)) entries.try_emplace(FoldCase(name), name);
   } catch (const RunTimeError&) {
     // A folder that cannot be listed holds no other name; opening the exact one tells why.
   }
@@ -33,13 +30,13 @@ const FolderLister::Entries& FolderLister::EntriesOf(const std::string& folder) 
 std::string FolderLister::Locate(const std::string& folder, std::string_view name) {
   const std::string base = NativePath(folder);
   const std::string rest = NativePath(name);
-  if (Exists(base + rest)) return base + rest;
+  if (IsThere(base + rest)) return base + rest;
   std::string found = base;
   std::size_t at = 0;
   while (at < rest.size()) {
     const std::size_t slash = std::min(rest.find('/', at), rest.size());
     const std::string component = rest.substr(at, slash - at);
-    if (component.empty() || Exists(found + component)) {
+    if (component.empty() || IsThere(found + component)) {
       found += component;
     } else {
       const Entries& entries = EntriesOf(found.empty() ? "./" : found);

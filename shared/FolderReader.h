@@ -1,6 +1,7 @@
 #pragma once
 
 #include <dirent.h>
+#include <fcntl.h>
 
 #include <memory>
 
@@ -9,8 +10,8 @@ namespace folionet {
 // Reads the entries of a folder one after the other, "." and ".." among none of them.
 class FolderReader {
  public:
-  // Not open, with errno set, when the folder cannot be read.
-  explicit FolderReader(const char* path) : m_folder(opendir(path)) {}
+  // The folder of a path that starts from the open folder `at`. Not open, with errno set, when it cannot be read.
+  explicit FolderReader(const char* path, int at = AT_FDCWD);
 
   bool IsOpen() const { return m_folder != nullptr; }
   int Descriptor() const { return dirfd(m_folder.get()); }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <sys/stat.h>
+
 #include <string>
 
 namespace folionet {
@@ -13,5 +15,8 @@ int MakeFolders(const std::string& path, Doing doing);
 
 // Whether a file could be made in an open folder, as a value of errno: EEXIST when something has the name.
 int WhyNotMake(int folder, const std::string& name);
+
+// Whether a file could be taken away from an open folder, as a value of errno; `old` is of that file.
+int WhyNotRemove(int folder, const std::string& name, const struct stat& old);
 
 }  // namespace folionet

@@ -91,9 +91,9 @@ std::string UserFolder(const char* variable, std::string_view belowHome) {
   return WithSeparator(WithSeparator(home).append(belowHome));
 }
 
-std::vector<std::string> FolderEntries(const std::string& folder) {
+std::vector<std::string> FolderEntries(const std::string& folder, int at) {
   const std::string path = NativePath(folder);
-  FolderReader reader(path.empty() ? "." : path.c_str());
+  FolderReader reader(path.empty() ? "." : path.c_str(), at);
   if (!reader.IsOpen()) throw RunTimeError::FromErrno(errno, path);
   std::vector<std::string> names;
   while (const dirent* const entry = reader.Next()) names.emplace_back(entry->d_name);
@@ -101,8 +101,8 @@ std::vector<std::string> FolderEntries(const std::string& folder) {
   return names;
 }
 
-std::vector<std::string> ListFolder(const std::string& folder) {
-  std::vector<std::string> names = FolderEntries(folder);
+std::vector<std::string> ListFolder(const std::string& folder, int at) {
+  std::vector<std::string> names = FolderEntries(folder, at);
   // The names and what they are sorted by, made once for each.
   std::vector<std::pair<std::string, std::string>> keys;
   keys.reserve(names.size());

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <fcntl.h>
+
 #include <string>
 #include <string_view>
 #include <vector>
@@ -38,11 +40,11 @@ std::string LocateIgnoringCase(const std::string& folder, std::string_view name)
 // its end; empty when neither is known: a relative path in the environment is none.
 std::string UserFolder(const char* variable, std::string_view belowHome);
 
-// The names of a folder's entries, in the order in which the system gives them. Throws RunTimeError when the folder
-// cannot be read.
-std::vector<std::string> FolderEntries(const std::string& folder);
+// The names of a folder's entries, in the order in which the system gives them; its path starts from the open folder
+// `at`. Throws RunTimeError when the folder cannot be read.
+std::vector<std::string> FolderEntries(const std::string& folder, int at = AT_FDCWD);
 
-// The names of a folder's entries, sorted ignoring case. Throws RunTimeError when the folder cannot be read.
-std::vector<std::string> ListFolder(const std::string& folder);
+// As FolderEntries, sorted ignoring case.
+std::vector<std::string> ListFolder(const std::string& folder, int at = AT_FDCWD);
 
 }  // namespace folionet

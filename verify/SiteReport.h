@@ -1,12 +1,12 @@
 #pragma once
 
 #include <cstddef>
-#include <optional>
+#include <memory>
 #include <string>
 #include <vector>
 
-#include "FileStamp.h"
 #include "Finding.h"
+#include "SiteHandle.h"
 
 namespace folionet {
 
@@ -21,11 +21,7 @@ struct SiteReport {
   std::vector<std::string> stale;      // those of them that a compile has written
   bool isStaleCertain = true;          // false when files that could not be read might lead to those
 
-  // The folder, which is another one when a file was added to it or taken away, and its index page when the reading
-  // began.
-  std::string indexName;
-  std::optional<FileStamp> folder;
-  std::optional<FileStamp> index;
+  std::shared_ptr<const SiteHandle> site;  // the folder that was read
 
   std::size_t pages = 0;
   std::size_t links = 0;        // those that lead to files of the site

@@ -1,12 +1,11 @@
 #include "SiteVerification.h"
 
 #include <algorithm>
-#include <filesystem>
 #include <map>
+#include <memory>
 #include <optional>
 #include <set>
 #include <string_view>
-#include <system_error>
 #include <unordered_map>
 #include <utility>
 
@@ -19,12 +18,14 @@
 #include "Paths.h"
 #include "RunTimeError.h"
 #include "SiteFindings.h"
+#include "SiteHandle.h"
 #include "StyleLinks.h"
 #include "Utf8.h"
-#include "WholeFile.h"
 
 namespace folionet {
 namespace {
+
+constexpr const char* kIndexPages[] = {"index.html", "index.htm"};
 
 bool HasExtension(std::string_view name, std::string_view extension) {
   return name.size() > extension.size() && EqualIgnoringCase(name.substr(name.size() - extension.size()), extension);
@@ -62,18 +63,20 @@ std::optional<std::string> PathInFolder(std::string_view target) {
 class SiteReader {
  public:
   explicit SiteReader(const SiteRequest& request)
-      : m_request(request), m_folder(WithSeparator(NativePath(request.folder))), m_findings(request.words) {
-    m_report.indexName = request.indexName;
-    m_report.folder = StampOf(m_folder);
-    m_report.index = StampOf(m_folder + request.indexName);
-    for (std::string& name : ListFolder(m_folder)) m_names.insert(std::move(name));
+      : m_request(request),
+        m_site(std::make_shared<SiteHandle>(WithSeparator(NativePath(request.folder)))),
+        m_lister(m_site->Get()),
+        m_findings(request.words) {
+    for (std::string& name : m_site->Names()) m_names.insert(std::move(name));
   }
 
   SiteReport Read() {
     const std::string& index = m_request.indexName;
-    if (!m_names.contains(index)) throw RunTimeError(kFileNotFound, m_folder + index, "There is no such index page.");
+    if (!m_names.contains(index)) {
+      throw RunTimeError(kFileNotFound, m_site->Path() + index, "There is no such index page.");
+    }
     for (const std::string& name : m_names) {
-      if (IsHtmlName(name) && !FolderExists(m_folder + name) && m_taken.insert(name).second) m_waiting.push_back(name);
+      if (IsHtmlName(name) && !m_site->IsFolder(name) && m_taken.insert(name).second) m_waiting.push_back(name);
     }
     ReadWaiting();
     std::stable_sort(m_broken.begin(), m_broken.end(),
@@ -82,6 +85,7 @@ class SiteReader {
     TellUnread();
     if (m_report.isWhole) FindUnreached();
     m_findings.MoveTo(m_report);
+    m_report.site = std::move(m_site);
     return std::move(m_report);
   }
 
@@ -120,7 +124,7 @@ class SiteReader {
   void ReadFile(const std::string& path) {
     std::string bytes;
     try {
-      bytes = ReadWholeFile(m_folder + path);
+      bytes = m_site->Read(path);
     } catch (const RunTimeError& error) {
       if (path == m_request.indexName) throw;
       m_unread.emplace_back(path, StandardMessage(error.Number()));
@@ -131,9 +135,8 @@ class SiteReader {
     }
     if (IsHtmlName(path)) {
       ++m_report.pages;
-      std::error_code error;
       const bool isOurs = IsOurPage(std::string_view(bytes).substr(0, kGeneratorHead));
-      if (isOurs && !std::filesystem::is_symlink(m_folder + path, error)) m_ours.insert(path);
+      if (isOurs && !m_site->IsLink(path)) m_ours.insert(path);
       FollowPage({path, m_linked[path]}, bytes);
     } else {
       const CodePage codePage(IsUtf8(bytes) ? "utf-8" : "windows-1252");
@@ -251,22 +254,23 @@ class SiteReader {
     if (path.find('\0') != std::string::npos) return {LinkFault::kMissing};
     if (path.find('\\') != std::string::npos && !m_names.contains(path)) return {LinkFault::kBackslash};
     const bool isExact = path.find('/') != std::string::npos || m_names.contains(path);
-    std::error_code error;
-    if (!isExact || !std::filesystem::exists(m_folder + path, error)) {
-      const std::string other = m_lister.Locate(m_folder, path);
-      if (!FileExists(other) && !FolderExists(other)) return {LinkFault::kMissing};
-      return {LinkFault::kOtherCase, other.substr(m_folder.size())};
+    if (!isExact || !m_site->IsThere(path)) {
+      const std::string other = m_lister.Locate({}, path);
+      if (!m_site->IsReadableFile(other) && !m_site->IsFolder(other)) return {LinkFault::kMissing};
+      return {LinkFault::kOtherCase, other};
     }
-    Goal goal{std::nullopt, {}, path, FolderExists(m_folder + path)};
+    Goal goal{std::nullopt, {}, path, m_site->IsFolder(path)};
     if (goal.isFolder) {
       const std::string folder = path == "./" ? std::string() : WithSeparator(path);
-      const std::string index = FindIndexPage(m_folder + folder);
-      goal.file = index.empty() ? index : folder + index;
+      goal.file.clear();
+      for (const char* name : kIndexPages) {
+        if (goal.file.empty() && m_site->IsReadableFile(folder + name)) goal.file = folder + name;
+      }
     }
     const bool isToRead = IsHtmlName(goal.file) || IsSheet(goal.file);
     if (isToRead && !IsInLinkedFolder(goal.file)) {
       if (m_taken.insert(goal.file).second) m_waiting.push_back(goal.file);
-    } else if (!goal.isFolder && !FileExists(m_folder + path)) {
+    } else if (!goal.isFolder && !m_site->IsReadableFile(path)) {
       goal.fault = LinkFault::kUnreadable;
     }
     return goal;
@@ -275,9 +279,8 @@ class SiteReader {
   // Whether a folder on the way to a file is a symbolic link; the report then names it.
   bool IsInLinkedFolder(const std::string& path) {
     for (std::size_t slash = path.find('/'); slash != std::string::npos; slash = path.find('/', slash + 1)) {
-      std::error_code error;
       const std::string folder = path.substr(0, slash);
-      if (!std::filesystem::is_symlink(m_folder + folder, error)) continue;
+      if (!m_site->IsLink(folder)) continue;
       if (std::find(m_linkedFolders.begin(), m_linkedFolders.end(), folder) == m_linkedFolders.end()) {
         m_linkedFolders.push_back(folder);
       }
@@ -331,7 +334,7 @@ class SiteReader {
   }
 
   const SiteRequest& m_request;
-  std::string m_folder;
+  std::shared_ptr<SiteHandle> m_site;
   FolderLister m_lister;
   std::set<std::string> m_names;
   std::unordered_map<std::string, Goal> m_goals;          // of each path that a link has
@@ -354,7 +357,7 @@ class SiteReader {
 SiteReport VerifySite(const SiteRequest& request) { return SiteReader(request).Read(); }
 
 std::string FindIndexPage(const std::string& folder) {
-  for (const char* name : {"index.html", "index.htm"}) {
+  for (const char* name : kIndexPages) {
     if (FileExists(WithSeparator(NativePath(folder)) + name)) return name;
   }
   return {};

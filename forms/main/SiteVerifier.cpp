@@ -115,7 +115,7 @@ class Look {
   std::optional<RunTimeError> m_failure;
 };
 
-void OfferRemoval(const std::string& folder, const SiteReport& report, UserInterface& ui) {
+void OfferRemoval(const SiteReport& report, UserInterface& ui) {
   const std::vector<std::string>& stale = report.stale;
   const std::string title = FromQt(QObject::tr("Remove pages"));
   const QStringList question{
@@ -123,7 +123,7 @@ void OfferRemoval(const std::string& folder, const SiteReport& report, UserInter
                         : QObject::tr("Nothing leads to these %1 pages of Folionet:").arg(Shown(stale.size())),
       SomeNames(stale).join(", "), stale.size() == 1 ? QObject::tr("Delete it?") : QObject::tr("Delete them?")};
   if (!ui.AskYesNo(title, FromQt(question.join("\r\n")))) return;
-  const RemovedPages pages = RemovePages(folder, report);
+  const RemovedPages pages = RemovePages(report);
   QStringList lines{
       pages.removed.size() == 1
           ? QObject::tr("1 page was deleted. Remove it from your server too.")
@@ -146,7 +146,7 @@ void VerifyWrittenSite(const std::string& indexPage, QWidget& form, UserInterfac
     ui.ShowMessage({isWell ? MessageIcon::kInformation : MessageIcon::kWarning, FromQt(QObject::tr("Verify site")),
                     FromQt(ReportText(*report))});
     if (report->isWhole && report->isStaleCertain && !report->stale.empty()) {
-      OfferRemoval(indexPage.substr(0, indexPage.rfind('/') + 1), *report, ui);
+      OfferRemoval(*report, ui);
     }
   } catch (const RunTimeError& error) {
     ui.ShowErrorReport({Procedure::kVerifySite, error});

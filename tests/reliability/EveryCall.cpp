@@ -30,7 +30,6 @@ std::vector<std::string> KindsOf(const Call& struck) {
                                                               {"lock", {ENOLCK, EWOULDBLOCK, EINTR}},
                                                               {"link", {ENOSPC, EIO, EOPNOTSUPP}},
                                                               {"mkdir", {EACCES, ENOSPC, EIO}},
-                                                              {"opendir", {EACCES, EMFILE}},
                                                               {"readdir", {EIO}}};
   std::vector<std::string> kinds{"kill"};
   for (const int error : errors.at(call)) kinds.push_back(std::to_string(error));

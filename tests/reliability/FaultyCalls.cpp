@@ -7,7 +7,7 @@
 //   FAULT_KIND    a value of errno to fail with; "short": half is read or written; "kill": the program is killed
 //                 before the call; "torn": it is killed after half of the bytes are written; "stop15": it
 //                 gets that signal, and the call is made; "swap": "here" and "there" in the folder change places
-//                 before the call
+//                 before the call; "swap7": and do so again before the seventh one behind it
 //   FAULT_NAMED   not empty: there are no files without a name, as some file systems know none
 //
 // It uses system calls directly, so that nothing it does itself is counted.
@@ -46,18 +46,17 @@ class Plan {
     if (m_folder.empty() || !path.starts_with(m_folder)) return Strike::kNone;
     const std::string line = std::string(call) + " " + path + "\n";
     syscall(SYS_write, m_log, line.data(), line.size());
-    if (++m_count != m_at) return Strike::kNone;
+    const long behind = ++m_count - m_at;
+    if (m_kind.starts_with("swap")) {
+      if (behind == 0 || (behind > 0 && behind == std::atol(m_kind.c_str() + 4))) Swap();
+      return Strike::kNone;
+    }
+    if (behind != 0) return Strike::kNone;
     if (m_kind == "short") return Strike::kShort;
     if (m_kind == "torn") return Strike::kTorn;
     if (m_kind == "kill") Kill();
     if (m_kind.starts_with("stop")) {
       syscall(SYS_kill, syscall(SYS_getpid), std::atoi(m_kind.c_str() + 4));
-      return Strike::kNone;
-    }
-    if (m_kind == "swap") {
-      const std::string here = m_folder + "here";
-      const std::string there = m_folder + "there";
-      syscall(SYS_renameat2, AT_FDCWD, here.c_str(), AT_FDCWD, there.c_str(), RENAME_EXCHANGE);
       return Strike::kNone;
     }
     errno = std::atoi(m_kind.c_str());
@@ -72,6 +71,12 @@ class Plan {
   }
 
  private:
+  void Swap() const {
+    const std::string here = m_folder + "here";
+    const std::string there = m_folder + "there";
+    syscall(SYS_renameat2, AT_FDCWD, here.c_str(), AT_FDCWD, there.c_str(), RENAME_EXCHANGE);
+  }
+
   static const char* Variable(const char* name) {
     const char* value = std::getenv(name);
     return value != nullptr ? value : "";
@@ -100,13 +105,6 @@ std::string PathOf(int descriptor) { return LinkText("/proc/self/fd/" + std::to_
 std::string PathAt(int folder, const char* path) {
   if (path[0] == '/') return path;
   return (folder == AT_FDCWD ? LinkText("/proc/self/cwd") : PathOf(folder)) + "/" + path;
-}
-
-// The folder's own path is met as "<folder>/", so that what lists it is counted.
-std::string FolderPath(const char* path) {
-  std::string whole = PathAt(AT_FDCWD, path);
-  if (!whole.ends_with('/')) whole += '/';
-  return whole;
 }
 
 bool Fails(std::string_view call, const std::string& path) {
@@ -261,12 +259,6 @@ int Lock(int descriptor, int operation) noexcept {
 int mkdir(const char* path, mode_t mode) noexcept {
   if (Fails("mkdir", PathAt(AT_FDCWD, path))) return -1;
   return static_cast<int>(syscall(SYS_mkdirat, AT_FDCWD, path, mode));
-}
-
-DIR* opendir(const char* path) {
-  if (Fails("opendir", FolderPath(path))) return nullptr;
-  static auto* const real = Next<DIR*(const char*)>("opendir");
-  return real(path);
 }
 
 struct dirent* readdir(DIR* folder) {

@@ -38,7 +38,7 @@ void DressCompile(const QPalette& desktop, QPushButton& compile) {
 // On a large screen the content stays one block in the middle, in which nothing is far from what belongs to it.
 void HoldTogether(QWidget& content) {
   constexpr int kColumns = 200;
-  constexpr int kLines = 44;
+  constexpr int kLines = 48;
   const QFontMetrics metrics = content.fontMetrics();
   content.setMaximumSize(kColumns * metrics.averageCharWidth(), kLines * metrics.height());
 }

@@ -140,7 +140,7 @@ void frmMain::ConnectCommands() {
 
 // Wider than it must be, so that paths and names have room.
 QSize frmMain::sizeHint() const {
-  constexpr int kColumns = 136;
+  constexpr int kColumns = 156;
   return QMainWindow::sizeHint().expandedTo({kColumns * fontMetrics().averageCharWidth(), 0});
 }
 

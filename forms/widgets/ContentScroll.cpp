@@ -1,5 +1,6 @@
 #include "ContentScroll.h"
 
+#include <QApplication>
 #include <QBoxLayout>
 #include <QEvent>
 #include <QScreen>
@@ -23,7 +24,12 @@ ContentScroll::ContentScroll(QWidget* parent) : QScrollArea(parent) {
   setFocusPolicy(Qt::NoFocus);
   viewport()->setAutoFillBackground(false);
   setBackgroundRole(QPalette::Window);
+  // Qt scrolls for the Tab key alone, not for an Alt key nor for a form that gives the focus.
+  connect(qApp, &QApplication::focusChanged, this, &ContentScroll::KeepFocusSeen);
 }
+
+// The focus leaves the parts of it that go with it.
+ContentScroll::~ContentScroll() { disconnect(qApp, nullptr, this, nullptr); }
 
 int ContentScroll::BarRoom() const { return verticalScrollBar()->sizeHint().width() + kGap; }
 
@@ -50,12 +56,29 @@ bool ContentScroll::eventFilter(QObject* watched, QEvent* event) {
   if (isChanged) updateGeometry();
   const bool isDone = QScrollArea::eventFilter(watched, event);
   if (isChanged) KeepOffBar();
+  // Once the content has laid out its parts.
+  const bool isMoved = isChanged || (watched == widget() && event->type() == QEvent::Resize);
+  if (isMoved) QMetaObject::invokeMethod(this, &ContentScroll::KeepFocusSeen, Qt::QueuedConnection);
   return isDone;
 }
 
 void ContentScroll::resizeEvent(QResizeEvent* event) {
   QScrollArea::resizeEvent(event);
   KeepOffBar();
+  KeepFocusSeen();
+}
+
+void ContentScroll::showEvent(QShowEvent* event) {
+  QScrollArea::showEvent(event);
+  KeepFocusSeen();
+}
+
+// What a person types into is not pushed out of view by what is told elsewhere.
+void ContentScroll::KeepFocusSeen() {
+  QWidget* const focus = window()->focusWidget();
+  if (widget() == nullptr || focus == nullptr || !widget()->isAncestorOf(focus)) return;
+  constexpr int kAround = 6;
+  ensureWidgetVisible(focus, kAround, kAround);
 }
 
 // By what the content needs without a bar: the gap itself could make it need one.

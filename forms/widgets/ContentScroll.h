@@ -22,6 +22,7 @@ class ContentScroll : public QScrollArea {
 
  public:
   explicit ContentScroll(QWidget* parent = nullptr);
+  ~ContentScroll() override;
 
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override;
@@ -29,10 +30,12 @@ class ContentScroll : public QScrollArea {
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;  // the content's size hint is this one's
   void resizeEvent(QResizeEvent* event) override;
+  void showEvent(QShowEvent* event) override;
 
  private:
   int BarRoom() const;
   void KeepOffBar();  // room between the content and a scroll bar that is there
+  void KeepFocusSeen();
 };
 
 // Makes all of a dialog scroll but the last row of its layout, which holds its buttons.

@@ -89,7 +89,7 @@ bool FolderTree::SetPath(const QString& path) {
   return true;
 }
 
-QSize FolderTree::sizeHint() const { return SizeFor(6); }
+QSize FolderTree::sizeHint() const { return SizeFor(9); }
 
 QSize FolderTree::minimumSizeHint() const { return SizeFor(3); }
 
@@ -141,6 +141,12 @@ void FolderTree::keyPressEvent(QKeyEvent* event) {
     return;
   }
   FillOpened(topLevelItem(0));
+}
+
+// The chosen folder stays in view where the tree gives way to what is told below it.
+void FolderTree::resizeEvent(QResizeEvent* event) {
+  QTreeWidget::resizeEvent(event);
+  if (QTreeWidgetItem* current = currentItem()) scrollToItem(current);
 }
 
 void FolderTree::FillOpened(QTreeWidgetItem* item) {

@@ -31,6 +31,7 @@ class FolderTree : public QTreeWidget {
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
 
  private:
   QSize SizeFor(int lines) const;

@@ -272,14 +272,23 @@ TEST_F(Texts, OpenWithinTheScreen) {
     EXPECT_EQ(hasRoom ? content->verticalScrollBar()->maximum() : 0, 0) << FromQt(dialog->objectName());
   }
   m_form->resize(m_form->sizeHint());
+  for (const char* file : {"index.html", "Book1_1.html", "note.txt"}) m_home.Write(std::string("site/") + file, "");
   ChooseOutput();
-  ASSERT_TRUE(QTest::qWaitFor([this] { return IsShown("lblFolderFacts"); }));
+  ASSERT_TRUE(QTest::qWaitFor([this] { return !m_form->Facts().IsLooking(); }));
   Give("cboStartBook", "Book2");
+  ASSERT_TRUE(QTest::qWaitFor([this] { return !m_form->Facts().IsLooking(); }));
   QApplication::processEvents();
   EXPECT_EQ(HasLetters() ? Get<QScrollArea>("scrColumns").verticalScrollBar()->maximum() : 0, 0)
       << "lists make room for what is told";
+  Get("txthttpRoot").setFocus();
   m_form->resize(kSmallest - kAround);
   QApplication::processEvents();
+  const auto isSeen = [](const QWidget& part, const QRect& rect) {
+    return part.visibleRegion().contains(rect.center());
+  };
+  EXPECT_TRUE(isSeen(Get("txthttpRoot"), Get("txthttpRoot").rect())) << "what is typed into";
+  const auto& tree = Get<QTreeWidget>("Dir1");
+  EXPECT_TRUE(tree.viewport()->rect().contains(tree.visualItemRect(tree.currentItem()).center()));
   for (const char* control : {"cmdCompile", "cmdHelp", "frmMain.StatusBar1"}) {
     const QWidget& widget = Get(control);
     EXPECT_LE(widget.mapTo(m_form.get(), widget.rect().bottomRight()).y(), m_form->height()) << control;

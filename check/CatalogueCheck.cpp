@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "Catalogue.h"
+#include "CharsetCheck.h"
 #include "ImportedText.h"
 #include "Installation.h"
 #include "LineReader.h"
@@ -53,7 +54,7 @@ void CheckRecord(const RecordReader& records, const CatalogueRecord& record, Che
   const auto imported = record.isListed ? CheckImported(records, record.name, text, library) : ImportedText();
   if (!imported) return;
   // The name of an imported translation is in UTF-8 where windows-1252 lacks its characters.
-  if (!imported->IsThere()) library.CheckBytes(path, line, record.name);
+  if (!imported->IsThere()) CheckName(library, path, line, record.name);
   library.CheckBytes(path, line, record.stem);
   if (!record.isListed) return;
   if (!CheckVerseFile(records, record.name, text, library)) return;

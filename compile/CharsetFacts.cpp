@@ -1,6 +1,8 @@
 #include "CharsetFacts.h"
 
+#include <optional>
 #include <string>
+#include <string_view>
 #include <utility>
 
 #include "CodePage.h"
@@ -15,27 +17,30 @@ namespace {
 struct MismatchWords {
   const char* kind;
   const char* isUtf8;
-  const char* isNot;
+  const char* isNotUtf8;
+  const char* isOther;
   const char* remedy;
 };
 
 constexpr MismatchWords kOfText{
     .kind = "text-charset",
     .isUtf8 = Words("QObject", "The text of the translation is UTF-8, the pages %1."),
-    .isNot = Words("QObject", "The text of the translation is not UTF-8, the pages are."),
+    .isNotUtf8 = Words("QObject", "The text of the translation is not UTF-8, the pages are."),
+    .isOther = Words("QObject", "The text of the translation is not in %1, the charset of the pages."),
     .remedy = "Give the charset that it is in: --set \"%1\".",
 };
 constexpr MismatchWords kOfTitles{
     .kind = "titles-charset",
     .isUtf8 = Words("QObject", "The book titles are UTF-8, the pages %1."),
-    .isNot = Words("QObject", "The book titles are not UTF-8, the pages are."),
+    .isNotUtf8 = Words("QObject", "The book titles are not UTF-8, the pages are."),
+    .isOther = Words("QObject", "The book titles are not in %1, the charset of the pages."),
     .remedy = "Give the charset that they are in: --set \"%1\".",
 };
-
 constexpr MismatchWords kOfName{
     .kind = "name-charset",
     .isUtf8 = Words("QObject", "The name of the translation is UTF-8, the pages %1."),
-    .isNot = Words("QObject", "The name of the translation is not UTF-8, the pages are."),
+    .isNotUtf8 = Words("QObject", "The name of the translation is not UTF-8, the pages are."),
+    .isOther = Words("QObject", "The name of the translation is not in %1, the charset of the pages."),
     .remedy = "Give the charset that it is in: --set \"%1\".",
 };
 
@@ -43,11 +48,22 @@ Finding Mismatch(const MismatchWords& words, const CharsetMismatch& mismatch, co
   Finding fact{.kind = words.kind, .severity = Severity::kWarning};
   if (mismatch.kind == TextKind::kUtf8) {
     fact.what = {words.isUtf8, {codePage.Name()}};
+  } else if (codePage.Name() == "utf-8") {
+    fact.what = {words.isNotUtf8, {}};
   } else {
-    fact.what = {words.isNot, {}};
+    fact.what = {words.isOther, {codePage.Name()}};
   }
   fact.remedy = CharsetRemedy(words.remedy, mismatch.charsetEntry);
   return fact;
+}
+
+// As FindMismatch, of what becomes names of pages or stands in each of them: a damaged byte counts too.
+std::optional<CharsetMismatch> FindAnyMismatch(const std::string& text, const CodePage& codePage,
+                                               std::string_view language) {
+  const TextSample sample = SampleOf(text);
+  const auto wrong = FindMismatch(sample, codePage, language);
+  if (wrong || codePage.FindUndecodable(text) == std::string::npos) return wrong;
+  return CharsetMismatch{TextKind::kOther, {}};
 }
 
 Finding Difference(bool isTextUtf8) {
@@ -80,7 +96,7 @@ std::vector<Finding> FindCharsetFacts(const CompileRequest& request, const ModGl
   std::string titles;
   for (const std::string& title : glob.cboStartBook) titles += title + "\n";
   for (const std::string& code : glob.BookCodes) titles += code + "\n";
-  const TextSample ofTitles = SampleOf(titles);
+  const TextKind kindOfTitles = SampleOf(titles).kind;
   const std::string& language = request.texts.PageLanguage;
   TextSample ofVerses = request.sample ? *request.sample : SampleOfFile(request.txtFilename);
   // An imported text says itself which charset it is in, and is brought into that of the pages.
@@ -90,29 +106,20 @@ std::vector<Finding> FindCharsetFacts(const CompileRequest& request, const ModGl
     }
     ofVerses = {};
   }
+  const auto add = [&](const MismatchWords& words, const std::optional<CharsetMismatch>& wrong) {
+    if (wrong) facts.push_back(Mismatch(words, *wrong, codePage));
+  };
   if (auto fact = FindInCharset(request.texts.PageCharset, EntryOf(ofVerses, language))) {
     facts.push_back(*std::move(fact));
   }
-  if (!glob.Imported.IsThere()) {
-    const auto wrong = FindMismatch(SampleOf(request.options.txtBibleSel), codePage, language);
-    if (wrong) facts.push_back(Mismatch(kOfName, *wrong, codePage));
-  }
-  const bool isEither = ofTitles.kind != TextKind::kAscii && ofVerses.kind != TextKind::kAscii;
-  if (isEither && ofTitles.kind != ofVerses.kind) {
+  if (!glob.Imported.IsThere()) add(kOfName, FindAnyMismatch(request.options.txtBibleSel, codePage, language));
+  const bool isEither = kindOfTitles != TextKind::kAscii && ofVerses.kind != TextKind::kAscii;
+  if (isEither && kindOfTitles != ofVerses.kind) {
     facts.push_back(Difference(ofVerses.kind == TextKind::kUtf8));
     return facts;
   }
-  if (const auto wrong = FindMismatch(ofVerses, codePage, language))
-    facts.push_back(Mismatch(kOfText, *wrong, codePage));
-  if (const auto wrong = FindMismatch(ofTitles, codePage, language)) {
-    facts.push_back(Mismatch(kOfTitles, *wrong, codePage));
-  } else if (codePage.FindUndecodable(titles) != std::string::npos) {
-    facts.push_back(
-        {.kind = kOfTitles.kind,
-         .severity = Severity::kWarning,
-         .what = {Words("QObject", "The book titles are not in %1, the charset of the pages."), {codePage.Name()}},
-         .remedy = CharsetRemedy(kOfTitles.remedy, EntryOf(ofTitles, language))});
-  }
+  add(kOfText, FindMismatch(ofVerses, codePage, language));
+  add(kOfTitles, FindAnyMismatch(titles, codePage, language));
   return facts;
 }
 

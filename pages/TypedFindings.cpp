@@ -18,6 +18,9 @@
 namespace folionet {
 namespace {
 
+constexpr std::string_view kCharsetKey = "Charset=";
+constexpr char kAnyEntry[] = "NAME DESCRIPTION";
+
 bool IsPlainCode(std::string_view code) {
   return !code.empty() && std::all_of(code.begin(), code.end(), [](char c) {
     return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '-';
@@ -72,14 +75,29 @@ void AddHtmlWord(const char* file, std::string_view text, std::vector<Finding>& 
               {}));
 }
 
-// Of one that an editor saved, as most do, in UTF-8.
-void AddCharset(const char* file, const PageTexts& texts, const std::string& text, std::vector<Finding>& findings) {
-  const CodePage codePage(texts.PageCharset);
-  const std::string bytes = codePage.Name() == "utf-8" ? std::string() : codePage.Encode(text);
-  if (IsAscii(bytes) || !IsUtf8(bytes)) return;
-  findings.push_back(Warning("own-text-charset",
-                             {Words("QObject", "%1 is UTF-8, the pages %2."), {file, codePage.Name()}},
-                             {"Save it in the charset of the pages."}));
+// Whether a text is not in the charset of the pages, be it in UTF-8, as most editors save one.
+bool IsInOtherCharset(std::string_view bytes, const CodePage& codePage) {
+  if (codePage.FindUndecodable(bytes) != std::string_view::npos) return true;
+  return codePage.Name() != "utf-8" && !IsAscii(bytes) && IsUtf8(bytes);
+}
+
+void AddCharset(const char* file, const TypedTexts& typed, const std::string& text, std::vector<Finding>& findings) {
+  const CodePage codePage(typed.texts.PageCharset);
+  const std::string bytes = codePage.Encode(text);
+  if (!IsInOtherCharset(bytes, codePage)) return;
+  std::size_t line = 1;
+  std::string_view rest = bytes;
+  for (std::size_t end = 0; (end = rest.find('\n')) != std::string_view::npos; ++line) {
+    if (IsInOtherCharset(rest.substr(0, end), codePage)) break;
+    rest.remove_prefix(end + 1);
+  }
+  const char* const what = codePage.FindUndecodable(bytes) == std::string::npos
+                               ? Words("QObject", "%1 is UTF-8, the pages %2.")
+                               : Words("QObject", "%1 is not in %2, the charset of the pages.");
+  findings.push_back(Warning("own-text-charset", {what, {file, codePage.Name()}},
+                             {Words("QObject", "Save it as UTF-8 with a byte-order mark.")}));
+  findings.back().file = typed.programFolder + file;
+  findings.back().line = line;
 }
 
 }  // namespace
@@ -102,8 +120,8 @@ std::vector<Finding> FindInTypedTexts(const TypedTexts& typed) {
   AddWord("LinkToMain", options.frmLinkToMAin.txtLinkToMain, findings);
   AddHtmlWord("CustomHeader.txt", typed.texts.CustomHeader, findings);
   AddHtmlWord("CustomFooter.txt", typed.texts.CustomFooter, findings);
-  AddCharset("CustomHeader.txt", typed.texts, typed.texts.CustomHeader, findings);
-  AddCharset("CustomFooter.txt", typed.texts, typed.texts.CustomFooter, findings);
+  AddCharset("CustomHeader.txt", typed, typed.texts.CustomHeader, findings);
+  AddCharset("CustomFooter.txt", typed, typed.texts.CustomFooter, findings);
   return findings;
 }
 
@@ -128,7 +146,13 @@ std::optional<Finding> FindInCharset(const std::string& charset, const std::stri
 }
 
 Sentence CharsetRemedy(const char* step, const std::string& entry) {
-  return {step, {"Charset=" + (entry.empty() ? "NAME DESCRIPTION" : entry)}};
+  return {step, {std::string(kCharsetKey) + (entry.empty() ? kAnyEntry : entry)}};
+}
+
+std::optional<std::string> EntryOfRemedy(const Sentence& remedy) {
+  if (remedy.arguments.size() != 1 || !remedy.arguments[0].starts_with(kCharsetKey)) return std::nullopt;
+  const std::string entry = remedy.arguments[0].substr(kCharsetKey.size());
+  return entry == kAnyEntry ? std::string() : entry;
 }
 
 }  // namespace folionet

@@ -29,4 +29,7 @@ std::optional<Finding> FindInCharset(const std::string& charset, const std::stri
 // with "%1".
 Sentence CharsetRemedy(const char* step, const std::string& entry);
 
+// The entry that such a remedy gives, empty for any; nothing for another remedy.
+std::optional<std::string> EntryOfRemedy(const Sentence& remedy);
+
 }  // namespace folionet

@@ -66,7 +66,7 @@ std::vector<std::string> LanguageFiles(const ModGlob& glob) {
   const std::string folder = SysdefsFile(glob, "");
   std::vector<std::string> names;
   if (!FolderExists(folder)) return names;
-  for (std::string& name : ListFolder(folder)) {
+  for (std::string& name : WorkAbout(Subject::kDefinitionsFolder, [&] { return ListFolder(folder); })) {
     if (IsLanguageFile(name)) names.push_back(std::move(name));
   }
   return names;
@@ -76,7 +76,7 @@ Outcome GetLang(ModGlob& glob, UserInterface& ui) {
   constexpr char kNoneFound[] = "No Language Definition file found\r\n";
   glob.cboLang.clear();
   try {
-    glob.cboLang = WorkAbout(Subject::kDefinitionsFolder, [&] { return LanguageFiles(glob); });
+    glob.cboLang = LanguageFiles(glob);
     if (glob.cboLang.empty()) {
       throw RunTimeError(kFileNotFound, glob.SysdefsPath + std::string(kPrefix) + "*" + std::string(kSuffix))
           .About(Subject::kDefinitionsFolder);

@@ -126,8 +126,12 @@ std::optional<CharsetMismatch> FindMismatch(const TextSample& sample, const Code
                                             std::string_view pageLanguage) {
   const bool isUtf8Page = codePage.Name() == "utf-8";
   if (sample.kind == TextKind::kUtf8 && !isUtf8Page) return CharsetMismatch{TextKind::kUtf8, kUtf8Entry};
-  if (sample.kind != TextKind::kOther || !isUtf8Page) return std::nullopt;
-  return CharsetMismatch{TextKind::kOther, EntryFor(sample.bytes, pageLanguage)};
+  if (sample.kind != TextKind::kOther) return std::nullopt;
+  if (codePage.FindUndecodable(sample.bytes) == std::string_view::npos) return std::nullopt;
+  std::string entry = EntryFor(sample.bytes, pageLanguage);
+  // Bytes that no charset holds are a damage, not a text in another charset.
+  if (!isUtf8Page && entry.empty()) return std::nullopt;
+  return CharsetMismatch{TextKind::kOther, std::move(entry)};
 }
 
 std::string EntryOf(const TextSample& sample, std::string_view pageLanguage) {

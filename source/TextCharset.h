@@ -27,7 +27,7 @@ inline constexpr char kUtf8Entry[] = "utf-8 (Unicode - UTF-8)";
 
 // How a text does not fit pages of a code page.
 struct CharsetMismatch {
-  TextKind kind;             // of the text: kUtf8 where the pages are not UTF-8, kOther where they are
+  TextKind kind;  // of the text: kUtf8 where the pages are not UTF-8, kOther where it is not in their charset
   std::string charsetEntry;  // what the setting "Charset" should be; empty where that cannot be told
 };
 

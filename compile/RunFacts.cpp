@@ -134,17 +134,30 @@ class FactFinder {
 
   // The pages of the books before the starting one are deleted in any case, and those that stay are not.
   void FindSharedIndex() {
+    const CodePage utf8("utf-8");
+    const std::string index = utf8.ToLower(m_index);
+    std::string alike;
     for (int book = m_request.cboStartBook + 1; book <= Books(); ++book) {
-      if (!m_index.starts_with(m_names.BookOnDisk(book))) continue;
+      if (!index.starts_with(utf8.ToLower(m_names.BookOnDisk(book)))) continue;
       bool takesPage = false;
-      ForEachChapter(m_glob, book, ChaptersOf(book),
-                     [&](int chapter) { takesPage = takesPage || m_names.OnDisk(book, chapter) == m_index; });
+      ForEachChapter(m_glob, book, ChaptersOf(book), [&](int chapter) {
+        const std::string page = m_names.OnDisk(book, chapter);
+        takesPage = takesPage || page == m_index;
+        if (alike.empty() && utf8.ToLower(page) == index) alike = page;
+      });
       if (!takesPage) continue;
       m_facts.push_back(Warning("index-takes-page",
                                 {Words("QObject", "The index page %1 takes the place of a chapter's page."), {m_index}},
                                 {"Give it a name of its own with --index-address."}));
       return;
     }
+    if (alike.empty()) return;
+    m_facts.push_back(Warning("index-takes-page",
+                              {Words("QObject",
+                                     "The index page %1 takes the place of a chapter's page, %2, where the letter case "
+                                     "of names does not count, as on Windows."),
+                               {m_index, alike}},
+                              {"Give it a name of its own with --index-address."}));
   }
 
   void FindMeetingBooks() {

@@ -127,8 +127,9 @@ std::variant<Arguments, ExitStatus> ParseArguments(int argc, char** argv) {
     *text = FromQt(given.first());
     if (text->empty()) return Refuse(option + "a value was expected, but the text given is empty");
   }
-  if (const std::string missing = MissingFolder(arguments.programFolder); !missing.empty()) {
-    return Refuse("--program-folder: " + missing);
+  for (const auto& [name, text] : texts) {
+    const std::string missing = text == &arguments.site ? std::string() : MissingFolder(*text);
+    if (!missing.empty()) return Refuse(std::string("--") + name + ": " + missing);
   }
   for (const auto& [name, text] : texts) *text = Whole(*text);
   return arguments;

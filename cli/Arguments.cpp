@@ -25,9 +25,11 @@ namespace {
 
 void AddCommonOptions(CLI::App& app, CommonOptions& common) {
   app.add_option("--versalia-path", common.folders.versaliaPath, "Holds Sysdefs and Index (default: Versalia's own)")
-      ->type_name("FOLDER");
+      ->type_name("FOLDER")
+      ->check(MissingFolder, "");
   app.add_option("--module-path", common.folders.modulePath, "Holds Bible (default: Modules in --versalia-path)")
-      ->type_name("FOLDER");
+      ->type_name("FOLDER")
+      ->check(MissingFolder, "");
   app.add_option("--program-folder", common.programFolder, "default.css (default: ~/.local/share/Folionet)")
       ->type_name("FOLDER")
       ->check(MissingFolder, "");

@@ -16,11 +16,11 @@ namespace folionet {
 namespace {
 
 // The status that the command ends with: a list that lacks a translation is told to scripts.
-ExitStatus ListTranslations(const CommonOptions& common, const Session& session) {
+ExitStatus ListTranslations(const Session& session) {
   const ModGlob& glob = session.glob;
   if (glob.cboBibleName.empty()) {
     session.ui.Tell("Give the folder that holds Bible with --module-path FOLDER, or see \"folionet-cli check\".");
-    if (!FolderExists(glob.ModulesPath)) throw ExitWith(common.folders.modulePath.empty() ? kExitFailed : kExitUsage);
+    if (!FolderExists(glob.ModulesPath)) throw ExitWith(kExitFailed);
   }
   for (std::size_t i = 0; i < glob.cboBibleName.size(); ++i) {
     session.ui.Print({ShownStem(glob.BibleFiles[i], session.codePage), ShownName(glob, i, session.codePage)});
@@ -91,7 +91,7 @@ ExitStatus RunList(const CommonOptions& common, const std::string& subject, Cons
     return ListBooks(session);
   }
   session.LoadLists();
-  return ListTranslations(common, session);
+  return ListTranslations(session);
 }
 
 }  // namespace folionet

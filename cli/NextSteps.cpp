@@ -6,6 +6,10 @@ namespace {
 constexpr std::string_view kCorrectSetting =
     "Correct the setting in its file, or give it for this run with --set KEY=VALUE; \"folionet-cli list settings\" "
     "shows all of them.";
+constexpr std::string_view kGiveDefinitions =
+    "Give Versalia's folder, which holds Sysdefs, with --versalia-path FOLDER; Sysdefs must hold a file of book titles "
+    "such as BOOKS_SPANISH.TXT.";
+
 // A run of "compile" that failed.
 std::string_view NextStepOfCompile(const ErrorReport& report) {
   if (report.line != 0) {
@@ -61,8 +65,19 @@ std::string_view NextStepOfStart(const ErrorReport& report) {
     case Subject::kSettingsFile:
       return "See that this is a file of settings that may be read, or move it away: then every setting has its "
              "default, and Versalia's folder can be given with --versalia-path FOLDER.";
-    default:
+    case Subject::kEncodingList:
+      if (report.line == 0) {
+        return "See that this list is there and may be read, or give another folder with --program-folder FOLDER.";
+      }
+      return "Correct this line of the list, which is to be like \"utf-8\",\"(Unicode - UTF-8)\", or give another "
+             "folder "
+             "with --program-folder FOLDER.";
+    case Subject::kDefinitionsFolder:
+      return kGiveDefinitions;
+    case Subject::kProgramFolder:
       return "See that this folder may be written, or give another one with --program-folder FOLDER.";
+    default:
+      return "See that this file or folder is there and may be read, and run this command again.";
   }
 }
 
@@ -113,8 +128,7 @@ std::string_view NextStepAfterReport(const ErrorReport& report) {
       return "Correct the place that the report names, or remove this index and run Versalia on the translation, which "
              "makes it anew; \"folionet-cli check\" names every such place.";
     case Procedure::kGetLang:
-      return "Give Versalia's folder, which holds Sysdefs, with --versalia-path FOLDER; Sysdefs must hold a file of "
-             "book titles such as BOOKS_SPANISH.TXT.";
+      return kGiveDefinitions;
     case Procedure::kLoadCustomHeader:
     case Procedure::kLoadCustomFooter:
       return "See that this file may be read and is no longer than the report says, or move it away to compile without "

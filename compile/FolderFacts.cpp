@@ -91,7 +91,10 @@ std::optional<FolderFacts> LookIntoFolder(const std::string& folder, const Writt
   while (const dirent* const entry = reader.Next()) {
     if (!isWanted()) return std::nullopt;
     const std::string name = entry->d_name;
-    if (entry->d_type == DT_DIR) continue;
+    if (entry->d_type == DT_DIR) {
+      facts.hasFolders = true;
+      continue;
+    }
     const auto of = written.find(name);
     const bool isWritten = of != written.end();
     OldFile old;
@@ -100,8 +103,9 @@ std::optional<FolderFacts> LookIntoFolder(const std::string& folder, const Writt
       const bool isNameWanted = facts.translations.empty() && facts.pages < kAskedPages;
       old = ReadOldFile(reader.Descriptor(), entry->d_name, isNameWanted ? Look::kName : Look::kKind);
     }
-    if (old.isFolder) continue;
-    if (old.isOurs) {
+    if (old.isFolder) {
+      facts.hasFolders = true;
+    } else if (old.isOurs) {
       ++facts.pages;
       if (!old.translation.empty()) (old.isIndex ? ofIndexPages : facts.translations).insert(old.translation);
     } else if (isWritten) {

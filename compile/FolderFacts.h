@@ -26,11 +26,12 @@ struct FolderFacts {
   std::set<std::string> translations;  // the names that those pages tell (UTF-8): of all index pages, else of one page
   std::vector<std::string> replaced;   // files that are not ours and bear names that the compile will write
   std::size_t others = 0;              // all other files; they stay untouched
+  bool hasFolders = false;             // which stay untouched too
 };
 
 // Looks through a folder. `written` are the names that the compile will write, as FilesOfSite gives them. A folder of
 // 100,000 files takes about a second, so that `isWanted` is asked between files: once it says no, nothing is given.
-// Folders in the folder are passed over, and so is what cannot be read. Nothing is thrown.
+// Nothing is told of what is in its folders; what cannot be read is passed over. Nothing is thrown.
 std::optional<FolderFacts> LookIntoFolder(const std::string& folder, const WrittenFiles& written,
                                           const std::function<bool()>& isWanted);
 

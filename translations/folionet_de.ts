@@ -654,6 +654,54 @@
         <source>The book titles are not in %1, the charset of the pages.</source>
         <translation>Die Buchtitel sind nicht in %1, dem Zeichensatz der Seiten.</translation>
     </message>
+    <message>
+        <source>The book titles cannot be read from %1, which the imported text %2 brings.
+To import that text again in its place, by folionet-cli import --replace, or to name another file of that folder for cboLang in %3 lets the program start again.</source>
+        <translation>Die Buchtitel lassen sich nicht aus %1 lesen, das der importierte Text %2 mitbringt.
+Diesen Text mit folionet-cli import --replace noch einmal zu importieren oder für cboLang in %3 eine andere Datei jenes Ordners zu nennen lässt das Programm wieder starten.</translation>
+    </message>
+    <message>
+        <source>The book titles cannot be read from %1, and its folder holds no other Language File that can be.
+To install Versalia anew, or to write such a file with the titles of 66 books, lets the program start again.</source>
+        <translation>Die Buchtitel können nicht aus %1 gelesen werden, und in seinem Ordner ist keine andere lesbare Language File.
+Versalia neu zu installieren oder eine solche Datei mit den Titeln von 66 Büchern zu schreiben lässt das Programm wieder starten.</translation>
+    </message>
+    <message>
+        <source>The book titles cannot be read from %1, the Language File that is chosen.
+Restore ALL Defaults, or another name for cboLang in %2, lets the program start again.
+Return all settings to default now?</source>
+        <translation>Die Buchtitel können nicht aus %1 gelesen werden, der gewählten Language File.
+„Restore ALL Defaults“ oder ein anderer Name für cboLang in %2 lässt das Programm wieder starten.
+Jetzt alle Einstellungen zurücksetzen?</translation>
+    </message>
+    <message>
+        <source>The book titles cannot be read from %1, the Language File that is chosen.
+Another name for cboLang in %2, such as %3, lets the program start again.
+Choose %3 now?</source>
+        <translation>Die Buchtitel können nicht aus %1 gelesen werden, der gewählten Language File.
+Ein anderer Name für cboLang in %2, etwa %3, lässt das Programm wieder starten.
+Jetzt %3 wählen?</translation>
+    </message>
+    <message>
+        <source>%1 is not in %2, the charset of the pages.</source>
+        <translation>%1 ist nicht in %2, dem Zeichensatz der Seiten.</translation>
+    </message>
+    <message>
+        <source>Save it as UTF-8 with a byte-order mark.</source>
+        <translation>Speichern Sie die Datei als UTF-8 mit Byte-Order-Mark.</translation>
+    </message>
+    <message>
+        <source>The text of the translation is not in %1, the charset of the pages.</source>
+        <translation>Der Text der Übersetzung ist nicht in %1, dem Zeichensatz der Seiten.</translation>
+    </message>
+    <message>
+        <source>The name of the translation is not in %1, the charset of the pages.</source>
+        <translation>Der Name der Übersetzung ist nicht in %1, dem Zeichensatz der Seiten.</translation>
+    </message>
+    <message>
+        <source>The index page %1 takes the place of a chapter&apos;s page, %2, where the letter case of names does not count, as on Windows.</source>
+        <translation>Die Indexseite %1 nimmt den Platz der Seite eines Kapitels, %2, ein, wo die Groß- und Kleinschreibung von Namen nicht zählt, etwa unter Windows.</translation>
+    </message>
 </context>
 <context>
     <name>folionet::CommandCopy</name>
@@ -738,6 +786,34 @@
     <message>
         <source>The ending book stands before the starting book: the index will be empty.</source>
         <translation>Das letzte Buch steht vor dem ersten: Der Index wird leer sein.</translation>
+    </message>
+    <message>
+        <source>No files, only folders.</source>
+        <translation>Keine Dateien, nur Ordner.</translation>
+    </message>
+    <message>
+        <source>Choose another Language File, or Use 8.3 File Names.</source>
+        <translation>Wählen Sie eine andere Language File oder „Use 8.3 File Names“.</translation>
+    </message>
+    <message>
+        <source>Choose another Language File, or convert one of the two files.</source>
+        <translation>Wählen Sie eine andere Language File, oder wandeln Sie eine der beiden Dateien um.</translation>
+    </message>
+    <message>
+        <source>Choose another one in Page Encoding.</source>
+        <translation>Wählen Sie eine andere unter „Page Encoding“.</translation>
+    </message>
+    <message>
+        <source>Enter another name for the index page.</source>
+        <translation>Geben Sie einen anderen Namen für die Indexseite ein.</translation>
+    </message>
+    <message>
+        <source>Choose the right charset in Page Encoding.</source>
+        <translation>Wählen Sie den richtigen Zeichensatz unter „Page Encoding“.</translation>
+    </message>
+    <message>
+        <source>Choose &quot;%1&quot; in Page Encoding.</source>
+        <translation>Wählen Sie „%1“ unter „Page Encoding“.</translation>
     </message>
 </context>
 <context>
@@ -1176,14 +1252,6 @@ Ersetzen? Um sie zu behalten, antworten Sie mit Nein und geben diesem Text einen
         <translation>Ohne Speichern beenden?</translation>
     </message>
     <message>
-        <source>The book titles cannot be read from %1, the Language File that is chosen.
-Restore ALL Defaults, or another name for cboLang in %2, lets the program start again.
-Return all settings to default now?</source>
-        <translation>Die Buchtitel können nicht aus %1 gelesen werden, der gewählten Language File.
-„Restore ALL Defaults“ oder ein anderer Name für cboLang in %2 lässt das Programm wieder starten.
-Jetzt alle Einstellungen zurücksetzen?</translation>
-    </message>
-    <message>
         <source>Book titles</source>
         <translation>Buchtitel</translation>
     </message>
@@ -1218,12 +1286,6 @@ Jetzt alle Einstellungen zurücksetzen?</translation>
     <message>
         <source>Make a translation of a Bible text that you have (Ctrl+I).</source>
         <translation>Aus einem Bibeltext, den Sie haben, eine Übersetzung machen (Strg+I).</translation>
-    </message>
-    <message>
-        <source>The book titles cannot be read from %1, which the imported text %2 brings.
-To import that text again in its place, by folionet-cli import --replace, or to name another file of that folder for cboLang in %3 lets the program start again.</source>
-        <translation>Die Buchtitel lassen sich nicht aus %1 lesen, das der importierte Text %2 mitbringt.
-Diesen Text mit folionet-cli import --replace noch einmal zu importieren oder für cboLang in %3 eine andere Datei jenes Ordners zu nennen lässt das Programm wieder starten.</translation>
     </message>
     <message>
         <source>The address of the sitemap, &quot;%1&quot;, is none of a folder such as https://example.org/bible/.</source>

@@ -654,6 +654,54 @@
         <source>The book titles are not in %1, the charset of the pages.</source>
         <translation>Los títulos de los libros no están en %1, el juego de caracteres de las páginas.</translation>
     </message>
+    <message>
+        <source>The book titles cannot be read from %1, which the imported text %2 brings.
+To import that text again in its place, by folionet-cli import --replace, or to name another file of that folder for cboLang in %3 lets the program start again.</source>
+        <translation>No se pueden leer los títulos de los libros de %1, que trae el texto importado %2.
+Importar ese texto otra vez en su lugar, con folionet-cli import --replace, o nombrar otro archivo de esa carpeta para cboLang en %3 deja que el programa arranque de nuevo.</translation>
+    </message>
+    <message>
+        <source>The book titles cannot be read from %1, and its folder holds no other Language File that can be.
+To install Versalia anew, or to write such a file with the titles of 66 books, lets the program start again.</source>
+        <translation>No se pueden leer los títulos de los libros de %1, y su carpeta no contiene otro Language File legible.
+Instalar Versalia de nuevo, o escribir un archivo así con los títulos de 66 libros, permite que el programa vuelva a arrancar.</translation>
+    </message>
+    <message>
+        <source>The book titles cannot be read from %1, the Language File that is chosen.
+Restore ALL Defaults, or another name for cboLang in %2, lets the program start again.
+Return all settings to default now?</source>
+        <translation>No se pueden leer los títulos de los libros de %1, el Language File elegido.
+«Restore ALL Defaults», u otro nombre para cboLang en %2, permite que el programa vuelva a arrancar.
+¿Restablecer ahora todos los ajustes?</translation>
+    </message>
+    <message>
+        <source>The book titles cannot be read from %1, the Language File that is chosen.
+Another name for cboLang in %2, such as %3, lets the program start again.
+Choose %3 now?</source>
+        <translation>No se pueden leer los títulos de los libros de %1, el Language File elegido.
+Otro nombre para cboLang en %2, como %3, permite que el programa vuelva a arrancar.
+¿Elegir %3 ahora?</translation>
+    </message>
+    <message>
+        <source>%1 is not in %2, the charset of the pages.</source>
+        <translation>%1 no está en %2, el juego de caracteres de las páginas.</translation>
+    </message>
+    <message>
+        <source>Save it as UTF-8 with a byte-order mark.</source>
+        <translation>Guárdelo como UTF-8 con marca de orden de bytes.</translation>
+    </message>
+    <message>
+        <source>The text of the translation is not in %1, the charset of the pages.</source>
+        <translation>El texto de la traducción no está en %1, el juego de caracteres de las páginas.</translation>
+    </message>
+    <message>
+        <source>The name of the translation is not in %1, the charset of the pages.</source>
+        <translation>El nombre de la traducción no está en %1, el juego de caracteres de las páginas.</translation>
+    </message>
+    <message>
+        <source>The index page %1 takes the place of a chapter&apos;s page, %2, where the letter case of names does not count, as on Windows.</source>
+        <translation>La página de índice %1 ocupa el lugar de la página de un capítulo, %2, donde las mayúsculas de los nombres no cuentan, como en Windows.</translation>
+    </message>
 </context>
 <context>
     <name>folionet::CommandCopy</name>
@@ -738,6 +786,34 @@
     <message>
         <source>The ending book stands before the starting book: the index will be empty.</source>
         <translation>El libro final está antes del inicial: el índice quedará vacío.</translation>
+    </message>
+    <message>
+        <source>No files, only folders.</source>
+        <translation>Ningún archivo, solo carpetas.</translation>
+    </message>
+    <message>
+        <source>Choose another Language File, or Use 8.3 File Names.</source>
+        <translation>Elija otro Language File o «Use 8.3 File Names».</translation>
+    </message>
+    <message>
+        <source>Choose another Language File, or convert one of the two files.</source>
+        <translation>Elija otro Language File, o convierta uno de los dos archivos.</translation>
+    </message>
+    <message>
+        <source>Choose another one in Page Encoding.</source>
+        <translation>Elija otro en «Page Encoding».</translation>
+    </message>
+    <message>
+        <source>Enter another name for the index page.</source>
+        <translation>Escriba otro nombre para la página de índice.</translation>
+    </message>
+    <message>
+        <source>Choose the right charset in Page Encoding.</source>
+        <translation>Elija el juego de caracteres correcto en «Page Encoding».</translation>
+    </message>
+    <message>
+        <source>Choose &quot;%1&quot; in Page Encoding.</source>
+        <translation>Elija «%1» en «Page Encoding».</translation>
     </message>
 </context>
 <context>
@@ -1176,14 +1252,6 @@ Replace it? To keep it, answer No and give this text another stem.</source>
         <translation>¿Salir sin guardarlos?</translation>
     </message>
     <message>
-        <source>The book titles cannot be read from %1, the Language File that is chosen.
-Restore ALL Defaults, or another name for cboLang in %2, lets the program start again.
-Return all settings to default now?</source>
-        <translation>No se pueden leer los títulos de los libros de %1, el Language File elegido.
-«Restore ALL Defaults», u otro nombre para cboLang en %2, permite que el programa vuelva a arrancar.
-¿Restablecer ahora todos los ajustes?</translation>
-    </message>
-    <message>
         <source>Book titles</source>
         <translation>Títulos</translation>
     </message>
@@ -1218,12 +1286,6 @@ Return all settings to default now?</source>
     <message>
         <source>Make a translation of a Bible text that you have (Ctrl+I).</source>
         <translation>Hacer una traducción de un texto bíblico que usted tenga (Ctrl+I).</translation>
-    </message>
-    <message>
-        <source>The book titles cannot be read from %1, which the imported text %2 brings.
-To import that text again in its place, by folionet-cli import --replace, or to name another file of that folder for cboLang in %3 lets the program start again.</source>
-        <translation>No se pueden leer los títulos de los libros de %1, que trae el texto importado %2.
-Importar ese texto otra vez en su lugar, con folionet-cli import --replace, o nombrar otro archivo de esa carpeta para cboLang en %3 deja que el programa arranque de nuevo.</translation>
     </message>
     <message>
         <source>The address of the sitemap, &quot;%1&quot;, is none of a folder such as https://example.org/bible/.</source>

@@ -11,6 +11,7 @@
 #include "QtText.h"
 #include "RequestOfForm.h"
 #include "RunFacts.h"
+#include "TypedFindings.h"
 #include "ui_frmMain.h"
 
 namespace folionet {
@@ -54,7 +55,29 @@ QString FolderText(const FolderFacts& facts) {
   QStringList sentences;
   if (!kept.isEmpty()) sentences << kept.join(QStringLiteral("; ")) + QLatin1Char('.');
   if (!facts.replaced.empty()) sentences << ReplacedText(facts);
-  return sentences.isEmpty() ? FactLines::tr("Empty folder.") : sentences.join(QLatin1Char('\n'));
+  if (sentences.isEmpty())
+    return facts.hasFolders ? FactLines::tr("No files, only folders.") : FactLines::tr("Empty folder.");
+  return sentences.join(QLatin1Char('\n'));
+}
+
+// What a person does in the form about a fact of this kind; the remedy of the fact itself is the command line's.
+QString Step(std::string_view kind) {
+  if (kind == "pages-meet" || kind == "pages-not-found")
+    return FactLines::tr("Choose another Language File, or Use 8.3 File Names.");
+  if (kind == "charsets-differ") return FactLines::tr("Choose another Language File, or convert one of the two files.");
+  if (kind == "language-not-listed") return FactLines::tr("Choose another one in Page Encoding.");
+  if (std::string_view(kind).starts_with("index-")) return FactLines::tr("Enter another name for the index page.");
+  return {};
+}
+
+QString TextOf(const Finding& fact) {
+  QString step = Step(fact.kind);
+  if (std::string_view(fact.kind) == "own-text-charset") step = InDesktopLanguage(fact.remedy);
+  if (const auto entry = EntryOfRemedy(fact.remedy)) {
+    step = entry->empty() ? FactLines::tr("Choose the right charset in Page Encoding.")
+                          : FactLines::tr("Choose \"%1\" in Page Encoding.").arg(ToQt(*entry));
+  }
+  return step.isEmpty() ? InDesktopLanguage(fact.what) : InDesktopLanguage(fact.what) + QLatin1Char(' ') + step;
 }
 
 }  // namespace
@@ -111,7 +134,7 @@ void FactLines::ShowRange() {
       } else if (std::string_view(fact.kind) == kEndsBeforeStart) {
         lines << tr("The ending book stands before the starting book: the index will be empty.");
       } else {
-        lines << InDesktopLanguage(fact.what);
+        lines << TextOf(fact);
       }
     }
     const auto isAfter = [&](const ChapterEntry& entry) { return entry.Book > request.cboEndBook + 1; };

@@ -69,30 +69,17 @@ Outcome LibraryLists::ReadLists(int which) {
   before.ModulesPath = glob.ModulesPath;
   before.SysdefsPath = glob.SysdefsPath;
   const Outcome outcome = PopulateCombos(which, m_state.options.main.cboLang, glob, m_state.codePage, m_state.ui);
-  if (outcome == Outcome::kEndProgram) NoteUnread(before);
+  if (outcome == Outcome::kEndProgram)
+    m_unread = FindUnreadTitles(before, m_state.options.main.cboLang, m_state.codePage);
+  if (which != 0) m_listed = {glob.InstallPath, glob.ModulesPath};
   return outcome;
 }
 
-// Where the catalogue is sound, it is the file of titles that ends the program.
-void LibraryLists::NoteUnread(const ModGlob& folders) {
-  const std::string& chosen = m_state.options.main.cboLang;
-  ModGlob found = folders;
-  try {
-    ReadCatalogue(found, m_state.codePage);
-  } catch (const RunTimeError&) {
-    return;
-  }
-  try {
-    ReadBookTitles(found, chosen);
-    return;
-  } catch (const RunTimeError&) {
-    // What was told.
-  }
-  for (const ImportedText& text : found.BibleImports) {
-    if (text.IsThere() && EqualIgnoringCase(text.titles, chosen)) m_unread.text = text.name;
-  }
-  if (!m_unread.text.empty() || chosen != FindOption("cboLang")->defaultText)
-    m_unread.path = SysdefsFile(found, chosen);
+// Whether the text of a translation can still be looked for: other folders may have been entered since it was listed.
+bool LibraryLists::IsThere(std::size_t place) const {
+  const ModGlob& glob = m_state.glob;
+  const bool isSameLibrary = glob.InstallPath == m_listed.versaliaPath && glob.ModulesPath == m_listed.modulePath;
+  return isSameLibrary || FileExists(VerseFile(glob, m_state.codePage, glob.BibleFiles[place]));
 }
 
 // The choice of a person who had the form when its start had stopped stands, and so does the range of books.
@@ -109,6 +96,10 @@ Outcome LibraryLists::SelectFirst() {
   if (!isChosen) TakeTranslation(static_cast<std::size_t>(place));
   if (!isChosen && TakeImported(static_cast<std::size_t>(place)) != Outcome::kDone) return Outcome::kEndProgram;
   m_chosen = m_controls.cboBibleName->currentIndex();
+  if (SelectedTranslation() < 0) {
+    TellUnread(m_chosen);
+    return Outcome::kDone;
+  }
   const Outcome outcome = BooksInChapters(m_state.glob, static_cast<std::size_t>(place), m_state.codePage, m_state.ui);
   if (!isChosen) SelectBooksOfText();
   if (!isChosen) SelectBooksOfSite();
@@ -177,7 +168,9 @@ Outcome LibraryLists::LoadVerses() {
 
 bool LibraryLists::IsTextAsChosen() {
   const int place = SelectedTranslation();
-  if (place < 0) return true;
+  const int item = m_controls.cboBibleName->currentIndex();
+  if (place < 0 && item >= 0) TellUnread(item);
+  if (place < 0) return item < 0;
   ModGlob& glob = m_state.glob;
   const std::string& stem = glob.BibleFiles[static_cast<std::size_t>(place)];
   ImportedText& known = glob.BibleImports[static_cast<std::size_t>(place)];
@@ -247,7 +240,7 @@ int LibraryLists::SelectedTranslation() const {
   const int item = m_controls.cboBibleName->currentIndex();
   if (item < 0) return -1;
   const auto place = TranslationAt(m_state.glob, static_cast<std::size_t>(item));
-  return place ? static_cast<int>(*place) : -1;
+  return place && IsThere(*place) ? static_cast<int>(*place) : -1;
 }
 
 void LibraryLists::ChooseBible() {
@@ -260,6 +253,7 @@ void LibraryLists::ChooseBible() {
   }
   m_chosen = item;
   if (TakeImported(static_cast<std::size_t>(place)) == Outcome::kEndProgram) return emit EndProgram();
+  if (SelectedTranslation() < 0) return TellUnread(item);
   TakeTranslation(static_cast<std::size_t>(place));
   if (m_state.glob.Imported.IsThere()) {
     if (BooksInChapters(m_state.glob, static_cast<std::size_t>(place), m_state.codePage, m_state.ui) ==

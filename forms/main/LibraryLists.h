@@ -6,6 +6,7 @@
 
 #include "AppState.h"
 #include "Outcome.h"
+#include "UnreadTitles.h"
 
 namespace folionet {
 
@@ -41,15 +42,11 @@ class LibraryLists : public QObject {
   // Shows the names again after the code page has changed.
   void ShowNames();
 
-  // A file of book titles for which the program must end, and every later start would: one that the person has chosen,
-  // or that an imported text brings.
-  struct UnreadTitles {
-    std::string path;  // empty for none
-    std::string text;  // the name of the imported text; empty for none
-  };
+  // What ended the program, where it was a file of book titles.
   const UnreadTitles& Unread() const { return m_unread; }
 
-  // The place in BibleNames of the selected translation; -1 for none.
+  // The place in BibleNames of the selected translation; -1 for none, and for one that is not in the folders that were
+  // entered since.
   int SelectedTranslation() const;
 
  signals:
@@ -72,11 +69,12 @@ class LibraryLists : public QObject {
   void TellUnknown(const QString& text, const std::string& choice) const;
   void TellUnread(int item) const;
   Outcome ReadLists(int which);
-  void NoteUnread(const ModGlob& folders);
+  bool IsThere(std::size_t place) const;
 
   AppState& m_state;
   Ui::frmMain& m_controls;
-  int m_chosen = -1;  // item of cboBibleName
+  int m_chosen = -1;      // item of cboBibleName
+  GivenFolders m_listed;  // where the translations were listed from
   UnreadTitles m_unread;
 };
 

@@ -88,6 +88,7 @@ void frmMain::Open() {
   if (m_hasEnded) return;
   m_dialogs.Open<Dialog>();
   IsStarted();
+  m_facts->Show();
 }
 
 void frmMain::ConnectOptions() {
@@ -111,7 +112,7 @@ void frmMain::ConnectOptions() {
 
 void frmMain::ConnectCommands() {
   connect(m_lists, &LibraryLists::EndProgram, this, [this] {
-    OfferRestore();
+    TakeWayOut();
     if (!m_hasEnded) End();
   });
   connect(m_ui->cmdCompile, &QPushButton::clicked, this, &frmMain::Compile);
@@ -302,26 +303,16 @@ void frmMain::RestoreAll() {
   if (m_state.ui.AskYesNo("Restore Factory Settings", "Rerurn all settings to default?\r\nAre you sure???")) Restore();
 }
 
-// For a program that must end, and every later start would: tells the way out, and takes it where it is to restore.
-void frmMain::OfferRestore() {
-  const LibraryLists::UnreadTitles& unread = m_lists->Unread();
-  if (unread.path.empty()) return;
-  const QString file = ToQt(unread.path);
-  const QString settings = ToQt(m_state.store.FileOf("cboLang"));
-  if (!unread.text.empty()) {
-    const QString text =
-        tr("The book titles cannot be read from %1, which the imported text %2 brings.\n"
-           "To import that text again in its place, by folionet-cli import --replace, or to name another file of that "
-           "folder for cboLang in %3 lets the program start again.");
-    const QString lines = text.arg(file, ToQt(unread.text), settings);
-    m_state.ui.ShowMessage({MessageIcon::kWarning, "Language File", FromQtLines(lines)});
-    return;
-  }
-  const QString text =
-      tr("The book titles cannot be read from %1, the Language File that is chosen.\n"
-         "Restore ALL Defaults, or another name for cboLang in %2, lets the program start again.\n"
-         "Return all settings to default now?");
-  if (m_state.ui.AskYesNo("Language File", FromQtLines(text.arg(file, settings)))) Restore();
+// For a program that must end, and every later start would.
+void frmMain::TakeWayOut() {
+  const WayOut chosen = OfferWayOut(m_lists->Unread(), m_state);
+  if (chosen == WayOut::kRestore) Restore();
+  if (chosen == WayOut::kOtherTitles) TellToRestart();
+}
+
+void frmMain::TellToRestart() {
+  m_state.ui.ShowMessage({MessageIcon::kInformation, std::string("Restart ") + kApplicationTitle,
+                          std::string("Please restart ") + kApplicationTitle + " to complete."});
 }
 
 void frmMain::Restore() {
@@ -343,8 +334,7 @@ void frmMain::Restore() {
   } catch (const RunTimeError& error) {
     m_state.ui.ShowErrorReport({Procedure::kRestoreAll, error});
   }
-  m_state.ui.ShowMessage({MessageIcon::kInformation, std::string("Restart ") + kApplicationTitle,
-                          std::string("Please restart ") + kApplicationTitle + " to complete."});
+  TellToRestart();
   End();
 }
 

@@ -89,7 +89,8 @@ class frmMain : public QMainWindow {
   bool LeavesUnsaved();
   void RestoreAll();
   void Restore();
-  void OfferRestore();
+  void TakeWayOut();
+  void TellToRestart();
   void End();
   void ConnectFacts();
   void ShowFacts();

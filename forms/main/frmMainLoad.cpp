@@ -55,7 +55,7 @@ bool frmMain::TakeSteps() {
   try {
     for (; m_nextStep < steps.size(); ++m_nextStep) {
       if (!steps[m_nextStep]()) {
-        OfferRestore();
+        TakeWayOut();
         if (!m_hasEnded) End();
         return false;
       }

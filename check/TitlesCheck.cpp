@@ -23,10 +23,18 @@ class PageNameCheck {
   PageNameCheck(const LineReader& lines, CheckedLibrary& library) : m_lines(lines), m_library(library) {}
 
   void Add(int book, const std::string& title) {
-    const std::string name = PageNames({title}, false, m_library.codePage).OnDisk(1, 1);
+    const PageNames names({title}, false, m_library.codePage);
+    const std::string name = names.OnDisk(1, 1);
     if (title.empty() || !IsPageName(name) || name.size() > kLongestFileName) {
       m_library.Add("bad-title", m_lines.Path(), m_lines.LineNumber(),
                     {"The title cannot be a file name: %1", {Quoted(title)}}, {book});
+    } else if (!names.AreReached(1)) {
+      m_library.Add(
+          "bad-title", m_lines.Path(), m_lines.LineNumber(),
+          {"No browser finds the pages of the title %1: \"?\", \"#\", \":\" and a quotation mark have another "
+           "meaning in a link.",
+           {Quoted(title)}},
+          {book});
     }
     const auto [first, isNew] = m_bookOfName.emplace(name, book);
     if (!isNew) {

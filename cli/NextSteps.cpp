@@ -69,9 +69,8 @@ std::string_view NextStepOfStart(const ErrorReport& report) {
       if (report.line == 0) {
         return "See that this list is there and may be read, or give another folder with --program-folder FOLDER.";
       }
-      return "Correct this line of the list, which is to be like \"utf-8\",\"(Unicode - UTF-8)\", or give another "
-             "folder "
-             "with --program-folder FOLDER.";
+      return "Correct this line of the list, a code and a name in quotation marks with a comma between, or give "
+             "another folder with --program-folder FOLDER.";
     case Subject::kDefinitionsFolder:
       return kGiveDefinitions;
     case Subject::kProgramFolder:

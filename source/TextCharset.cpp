@@ -68,6 +68,20 @@ bool IsInOtherScript(std::string_view bytes) {
   return high > letters;
 }
 
+// Whether so many bytes stand for nothing that the text is in another charset; a few are a damage.
+bool IsMostlyUndecodable(std::string_view bytes, const CodePage& codePage) {
+  constexpr std::size_t kMeasured = 4096;
+  constexpr std::ptrdiff_t kFew = 10;
+  const auto first = std::find_if(bytes.begin(), bytes.end(), IsHigh);
+  bytes = bytes.substr(static_cast<std::size_t>(first - bytes.begin()), kMeasured);
+  const auto high = std::count_if(bytes.begin(), bytes.end(), IsHigh);
+  std::ptrdiff_t wrong = 0;
+  for (std::size_t at = 0; (at = codePage.FindUndecodable(bytes)) != std::string_view::npos; ++wrong) {
+    bytes.remove_prefix(at + 1);
+  }
+  return wrong * kFew >= high && wrong > 0;
+}
+
 // Whether a code such as "zh-tw" is that of the language "zh-tw" or "zh".
 bool IsOfLanguage(std::string_view code, std::string_view language) {
   constexpr std::size_t kLongest = 16;
@@ -127,11 +141,10 @@ std::optional<CharsetMismatch> FindMismatch(const TextSample& sample, const Code
   const bool isUtf8Page = codePage.Name() == "utf-8";
   if (sample.kind == TextKind::kUtf8 && !isUtf8Page) return CharsetMismatch{TextKind::kUtf8, kUtf8Entry};
   if (sample.kind != TextKind::kOther) return std::nullopt;
-  if (codePage.FindUndecodable(sample.bytes) == std::string_view::npos) return std::nullopt;
+  if (isUtf8Page) return CharsetMismatch{TextKind::kOther, EntryFor(sample.bytes, pageLanguage)};
+  if (!IsMostlyUndecodable(sample.bytes, codePage)) return std::nullopt;
   std::string entry = EntryFor(sample.bytes, pageLanguage);
-  // Bytes that no charset holds are a damage, not a text in another charset.
-  if (!isUtf8Page && entry.empty()) return std::nullopt;
-  return CharsetMismatch{TextKind::kOther, std::move(entry)};
+  return entry.empty() ? std::nullopt : std::optional(CharsetMismatch{TextKind::kOther, std::move(entry)});
 }
 
 std::string EntryOf(const TextSample& sample, std::string_view pageLanguage) {

@@ -65,7 +65,10 @@ std::string LibraryBoxes::Ask(const InputBox& box, QWidget* owner) {
   dialog.resize(kColumns * dialog.fontMetrics().averageCharWidth(), dialog.sizeHint().height());
   const bool isAccepted = dialog.exec() == QDialog::Accepted;
   if (!m_imported.empty()) return answer();
-  return isAccepted ? FromQt(dialog.textValue()) : std::string();
+  if (!isAccepted) return {};
+  // A path that was pasted may end in a line break.
+  std::string text = FromQt(dialog.textValue());
+  return text.substr(0, text.find_first_of("\r\n"));
 }
 
 }  // namespace folionet

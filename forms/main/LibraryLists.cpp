@@ -75,11 +75,14 @@ Outcome LibraryLists::ReadLists(int which) {
   return outcome;
 }
 
-// Whether the text of a translation can still be looked for: other folders may have been entered since it was listed.
+// Whether no other folders were entered since the translations were listed.
+bool LibraryLists::IsSameLibrary() const {
+  return m_state.glob.InstallPath == m_listed.versaliaPath && m_state.glob.ModulesPath == m_listed.modulePath;
+}
+
 bool LibraryLists::IsThere(std::size_t place) const {
   const ModGlob& glob = m_state.glob;
-  const bool isSameLibrary = glob.InstallPath == m_listed.versaliaPath && glob.ModulesPath == m_listed.modulePath;
-  return isSameLibrary || FileExists(VerseFile(glob, m_state.codePage, glob.BibleFiles[place]));
+  return IsSameLibrary() || FileExists(VerseFile(glob, m_state.codePage, glob.BibleFiles[place]));
 }
 
 // The choice of a person who had the form when its start had stopped stands, and so does the range of books.
@@ -249,7 +252,7 @@ void LibraryLists::ChooseBible() {
   if (place < 0) {
     m_controls.cboBibleName->setCurrentIndex(m_chosen);
     if (item >= 0) TellUnread(item);
-    return;
+    return emit Chosen();
   }
   m_chosen = item;
   if (TakeImported(static_cast<std::size_t>(place)) == Outcome::kEndProgram) return emit EndProgram();
@@ -286,6 +289,8 @@ void LibraryLists::ChooseLanguage() {
     return;
   }
   ShowBooks();
+  // The text of another library that was asked for goes with its chapter index.
+  if (!IsSameLibrary() && m_controls.cboBibleName->currentIndex() >= 0) return ChooseBible();
   SelectBooksOfText();
   emit Chosen();
 }

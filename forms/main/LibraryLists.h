@@ -69,6 +69,7 @@ class LibraryLists : public QObject {
   void TellUnknown(const QString& text, const std::string& choice) const;
   void TellUnread(int item) const;
   Outcome ReadLists(int which);
+  bool IsSameLibrary() const;
   bool IsThere(std::size_t place) const;
 
   AppState& m_state;

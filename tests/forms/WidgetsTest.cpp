@@ -192,11 +192,16 @@ TEST(VolumesTest, AreThoseThatAPersonKnows) {
                                                       "K=/run/media/me/K");
 }
 
-TEST(FormUiTest, ATextThatIsImportedAnswersForTheFoldersOfALibrary) {
+TEST(FormUiTest, AFolderOfALibraryIsEnteredOrThatOfAnImportedText) {
   const test::TemporaryFolder home;
   setenv("XDG_DATA_HOME", home.Path().c_str(), 1);
   const std::string text = home.Write("text", "GEN 1:1 First\n");
   FormUi ui;
+  WhenShown<QInputDialog>([](QInputDialog& box) {
+    box.setTextValue(QStringLiteral("/pasted/\r\n"));
+    box.accept();
+  });
+  EXPECT_EQ(ui.AskText({"prompt", "title", "C:\\", LibraryFolder::kInstallation}), "/pasted/");
   WhenShown<QInputDialog>([&](QInputDialog& box) {
     WhenShown<frmImport>([&](frmImport& form) {
       form.findChild<QLineEdit*>("txtPath")->setText(ToQt(text));

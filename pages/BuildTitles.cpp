@@ -60,6 +60,9 @@ bool IsPlainNumber(std::string_view text) {
          std::all_of(text.begin(), text.end(), [](char c) { return c >= '0' && c <= '9'; });
 }
 
+// In every code page of pages such a byte is no part of a letter.
+bool IsAsciiControl(char c) { return static_cast<unsigned char>(c) < 0x20 || c == 0x7F; }
+
 }  // namespace
 
 void PageTitles::CutAtWords(const Stage& stage) {
@@ -106,6 +109,7 @@ std::optional<std::string> PageTitles::Build(std::string_view book, std::string_
     if (!m_withBook || m_book != book) {
       Stage stage = *m_withBible;
       ReplaceAll(stage.text, kBookWord, book, stage.replacements);
+      std::replace_if(stage.text.begin(), stage.text.end(), IsAsciiControl, ' ');
       m_withBook = std::move(stage);
       m_book = book;
       m_bookNumber = counts.BookOf(book);

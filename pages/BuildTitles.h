@@ -18,8 +18,9 @@ struct TitleWords {
 };
 
 // The template with every dynamic word replaced, %bible% first, then %bk%, %ch% and %vs%; a later word is also looked
-// for in what an earlier one put in. A text that passes 10,000 replacements or 1 MiB, as one does whose value holds its
-// own word, is reported under "Build Titles" and gives nothing.
+// for in what an earlier one put in. It is one line: a blank stands for each control character of a name. A text that
+// passes 10,000 replacements or 1 MiB, as one does whose value holds its own word, is reported under "Build Titles" and
+// gives nothing.
 std::optional<std::string> BuildTitles(std::string_view pattern, const TitleWords& words, const VerseCounts& counts,
                                        UserInterface& ui);
 

@@ -1,21 +1,12 @@
 #include "PageInputs.h"
 
-#include <algorithm>
-
 #include "RunTimeError.h"
 
 namespace folionet {
-namespace {
-
-// In every code page of pages such a byte is no part of a letter.
-bool IsAsciiControl(char c) { return static_cast<unsigned char>(c) < 0x20 || c == 0x7F; }
-
-}  // namespace
 
 std::string PageText(const PageInputs& inputs, PageTitles& titles, std::string_view book, std::string_view chapter) {
   auto text = titles.Build(book, chapter, inputs.counts, inputs.ui);
   if (!text) throw AlreadyReported();
-  std::replace_if(text->begin(), text->end(), IsAsciiControl, ' ');
   return *std::move(text);
 }
 

@@ -35,8 +35,7 @@ struct PageInputs {
   UserInterface& ui;
 };
 
-// The text of a template for a page of the run, in one line: a blank stands for each control character of a name.
-// Throws AlreadyReported where BuildTitles reported a failure.
+// The text of a template for a page of the run. Throws AlreadyReported where BuildTitles reported a failure.
 std::string PageText(const PageInputs& inputs, PageTitles& titles, std::string_view book, std::string_view chapter);
 
 // The text of a template of the index page, which has no book and no chapter.

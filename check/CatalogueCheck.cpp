@@ -5,6 +5,7 @@
 
 #include "Catalogue.h"
 #include "CharsetCheck.h"
+#include "FileNames.h"
 #include "ImportedText.h"
 #include "Installation.h"
 #include "LineReader.h"
@@ -76,9 +77,9 @@ void CheckCatalogue(CheckedLibrary& library) {
   glob.BibleFiles.clear();
   glob.BibleImports.clear();
   try {
-    const std::string path = SysdefsFile(glob, "Translations.txt");
+    const std::string path = SysdefsFile(glob, kCatalogueFile);
     RecordReader records(path, Subject::kCatalogue);
-    library.CheckLetterCase(path, glob.SysdefsPath + "Translations.txt");
+    library.CheckLetterCase(path, glob.SysdefsPath + kCatalogueFile);
     CatalogueRecord record;
     int listed = 0;
     for (bool more = true; more;) {

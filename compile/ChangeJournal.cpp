@@ -5,9 +5,7 @@
 #include <cerrno>
 #include <cstdint>
 #include <cstdio>
-#include <cstdlib>
 #include <filesystem>
-#include <memory>
 #include <string_view>
 #include <system_error>
 
@@ -24,10 +22,10 @@ constexpr std::size_t kLongest = std::size_t{16} << 20;
 
 // One number for each folder, whatever way leads to it (FNV-1a of its real path).
 std::string JournalPath(const std::string& stateFolder, const std::string& outputFolder) {
-  const std::unique_ptr<char, decltype(&std::free)> real(realpath(outputFolder.c_str(), nullptr), &std::free);
-  if (stateFolder.empty() || real == nullptr) return {};
+  const std::string real = RealPath(outputFolder);
+  if (stateFolder.empty() || real.empty()) return {};
   std::uint64_t number = 0xCBF29CE484222325U;
-  for (const char c : std::string_view(real.get())) {
+  for (const char c : real) {
     number = (number ^ static_cast<unsigned char>(c)) * 0x100000001B3U;
   }
   return WithSeparator(stateFolder) + std::to_string(number) + ".changes";

@@ -15,6 +15,7 @@
 #include "ChapterNav.h"
 #include "ChapterPage.h"
 #include "EncodeOptions.h"
+#include "FileNames.h"
 #include "IndexPage.h"
 #include "LinkBack.h"
 #include "Numbers.h"
@@ -236,7 +237,7 @@ class CompileRun {
         if (name != m_indexFileName) pages.push_back(PageOfSitemap(std::move(name)));
       });
     }
-    WriteOtherFile(m_request, m_folder, "sitemap.xml", BuildSitemap(m_request.sitemapAddress, pages));
+    WriteOtherFile(m_request, m_folder, kSitemapFile, BuildSitemap(m_request.sitemapAddress, pages));
   }
 
   void OpenChapter(int book, std::int16_t chapter, std::string_view chapterText) {

@@ -8,6 +8,7 @@
 
 #include "ChapterIndex.h"
 #include "FileHandle.h"
+#include "FileNames.h"
 #include "FolderReader.h"
 #include "GeneratorLine.h"
 #include "OutputFolder.h"
@@ -126,9 +127,9 @@ WrittenFiles FilesOfSite(const CompileRequest& request, const ModGlob& glob, con
     ForEachChapter(glob, book, chapters[static_cast<std::size_t>(book)],
                    [&](int chapter) { files.try_emplace(names.OnDisk(book, chapter)); });
   }
-  if (request.options.chkCSS) files.insert_or_assign("default.css", StartOfStyleSheet(request));
+  if (request.options.chkCSS) files.insert_or_assign(kStyleSheetFile, StartOfStyleSheet(request));
   if (!request.sitemapAddress.empty()) {
-    files.insert_or_assign("sitemap.xml", BuildSitemap(request.sitemapAddress, {}).substr(0, kAlikeStart));
+    files.insert_or_assign(kSitemapFile, BuildSitemap(request.sitemapAddress, {}).substr(0, kAlikeStart));
   }
   return files;
 }

@@ -6,6 +6,7 @@
 #include <unordered_map>
 
 #include "ChapterNav.h"
+#include "FileNames.h"
 #include "MakeFolders.h"
 #include "Numbers.h"
 #include "PageFile.h"
@@ -16,8 +17,6 @@
 
 namespace folionet {
 namespace {
-
-constexpr char kStyleSheet[] = "default.css";
 
 void Remove(const CompileRequest& request, RunFolder& folder, const std::string& name) {
   const Removal removal = folder.site.Remove(name);
@@ -58,7 +57,7 @@ void ForgetChanges(const CompileRequest& request, RunFolder& folder) {
 }
 
 std::string StyleSheetOf(const CompileRequest& request) {
-  return request.styleSheet.empty() ? request.programFolder + kStyleSheet : request.styleSheet;
+  return request.styleSheet.empty() ? request.programFolder + kStyleSheetFile : request.styleSheet;
 }
 
 void CopyCSS(const CompileRequest& request, RunFolder& folder) {
@@ -66,12 +65,12 @@ void CopyCSS(const CompileRequest& request, RunFolder& folder) {
   const std::string source = StyleSheetOf(request);
   const std::string content = WorkAbout(Subject::kStyleSheet, [&] { return ReadWholeFile(source); });
   OpenOutputFolder(request, folder);
-  if (folder.site.IsSameFile(kStyleSheet, source)) {
-    throw RunTimeError(kFileAlreadyOpen, folder.site.Path() + kStyleSheet,
+  if (folder.site.IsSameFile(kStyleSheetFile, source)) {
+    throw RunTimeError(kFileAlreadyOpen, folder.site.Path() + kStyleSheetFile,
                        "The output folder is the program's own folder. Choose another one.")
         .About(Subject::kStyleSheet);
   }
-  WorkAbout(Subject::kStyleSheet, [&] { WriteOtherFile(request, folder, kStyleSheet, content + "\r\n"); });
+  WorkAbout(Subject::kStyleSheet, [&] { WriteOtherFile(request, folder, kStyleSheetFile, content + "\r\n"); });
 }
 
 void NoteWritten(const CompileRequest& request, const RunFolder& folder, const std::string& name, PageChange change) {

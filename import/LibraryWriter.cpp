@@ -13,6 +13,7 @@
 #include "CodePage.h"
 #include "FileHandle.h"
 #include "FileLock.h"
+#include "FileNames.h"
 #include "FlowingText.h"
 #include "ImportError.h"
 #include "ImportedText.h"
@@ -233,7 +234,7 @@ void AddDeliveredTitles(LibraryPlan& plan) {
   for (const TitleLanguage& language : TitleLanguages()) {
     add(LanguageTitles(language), language);
   }
-  add("BOOKS.TXT", TitleLanguages().front());
+  add(kDefaultTitles, TitleLanguages().front());
 }
 
 void MakeFolder(const std::string& path, Doing doing) {
@@ -286,7 +287,7 @@ LibraryPlan PlanLibrary(const ImportedBible& bible, const LibraryRequest& reques
   plan.folder = ChosenFolder(request);
   plan.text.name = NameFor(bible, request);
   ChooseLanguage(bible, request, plan);
-  plan.catalogue = FileOf(plan, "Sysdefs", "Translations.txt");
+  plan.catalogue = FileOf(plan, "Sysdefs", kCatalogueFile);
   const CatalogueText catalogue(plan.catalogue);
   ChooseStem(request, catalogue, plan);
 

@@ -6,7 +6,6 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstdio>
-#include <cstdlib>
 #include <memory>
 #include <optional>
 #include <utility>
@@ -24,11 +23,6 @@ namespace folionet {
 namespace {
 
 constexpr std::size_t kHead = 2048;  // up to the heading, as a rule
-
-std::string RealPath(const std::string& path) {
-  const std::unique_ptr<char, decltype(&std::free)> real(realpath(path.c_str(), nullptr), &std::free);
-  return real != nullptr ? std::string(real.get()) : std::string();
-}
 
 bool MayNotWrite(int systemError) {
   return systemError == EACCES || systemError == EPERM || systemError == EROFS || systemError == ETXTBSY;

@@ -9,6 +9,7 @@
 
 #include "BuildTitles.h"
 #include "CodePage.h"
+#include "FileNames.h"
 #include "RecordReader.h"
 #include "RunTimeError.h"
 #include "Utf16.h"
@@ -105,7 +106,7 @@ void AddCharset(const char* file, const TypedTexts& typed, const std::string& te
 std::vector<Finding> FindInTypedTexts(const TypedTexts& typed) {
   std::vector<Finding> findings;
   const std::string& language = typed.texts.PageLanguage;
-  if (!IsKnownLanguage(language, typed.programFolder + "lang.txt")) {
+  if (!IsKnownLanguage(language, typed.programFolder + kLanguageList)) {
     findings.push_back(Warning("language-not-listed",
                                {Words("QObject", "No list of languages knows the page language %1."), {language}},
                                {"Give one that is listed with --set \"Lang=CODE NAME\", or add it to lang.txt."}));

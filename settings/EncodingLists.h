@@ -5,6 +5,7 @@
 #include <string_view>
 #include <vector>
 
+#include "FileNames.h"
 #include "OwnText.h"
 #include "RunTimeError.h"
 
@@ -16,14 +17,12 @@ namespace folionet {
 //   "en-us","English USA"
 //   "big5","(Traditional Chinese - Big 5)"
 
-inline constexpr char kLanguageList[] = "lang.txt";
-inline constexpr char kCharsetList[] = "enc.txt";
-
 struct EncodingList {
   std::vector<std::string> entries;     // the two fields of each record, joined by a blank (UTF-8), in the file's order
   std::optional<RunTimeError> failure;  // a missing file or a bad record; the entries before it are there
 };
 
+// `name` is kLanguageList or kCharsetList.
 EncodingList ReadEncodingList(const OwnFolder& folder, std::string_view name);
 
 struct EncodingRecord {

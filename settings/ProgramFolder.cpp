@@ -9,6 +9,7 @@
 #include <system_error>
 
 #include "BuildInfo.h"
+#include "FileNames.h"
 #include "OwnLibrary.h"
 #include "Paths.h"
 #include "RunTimeError.h"
@@ -16,8 +17,6 @@
 
 namespace folionet {
 namespace {
-
-constexpr char kStyleSheet[] = "default.css";
 
 // A file that cannot be opened, or a link that leads nowhere, is the person's all the same.
 bool IsNameTaken(const std::string& path) {
@@ -28,9 +27,9 @@ bool IsNameTaken(const std::string& path) {
 // Where the delivered files are that a person's own folder is filled from: beside the program, as in a build that
 // belongs to somebody else, or where an installation, moved or not, has them.
 std::string InstalledDataFolder() {
-  if (FileExists(ExecutableFolder() + kStyleSheet)) return ExecutableFolder();
+  if (FileExists(ExecutableFolder() + kStyleSheetFile)) return ExecutableFolder();
   const std::string beside = ExecutableFolder() + "../share/folionet/";
-  return FileExists(beside + kStyleSheet) ? beside : std::string(FOLIONET_DATA_FOLDER) + "/";
+  return FileExists(beside + kStyleSheetFile) ? beside : std::string(FOLIONET_DATA_FOLDER) + "/";
 }
 
 std::string UserDataFolder() {
@@ -56,7 +55,7 @@ namespace {
 std::string ProgramFolderPath(const std::string& chosen) {
   if (!chosen.empty()) return WithSeparator(NativePath(chosen));
   const std::string own = ExecutableFolder();
-  return IsNameTaken(own + kStyleSheet) && access(own.c_str(), W_OK) == 0 ? own : UserDataFolder();
+  return IsNameTaken(own + kStyleSheetFile) && access(own.c_str(), W_OK) == 0 ? own : UserDataFolder();
 }
 
 }  // namespace
@@ -66,7 +65,7 @@ std::string MissingFolder(const std::string& chosen) {
 }
 
 void DeliverFiles(const std::string& from, const std::string& folder, Doing doing) {
-  for (const std::string name : {kStyleSheet, "lang.txt", "enc.txt"}) {
+  for (const std::string name : {kStyleSheetFile, kLanguageList, kCharsetList}) {
     if (IsNameTaken(folder + name)) continue;
     const std::string bytes = ReadWholeFile(from + name);
     if (doing == Doing::kChange) {
@@ -89,8 +88,8 @@ std::string FindProgramFolder(const std::string& chosen, Doing doing) {
 }
 
 std::string StyleSheetToRead(const std::string& chosen) {
-  const std::string own = ProgramFolderPath(chosen) + kStyleSheet;
-  return chosen.empty() && !IsNameTaken(own) ? InstalledDataFolder() + kStyleSheet : own;
+  const std::string own = ProgramFolderPath(chosen) + kStyleSheetFile;
+  return chosen.empty() && !IsNameTaken(own) ? InstalledDataFolder() + kStyleSheetFile : own;
 }
 
 std::string ProgramFolderToRead(const std::string& chosen) {

@@ -6,6 +6,7 @@
 #include <cmath>
 #include <limits>
 
+#include "FileNames.h"
 #include "Numbers.h"
 #include "RunTimeError.h"
 #include "Utf8.h"
@@ -33,7 +34,7 @@ constexpr std::array kTable{
     Option{"chkBack", kFlag, "0", kFirst, kAtOnce, kAt<&Page::chkBack>},
     Option{"chkUseNames", kFlag, "1", kFirst, kAtOnce, kAt<&Page::chkUseNames>},
     Option{"Use83", kFlag, "0", kFirst, kAtExit, kAt<&Page::chkUse83>},
-    Option{"cboLang", kText, "BOOKS.TXT", kLanguageFile, kAtOnce, kAt<kMainOf, &MainOptions::cboLang>},
+    Option{"cboLang", kText, kDefaultTitles, kLanguageFile, kAtOnce, kAt<kMainOf, &MainOptions::cboLang>},
     Option{"alignmentLR", kText, "Left", kAlignment, kAtExit, kAt<kMainOf, &MainOptions::alignmentLR>},
     Option{"Index_Alignment", kText, "Left", kAlignment, kAtExit, kAt<kMainOf, &MainOptions::alignment>},
     Option{"chkDoubleSpace", kFlag, "0", kSpacing, kAtExit, kAt<&Page::chkDoubleSpace>},

@@ -7,6 +7,7 @@
 #include <cerrno>
 #include <cstdlib>
 #include <filesystem>
+#include <memory>
 #include <system_error>
 #include <utility>
 
@@ -67,6 +68,11 @@ bool IsSameFolder(std::string_view left, std::string_view right) {
     return WithSeparator((absolute.empty() ? native : absolute).lexically_normal().string());
   };
   return whole(left) == whole(right);
+}
+
+std::string RealPath(const std::string& path) {
+  const std::unique_ptr<char, decltype(&std::free)> real(realpath(path.c_str(), nullptr), &std::free);
+  return real != nullptr ? std::string(real.get()) : std::string();
 }
 
 bool FileExists(const std::string& path) {

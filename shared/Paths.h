@@ -25,6 +25,9 @@ std::string WithSeparator(std::string_view path);
 // Whether two paths name one folder, be one of them relative to the current folder or without a separator at its end.
 bool IsSameFolder(std::string_view left, std::string_view right);
 
+// The path from the root with no link in it; empty, with errno set, when it leads nowhere.
+std::string RealPath(const std::string& path);
+
 // True when `path` is a file that can be opened for reading; false on any failure, a folder included.
 bool FileExists(const std::string& path);
 

@@ -6,11 +6,10 @@
 
 #include <cerrno>
 #include <chrono>
-#include <cstdlib>
-#include <memory>
 
 #include "FileLock.h"
 #include "MakeFolders.h"
+#include "Paths.h"
 #include "RunTimeError.h"
 #include "WholeFile.h"
 
@@ -24,8 +23,8 @@ bool IsLink(const std::string& path) {
 
 // The file behind a link, so that replacing it leaves the link.
 std::string BehindLinks(const std::string& path) {
-  const std::unique_ptr<char, decltype(&std::free)> real(realpath(path.c_str(), nullptr), &std::free);
-  if (real != nullptr) return real.get();
+  std::string real = RealPath(path);
+  if (!real.empty()) return real;
   const int systemError = errno;
   if (IsLink(path)) {
     if (systemError != ENOENT) throw RunTimeError::FromErrno(systemError, path);

@@ -6,6 +6,7 @@
 
 #include "BookTitles.h"
 #include "BuildInfo.h"
+#include "FileNames.h"
 #include "FolderLister.h"
 #include "ImportedText.h"
 #include "Installation.h"
@@ -17,7 +18,6 @@
 namespace folionet {
 namespace {
 
-constexpr char kCatalogueName[] = "Translations.txt";
 constexpr double kFirstHiddenNumber = 1000;
 
 // A stem names a file in one folder; it must not lead out of it.
@@ -88,7 +88,7 @@ void FailMoreThanMostListed(const RecordReader& records) {
 }
 
 void ReadCatalogue(ModGlob& glob, const CodePage& codePage) {
-  RecordReader records(SysdefsFile(glob, kCatalogueName), Subject::kCatalogue);
+  RecordReader records(SysdefsFile(glob, kCatalogueFile), Subject::kCatalogue);
   glob.BibleNames.assign(1, {});
   glob.BibleFiles.assign(1, {});
   glob.BibleImports.assign(1, {});
@@ -152,7 +152,7 @@ std::optional<Sentence> WhyNoTranslation(const ModGlob& glob) {
     return Sentence{Words("QObject", "There is no translation, for there is no folder %1 of Versalia's modules."),
                     {glob.ModulesPath}};
   }
-  const std::string catalogue = SysdefsFile(glob, kCatalogueName);
+  const std::string catalogue = SysdefsFile(glob, kCatalogueFile);
   if (glob.listedTranslations == 0) {
     return Sentence{Words("QObject", "There is no translation, for the catalogue %1 lists none."), {catalogue}};
   }

@@ -4,6 +4,7 @@
 #include <array>
 #include <utility>
 
+#include "FileNames.h"
 #include "Installation.h"
 #include "LineReader.h"
 #include "Numbers.h"
@@ -69,7 +70,7 @@ std::string BookTitlesFile(const StoredSettings& store, const ModGlob& glob) {
   const bool isOfText = std::any_of(glob.BibleImports.begin(), glob.BibleImports.end(), [&](const ImportedText& text) {
     return text.IsThere() && EqualIgnoringCase(text.titles, stored);
   });
-  const bool isChosen = store.Has("cboLang") && !isOfText && !EqualIgnoringCase(stored, "BOOKS.TXT") &&
+  const bool isChosen = store.Has("cboLang") && !isOfText && !EqualIgnoringCase(stored, kDefaultTitles) &&
                         FileExists(SysdefsFile(glob, stored));
   return isChosen ? stored : glob.Imported.titles;
 }

@@ -4,6 +4,7 @@
 #include <QStringList>
 #include <algorithm>
 
+#include "FileNames.h"
 #include "FolderFacts.h"
 #include "FolderPickers.h"
 #include "LibraryLists.h"
@@ -112,7 +113,7 @@ void FactLines::ShowTranslations() {
   ShowLine(*m_controls.lblTranslationFacts,
            !isEmpty ? QString()
                     : tr("No translation is there: \"%1\" lists none whose text is in \"%2\".")
-                          .arg(ToQt(SysdefsFile(glob, "Translations.txt")), ToQt(glob.ModulesPath + "Bible")));
+                          .arg(ToQt(SysdefsFile(glob, kCatalogueFile)), ToQt(glob.ModulesPath + "Bible")));
 }
 
 QString FactLines::BooksText(int first, int last) const {

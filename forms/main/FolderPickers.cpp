@@ -1,5 +1,6 @@
 #include "FolderPickers.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <algorithm>
 #include <cerrno>
@@ -13,6 +14,7 @@
 #include "OptionLoading.h"
 #include "Paths.h"
 #include "QtText.h"
+#include "RunGuard.h"
 #include "RunTimeError.h"
 #include "ui_frmMain.h"
 
@@ -37,6 +39,7 @@ FolderPickers::FolderPickers(AppState& state, Ui::frmMain& controls, QObject* pa
   connect(m_controls.Drive1, &QComboBox::activated, this, &FolderPickers::Drive1_Change);
   connect(m_controls.Dir1, &FolderTree::PathChosen, this, &FolderPickers::Dir1_Change);
   connect(m_controls.cmdBrowse, &QPushButton::clicked, this, &FolderPickers::Browse);
+  m_controls.Dir1->answers = [this](const QString& path) { return Answers(FromQt(path)); };
 }
 
 void FolderPickers::Restore() {
@@ -68,14 +71,34 @@ void FolderPickers::ListVolumes() {
   }
 }
 
-// Throws RunTimeError when it does not answer; nothing waits for the thread then.
+// Throws RunTimeError when it does not answer; nothing waits for the thread then. A form that is shown goes on being
+// painted meanwhile.
 void FolderPickers::AwaitDisk(const std::string& path) const {
   std::packaged_task<void()> task([ask = askDisk, path] { ask(path); });
   const std::future<void> answer = task.get_future();
   std::thread(std::move(task)).detach();
-  if (answer.wait_for(patience) == std::future_status::timeout) {
-    throw RunTimeError(kDiskNotReady, path, "The disk does not answer.");
+  constexpr std::chrono::milliseconds kUnnoticed(100);
+  constexpr std::chrono::milliseconds kFrame(20);
+  const auto end = std::chrono::steady_clock::now() + patience;
+  QWidget& form = *m_controls.Dir1->window();
+  if (answer.wait_for(form.isVisible() ? std::min(patience, kUnnoticed) : patience) == std::future_status::ready)
+    return;
+  const RunGuard guard(form);
+  while (std::chrono::steady_clock::now() < end) {
+    if (answer.wait_for(kFrame) == std::future_status::ready) return;
+    QCoreApplication::processEvents();
   }
+  throw RunTimeError(kDiskNotReady, path, "The disk does not answer.");
+}
+
+bool FolderPickers::Answers(const std::string& path) const {
+  try {
+    AwaitDisk(path);
+  } catch (const RunTimeError& error) {
+    ReportDrive(m_state.ui, error);
+    return false;
+  }
+  return true;
 }
 
 void FolderPickers::RestoreDrive() {
@@ -151,14 +174,20 @@ void FolderPickers::Dir1_Change(const QString& path) {
 }
 
 void FolderPickers::Browse() {
-  const std::string chosen = m_state.ui.ChooseFolder(m_state.glob.OutputFolder, FromQt(tr("Choose the Output Path")));
+  const std::string& last = m_state.glob.OutputFolder;
+  const std::string start = !last.empty() && Answers(last) ? last : std::string();
+  const std::string chosen = m_state.ui.ChooseFolder(start, FromQt(tr("Choose the Output Path")));
   if (chosen.empty()) return;  // none was chosen before and none is now
   Choose(chosen);
 }
 
 bool FolderPickers::Choose(const std::string& path) {
   const QString folder = CleanPath(path);
-  if (!ShowFolder(folder)) return false;
+  if (!Answers(path)) return false;
+  if (!ShowFolder(folder)) {
+    ReportDrive(m_state.ui, RunTimeError(kPathNotFound, path));
+    return false;
+  }
   Dir1_Change(folder);
   return true;
 }

@@ -30,7 +30,7 @@ class FolderPickers : public QObject {
   // folder that is gone is reported.
   void Restore();
 
-  // Chooses a folder, of whatever volume. False when there is none of that path.
+  // Chooses a folder, of whatever volume. False, and told, when there is none of that path.
   bool Choose(const std::string& path);
 
   // What a compile takes as its output path.
@@ -48,6 +48,7 @@ class FolderPickers : public QObject {
 
  private:
   void AwaitDisk(const std::string& path) const;
+  bool Answers(const std::string& path) const;  // told where it does not
   void RestoreDrive();
   void RestoreFolder();
   void Drive1_Change(int item);

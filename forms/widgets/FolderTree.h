@@ -1,12 +1,17 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <QTreeWidget>
+#include <functional>
+#include <map>
+
+#include "BackgroundWork.h"
 
 namespace folionet {
 
 // The folders of one volume, read as they are opened, and those that are open read anew by F5. The current one is the
-// chosen one.
+// chosen one. Links are followed beside the form: where one leads may not answer.
 class FolderTree : public QTreeWidget {
   Q_OBJECT
 
@@ -22,6 +27,9 @@ class FolderTree : public QTreeWidget {
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override;
 
+  // Whether the disk of a folder answers that a person opens: one whose disk does not stays shut.
+  std::function<bool(const QString& path)> answers = [](const QString& /*path*/) { return true; };
+
   QString RootPath() const;
   QString Path() const;
 
@@ -35,11 +43,16 @@ class FolderTree : public QTreeWidget {
 
  private:
   QSize SizeFor(int lines) const;
+  void Open(QTreeWidgetItem* item);
   void Fill(QTreeWidgetItem* item);
+  void FollowLinks(QTreeWidgetItem* item, const QStringList& links);
+  void ShowLinks(QTreeWidgetItem& item, const QStringList& links, const QStringList& folders);
   void FillOpened(QTreeWidgetItem* item);
   bool HoldsCurrent(const QTreeWidgetItem* item) const;
   QTreeWidgetItem* ChildNamed(QTreeWidgetItem* item, const QString& name);
   void Choose(QTreeWidgetItem* item);
+
+  std::map<QString, BackgroundWork> m_following;  // by the folder that has the links
 };
 
 }  // namespace folionet

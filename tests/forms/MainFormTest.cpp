@@ -224,6 +224,28 @@ TEST_F(MainForm, ADiskThatDoesNotAnswerDoesNotHoldTheStartUp) {
   }
 }
 
+TEST_F(MainForm, ADiskThatDoesNotAnswerIsToldWhereAFolderIsChosenOrOpened) {
+  std::filesystem::create_directory_symlink(m_home.Path() + "library", m_home.Path() + "nas");
+  ASSERT_TRUE(Start());
+  QTreeWidgetItem* root = Get<FolderTree>("Dir1").topLevelItem(0);
+  ASSERT_TRUE(QTest::qWaitFor([root] { return root->childCount() == 5; })) << "a link is followed beside the form";
+  EXPECT_EQ(FromQt(root->child(2)->text(0)), "nas");
+  ChooseOutput();
+  std::promise<void> answer;
+  m_form->Folders().askDisk = [answered = answer.get_future().share()](const std::string&) { answered.wait(); };
+  m_form->Folders().patience = {};
+  root->child(1)->setExpanded(true);
+  EXPECT_FALSE(root->child(1)->isExpanded());
+  Give("cmdBrowse", m_home.Path() + "library");
+  answer.set_value();
+  EXPECT_EQ(m_ui.log, (Log{"71 Drive_Change", "71 Drive_Change", "71 Drive_Change"}));
+  EXPECT_EQ(m_ui.offered.back(), "") << "the chooser opens where the form does not hang";
+  EXPECT_EQ(Shown("txtOutputPath"), m_home.Path() + "site/");
+  m_form->Folders().patience = std::chrono::seconds(10);
+  Give("cmdBrowse", m_home.Path() + "none");
+  EXPECT_EQ(m_ui.log.back(), "76 Drive_Change");
+}
+
 TEST_F(MainForm, APreviewWithoutATemporaryFolderIsReportedAndTheNextHasOne) {
   ASSERT_TRUE(Start());
   const QByteArray before = qgetenv("TMPDIR");

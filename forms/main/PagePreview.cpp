@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QObject>
 #include <QTemporaryDir>
+#include <algorithm>
 #include <cerrno>
 #include <filesystem>
 #include <string>
@@ -66,13 +67,16 @@ void RequireIndex(const CompileRequest& request, const ModGlob& glob) {
   if (!FileExists(index)) throw RunTimeError::FromErrno(ENOENT, index).About(Subject::kChapterIndex);
 }
 
-// The picture lies beside the pages, if anywhere.
+// The picture lies beside the pages or below them; one that is not there is in no page either.
 void CopyPicture(const CompileRequest& request, const std::string& folder) {
-  const std::string& name = request.options.frmBackground.txtImagepath;
-  std::error_code ignored;
-  if (!request.options.chkBack || name.empty() || name.find('/') != std::string::npos) return;
-  std::filesystem::copy_file(request.txtOutputPath + name, folder + name,
-                             std::filesystem::copy_options::overwrite_existing, ignored);
+  const std::filesystem::path name = NativePath(request.options.frmBackground.txtImagepath);
+  const bool isOutside = name.is_absolute() || std::find(name.begin(), name.end(), "..") != name.end();
+  if (!request.options.chkBack || name.empty() || isOutside) return;
+  const std::string to = folder + name.string();
+  std::error_code ignored;  // what follows tells of a failure
+  std::filesystem::create_directories(std::filesystem::path(to).parent_path(), ignored);
+  std::filesystem::remove(to, ignored);
+  if (const auto picture = ReadIfThere(request.txtOutputPath + name.string())) ReplaceWholeFile(to, *picture);
 }
 
 }  // namespace

@@ -265,6 +265,25 @@ TEST_F(MainForm, APreviewWithoutATemporaryFolderIsReportedAndTheNextHasOne) {
   before.isNull() ? qunsetenv("TMPDIR") : qputenv("TMPDIR", before);
 }
 
+TEST_F(MainForm, APreviewHasThePictureThatThePagesWouldHave) {
+  Store("chkBack", "1");
+  Store("BackImage", "img\\paper.gif");
+  ASSERT_TRUE(Start());
+  ChooseOutput();
+  m_home.Write("site/img/paper.gif", "GIF");
+  Click("cmdPreviewPage");
+  const std::filesystem::path picture = std::filesystem::path(m_ui.pageShown).parent_path() / "img/paper.gif";
+  EXPECT_EQ(std::filesystem::file_size(picture), 3U);
+  Remove("site/img");
+  Click("cmdPreviewPage");
+  EXPECT_FALSE(std::filesystem::exists(picture)) << "that of the preview before";
+  std::filesystem::create_directories(m_home.Path() + "site/img/paper.gif");
+  m_ui.pageShown.clear();
+  Click("cmdPreviewPage");
+  EXPECT_EQ(m_ui.log, Log{"75 cmdPreviewPage_Click"});
+  EXPECT_EQ(m_ui.pageShown, "");
+}
+
 // Seconds that this thread has worked, whatever else the machine does.
 double ThreadTime() {
   timespec time{};

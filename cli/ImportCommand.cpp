@@ -189,12 +189,7 @@ ExitStatus RunImport(const CommonOptions& common, const ImportArguments& argumen
   try {
     StoredSettings(StoredSettings::DefaultFolder()).FinishChange();
     const ImportedBible bible = ReadBible({arguments.paths, arguments.charset});
-    const LibraryPlan plan = PlanLibrary(bible, request);
-    if (arguments.dryRun) {
-      TryLibrary(plan);
-    } else {
-      WriteLibrary(bible, plan);
-    }
+    const LibraryPlan plan = ImportLibrary(bible, request, arguments.dryRun ? Doing::kPlan : Doing::kChange);
     if (!common.quiet || common.json) {
       TellFindings(bible, ui);
       TellLanguage(plan, ui);

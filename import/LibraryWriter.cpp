@@ -340,39 +340,61 @@ std::string WriteVerses(const ImportedBible& bible, const LibraryPlan& plan,
 
 namespace {
 
-// Makes the folders, and sees that nobody else writes into the library, or asks for that.
-FileHandle TakeLibrary(const LibraryPlan& plan, Doing doing) {
+void MakeFoldersOf(const LibraryPlan& plan, Doing doing) {
   MakeFolder(fs::path(IndexFile(plan, plan.stem)).parent_path().string(), doing);
   for (const auto& [path, content] : plan.files) MakeFolder(fs::path(path).parent_path().string(), doing);
   MakeFolder(fs::path(plan.verseFile).parent_path().string(), doing);
+}
+
+// Keeps the library for this import alone, or asks whether that could be done.
+FileHandle TakeLibrary(const LibraryPlan& plan, Doing doing) {
+  MakeFoldersOf(plan, doing);
   FileHandle lock = FileHandle::Open(fs::path(plan.catalogue).parent_path().c_str(), O_RDONLY | O_DIRECTORY);
-  const bool isTaken = lock.IsOpen() && (doing == Doing::kPlan ? IsLockHeld(lock.Get())
-                                                               : !LockFile(lock.Get(), std::chrono::milliseconds(0)));
-  if (isTaken || ReadIfThere(plan.catalogue).value_or("") != plan.catalogueBefore) {
-    throw ImportError(kPermissionDenied, plan.folder,
-                      {Words("Import", "Another import is writing into this library. Import again.")});
+  const bool isHeld = lock.IsOpen() && (doing == Doing::kPlan ? IsLockHeld(lock.Get(), kLongestWait)
+                                                              : !LockFile(lock.Get(), kLongestWait));
+  if (!isHeld) return lock;
+  throw ImportError(
+      kPermissionDenied, plan.folder,
+      {Words("Import", "Another import is writing into this library: %1. Import again when it has ended."),
+       {LockHolderName(lock.Get())}});
+}
+
+void CarryOut(const ImportedBible& bible, const LibraryPlan& plan, Doing doing) {
+  const std::string note = NotePath(fs::path(plan.catalogue).parent_path().string(), doing);
+  const std::string indexFile = IndexFile(plan, plan.stem);
+  if (doing == Doing::kPlan) {
+    for (const std::string& path : {plan.verseFile, indexFile}) TryReplacement(path);
+    for (const auto& [path, content] : plan.files) TryReplacement(path);
+    return;
   }
-  return lock;
+  JointChange change(note);
+  std::string index;
+  change.Write(plan.verseFile, [&](const JointChange::Pieces& take) { index = WriteVerses(bible, plan, take); });
+  change.Replace(indexFile, index);
+  for (const auto& [path, content] : plan.files) change.Replace(path, content);
+  change.Commit();
 }
 
 }  // namespace
 
-void TryLibrary(const LibraryPlan& plan) {
-  TakeLibrary(plan, Doing::kPlan);
-  NotePath(fs::path(plan.catalogue).parent_path().string(), Doing::kPlan);
-  TryReplacement(plan.verseFile);
-  TryReplacement(IndexFile(plan, plan.stem));
-  for (const auto& [path, content] : plan.files) TryReplacement(path);
-}
-
 void WriteLibrary(const ImportedBible& bible, const LibraryPlan& plan) {
   const FileHandle lock = TakeLibrary(plan, Doing::kChange);
-  JointChange change(NotePath(fs::path(plan.catalogue).parent_path().string(), Doing::kChange));
-  std::string index;
-  change.Write(plan.verseFile, [&](const JointChange::Pieces& take) { index = WriteVerses(bible, plan, take); });
-  change.Replace(IndexFile(plan, plan.stem), index);
-  for (const auto& [path, content] : plan.files) change.Replace(path, content);
-  change.Commit();
+  if (ReadIfThere(plan.catalogue).value_or("") != plan.catalogueBefore) {
+    throw ImportError(kPermissionDenied, plan.folder,
+                      {Words("Import", "Another import has changed this library. Import again.")});
+  }
+  CarryOut(bible, plan, Doing::kChange);
+}
+
+LibraryPlan ImportLibrary(const ImportedBible& bible, const LibraryRequest& request, Doing doing) {
+  LibraryPlan plan = PlanLibrary(bible, request);
+  const FileHandle lock = TakeLibrary(plan, doing);
+  if (ReadIfThere(plan.catalogue).value_or("") != plan.catalogueBefore) {
+    plan = PlanLibrary(bible, request);
+    MakeFoldersOf(plan, doing);
+  }
+  CarryOut(bible, plan, doing);
+  return plan;
 }
 
 }  // namespace folionet

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "ImportedBible.h"
+#include "MakeFolders.h"
 #include "Sentence.h"
 #include "modGlob.h"
 
@@ -71,11 +72,13 @@ LibraryPlan PlanLibrary(const ImportedBible& bible, const LibraryRequest& reques
 std::string WriteVerses(const ImportedBible& bible, const LibraryPlan& plan,
                         const std::function<void(std::string_view piece)>& take);
 
-// Throws RunTimeError where WriteLibrary would, as far as that can be known; nothing is written.
-void TryLibrary(const LibraryPlan& plan);
-
-// Writes the plan that was made of the text, all of it or nothing (JointChange.h). Throws RunTimeError; the library is
-// then as it was. What a killed program left half done is completed by StoredSettings::FinishChange.
+// Writes the plan that was made of the text, all of it or nothing (JointChange.h). Another import into the library is
+// waited for, two seconds at most. Throws RunTimeError, also where the catalogue has changed since the plan was made;
+// the library is then as it was. What a killed program left half done is completed by StoredSettings::FinishChange.
 void WriteLibrary(const ImportedBible& bible, const LibraryPlan& plan);
+
+// Plans and writes in one, behind an import that was waited for; with Doing::kPlan it writes nothing, and throws where
+// the writing would, as far as that can be known. Gives the plan.
+LibraryPlan ImportLibrary(const ImportedBible& bible, const LibraryRequest& request, Doing doing);
 
 }  // namespace folionet

@@ -49,12 +49,11 @@ std::optional<int> HoldingProcess(int descriptor) {
   return std::nullopt;
 }
 
-}  // namespace
-
-bool LockFile(int descriptor, std::chrono::milliseconds patience) {
+// False when another program has a lock still that this one does not go with.
+bool GetLock(int descriptor, int operation, std::chrono::milliseconds patience) {
   constexpr std::chrono::milliseconds kBetween(5);
   const auto end = std::chrono::steady_clock::now() + patience;
-  while (flock(descriptor, LOCK_EX | LOCK_NB) != 0) {
+  while (flock(descriptor, operation | LOCK_NB) != 0) {
     if (errno == EINTR) continue;
     if (errno != EWOULDBLOCK) return true;
     if (std::chrono::steady_clock::now() >= end) return false;
@@ -63,14 +62,27 @@ bool LockFile(int descriptor, std::chrono::milliseconds patience) {
   return true;
 }
 
-bool IsLockHeld(int descriptor) { return HoldingProcess(descriptor).has_value(); }
+}  // namespace
 
-std::string LockHolder(int descriptor) {
+bool LockFile(int descriptor, std::chrono::milliseconds patience) { return GetLock(descriptor, LOCK_EX, patience); }
+
+bool IsLockHeld(int descriptor, std::chrono::milliseconds patience) {
+  if (!GetLock(descriptor, LOCK_SH, patience)) return true;
+  flock(descriptor, LOCK_UN);
+  return false;
+}
+
+std::string LockHolderName(int descriptor) {
   const std::optional<int> process = HoldingProcess(descriptor);
-  if (!process) return "Another program";
+  if (!process) return "?";
   std::string name;
   std::getline(std::ifstream("/proc/" + std::to_string(*process) + "/comm"), name);
-  return "Another program" + (name.empty() ? "" : ", " + name) + " (process " + std::to_string(*process) + "),";
+  return name + (name.empty() ? "" : " ") + "(process " + std::to_string(*process) + ")";
+}
+
+std::string LockHolder(int descriptor) {
+  const std::string name = LockHolderName(descriptor);
+  return name == "?" ? "Another program" : "Another program, " + name + ",";
 }
 
 }  // namespace folionet

@@ -33,6 +33,20 @@ std::string BehindLinks(const std::string& path) {
   return path;
 }
 
+// Looks at a file on its way to take the place of `path`, which could be opened or not, with errno set.
+void CheckOnItsWay(const FileHandle& file, const std::string& path, const std::string& name) {
+  struct stat status {};
+  if (!file.IsOpen() || fstat(file.Get(), &status) != 0) throw RunTimeError::FromErrno(errno, path);
+  if (!S_ISREG(status.st_mode) || status.st_nlink > 1) {
+    throw RunTimeError(kPathFileAccessError, path, "\"" + name + "\" beside it is in the way. Remove it.");
+  }
+}
+
+[[noreturn]] void RefuseHeld(const FileHandle& file, const std::string& path) {
+  throw RunTimeError(kPermissionDenied, path,
+                     LockHolder(file.Get()) + " is saving it. Wait for that to end, and try again.");
+}
+
 }  // namespace
 
 Replacement::Replacement(const std::string& path, mode_t modeIfNew) : m_path(BehindLinks(path)), m_mode(modeIfNew) {
@@ -65,20 +79,13 @@ void Replacement::GetHold() {
   const auto end = std::chrono::steady_clock::now() + kLongestWait;
   do {
     m_file = FileHandle::OpenAt(m_folder.Get(), m_fresh.c_str(), O_WRONLY | O_CREAT | O_NOFOLLOW | O_NONBLOCK, 0666);
-    struct stat status {};
-    if (!m_file.IsOpen() || fstat(m_file.Get(), &status) != 0) throw RunTimeError::FromErrno(errno, m_path);
-    if (!S_ISREG(status.st_mode) || status.st_nlink > 1) {
-      static_cast<void>(m_file.Close());
-      throw RunTimeError(kPathFileAccessError, m_path, "\"" + m_fresh + "\" beside it is in the way. Remove it.");
-    }
+    CheckOnItsWay(m_file, m_path, m_fresh);
     const auto left = std::chrono::duration_cast<std::chrono::milliseconds>(end - std::chrono::steady_clock::now());
     if (!LockFile(m_file.Get(), left)) break;
     if (IsStillNamed()) return;
     // What was waited for has taken the file's place by then.
   } while (std::chrono::steady_clock::now() < end);
-  const std::string holder = LockHolder(m_file.Get());
-  static_cast<void>(m_file.Close());
-  throw RunTimeError(kPermissionDenied, m_path, holder + " is saving it. Wait for that to end, and try again.");
+  RefuseHeld(m_file, m_path);
 }
 
 bool Replacement::IsStillNamed() const {
@@ -126,11 +133,15 @@ void TryReplacement(const std::string& path) {
   if (found == 0 && !S_ISREG(status.st_mode)) {
     throw RunTimeError(kPathFileAccessError, target, "It is not a regular file.");
   }
-  const int systemError = found == 0 || found == ENOENT ? WhyNotMake(AT_FDCWD, OnItsWay(target)) : found;
-  // One that a killed program left is used again.
-  if (systemError != 0 && systemError != ENOENT && systemError != EEXIST) {
-    throw RunTimeError::FromErrno(systemError, target);
-  }
+  const std::string fresh = OnItsWay(target);
+  const int systemError = found == 0 || found == ENOENT ? WhyNotMake(AT_FDCWD, fresh) : found;
+  if (systemError == 0 || systemError == ENOENT) return;
+  if (systemError != EEXIST) throw RunTimeError::FromErrno(systemError, target);
+  // One that a killed program left is used again; of another program's one the end is waited for.
+  const FileHandle file = FileHandle::Open(fresh.c_str(), O_WRONLY | O_NOFOLLOW | O_NONBLOCK);
+  if (!file.IsOpen() && errno == ENOENT) return;
+  CheckOnItsWay(file, target, fresh.substr(fresh.rfind('/') + 1));
+  if (IsLockHeld(file.Get(), kLongestWait)) RefuseHeld(file, target);
 }
 
 std::string OnItsWay(const std::string& path) {

@@ -204,8 +204,12 @@
         <translation>HOME nennt keinen Ordner, in dem sie liegen könnte. Nennen Sie einen mit --into FOLDER.</translation>
     </message>
     <message>
-        <source>Another import is writing into this library. Import again.</source>
-        <translation>Ein anderer Import schreibt in diese Bibliothek. Importieren Sie noch einmal.</translation>
+        <source>Another import is writing into this library: %1. Import again when it has ended.</source>
+        <translation>Ein anderer Import schreibt in diese Bibliothek: %1. Importieren Sie noch einmal, wenn er zu Ende ist.</translation>
+    </message>
+    <message>
+        <source>Another import has changed this library. Import again.</source>
+        <translation>Ein anderer Import hat diese Bibliothek verändert. Importieren Sie noch einmal.</translation>
     </message>
     <message>
         <source>a line of at most 4 MiB was expected</source>

@@ -204,8 +204,12 @@
         <translation>HOME no indica ninguna carpeta en la que pueda estar. Indique una con --into FOLDER.</translation>
     </message>
     <message>
-        <source>Another import is writing into this library. Import again.</source>
-        <translation>Otra importación está escribiendo en esta biblioteca. Importe de nuevo.</translation>
+        <source>Another import is writing into this library: %1. Import again when it has ended.</source>
+        <translation>Otra importación está escribiendo en esta biblioteca: %1. Importe de nuevo cuando haya terminado.</translation>
+    </message>
+    <message>
+        <source>Another import has changed this library. Import again.</source>
+        <translation>Otra importación ha cambiado esta biblioteca. Importe de nuevo.</translation>
     </message>
     <message>
         <source>a line of at most 4 MiB was expected</source>

@@ -48,7 +48,7 @@ RemovedPages RemovePages(const SiteReport& verified, const std::function<bool(co
   const SiteHandle& site = *verified.site;
   const FileHandle top = FileHandle::OpenAt(site.Get(), "./", O_RDONLY | O_DIRECTORY);
   if (!top.IsOpen()) throw RunTimeError::FromErrno(errno, site.Path());
-  if (!LockFile(top.Get(), std::chrono::milliseconds(0))) {
+  if (!LockFile(top.Get())) {
     throw RunTimeError(kPermissionDenied, site.Path(),
                        LockHolder(top.Get()) + " is writing into this folder. Wait for that to end.");
   }

@@ -1,4 +1,5 @@
 #include <gtest/gtest.h>
+#include <sys/file.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -6,6 +7,7 @@
 #include <set>
 #include <sstream>
 
+#include "FileHandle.h"
 #include "FolderContent.h"
 #include "Library.h"
 #include "ProgramRun.h"
@@ -133,12 +135,22 @@ TEST_P(Plans, SayWhatTheRunDoes) {
 }
 
 TEST(ImportPlans, FailWhereTheImportWould) {
-  const std::pair<const char*, int> places[] = {{"mkdir lib; chmod 555 lib", 3},
-                                                {"echo mine > lib", 3},
-                                                {"mkdir -p lib/Sysdefs; chmod 555 lib/Sysdefs", 3},
-                                                {"mkdir -p lib/Index/TEXT.TXT.INDEX", 1},
-                                                {"mkdir -p lib/Modules", 0}};
-  for (const auto& [arrange, status] : places) {
+  struct Place {
+    const char* arrange;
+    int status;
+    std::string locked = {};  // by another program
+  };
+  const std::string fresh = "lib/Sysdefs/.Translations.txt.folionet-new";
+  const std::string arrangeFresh = "mkdir -p lib/Sysdefs; touch " + fresh;
+  const Place places[] = {{"mkdir lib; chmod 555 lib", 3},
+                          {"echo mine > lib", 3},
+                          {"mkdir -p lib/Sysdefs; chmod 555 lib/Sysdefs", 3},
+                          {"mkdir -p lib/Index/TEXT.TXT.INDEX", 1},
+                          {"mkdir -p lib/Modules", 0},
+                          {arrangeFresh.c_str(), 0},
+                          {arrangeFresh.c_str(), 3, fresh},
+                          {"mkdir -p lib/Sysdefs", 3, "lib/Sysdefs"}};
+  for (const auto& [arrange, status, locked] : places) {
     SCOPED_TRACE(arrange);
     const TemporaryFolder home;
     home.Write("text", "Ge1:1 a verse\n");
@@ -148,6 +160,8 @@ TEST(ImportPlans, FailWhereTheImportWould) {
     const Command other{"/usr/bin/setpriv", "--reuid=65534", "--clear-groups"};
     RunProgram(With(geteuid() == 0 ? other : Command{}, {"/bin/sh", "-c", arrange}), home.Path());
     if (geteuid() == 0) import = With(other, import);
+    const FileHandle held = FileHandle::Open((home.Path() + locked).c_str(), O_RDONLY);
+    if (!locked.empty()) flock(held.Get(), LOCK_EX);
     const ProgramResult plan = RunProgram(With(import, {"--dry-run"}), home.Path());
     EXPECT_FALSE(home.Has("lib/Sysdefs/Translations.txt"));
     const ProgramResult run = RunProgram(import, home.Path());
@@ -155,6 +169,8 @@ TEST(ImportPlans, FailWhereTheImportWould) {
     EXPECT_EQ(run.status, status) << run.errors;
     EXPECT_EQ(plan.status, run.status);
     EXPECT_EQ(plan.errors, run.errors);
+    const bool isNamed = run.errors.find("(process " + std::to_string(getpid()) + ")") != std::string::npos;
+    EXPECT_EQ(isNamed, !locked.empty()) << run.errors;
   }
 }
 

@@ -36,6 +36,15 @@ TEST(TwoAtOnce, NoAddedRecordIsLost) {
   EXPECT_EQ(home.Read("lang.txt").size(), 2 * kTimes * std::string("\"xx\",\"one\"\r\n").size());
 }
 
+TEST(TwoAtOnce, EveryImportIsMade) {
+  const TemporaryFolder home;
+  home.Write("text", "Ge1:1 a verse\n");
+  const Command import{"/bin/sh", "-c", "exec " FOLIONET_CLI " import text --name N$$ --stem S$$ --into lib --quiet"};
+  for (const ProgramResult& run : RunBoth(home.Path(), import, import)) EXPECT_EQ(run.status, 0) << run.errors;
+  const std::string catalogue = home.Read("lib/Sysdefs/Translations.txt");
+  EXPECT_EQ(std::count(catalogue.begin(), catalogue.end(), '\n'), 2 * kTimes) << catalogue;
+}
+
 TEST(TwoAtOnce, ALockThatNeverEndsIsWaitedForTwoSecondsAndItsHolderNamed) {
   const TemporaryFolder home;
   home.Write("lang.txt", "old,one");

@@ -228,9 +228,7 @@ ExitStatus RunCompile(const CommonOptions& common, const CompileArguments& given
   // What has changed by the time of a failure is to be uploaded all the same: the next run finds it as it should be.
   if (!arguments.dryRun) PrintChanges(arguments, changes, ui);
   if (outcome == CompileOutcome::kDone && arguments.dryRun) PrintPlan(request, session.glob, changes, ui);
-  if (request.listsChanges && changes.knowsPending && std::fflush(stdout) == 0) {
-    ChangesDelivered(changes.journal);
-  }
+  if (request.listsChanges && changes.knowsPending && std::fflush(stdout) == 0) changes.journal->ForgetAll();
   switch (outcome) {
     case CompileOutcome::kDone:
       SaveRun(arguments.saveSettings, request, session);

@@ -10,6 +10,8 @@
 #include <system_error>
 
 #include "BuildInfo.h"
+#include "FileHandle.h"
+#include "FileLock.h"
 #include "Paths.h"
 #include "RunTimeError.h"
 #include "WholeFile.h"
@@ -38,7 +40,10 @@ ChangeJournal::ChangeJournal(const std::string& stateFolder, const std::string& 
   if (m_path.empty()) return;
   std::string text;
   try {
-    text = ReadIfThere(m_path, kLongest).value_or("");
+    const FileHandle file = FileHandle::Open(m_path.c_str(), O_RDONLY | O_NONBLOCK);
+    if (!file.IsOpen() && (errno == ENOENT || errno == ENOTDIR)) return;
+    if (file.IsOpen() && IsLockHeld(file.Get())) m_holder = LockHolder(file.Get());
+    text = ReadOpenFile(file, m_path, kLongest);
   } catch (const RunTimeError& error) {
     m_trouble = error.what();
     m_knowsPending = false;
@@ -46,6 +51,8 @@ ChangeJournal::ChangeJournal(const std::string& stateFolder, const std::string& 
   }
   // A line without an end was on its way when the program was killed, before its file was changed.
   m_whole = text.rfind('\n') + 1;
+  m_isCut = text.find('\0') < m_whole;
+  if (m_isCut) std::erase(text, '\0');
   std::string_view rest = text;
   for (std::size_t end = rest.find('\n'); end != std::string_view::npos; end = rest.find('\n')) {
     const bool isDoubtful = rest.starts_with(kDoubtful);
@@ -60,14 +67,25 @@ bool ChangeJournal::IsDoubtful(const std::string& name) const {
   return known != m_doubtful.end() && known->second;
 }
 
+bool ChangeJournal::Open() {
+  if (m_file.IsOpen()) return true;
+  std::error_code ignored;
+  std::filesystem::create_directories(std::filesystem::path(m_path).parent_path(), ignored);
+  return m_file.Open(m_path, m_whole);
+}
+
 void ChangeJournal::Add(const std::string& line) {
   if (m_path.empty() || !m_trouble.empty()) return;
-  if (!m_file.IsOpen()) {
-    std::error_code ignored;
-    std::filesystem::create_directories(std::filesystem::path(m_path).parent_path(), ignored);
+  const bool isOpen = Open();
+  if (!isOpen && errno == EBUSY) {
+    throw RunTimeError(kPermissionDenied, m_path, "Another program has begun to write into the output folder.");
   }
-  const bool isOpen = m_file.IsOpen() || m_file.Open(m_path, m_whole);
   if (!isOpen || !m_file.Add(line)) m_trouble = RunTimeError::FromErrno(errno, m_path).what();
+}
+
+std::string ChangeJournal::Trouble() const {
+  if (!m_trouble.empty() || (!m_isCut && (!m_file.IsOpen() || m_file.IsWhole()))) return m_trouble;
+  return RunTimeError(kPathFileAccessError, m_path, "Another program has cut it.").what();
 }
 
 void ChangeJournal::WillChange(const std::string& name) {
@@ -92,13 +110,14 @@ void ChangeJournal::Forget() {
   }
 }
 
+void ChangeJournal::ForgetAll() {
+  const bool isThere = m_file.IsOpen() || m_whole > 0;
+  if (isThere && Open()) unlink(m_path.c_str());
+}
+
 std::string UserStateFolder() {
   const std::string folder = UserFolder("XDG_STATE_HOME", ".local/state");
   return folder.empty() ? folder : folder + kApplicationTitle;
-}
-
-void ChangesDelivered(const std::string& journal) {
-  if (!journal.empty()) unlink(journal.c_str());
 }
 
 }  // namespace folionet

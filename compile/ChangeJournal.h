@@ -19,6 +19,7 @@ class ChangeJournal : public ChangeWatch {
   // Reads what earlier runs left for an output folder. With an empty `stateFolder` nothing is kept.
   ChangeJournal(const std::string& stateFolder, const std::string& outputFolder);
 
+  // Throws RunTimeError where another program has begun to use the journal meanwhile.
   void WillChange(const std::string& name) override;
   void CouldNotClose(const std::string& name) override;
   bool IsDoubtful(const std::string& name) const override;
@@ -29,16 +30,20 @@ class ChangeJournal : public ChangeWatch {
   // What earlier runs left, in the order of the changes.
   const std::vector<std::string>& Pending() const { return m_pending; }
 
-  // Its file; empty where nothing is kept.
-  const std::string& Path() const { return m_path; }
+  // The program that has the journal at hand, as LockHolder names it; empty for none.
+  const std::string& Holder() const { return m_holder; }
 
-  // Why changes cannot be kept; empty while they can.
-  const std::string& Trouble() const { return m_trouble; }
+  // Why changes cannot be kept, or some are lost; empty where all is well.
+  std::string Trouble() const;
 
   // The run came to its end, and nobody wants a list of what it changed: that is forgotten, what was pending is not.
   void Forget();
 
+  // The list of all that had changed has reached whoever wanted it: nothing is pending any more.
+  void ForgetAll();
+
  private:
+  bool Open();
   void Add(const std::string& line);
 
   std::string m_path;       // empty when nothing is kept
@@ -47,11 +52,10 @@ class ChangeJournal : public ChangeWatch {
   std::unordered_map<std::string, bool> m_doubtful;  // of each name that the journal holds
   JournalFile m_file;
   bool m_knowsPending = true;
+  bool m_isCut = false;  // by another program
+  std::string m_holder;
   std::string m_trouble;
 };
-
-// The list of all that had changed has reached whoever wanted it: nothing of that journal is pending any more.
-void ChangesDelivered(const std::string& journal);
 
 // $XDG_STATE_HOME/Folionet, or ~/.local/state/Folionet; empty where neither is a whole path.
 std::string UserStateFolder();

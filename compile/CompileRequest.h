@@ -37,7 +37,7 @@ struct CompileRequest {
   SiteChanges* changes = nullptr;  // where what became of each file is noted, if anywhere
 
   // Where is kept what runs change that do not come to their end (ChangeJournal); empty for nowhere. With
-  // `listsChanges` that holds for this run too, until ChangesDelivered says that its list has been told.
+  // `listsChanges` that holds for this run too, until ChangeJournal::ForgetAll says that its list has been told.
   std::string stateFolder;
   bool listsChanges = false;
 

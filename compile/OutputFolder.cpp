@@ -37,13 +37,15 @@ void OpenOutputFolder(const CompileRequest& request, RunFolder& folder) {
   }
   folder.site.Open(path, doing);
   folder.site.Lock();
-  folder.journal.emplace(request.stateFolder, folder.site.Path());
-  folder.site.SetWatch(&*folder.journal);
+  folder.journal = std::make_shared<ChangeJournal>(request.stateFolder, folder.site.Path());
+  // Another folder was in this place when a program that runs still opened it.
+  if (!folder.journal->Holder().empty()) folder.site.RefuseHeld(folder.journal->Holder());
+  folder.site.SetWatch(folder.journal.get());
 }
 
 void EndRun(const CompileRequest& request, RunFolder& folder) {
   if (folder.journal && request.changes != nullptr) {
-    request.changes->journal = folder.journal->Path();
+    if (request.listsChanges) request.changes->journal = folder.journal;
     request.changes->knowsPending = folder.journal->KnowsPending();
     request.changes->trouble = folder.journal->Trouble();
     for (const std::string& name : folder.journal->Pending()) {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <optional>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -16,7 +16,7 @@ namespace folionet {
 // The output folder of a run.
 struct RunFolder {
   SiteFolder site;
-  std::optional<ChangeJournal> journal;  // of an open folder
+  std::shared_ptr<ChangeJournal> journal;  // of an open folder
 };
 
 // Opens the request's output folder for the run, unless it is open: makes it, parents included, when it is missing and

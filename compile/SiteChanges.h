@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <memory>
 #include <string>
 #include <unordered_map>
 #include <vector>
@@ -8,6 +9,8 @@
 #include "SiteFolder.h"
 
 namespace folionet {
+
+class ChangeJournal;
 
 // What a compile run did to the files of the output folder, or would do, each file told once.
 class SiteChanges {
@@ -37,8 +40,8 @@ class SiteChanges {
   // Whether `pending` is known: a run that ends before it has come to the output folder tells of no other.
   bool knowsPending = false;
 
-  // The file that they are kept in until they have been told; empty for none.
-  std::string journal;
+  // Keeps them until they have been told, of a run that lists them; null where it has not come to the folder.
+  std::shared_ptr<ChangeJournal> journal;
 
   // Why a list of this run could be lost if it were broken off; empty where it could not.
   std::string trouble;

@@ -57,9 +57,12 @@ void SiteFolder::Open(const std::string& path, Doing doing) {
 void SiteFolder::Lock() const {
   if (!m_folder.IsOpen()) return;
   if (m_isPlan ? !IsLockHeld(m_folder.Get()) : LockFile(m_folder.Get())) return;
-  throw RunTimeError(
-      kPermissionDenied, m_path,
-      LockHolder(m_folder.Get()) + " is writing into this folder. Wait for that to end, or choose another folder.")
+  RefuseHeld(LockHolder(m_folder.Get()));
+}
+
+void SiteFolder::RefuseHeld(const std::string& holder) const {
+  throw RunTimeError(kPermissionDenied, m_path,
+                     holder + " is writing into this folder. Wait for that to end, or choose another folder.")
       .About(Subject::kOutputFolder);
 }
 

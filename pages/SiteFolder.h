@@ -58,6 +58,9 @@ class SiteFolder {
   // (kPermissionDenied) naming the program that has it. A file system that knows no locks is let pass.
   void Lock() const;
 
+  // Throws that error; `holder` as LockHolder names it.
+  [[noreturn]] void RefuseHeld(const std::string& holder) const;
+
   // `watch` outlives this.
   void SetWatch(ChangeWatch* watch) { m_watch = watch; }
 

@@ -25,7 +25,9 @@ int WhyNotMake(int folder, const std::string& name) {
   if (errno != ENOENT) return errno;
   const std::size_t slash = name.rfind('/') + 1;
   const std::string parent = slash == 0 ? "." : name.substr(0, slash);
-  return faccessat(folder, parent.c_str(), W_OK | X_OK, AT_EACCESS) == 0 ? 0 : errno;
+  if (faccessat(folder, parent.c_str(), W_OK | X_OK, AT_EACCESS) != 0) return errno;
+  // The current folder, or one that was opened, may have been deleted.
+  return fstatat(folder, parent.c_str(), &status, 0) == 0 && status.st_nlink == 0 ? ENOENT : 0;
 }
 
 // What unlinkat and renameat refuse.

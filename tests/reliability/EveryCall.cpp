@@ -19,8 +19,6 @@ std::vector<std::string> KindsOf(const Call& struck) {
                                                               {"read", {EIO, EINTR}},
                                                               {"write", {ENOSPC, EIO, EINTR}},
                                                               {"ftruncate", {EIO, EINTR}},
-                                                              {"allocate", {ENOSPC, EOPNOTSUPP, EINTR}},
-                                                              {"map", {ENODEV}},
                                                               {"close", {EIO, ENOSPC, EINTR}},
                                                               {"fsync", {EIO, ENOSPC, EINTR}},
                                                               {"unlink", {EACCES, EIO}},

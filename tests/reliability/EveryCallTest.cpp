@@ -95,8 +95,7 @@ TEST_F(Compiles, IntoANewFolder) {
   TryCompile({"anew",
               ArrangeLibrary,
               [](const TemporaryFolder&) { return Compile({"--output=made/site"}); },
-              {"allocate", "close", "create", "ftruncate", "lock", "map", "mkdir", "open", "read", "readdir", "stat",
-               "unlink", "write"}});
+              {"close", "create", "ftruncate", "lock", "mkdir", "open", "read", "readdir", "stat", "unlink", "write"}});
 }
 
 TEST_F(Compiles, WhereEveryFileHasAName) {
@@ -105,8 +104,7 @@ TEST_F(Compiles, WhereEveryFileHasAName) {
           [](const TemporaryFolder&) {
             return With({"/usr/bin/env", "FAULT_NAMED=1"}, Compile({"--output=made/site"}));
           },
-          {"allocate", "close", "create", "ftruncate", "lock", "map", "mkdir", "open", "read", "readdir", "stat",
-           "unlink", "write"}};
+          {"close", "create", "ftruncate", "lock", "mkdir", "open", "read", "readdir", "stat", "unlink", "write"}};
   job.mostKinds = 2;
   TryCompile(job);
 }
@@ -127,8 +125,8 @@ TEST_F(Compiles, OverAnOlderSite) {
               [](const TemporaryFolder&) {
                 return Compile({"--output=site", "--start-book=2"});
               },
-              {"allocate", "chmod", "close", "create", "ftruncate", "lock", "map", "mkdir", "open", "read", "readdir",
-               "rename", "stat", "unlink", "write"}});
+              {"chmod", "close", "create", "ftruncate", "lock", "mkdir", "open", "read", "readdir", "rename", "stat",
+               "unlink", "write"}});
 }
 
 // With the names of the pages that it has changed by then, and no page in part.
@@ -171,7 +169,7 @@ TEST_F(Compiles, ThatWereKilledAreToldByTheNextOne) {
   };
   ASSERT_GT(lines(whole.output).size(), 5U);
   for (std::size_t at = 1; at <= calls.size(); ++at) {
-    const std::set<std::string> names{"create", "write", "link", "close", "map", "unlink"};
+    const std::set<std::string> names{"create", "write", "link", "close", "unlink"};
     if (!names.contains(calls[at - 1].name)) continue;
     SCOPED_TRACE("call " + std::to_string(at) + ", " + calls[at - 1].name + " " + calls[at - 1].path);
     const TemporaryFolder home;

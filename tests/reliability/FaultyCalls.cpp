@@ -15,7 +15,6 @@
 #include <dirent.h>
 #include <dlfcn.h>
 #include <fcntl.h>
-#include <sys/mman.h>
 #include <sys/stat.h>
 #include <sys/syscall.h>
 #include <unistd.h>
@@ -183,19 +182,6 @@ ssize_t pwrite(int descriptor, const void* bytes, std::size_t count, off_t offse
 int ftruncate(int descriptor, off_t length) noexcept {
   if (Fails("ftruncate", PathOf(descriptor))) return -1;
   return static_cast<int>(syscall(SYS_ftruncate, descriptor, length));
-}
-
-int posix_fallocate(int descriptor, off_t offset, off_t length) {
-  const int before = errno;
-  const int error = Fails("allocate", PathOf(descriptor)) ? errno : 0;
-  errno = before;
-  static auto* const real = Next<int(int, off_t, off_t)>("posix_fallocate");
-  return error != 0 ? error : real(descriptor, offset, length);
-}
-
-void* mmap(void* place, std::size_t length, int access, int flags, int descriptor, off_t offset) noexcept {
-  if (descriptor >= 0 && Fails("map", PathOf(descriptor))) return MAP_FAILED;
-  return reinterpret_cast<void*>(syscall(SYS_mmap, place, length, access, flags, descriptor, offset));
 }
 
 // The descriptor is gone also when the call fails, as it is here.

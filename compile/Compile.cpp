@@ -16,6 +16,7 @@
 #include "ChapterPage.h"
 #include "EncodeOptions.h"
 #include "FileNames.h"
+#include "FolderFacts.h"
 #include "IndexPage.h"
 #include "LinkBack.h"
 #include "Numbers.h"
@@ -299,6 +300,11 @@ struct RunFailure {
 
 // Throws RunFailure, and RunTimeError before there are values.
 CompileOutcome Run(const CompileRequest& request, ModGlob& glob, UserInterface& ui, RunFolder& folder) {
+  // They are listed where a link makes it matter.
+  folder.site.SetFilesOfRun([&request, &glob, files = WrittenFiles()](const std::string& name) mutable {
+    if (files.empty()) files = FilesOfSite(request, glob, CodePage(request.texts.PageCharset));
+    return files.contains(name);
+  });
   if (request.options.chkCSS) CopyCSS(request, folder);
   if (const auto refusal = Validate(request)) {
     ui.ShowMessage(refusal->message);

@@ -90,7 +90,7 @@ bool SiteFolder::WriteNew(const std::string& name, std::string_view text) {
   return true;
 }
 
-SiteFolder::OldFile SiteFolder::OpenOld(const std::string& name) const {
+SiteFolder::OldFile SiteFolder::OpenOld(const std::string& name) {
   constexpr int kFlags = O_NONBLOCK | O_NOFOLLOW;
   OldFile old{FileHandle::OpenAt(m_folder.Get(), name.c_str(), O_RDWR | kFlags)};
   if (old.file.IsOpen()) return old;
@@ -105,8 +105,22 @@ SiteFolder::OldFile SiteFolder::OpenOld(const std::string& name) const {
   return old;
 }
 
+// Two files of a run cannot be one: each would get the text of the other.
+void SiteFolder::RefuseShared(const std::string& name, const FileHandle& file) {
+  const std::string folder = WithSeparator(RealPath("/proc/self/fd/" + std::to_string(m_folder.Get())));
+  const std::string target = RealPath("/proc/self/fd/" + std::to_string(file.Get()));
+  std::string other = target.starts_with(folder) ? target.substr(folder.size()) : std::string();
+  if (other == name || !m_isOfRun || !m_isOfRun(other)) {
+    const struct stat status = StatusOf(file, m_path + name);
+    other = m_linked.try_emplace({status.st_dev, status.st_ino}, name).first->second;
+  }
+  if (other == name) return;
+  throw RunTimeError(kPathFileAccessError, m_path + name,
+                     "It is a link to what \"" + other + "\" is too. Remove it and compile again.");
+}
+
 // A link may lead to another file of the folder, by its place in the folder or by its whole path.
-FileHandle SiteFolder::OpenThroughLink(const std::string& name, int flags) const {
+FileHandle SiteFolder::OpenThroughLink(const std::string& name, int flags) {
   FileHandle file = OpenBeneath(m_folder.Get(), name, flags);
   if (!file.IsOpen() && errno == EXDEV) {
     const std::string folder = "/proc/self/fd/" + std::to_string(m_folder.Get());
@@ -114,6 +128,7 @@ FileHandle SiteFolder::OpenThroughLink(const std::string& name, int flags) const
     const std::string target = RealPath(folder + "/" + name);
     if (target.starts_with(inside)) file = OpenBeneath(m_folder.Get(), target.substr(inside.size()), flags);
   }
+  if (file.IsOpen()) RefuseShared(name, file);
   if (file.IsOpen() || MayNotWrite(errno)) return file;
   throw RunTimeError(kPathFileAccessError, m_path + name,
                      errno == ENOENT

@@ -4,11 +4,14 @@
 
 #include <cstddef>
 #include <ctime>
+#include <functional>
+#include <map>
 #include <memory>
 #include <optional>
 #include <set>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "FileChanges.h"
 #include "FileHandle.h"
@@ -39,7 +42,8 @@ class ChangeWatch {
 };
 
 // The output folder of a run, opened once: whatever its path leads to later, every file is compared, written and taken
-// away in the folder that was opened. A file is never written through a link that leads out of it.
+// away in the folder that was opened. A file is never written through a link that leads out of it, nor through one that
+// leads to another file of the run.
 //
 // A file that holds the same bytes already is left alone with its time stamp, for which no right to write is needed.
 // One that differs is overwritten in place and cut to length, or replaced by a new one where it has other names too
@@ -57,6 +61,9 @@ class SiteFolder {
   // Keeps the folder for this run alone until the end; a plan only asks whether a run has it. Throws RunTimeError
   // (kPermissionDenied) naming the program that has it. A file system that knows no locks is let pass.
   void Lock() const;
+
+  // Whether the run writes, or takes away, a file of that name: no link may lead one of its files to another one.
+  void SetFilesOfRun(std::function<bool(const std::string& name)> isOfRun) { m_isOfRun = std::move(isOfRun); }
 
   // Throws that error; `holder` as LockHolder names it.
   [[noreturn]] void RefuseHeld(const std::string& holder) const;
@@ -96,8 +103,9 @@ class SiteFolder {
     int denied = 0;  // why it cannot be written to, as a value of errno
   };
 
-  OldFile OpenOld(const std::string& name) const;
-  FileHandle OpenThroughLink(const std::string& name, int flags) const;
+  OldFile OpenOld(const std::string& name);
+  FileHandle OpenThroughLink(const std::string& name, int flags);
+  void RefuseShared(const std::string& name, const FileHandle& file);
   bool HasText(const std::string& name, const FileHandle& file, std::string_view text);
   bool IsOurs(const std::string& name, const FileHandle& file, std::string_view text);
   void WillChange(const std::string& name) const;
@@ -116,7 +124,9 @@ class SiteFolder {
   std::unique_ptr<FileChanges> m_changes;  // a FileMaker, or a FilePlan
   bool m_isOpen = false;
   bool m_isPlan = false;
-  std::set<std::string> m_kept;  // what was kept since the folder was opened, or would be
+  std::function<bool(const std::string& name)> m_isOfRun;
+  std::map<std::pair<dev_t, ino_t>, std::string> m_linked;  // files behind links, and the name of the link
+  std::set<std::string> m_kept;                             // what was kept since the folder was opened, or would be
   bool m_hasKeptOld = false;
   std::size_t m_writtenBytes = 0;
   // What the file before was: the pages of a site are mostly all new, all changed or all the same.

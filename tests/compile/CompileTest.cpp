@@ -1,9 +1,12 @@
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <filesystem>
 
+#include "ChangeJournal.h"
 #include "FolderFacts.h"
+#include "RunTimeError.h"
 #include "SiteChanges.h"
 #include "Sitemap.h"
 #include "TemporaryFolder.h"
@@ -37,6 +40,32 @@ TEST(SiteChangesTest, TellsEachFileOnceAsItWasBeforeTheRun) {
   EXPECT_EQ(changes.Changed(), (Texts{"changed then changed", "same then changed"}));
   EXPECT_EQ(changes.Same(), Texts{"same"});
   EXPECT_EQ(changes.Removed(), (Texts{"same then removed", "removed"}));
+}
+
+// As when the folder of a run was moved away, and another one is in its place.
+TEST(ChangeJournalTest, TellsWhoHasItAndThatItWasCut) {
+  const test::TemporaryFolder home;
+  std::filesystem::create_directory(home.Path() + "site");
+  ChangeJournal journal(home.Path(), home.Path() + "site/");
+  journal.WillChange("a.html");
+  std::filesystem::path file;
+  for (const auto& entry : std::filesystem::directory_iterator(home.Path())) {
+    if (entry.is_regular_file()) file = entry.path();
+  }
+  EXPECT_EQ(journal.Trouble(), "");
+  std::filesystem::resize_file(file, 0);
+  journal.WillChange("b.html");
+  const std::string cut = "Path/File access error: " + file.string() + ": Another program has cut it.";
+  EXPECT_EQ(journal.Trouble(), cut);
+  ChangeJournal next(home.Path(), home.Path() + "site/");
+  EXPECT_EQ(next.Trouble(), cut);
+  EXPECT_EQ(next.Pending(), Texts{"b.html"});
+  EXPECT_EQ(next.Holder(), "Another program, compile_test (process " + std::to_string(getpid()) + "),");
+  EXPECT_THROW(next.WillChange("c.html"), RunTimeError);
+  next.ForgetAll();
+  EXPECT_TRUE(std::filesystem::exists(file));
+  journal.ForgetAll();
+  EXPECT_FALSE(std::filesystem::exists(file));
 }
 
 TEST(SitemapTest, OnlyAddressesOfTheWebWillDo) {

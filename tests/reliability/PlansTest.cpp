@@ -63,6 +63,10 @@ const Row kRows[] = {
      "sed -i '/\t1\t3\t/d' installation/Modules/Bible/KJV.TXT; echo mine > out/genesis_3.html; "
      "ln -s none out/genesis_3.html.before-folionet",
      "true"},
+    {"ALinkToAnotherPage", "ln -sf exodus_1.html out/genesis_3.html", "true"},
+    {"TwoLinksToOneFile",
+     "mkdir out/a; mv out/exodus_1.html out/a/b; for page in genesis_2 exodus_1; do ln -sf a/b out/$page.html; done",
+     "true"},
     {"APageOfTwoNames", kLinked, "true"},
     {"APageOfTwoNamesInAFolderThatMayNotBeWritten", kLinked, "chmod 555 out"},
     {"APageOfTwoNamesInAFolderOfAnother",
@@ -172,6 +176,23 @@ TEST(ImportPlans, FailWhereTheImportWould) {
     const bool isNamed = run.errors.find("(process " + std::to_string(getpid()) + ")") != std::string::npos;
     EXPECT_EQ(isNamed, !locked.empty()) << run.errors;
   }
+}
+
+TEST(PlansInADeletedFolder, FailAsTheRunDoes) {
+  const TemporaryFolder home;
+  MakeSmallLibrary(home);
+  const auto compile = [&](const std::string& more) {
+    return RunProgram({"/bin/sh", "-c",
+                       "mkdir gone; cd gone; rmdir ../gone; exec " FOLIONET_CLI
+                       " compile --versalia-path $HOME/installation --module-path $HOME/installation/Modules "
+                       "--program-folder $HOME/program --index-address index.html --output made" +
+                           more},
+                      home.Path());
+  };
+  const ProgramResult plan = compile(" --dry-run");
+  EXPECT_EQ(plan.status, 3);
+  EXPECT_NE(Report(plan.errors), "");
+  EXPECT_EQ(Report(plan.errors), Report(compile("").errors));
 }
 
 INSTANTIATE_TEST_SUITE_P(Of, Plans, testing::ValuesIn(kRows), [](const auto& row) { return row.param.name; });

@@ -15,6 +15,9 @@
 #include <QInputDialog>
 #include <QLabel>
 #include <QMessageBox>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QStandardPaths>
 #include <QUrl>
 #include <algorithm>
@@ -43,24 +46,46 @@ QMessageBox::Icon IconOf(MessageIcon icon) {
   return QMessageBox::Information;
 }
 
+// As wide as Qt lets the text of a box be: it cuts what is wider.
+int WidestText(const QWidget& box) {
+  constexpr int kWidest = 800;
+  constexpr int kBeside = 120;  // the icon and the margins
+  constexpr int kSmallScreen = 1024;
+  constexpr int kLeftFree = 480;
+  const int screen = box.screen()->availableSize().width();
+  return std::min(kWidest, (screen <= kSmallScreen ? screen : screen - kLeftFree) - kBeside);
+}
+
+// Gives the text a bar where the screen is not high enough for it and the buttons.
+void KeepToScreen(QMessageBox& box, QLabel& text, QGridLayout& grid) {
+  constexpr int kAround = 140;  // a title bar, the buttons and the margins
+  const int highest = box.screen()->availableSize().height() - kAround;
+  const QSize size(text.minimumWidth(), text.heightForWidth(text.minimumWidth()));
+  if (size.height() <= highest) return;
+  auto* scroll = new QScrollArea(&box);
+  scroll->setObjectName(QStringLiteral("scrMessage"));
+  scroll->setFrameShape(QFrame::NoFrame);
+  scroll->setWidgetResizable(true);
+  scroll->setFixedSize(size.width() + scroll->verticalScrollBar()->sizeHint().width(), highest);
+  delete grid.replaceWidget(&text, scroll);
+  scroll->setWidget(&text);
+}
+
 void PrepareBox(QMessageBox& box, const std::string& title, const std::string& text) {
   box.setWindowTitle(ToQt(title));
   box.setTextFormat(Qt::PlainText);
   box.setText(ToQtLines(text));
-  // Lines of our own stay lines; one with a long path in it may wrap.
-  constexpr int kWidest = 800;
   QLabel* label = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
-  if (label == nullptr) return;
-  int widest = 0;
-  for (const QString& line : label->text().split(QLatin1Char('\n'))) {
-    widest = std::max(widest, label->fontMetrics().horizontalAdvance(line));
-  }
-  label->setWordWrap(widest > kWidest);
+  auto* grid = qobject_cast<QGridLayout*>(box.layout());
+  if (label == nullptr || grid == nullptr) return;
+  // Lines of our own stay lines, which Qt would break far earlier; one with a long path in it may wrap.
+  label->setWordWrap(false);
+  label->setMinimumWidth(std::min(label->sizeHint().width(), WidestText(box)));
+  label->setWordWrap(true);
+  KeepToScreen(box, *label, *grid);
   constexpr int kButtons = 180;  // of the title bar, which does not widen a window
-  if (auto* grid = qobject_cast<QGridLayout*>(box.layout())) {
-    const int width = std::min(kWidest, label->fontMetrics().horizontalAdvance(box.windowTitle()) + kButtons);
-    grid->addItem(new QSpacerItem(width, 0), grid->rowCount(), 0, 1, grid->columnCount());
-  }
+  const int width = std::min(WidestText(box), label->fontMetrics().horizontalAdvance(box.windowTitle()) + kButtons);
+  grid->addItem(new QSpacerItem(width, 0), grid->rowCount(), 0, 1, grid->columnCount());
 }
 
 // A page's text is neither struck out nor underlined. Only Qt's own chooser lets them be left out.

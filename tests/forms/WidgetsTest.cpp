@@ -13,6 +13,7 @@
 #include <QMessageBox>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QScreen>
 #include <QStatusBar>
 #include <QTest>
 #include <QTextBrowser>
@@ -96,6 +97,29 @@ TEST(FormUiTest, BoxesHaveRoomForTheirTextAndTheirTitle) {
       box.button(QMessageBox::Ok)->click();
     });
     ui.ShowMessage({MessageIcon::kInformation, title, text});
+  }
+}
+
+// Lines of words, as a check of a site tells them, break where they are told to alone, and leave the buttons on the
+// screen however many there are.
+TEST(FormUiTest, BoxesShowLongTextsInTheirLinesAndWithinTheScreen) {
+  FormUi ui;
+  std::string line = "l";
+  const QFontMetrics metrics(QApplication::font("QMessageBox"));
+  for (; metrics.horizontalAdvance(ToQt(line)) < 600; line += " line") continue;
+  for (const int lines : {3, 300}) {
+    std::string text = line;
+    for (int i = 1; i < lines; ++i) text += "\r\n" + line;
+    WhenShown<QMessageBox>([lines](QMessageBox& box) {
+      const auto* label = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+      ASSERT_NE(label, nullptr);
+      EXPECT_LT(label->heightForWidth(label->width()), (lines + 1) * label->fontMetrics().lineSpacing());
+      EXPECT_GE(label->height(), lines * label->fontMetrics().lineSpacing());
+      EXPECT_TRUE(box.screen()->availableSize().boundedTo(box.size()) == box.size()) << box.width() << box.height();
+      EXPECT_TRUE(box.rect().contains(box.button(QMessageBox::Ok)->geometry()));
+      box.button(QMessageBox::Ok)->click();
+    });
+    ui.ShowMessage({MessageIcon::kWarning, "T", text});
   }
 }
 

@@ -83,6 +83,7 @@ void Session::LoadCodePage() {
 
 void Session::LoadOwnHtml(const std::string& programFolder) {
   const OwnFolder own = OwnFolderOfRun(store, programFolder);
+  texts.OwnCharset = own.codePage.Name();
   for (const auto& [kind, text] :
        {std::pair{&kCustomHeader, &texts.CustomHeader}, {&kCustomFooter, &texts.CustomFooter}}) {
     std::optional<std::string> loaded = LoadCustomHtml(own, *kind, *text, ui);

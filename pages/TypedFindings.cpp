@@ -76,14 +76,14 @@ void AddHtmlWord(const char* file, std::string_view text, std::vector<Finding>& 
               {}));
 }
 
-// Whether a text is not in the charset of the pages, be it in UTF-8, as most editors save one.
+// Whether bytes are in another charset than that which they are read in, be it in UTF-8, as most editors save a file.
 bool IsInOtherCharset(std::string_view bytes, const CodePage& codePage) {
   if (codePage.FindUndecodable(bytes) != std::string_view::npos) return true;
   return codePage.Name() != "utf-8" && !IsAscii(bytes) && IsUtf8(bytes);
 }
 
 void AddCharset(const char* file, const TypedTexts& typed, const std::string& text, std::vector<Finding>& findings) {
-  const CodePage codePage(typed.texts.PageCharset);
+  const CodePage codePage(typed.texts.OwnCharset);
   const std::string bytes = codePage.Encode(text);
   if (!IsInOtherCharset(bytes, codePage)) return;
   std::size_t line = 1;
@@ -93,8 +93,8 @@ void AddCharset(const char* file, const TypedTexts& typed, const std::string& te
     rest.remove_prefix(end + 1);
   }
   const char* const what = codePage.FindUndecodable(bytes) == std::string::npos
-                               ? Words("QObject", "%1 is UTF-8, the pages %2.")
-                               : Words("QObject", "%1 is not in %2, the charset of the pages.");
+                               ? Words("QObject", "%1 is read as %2 and is UTF-8: its letters come out wrong.")
+                               : Words("QObject", "%1 is read as %2 and is not: its letters come out wrong.");
   findings.push_back(Warning("own-text-charset", {what, {file, codePage.Name()}},
                              {Words("QObject", "Save it as UTF-8 with a byte-order mark.")}));
   findings.back().file = typed.programFolder + file;

@@ -639,8 +639,8 @@
         <translation>1 Seite wird gelöscht: die eines Buchs nach dem letzten.</translation>
     </message>
     <message>
-        <source>%1 is UTF-8, the pages %2.</source>
-        <translation>%1 ist in UTF-8, die Seiten in %2.</translation>
+        <source>%1 is read as %2 and is UTF-8: its letters come out wrong.</source>
+        <translation>%1 wird als %2 gelesen und ist UTF-8: Die Buchstaben darin werden falsch.</translation>
     </message>
     <message>
         <source>The name of the translation is UTF-8, the pages %1.</source>
@@ -687,8 +687,8 @@ Ein anderer Name für cboLang in %2, etwa %3, lässt das Programm wieder starten
 Jetzt %3 wählen?</translation>
     </message>
     <message>
-        <source>%1 is not in %2, the charset of the pages.</source>
-        <translation>%1 ist nicht in %2, dem Zeichensatz der Seiten.</translation>
+        <source>%1 is read as %2 and is not: its letters come out wrong.</source>
+        <translation>%1 wird als %2 gelesen und ist es nicht: Die Buchstaben darin werden falsch.</translation>
     </message>
     <message>
         <source>Save it as UTF-8 with a byte-order mark.</source>

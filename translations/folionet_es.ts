@@ -639,8 +639,8 @@
         <translation>Se elimina 1 página: la de un libro posterior al último.</translation>
     </message>
     <message>
-        <source>%1 is UTF-8, the pages %2.</source>
-        <translation>%1 está en UTF-8 y las páginas en %2.</translation>
+        <source>%1 is read as %2 and is UTF-8: its letters come out wrong.</source>
+        <translation>%1 se lee como %2 y es UTF-8: sus letras salen mal.</translation>
     </message>
     <message>
         <source>The name of the translation is UTF-8, the pages %1.</source>
@@ -687,8 +687,8 @@ Otro nombre para cboLang en %2, como %3, permite que el programa vuelva a arranc
 ¿Elegir %3 ahora?</translation>
     </message>
     <message>
-        <source>%1 is not in %2, the charset of the pages.</source>
-        <translation>%1 no está en %2, el juego de caracteres de las páginas.</translation>
+        <source>%1 is read as %2 and is not: its letters come out wrong.</source>
+        <translation>%1 se lee como %2 y no lo es: sus letras salen mal.</translation>
     </message>
     <message>
         <source>Save it as UTF-8 with a byte-order mark.</source>

@@ -2,6 +2,7 @@
 
 #include <QFontDatabase>
 
+#include "PageEncoding.h"
 #include "QtText.h"
 #include "RunTimeError.h"
 #include "ui_CustomHtmlDialog.h"
@@ -30,6 +31,7 @@ void CustomHtmlDialog::Load() {
   if (!text) return;
   Show(*text);
   m_state.texts.*m_kind.sharedText = *text;
+  m_state.texts.OwnCharset = StoredOwnFolder(m_state.store, m_state.programFolder).codePage.Name();
   m_ui->Label1->setText(QLatin1String(m_kind.note));
 }
 

@@ -9,8 +9,8 @@
 namespace folionet::test {
 namespace {
 
-constexpr int kHung = 124;
-constexpr int kKilled = 128 + SIGKILL;
+constexpr int kSignalled = 128;
+constexpr int kKilled = kSignalled + SIGKILL;
 
 std::vector<std::string> KindsOf(const Call& struck) {
   const std::string& call = struck.name;
@@ -118,7 +118,7 @@ void EveryCall::Try(const Job& job, const Fault& fault, const Check& check) {
   const FaultyRun run = job.Run(home, fault);
   const Call& struck = run.calls[fault.at - 1];
   m_isKilled = fault.kind == "kill" || fault.kind == "torn";
-  EXPECT_TRUE(m_isKilled ? run.result.status == kKilled : run.result.status < kHung) << run.result.status;
+  EXPECT_TRUE(m_isKilled ? run.result.status == kKilled : run.result.status < kSignalled) << run.result.status;
   const bool isHarmless = IsHarmless(fault.kind, struck);
   EXPECT_TRUE(run.result.status == 0 || !isHarmless) << run.result.errors;
   const bool isTold = run.result.status != 0 || Lines(run.result.output) > Lines(m_told);

@@ -9,15 +9,10 @@ FaultyRun RunFaulty(const Command& command, const TemporaryFolder& home, const s
                     const Fault& fault) {
   const TemporaryFolder outside;
   const std::string log = outside.Write("log", "");
-  const Command faulty{"/usr/bin/timeout",
-                       "60",
-                       "/usr/bin/env",
-                       std::string("LD_PRELOAD=") + FAULTY_CALLS,
-                       "FAULT_FOLDER=" + watched,
-                       "FAULT_LOG=" + log,
-                       "FAULT_AT=" + std::to_string(fault.at),
-                       "FAULT_KIND=" + fault.kind};
-  FaultyRun run{RunProgram(With(faulty, command), home.Path()), {}};
+  FaultyRun run{RunProgram(command, home.Path(),
+                           {std::string("LD_PRELOAD=") + FAULTY_CALLS, "FAULT_FOLDER=" + watched, "FAULT_LOG=" + log,
+                            "FAULT_AT=" + std::to_string(fault.at), "FAULT_KIND=" + fault.kind}),
+                {}};
   std::ifstream calls(log);
   for (Call call; calls >> call.name && std::getline(calls.ignore(), call.path);) run.calls.push_back(call);
   if (run.calls.size() < fault.at) throw std::runtime_error("the call that was to go wrong was not met");

@@ -28,9 +28,8 @@ struct FaultyRun {
   std::vector<Call> calls;  // those that were counted, the one that went wrong included
 };
 
-// Runs the program in the folder and counts the calls that touch what is below `watched`, which ends in a slash. A
-// program that hangs is ended after a minute with status 124. Under the address sanitizer, which does not go together
-// with a preloaded library, no call is seen.
+// RunProgram that counts the calls that touch what is below `watched`, which ends in a slash. Under the address
+// sanitizer, which does not go together with a preloaded library, no call is seen.
 FaultyRun RunFaulty(const Command& command, const TemporaryFolder& home, const std::string& watched,
                     const Fault& fault = {});
 

@@ -26,7 +26,7 @@ bool Redirect(int descriptor, const std::string& path) {
 }
 
 [[noreturn]] void Become(const std::vector<std::string>& command, const std::string& folder,
-                         const std::string& caught) {
+                         const std::vector<std::string>& environment, const std::string& caught) {
   constexpr int kCannotRun = 127;
   std::vector<char*> arguments;
   for (const std::string& argument : command) arguments.push_back(const_cast<char*>(argument.c_str()));
@@ -40,6 +40,7 @@ bool Redirect(int descriptor, const std::string& path) {
   setenv("XDG_CONFIG_HOME", (folder + "config").c_str(), 1);
   setenv("XDG_DATA_HOME", (folder + "data").c_str(), 1);
   setenv("XDG_STATE_HOME", (folder + "state").c_str(), 1);
+  for (const std::string& variable : environment) putenv(const_cast<char*>(variable.c_str()));
   const bool ready = Redirect(STDOUT_FILENO, caught + "output") && Redirect(STDERR_FILENO, caught + "errors");
   if (ready && chdir(folder.c_str()) == 0) execv(arguments.front(), arguments.data());
   _exit(kCannotRun);
@@ -47,11 +48,12 @@ bool Redirect(int descriptor, const std::string& path) {
 
 }  // namespace
 
-ProgramResult RunProgram(const std::vector<std::string>& command, const std::string& folder) {
+ProgramResult RunProgram(const std::vector<std::string>& command, const std::string& folder,
+                         const std::vector<std::string>& environment) {
   constexpr int kSignalBase = 128;
   const TemporaryFolder caught;
   const pid_t child = fork();
-  if (child == 0) Become(command, folder, caught.Path());
+  if (child == 0) Become(command, folder, environment, caught.Path());
   int status = 0;
   if (child < 0 || waitpid(child, &status, 0) != child) throw std::runtime_error("cannot run " + command.front());
   return {WIFEXITED(status) ? WEXITSTATUS(status) : kSignalBase + WTERMSIG(status), caught.Read("output"),

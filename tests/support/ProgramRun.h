@@ -13,9 +13,10 @@ struct ProgramResult {
 };
 
 // Runs a program to its end in a folder, which is its home as well: what it keeps goes to config/, data/ and state/
-// there. One that runs for five minutes is ended by SIGALRM, and no file that it writes, or what it prints, grows over
-// 512 MiB.
-ProgramResult RunProgram(const std::vector<std::string>& command, const std::string& folder);
+// there. `environment` has what else it is told, as NAME=value. One that runs for five minutes is ended by SIGALRM, and
+// no file that it writes, or what it prints, grows over 512 MiB.
+ProgramResult RunProgram(const std::vector<std::string>& command, const std::string& folder,
+                         const std::vector<std::string>& environment = {});
 
 // folionet-cli with these arguments.
 ProgramResult RunCli(const std::vector<std::string>& arguments, const std::string& folder);

@@ -15,6 +15,7 @@
 #include "Paths.h"
 #include "PlanLines.h"
 #include "ProgramFolder.h"
+#include "Replacement.h"
 #include "RunFacts.h"
 #include "RunTimeError.h"
 #include "SiteFile.h"
@@ -176,6 +177,22 @@ void RefuseWrongAddresses(const CompileArguments& arguments, const CompileArgume
   RefuseOtherThanFolders(session.OptionName("--sitemap", kSiteSitemap, !given.sitemap.empty()), arguments.sitemap);
 }
 
+[[noreturn]] void EndUnsaved(const std::string& what, const RunTimeError& error, const Session& session) {
+  const std::string why = error.Detail().substr(0, error.Detail().find_last_not_of('.') + 1);
+  session.ui.Tell(what + " cannot be saved in " + error.Item() + ": " + why +
+                  ". Give another file with --save-settings FILE.");
+  throw ExitWith(kExitFailed);
+}
+
+// Before a long run whose settings could not be saved.
+void TrySaving(const std::string& file, const Session& session) {
+  try {
+    if (!file.empty()) TryReplacement(file);
+  } catch (const RunTimeError& error) {
+    EndUnsaved("The site's settings", error, session);
+  }
+}
+
 // Keeps what was compiled for the next time, where a person asked for that.
 void SaveRun(const std::string& file, const CompileRequest& request, const Session& session) {
   if (file.empty()) return;
@@ -195,9 +212,7 @@ void SaveRun(const std::string& file, const CompileRequest& request, const Sessi
   try {
     SaveSite(file, choices, options, session.store);
   } catch (const RunTimeError& error) {
-    session.ui.Tell("The site is compiled, but its settings cannot be saved in " + error.Item() + ": " +
-                    error.Detail() + ". Give another file with --save-settings FILE.");
-    throw ExitWith(kExitFailed);
+    EndUnsaved("The site is compiled, but its settings", error, session);
   }
   if (!session.ui.IsQuiet()) session.ui.Tell("Saved in " + file + ": --settings " + file + " compiles it again.");
 }
@@ -218,6 +233,7 @@ ExitStatus RunCompile(const CommonOptions& common, const CompileArguments& given
   session.LoadLists();
 
   CompileRequest request = RequestOf(arguments, given, session);
+  TrySaving(arguments.saveSettings, session);
   SiteChanges changes;
   request.changes = &changes;
   if (request.cboBibleName >= 0) {

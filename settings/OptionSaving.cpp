@@ -67,6 +67,8 @@ void SaveDefaults(SettingsStore& store, PageOptions& options) {
     return option.saving == OptionSaving::kAtExit &&
            (option.key != "alignmentLR" || IsKnownAlignment(options.main.alignment));
   };
+  // Of settings that could not be read there is nothing to store: a person is told that they still cannot be.
+  if (options.maySave.none()) store.TrySaving();
   SaveWhere(store, options, isOfExit, [&](const auto& saves) { store.SaveTogether(saves); });
 }
 

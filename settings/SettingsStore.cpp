@@ -11,6 +11,7 @@
 #include "BuildInfo.h"
 #include "JointChange.h"
 #include "OptionTable.h"
+#include "Replacement.h"
 #include "RunTimeError.h"
 #include "WholeFile.h"
 
@@ -83,6 +84,14 @@ void SettingsStore::Sync(std::string_view application) {
     });
   });
   Take(application, std::move(values));
+}
+
+void SettingsStore::TrySaving() const {
+  const std::string path = FilePath(kApplicationTitle);
+  WorkAbout(Subject::kSettingsFile, [&] {
+    TryReplacement(path);
+    ParseIni(ReadIfThere(path, kLongestFile).value_or(""), path);
+  });
 }
 
 void SettingsStore::Gather(const std::function<void()>& saves) {

@@ -28,6 +28,9 @@ class SettingsStore : public StoredSettings {
   // The same as a part of a change of several files: the settings are the last of them to be replaced.
   void SaveTogether(const std::function<void()>& saves, JointChange& change);
 
+  // Throws RunTimeError where nothing could be stored; nothing is.
+  void TrySaving() const;
+
   // Removes an application's whole area; its file is kept beside as "<file>.before-restore", or as the first of
   // "<file>.before-restore-2" and so on that is not there yet. Throws RunTimeError when that fails, and everything is
   // as it was.

@@ -39,6 +39,11 @@ bool FolderOfExists(const std::string& path) {
   return stat(path.substr(0, slash + 1).c_str(), &status) == 0;
 }
 
+bool IsSocket(const std::string& path) {
+  struct stat status {};
+  return stat(path.c_str(), &status) == 0 && S_ISSOCK(status.st_mode);
+}
+
 int NumberOf(int systemError, const std::string& path) {
   switch (systemError) {
     case ENOENT:
@@ -93,6 +98,7 @@ RunTimeError::RunTimeError(int number, std::string item, std::string detail, std
 }
 
 RunTimeError RunTimeError::FromErrno(int systemError, const std::string& path) {
+  if (systemError == ENXIO && IsSocket(path)) return {kPathFileAccessError, path, "It is not a regular file."};
   return {NumberOf(systemError, path), path, std::generic_category().message(systemError)};
 }
 

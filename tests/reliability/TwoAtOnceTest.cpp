@@ -15,11 +15,12 @@
 namespace folionet::test {
 namespace {
 
-constexpr int kTimes = 40;
+constexpr std::size_t kTimes = 40;
 
 // Runs both commands at the same time, so many times each one after the other.
-std::vector<ProgramResult> RunBoth(const std::string& folder, const Command& one, const Command& other) {
-  std::vector<ProgramResult> results(2 * kTimes);
+std::vector<ProgramResult> RunBoth(const std::string& folder, const Command& one, const Command& other,
+                                   std::size_t times = kTimes) {
+  std::vector<ProgramResult> results(2 * times);
   const auto runAll = [&](const Command& command, std::size_t first) {
     for (std::size_t i = first; i < results.size(); i += 2) results[i] = RunProgram(command, folder);
   };
@@ -37,12 +38,15 @@ TEST(TwoAtOnce, NoAddedRecordIsLost) {
 }
 
 TEST(TwoAtOnce, EveryImportIsMade) {
+  constexpr std::size_t kImports = 8;
   const TemporaryFolder home;
   home.Write("text", "Ge1:1 a verse\n");
   const Command import{"/bin/sh", "-c", "exec " FOLIONET_CLI " import text --name N$$ --stem S$$ --into lib --quiet"};
-  for (const ProgramResult& run : RunBoth(home.Path(), import, import)) EXPECT_EQ(run.status, 0) << run.errors;
+  for (const ProgramResult& run : RunBoth(home.Path(), import, import, kImports))
+    EXPECT_EQ(run.status, 0) << run.errors;
   const std::string catalogue = home.Read("lib/Sysdefs/Translations.txt");
-  EXPECT_EQ(std::count(catalogue.begin(), catalogue.end(), '\n'), 2 * kTimes) << catalogue;
+  EXPECT_EQ(std::count(catalogue.begin(), catalogue.end(), '\n'), static_cast<std::ptrdiff_t>(2 * kImports))
+      << catalogue;
 }
 
 TEST(TwoAtOnce, ALockThatNeverEndsIsWaitedForTwoSecondsAndItsHolderNamed) {

@@ -27,11 +27,10 @@ void TellFacts(const std::vector<Finding>& facts, ConsoleUi& ui) {
 }
 
 void TellPlannedFacts(const std::vector<Finding>& facts, ConsoleUi& ui) {
-  for (Finding fact : facts) {
+  for (const Finding& fact : facts) {
     if (!IsRemoval(fact) && (!ui.IsJson() || fact.severity == Severity::kWarning)) {
       Tell(fact, ui);
     } else {
-      fact.severity = Severity::kNote;
       ui.Show(fact);
     }
   }

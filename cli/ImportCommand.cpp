@@ -110,12 +110,28 @@ void TellLanguage(const LibraryPlan& plan, ConsoleUi& ui) {
     }
     case LanguageSource::kScript:
       return tell("; by its letters it is " + plan.text.language + ". Name another");
+    case LanguageSource::kReplaced:
+      return tell("; it stays " + plan.text.language + ", as before. Name another");
     case LanguageSource::kTitles:
       return tell("; by its book titles it is " + plan.text.language + ". Name another");
     case LanguageSource::kGiven:
     case LanguageSource::kText:
       break;
   }
+}
+
+// Where the pages of a site that is there get other names.
+void TellNewNames(const LibraryPlan& plan, Severity severity, ConsoleUi& ui) {
+  if (plan.renamed.empty()) return;
+  const auto& [before, now] = plan.renamed.front();
+  Finding finding{.kind = "renamed-books",
+                  .severity = severity,
+                  .what = {"%1 of the translation that is replaced had another name, such as %2, now %3: their pages "
+                           "get other addresses.",
+                           {Counted(plan.renamed.size(), "book"), before, now}}};
+  if (severity == Severity::kNote) return ui.Remark(finding);
+  finding.remedy = {"Give the names as they were with --titles BOOKS_FILE."};
+  ui.Warn(finding);
 }
 
 // Where pages have English names of books, and their text is in another language.
@@ -125,7 +141,8 @@ void TellTitles(const ImportedBible& bible, const LibraryPlan& plan, ConsoleUi& 
     return;
   }
   for (std::size_t i = 0; i < bible.VerseCount(); ++i) {
-    if (!bible.titles[static_cast<std::size_t>(bible.VerseAt(i).book)].empty()) continue;
+    const auto book = static_cast<std::size_t>(bible.VerseAt(i).book);
+    if (!bible.titles[book].empty()) continue;
     return ui.Remark(
         {.kind = "book-names",
          .severity = Severity::kNote,
@@ -190,10 +207,16 @@ ExitStatus RunImport(const CommonOptions& common, const ImportArguments& argumen
     StoredSettings(StoredSettings::DefaultFolder()).FinishChange();
     const ImportedBible bible = ReadBible({arguments.paths, arguments.charset});
     const LibraryPlan plan = ImportLibrary(bible, request, arguments.dryRun ? Doing::kPlan : Doing::kChange);
-    if (!common.quiet || common.json) {
+    const bool isTold = !common.quiet || common.json;
+    if (arguments.titles.empty()) {
+      TellNewNames(plan, Severity::kWarning, ui);
+    } else if (isTold) {
+      TellNewNames(plan, Severity::kNote, ui);
+    }
+    if (isTold) {
       TellFindings(bible, ui);
       TellLanguage(plan, ui);
-      if (arguments.titles.empty()) TellTitles(bible, plan, ui);
+      if (arguments.titles.empty() && !plan.replaced) TellTitles(bible, plan, ui);
     }
     if (common.json) ShowPlan(bible, plan, ui);
     ui.Sum(ResultLine(plan), Severity::kNote);

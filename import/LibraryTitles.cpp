@@ -65,4 +65,20 @@ BookTitleList ReadTitlesFile(const std::string& path) {
   return titles;
 }
 
+std::optional<BookTitleList> ReadTitlesIfSound(const std::string& path) {
+  try {
+    return ReadTitlesFile(path);
+  } catch (const RunTimeError&) {
+    return {};
+  }
+}
+
+BookTitleList KeepTitles(BookTitleList titles, const BookTitleList& before, std::string_view language) {
+  const TitleLanguage& nearest = NearestLanguage(language);
+  for (std::size_t book = 1; book <= kBooks; ++book) {
+    if (titles[book].empty() && before[book] != nearest.titles[book - 1]) titles[book] = before[book];
+  }
+  return titles;
+}
+
 }  // namespace folionet

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -17,5 +18,12 @@ BookTitleList MakePageTitles(const BookTitleList& given, std::string_view langua
 
 // The titles of a file of book titles, in UTF-8 or windows-1252. Throws RunTimeError for one that cannot be read.
 BookTitleList ReadTitlesFile(const std::string& path);
+
+// The same, or nothing where there is none or it is damaged.
+std::optional<BookTitleList> ReadTitlesIfSound(const std::string& path);
+
+// The titles of a text that takes the place of one in `language` whose pages had the titles `before`: where it names a
+// book not, one that was given to that keeps its title.
+BookTitleList KeepTitles(BookTitleList titles, const BookTitleList& before, std::string_view language);
 
 }  // namespace folionet

@@ -173,7 +173,6 @@ void ChooseStem(const LibraryRequest& request, const CatalogueText& catalogue, L
 
 // A name for the file of titles that no other translation and no language has.
 std::string TitlesName(const LibraryPlan& plan) {
-  const auto before = plan.replaces ? ReadImportedText(VerseFile(plan, plan.stem)) : std::nullopt;
   const auto isOfLanguage = [](const std::string& name) {
     const std::vector<TitleLanguage>& languages = TitleLanguages();
     return std::any_of(languages.begin(), languages.end(), [&](const TitleLanguage& language) {
@@ -181,7 +180,7 @@ std::string TitlesName(const LibraryPlan& plan) {
     });
   };
   std::string name = "BOOKS_" + plan.stem + ".TXT";
-  for (int number = 2; !before || !EqualIgnoringCase(before->titles, name); ++number) {
+  for (int number = 2; !plan.replaced || !EqualIgnoringCase(plan.replaced->titles, name); ++number) {
     if (!isOfLanguage(name) && !IsThere(FileOf(plan, "Sysdefs", name))) break;
     name = "BOOKS_" + plan.stem + "-" + std::to_string(number) + ".TXT";
   }
@@ -190,8 +189,10 @@ std::string TitlesName(const LibraryPlan& plan) {
 
 void ChooseLanguage(const ImportedBible& bible, const LibraryRequest& request, LibraryPlan& plan) {
   const TextScript script = ScriptOf(bible);
+  const std::string before = plan.replaced ? plan.replaced->language : std::string();
   const std::pair<LanguageSource, std::string> sources[] = {{LanguageSource::kGiven, request.language},
                                                             {LanguageSource::kText, bible.language},
+                                                            {LanguageSource::kReplaced, before},
                                                             {LanguageSource::kScript, script.language},
                                                             {LanguageSource::kTitles, LanguageOfTitles(bible)}};
   for (const auto& [source, code] : sources) {
@@ -216,6 +217,22 @@ void CountBooks(const ImportedBible& bible, LibraryPlan& plan) {
     if (verse.book != last.book || verse.chapter != last.chapter) ++plan.chapters;
     last = verse;
   }
+}
+
+// The titles of pages, and which books have had other ones.
+BookTitleList ChooseTitles(const ImportedBible& bible, const LibraryRequest& request, LibraryPlan& plan) {
+  BookTitleList given = request.titlesFile.empty() ? bible.titles : ReadTitlesFile(request.titlesFile);
+  const auto before = plan.replaced ? ReadTitlesIfSound(FileOf(plan, "Sysdefs", plan.replaced->titles)) : std::nullopt;
+  if (!before) return MakePageTitles(given, plan.text.language);
+  if (request.titlesFile.empty()) given = KeepTitles(std::move(given), *before, plan.replaced->language);
+  BookTitleList titles = MakePageTitles(given, plan.text.language);
+  std::size_t last = 0;
+  for (std::size_t i = 0; i < bible.VerseCount(); ++i) {
+    const auto book = static_cast<std::size_t>(bible.VerseAt(i).book);
+    if (book != last && titles[book] != before->at(book)) plan.renamed.emplace_back(before->at(book), titles[book]);
+    last = book;
+  }
+  return titles;
 }
 
 std::string TitlesContent(const LibraryPlan& plan, const BookTitleList& titles) {
@@ -286,13 +303,13 @@ LibraryPlan PlanLibrary(const ImportedBible& bible, const LibraryRequest& reques
   LibraryPlan plan;
   plan.folder = ChosenFolder(request);
   plan.text.name = NameFor(bible, request);
-  ChooseLanguage(bible, request, plan);
   plan.catalogue = FileOf(plan, "Sysdefs", kCatalogueFile);
   const CatalogueText catalogue(plan.catalogue);
   ChooseStem(request, catalogue, plan);
+  if (plan.replaces) plan.replaced = ReadImportedText(VerseFile(plan, plan.stem));
+  ChooseLanguage(bible, request, plan);
 
-  const BookTitleList titles = MakePageTitles(
-      request.titlesFile.empty() ? bible.titles : ReadTitlesFile(request.titlesFile), plan.text.language);
+  const BookTitleList titles = ChooseTitles(bible, request, plan);
   const auto holds = [](const std::string& text) { return Windows1252().Holds(text); };
   const std::vector<std::string>& text = bible.AllText();
   const bool fits = std::all_of(text.begin(), text.end(), holds) && std::all_of(titles.begin(), titles.end(), holds) &&

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -35,14 +36,15 @@ struct LibraryRequest {
   std::string name;        // display name; empty for the one that the text tells, or `fallbackName`
   std::string stem;        // stem of its files; empty for one made from the name
   std::string folder;      // where the library is or will be; empty for OwnLibraryFolder
-  std::string titlesFile;  // path of a file of book titles to use; empty for the titles of the text
-  std::string language;    // code of the text's language; empty for the one that it tells
+  std::string titlesFile;  // path of a file of book titles to use; empty for the titles of the text, and, where it has
+                           // none, those that the translation which is replaced was given
+  std::string language;    // code of the text's language; empty for the one that it tells, or had before
   std::string fallbackName;
   bool replace = false;  // a translation of the same name or stem, and its files, are replaced
 };
 
 // Where the language of a text was taken from.
-enum class LanguageSource { kNone, kGiven, kText, kScript, kTitles };
+enum class LanguageSource { kNone, kGiven, kText, kReplaced, kScript, kTitles };
 
 // What is to be written.
 struct LibraryPlan {
@@ -53,6 +55,8 @@ struct LibraryPlan {
   int chapters = 0;
   std::size_t verses = 0;
   bool replaces = false;
+  std::optional<ImportedText> replaced;                      // what was known of it, where it was imported
+  std::vector<std::pair<std::string, std::string>> renamed;  // books of the text: their titles in it, and now
   LanguageSource languageFrom = LanguageSource::kNone;
 
   std::string verseFile;                                   // its path; WriteVerses gives its content

@@ -8,6 +8,7 @@
 
 #include "CommandEnd.h"
 #include "Counted.h"
+#include "FileHandle.h"
 #include "GeneratorLine.h"
 #include "OptionLoading.h"
 #include "PageNames.h"
@@ -97,8 +98,20 @@ void RefuseMissingIndex(const std::string& folder, const std::string& index) {
   }
 }
 
+// Whether a compile has written the page: a site with pages of both kinds of names has two index pages, and from the
+// wrong one nothing leads to the pages of the other.
+bool IsOurs(const std::string& path) {
+  const FileHandle file = FileHandle::Open(path.c_str(), O_RDONLY | O_NONBLOCK);
+  return file.IsOpen() && IsOurPage(file);
+}
+
 std::string FoundIndex(const std::string& folder) {
   const std::string index = FindIndexPage(folder);
+  if (const std::string base = WithSeparator(NativePath(folder));
+      IsOurs(base + "index.html") && IsOurs(base + "index.htm")) {
+    RefuseUsage("Both index.html and index.htm in \"" + folder +
+                "\" are pages of Folionet: give the one that was compiled last with --index NAME.");
+  }
   if (!index.empty()) return index;
   const std::vector<std::string> names = ListFolder(folder);
   if (std::none_of(names.begin(), names.end(), IsHtmlName)) {

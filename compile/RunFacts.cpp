@@ -97,7 +97,8 @@ class FactFinder {
                                  "%1 pages of earlier compiles, such as %2, lie in the folder. This one does "
                                  "not write them, and its index page does not lead to them."),
          {std::to_string(old.size()), *old.begin()}},
-        {"\"folionet-cli verify FOLDER --remove-stale\" deletes such pages and prints their names."}));
+        {"\"folionet-cli verify FOLDER%1 --remove-stale\" deletes such pages and prints their names.",
+         {m_index.empty() || m_index == "index.html" ? "" : " --index " + m_index}}));
   }
 
   int Books() const { return static_cast<int>(m_glob.cboStartBook.size()); }

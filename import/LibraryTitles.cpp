@@ -81,4 +81,16 @@ BookTitleList KeepTitles(BookTitleList titles, const BookTitleList& before, std:
   return titles;
 }
 
+std::vector<std::pair<std::string, std::string>> RenamedBooks(const ImportedBible& bible, const BookTitleList& before,
+                                                              const BookTitleList& titles) {
+  std::vector<std::pair<std::string, std::string>> renamed;
+  std::size_t last = 0;
+  for (std::size_t i = 0; i < bible.VerseCount(); ++i) {
+    const auto book = static_cast<std::size_t>(bible.VerseAt(i).book);
+    if (book != last && titles[book] != before[book]) renamed.emplace_back(before[book], titles[book]);
+    last = book;
+  }
+  return renamed;
+}
+
 }  // namespace folionet

@@ -4,7 +4,10 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
+#include <vector>
 
+#include "ImportedBible.h"
 #include "modGlob.h"
 
 namespace folionet {
@@ -25,5 +28,9 @@ std::optional<BookTitleList> ReadTitlesIfSound(const std::string& path);
 // The titles of a text that takes the place of one in `language` whose pages had the titles `before`: where it names a
 // book not, one that was given to that keeps its title.
 BookTitleList KeepTitles(BookTitleList titles, const BookTitleList& before, std::string_view language);
+
+// The books of a text that have another title than before, each with both.
+std::vector<std::pair<std::string, std::string>> RenamedBooks(const ImportedBible& bible, const BookTitleList& before,
+                                                              const BookTitleList& titles);
 
 }  // namespace folionet

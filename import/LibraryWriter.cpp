@@ -1,9 +1,6 @@
 #include "LibraryWriter.h"
 
-#include <unicode/uloc.h>
-
 #include <algorithm>
-#include <array>
 #include <chrono>
 #include <filesystem>
 #include <system_error>
@@ -68,22 +65,6 @@ std::string ChosenFolder(const LibraryRequest& request) {
   if (!folder.empty()) return AbsoluteFolder(folder);
   throw ImportError(kPathNotFound, "library",
                     {Words("Import", "HOME names no folder that it could be in. Give one with --into FOLDER.")});
-}
-
-// A language's code as pages declare it: "eng" is "en".
-std::string LanguageCode(const std::string& code) {
-  std::array<char, ULOC_LANG_CAPACITY> main{};
-  UErrorCode status = U_ZERO_ERROR;
-  const std::size_t end = std::min(code.find('-'), code.size());
-  // Three letters that a bibliographer uses are in no table of ICU.
-  for (const TitleLanguage& language : TitleLanguages()) {
-    const std::string codes = " " + std::string(language.codes) + " ";
-    if (end != 0 && codes.find(" " + code.substr(0, end) + " ") != std::string::npos) {
-      return std::string(language.codes.substr(0, 2)) + code.substr(end);
-    }
-  }
-  uloc_getLanguage(code.substr(0, end).c_str(), main.data(), static_cast<int32_t>(main.size()), &status);
-  return U_FAILURE(status) || main[0] == '\0' ? code : main.data() + code.substr(end);
 }
 
 // "World English Bible" gives WEB, "Afrikaans" AFRIKAANS; empty for a name without a letter or digit of ASCII.
@@ -226,12 +207,7 @@ BookTitleList ChooseTitles(const ImportedBible& bible, const LibraryRequest& req
   if (!before) return MakePageTitles(given, plan.text.language);
   if (request.titlesFile.empty()) given = KeepTitles(std::move(given), *before, plan.replaced->language);
   BookTitleList titles = MakePageTitles(given, plan.text.language);
-  std::size_t last = 0;
-  for (std::size_t i = 0; i < bible.VerseCount(); ++i) {
-    const auto book = static_cast<std::size_t>(bible.VerseAt(i).book);
-    if (book != last && titles[book] != before->at(book)) plan.renamed.emplace_back(before->at(book), titles[book]);
-    last = book;
-  }
+  plan.renamed = RenamedBooks(bible, *before, titles);
   return titles;
 }
 

@@ -1,6 +1,7 @@
 #include "TextLanguage.h"
 
 #include <unicode/uchar.h>
+#include <unicode/uloc.h>
 #include <unicode/uscript.h>
 #include <unicode/utf8.h>
 
@@ -113,6 +114,21 @@ std::string LanguageOfTitles(const ImportedBible& bible) {
     most = std::max(most, same);
   }
   return 2 * most > books ? best : std::string();
+}
+
+std::string LanguageCode(const std::string& code) {
+  std::array<char, ULOC_LANG_CAPACITY> main{};
+  UErrorCode status = U_ZERO_ERROR;
+  const std::size_t end = std::min(code.find('-'), code.size());
+  // Three letters that a bibliographer uses are in no table of ICU.
+  for (const TitleLanguage& language : TitleLanguages()) {
+    const std::string codes = " " + std::string(language.codes) + " ";
+    if (end != 0 && codes.find(" " + code.substr(0, end) + " ") != std::string::npos) {
+      return std::string(language.codes.substr(0, 2)) + code.substr(end);
+    }
+  }
+  uloc_getLanguage(code.substr(0, end).c_str(), main.data(), static_cast<int32_t>(main.size()), &status);
+  return U_FAILURE(status) || main[0] == '\0' ? code : main.data() + code.substr(end);
 }
 
 }  // namespace folionet

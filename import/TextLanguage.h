@@ -18,4 +18,7 @@ TextScript ScriptOf(const ImportedBible& bible);
 // is none, or several.
 std::string LanguageOfTitles(const ImportedBible& bible);
 
+// A language's code as pages declare it: "eng" is "en".
+std::string LanguageCode(const std::string& code);
+
 }  // namespace folionet

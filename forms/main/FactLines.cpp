@@ -144,7 +144,10 @@ void FactLines::ShowRange() {
                    .arg(BooksText(request.cboEndBook + 1, kBooks - 1));
     }
   }
-  ShowLine(*m_controls.lblRangeFacts, lines.join(QLatin1Char('\n')));
+  const QString text = lines.join(QLatin1Char('\n'));
+  ShowLine(*m_controls.lblRangeFacts, text);
+  m_controls.cboStartBook->setAccessibleDescription(text);
+  m_controls.cboEndBook->setAccessibleDescription(text);
 }
 
 // A part of the chosen text that shows its charset. It is asked for at each key: the file is read when it is another

@@ -105,7 +105,7 @@ QSize TextBox::SizeFor(int columns, int rows) const {
 
 QSize TextBox::sizeHint() const { return SizeFor(60, m_rows); }
 
-// What is only shown is not cut through; what is typed into scrolls.
-QSize TextBox::minimumSizeHint() const { return SizeFor(25, isReadOnly() ? m_rows : std::min(m_rows, 2)); }
+// What is only shown is not cut through; what is typed into scrolls where it is longer than a few lines.
+QSize TextBox::minimumSizeHint() const { return SizeFor(25, isReadOnly() ? m_rows : std::min(m_rows, 3)); }
 
 }  // namespace folionet

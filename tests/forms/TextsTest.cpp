@@ -27,6 +27,7 @@
 #include "Escapes.h"
 #include "FactLines.h"
 #include "FormTest.h"
+#include "TextBox.h"
 #include "frmImport.h"
 #include "frmMain.h"
 
@@ -137,6 +138,8 @@ QSize NeededFor(const QWidget& control) {
   if (const auto* box = qobject_cast<const QPlainTextEdit*>(&control)) {
     const QRect page = box->viewport()->rect();
     const int margin = static_cast<int>(box->document()->documentMargin());
+    const bool isTyped = qobject_cast<const TextBox*>(box) != nullptr && !box->isReadOnly();
+    if (isTyped) return {0, 3 * metrics.lineSpacing() + 2 * margin + box->height() - page.height()};
     const QRect hint =
         metrics.boundingRect(QRect(0, 0, page.width() - margin, 0), Qt::TextWordWrap, box->placeholderText());
     return box->placeholderText().isEmpty() ? QSize()
@@ -199,7 +202,9 @@ TEST_F(Texts, AreHeardAsTheyAreSeen) {
   Get("frmEffects.").show();
   m_form->ShowPanel(1, "Compiling file 3 Book1");
   ChooseOutput();
+  Give("cboEndBook", "Book1");
   ASSERT_TRUE(QTest::qWaitFor([this] { return !m_form->Facts().IsLooking(); }));
+  const char* unreached = "The pages of Book2 to Book66 are written too; the index does not lead to them.";
   const struct {
     const char* control;
     QAccessible::Text what;
@@ -214,6 +219,8 @@ TEST_F(Texts, AreHeardAsTheyAreSeen) {
       {"progressCompile", QAccessible::Name, "Pages compiled"},
       {"Dir1", QAccessible::Description, "Empty folder."},
       {"cmdCompile", QAccessible::Description, "Empty folder."},
+      {"cboStartBook", QAccessible::Description, unreached},
+      {"cboEndBook", QAccessible::Description, unreached},
       {"txtBibleSel", QAccessible::Value, "Small Bible"},
       {"txtBibleSel", QAccessible::Description, ""},
   };

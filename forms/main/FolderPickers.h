@@ -33,6 +33,9 @@ class FolderPickers : public QObject {
   // Chooses a folder, of whatever volume. False, and told, when there is none of that path.
   bool Choose(const std::string& path);
 
+  // Whether the disk of the output folder answers, told where it does not: what goes on would hang there.
+  bool HasOutputDisk() const { return m_state.glob.OutputFolder.empty() || Answers(m_state.glob.OutputFolder); }
+
   // What a compile takes as its output path.
   std::string OutputPath() const;
 

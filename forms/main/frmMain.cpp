@@ -171,7 +171,7 @@ void frmMain::CSSCheck() {
 }
 
 void frmMain::Compile() {
-  if (!TellAndGoOn() || !m_lists->IsTextAsChosen()) return;
+  if (!TellAndGoOn() || !m_lists->IsTextAsChosen() || !m_folders->HasOutputDisk()) return;
   CompileRequest request = Gather();
   if (RefusesSitemap(request, m_state)) return;
   SiteChanges changes;
@@ -256,7 +256,7 @@ void frmMain::ListFolders() {
 }
 
 void frmMain::PreviewPage() {
-  if (!TellAndGoOn()) return;
+  if (!TellAndGoOn() || !m_folders->HasOutputDisk()) return;
   const RunGuard guard(*this);
   m_preview->Show(Gather(), m_state.glob, m_state.ui);
 }

@@ -224,7 +224,7 @@ TEST_F(MainForm, ADiskThatDoesNotAnswerDoesNotHoldTheStartUp) {
   }
 }
 
-TEST_F(MainForm, ADiskThatDoesNotAnswerIsToldWhereAFolderIsChosenOrOpened) {
+TEST_F(MainForm, ADiskThatDoesNotAnswerIsToldWhereItWouldBeWaitedFor) {
   std::filesystem::create_directory_symlink(m_home.Path() + "library", m_home.Path() + "nas");
   ASSERT_TRUE(Start());
   QTreeWidgetItem* root = Get<FolderTree>("Dir1").topLevelItem(0);
@@ -237,8 +237,10 @@ TEST_F(MainForm, ADiskThatDoesNotAnswerIsToldWhereAFolderIsChosenOrOpened) {
   root->child(1)->setExpanded(true);
   EXPECT_FALSE(root->child(1)->isExpanded());
   Give("cmdBrowse", m_home.Path() + "library");
+  for (const char* button : {"cmdCompile", "cmdPreviewPage"}) Click(button);
   answer.set_value();
-  EXPECT_EQ(m_ui.log, (Log{"71 Drive_Change", "71 Drive_Change", "71 Drive_Change"}));
+  EXPECT_EQ(m_ui.log, Log(5, "71 Drive_Change"));
+  EXPECT_EQ(m_ui.pageShown, "");
   EXPECT_EQ(m_ui.offered.back(), "") << "the chooser opens where the form does not hang";
   EXPECT_EQ(Shown("txtOutputPath"), m_home.Path() + "site/");
   m_form->Folders().patience = std::chrono::seconds(10);

@@ -58,6 +58,15 @@ bool IsInCodePage(const OwnFolder& folder, std::string_view name) {
   return !Letters(folder, name) && !(bytes && IsOfEditor(*bytes));
 }
 
+// The text that is to be in another code page. A file in UTF-8 without a mark is read as it stands; but its letters
+// would be lost for good when it is written in another charset as it was read.
+std::optional<std::string> TextToRecode(const OwnFolder& folder, std::string_view name) {
+  const bool isWindows = folder.codePage.Name().starts_with("windows-125");  // where UTF-8 makes no words
+  const std::optional<std::string> bytes = isWindows ? ReadIfThere(PathOf(folder, name)) : std::nullopt;
+  const bool isUtf8 = bytes && !IsOfEditor(*bytes) && !IsAscii(*bytes) && IsUtf8(*bytes) && !Letters(folder, name);
+  return isUtf8 ? bytes : ReadOwnText(folder, name);
+}
+
 // A text with another line, on a line of its own, at its end, which is a Ctrl+Z where there is one.
 std::string WithLine(std::string text, std::string_view line) {
   const std::size_t end = std::min(text.find('\x1A'), text.size());
@@ -99,7 +108,7 @@ void AddToOwnText(const OwnFolder& folder, std::string_view name, std::string_vi
 }
 
 void RecodeOwnText(const OwnFolder& folder, std::string_view name, const CodePage& to, JointChange& change) {
-  const std::optional<std::string> text = ReadOwnText(folder, name);
+  const std::optional<std::string> text = TextToRecode(folder, name);
   if (!text) return;
   if (!HoldsAllLetters(to, *text) || Letters(folder, name)) change.Replace(LettersPath(folder, name), *text);
   const std::string bytes = to.Encode(*text);

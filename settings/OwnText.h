@@ -31,7 +31,8 @@ void SaveOwnText(const OwnFolder& folder, std::string_view name, std::string_vie
 // SaveOwnText.
 void AddToOwnText(const OwnFolder& folder, std::string_view name, std::string_view line);
 
-// Adds to a change that the file, when it is there, holds its text in another code page. Throws RunTimeError.
+// Adds to a change that the file, when it is there, holds its text in another code page; one that an editor has saved
+// in UTF-8 without a mark comes from that. Throws RunTimeError.
 void RecodeOwnText(const OwnFolder& folder, std::string_view name, const CodePage& to, JointChange& change);
 
 }  // namespace folionet

@@ -4,6 +4,7 @@
 #include <utility>
 #include <vector>
 
+#include "CustomHtml.h"
 #include "EncodingInUse.h"
 #include "EncodingLists.h"
 #include "PageEncoding.h"
@@ -119,6 +120,28 @@ void frmEncoding::ShowListsAnew(const OwnFolder& folder) {
   }
 }
 
+// The header and the footer, each as its file is read.
+frmEncoding::HtmlTexts frmEncoding::ReadHtml() const {
+  HtmlTexts read;
+  try {
+    const OwnFolder folder = StoredOwnFolder(m_state.store, m_state.programFolder);
+    read = {ReadOwnText(folder, kCustomHeader.fileName), ReadOwnText(folder, kCustomFooter.fileName)};
+  } catch (const RunTimeError&) {
+    // Told by the dialogs of both.
+  }
+  return read;
+}
+
+// A file that was read in a wrong charset is read right in the new one.
+void frmEncoding::TakeHtml(const HtmlTexts& before) {
+  const HtmlTexts now = ReadHtml();
+  PageTexts& texts = m_state.texts;
+  std::string* const shared[] = {&texts.CustomHeader, &texts.CustomFooter};
+  for (std::size_t i = 0; i < now.size(); ++i) {
+    if (now[i] && before[i] && *shared[i] == *before[i]) *shared[i] = *now[i];
+  }
+}
+
 void frmEncoding::AddNew() {
   if (m_addNew == nullptr) {
     m_addNew = new frmAddnew(m_state, this);
@@ -139,6 +162,7 @@ void frmEncoding::SaveChanged() {
                               !CodeOfText(m_state.glob.Imported, m_state.store, key).empty());
   };
   EncodingOptions changed = entries;
+  const HtmlTexts before = ReadHtml();
   const bool isSaved = TrySave(m_state, Procedure::kUnloadEncoding, [&](SettingsStore& store) {
     store.ReadAnew();
     if (isShownOnly("Charset", entries.cboCharset, m_shown.cboCharset)) changed.cboCharset.clear();
@@ -146,7 +170,9 @@ void frmEncoding::SaveChanged() {
     if (!changed.cboCharset.empty() || !changed.cboLang.empty()) SaveEncoding(store, m_state.programFolder, changed);
   });
   m_state.refusedEncoding = isSaved ? EncodingOptions() : std::move(changed);
-  if (isSaved) m_shown = entries;
+  if (!isSaved) return;
+  m_shown = entries;
+  TakeHtml(before);
 }
 
 bool frmEncoding::SaveAndUse() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -50,6 +51,9 @@ class frmEncoding : public LoadedDialog {
   void ShowListsAnew(const OwnFolder& folder);
   void AddNew();
   EncodingOptions Entries() const;
+  using HtmlTexts = std::array<std::optional<std::string>, 2>;
+  HtmlTexts ReadHtml() const;
+  void TakeHtml(const HtmlTexts& before);
   void SaveChanged();
   bool SaveAndUse();
 

@@ -67,7 +67,7 @@ std::string LibraryBoxes::Ask(const InputBox& box, QWidget* owner) {
   if (!m_imported.empty()) return answer();
   if (!isAccepted) return {};
   // A path that was pasted may end in a line break.
-  std::string text = FromQt(dialog.textValue());
+  const std::string text = FromQt(dialog.textValue());
   return text.substr(0, text.find_first_of("\r\n"));
 }
 

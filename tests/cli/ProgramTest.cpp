@@ -68,7 +68,7 @@ TEST(ProgramTest, ATerminalSeesAStepEach40Milliseconds) {
   std::string verses;
   std::istringstream lines(home.Read(kVersesFile));
   for (std::string verse; std::getline(lines, verse, '\r'); lines.get())
-    verses += verse + std::string(200000, 'x') + "\r\n";
+    verses += verse + std::string(400000, 'x') + "\r\n";
   home.Write(kVersesFile, verses);
   Command line{"/usr/bin/script", "--quiet", "--return", "/dev/null", "--command", ""};
   for (const std::string& part : CompileSmall({"--start-book=66"})) line.back() += part + " ";

@@ -14,6 +14,7 @@
 #include <variant>
 
 #include "AppState.h"
+#include "BackgroundWork.h"
 #include "BuildInfo.h"
 #include "FormArguments.h"
 #include "FormStyle.h"
@@ -115,25 +116,31 @@ int OpenForms(QApplication& app, const Arguments& arguments) {
   }
 }
 
+int Run(int argc, char** argv) {
+  // A limit on the size of files is a failure of the write that meets it, like a full disk.
+  std::signal(SIGXFSZ, SIG_IGN);
+  const auto arguments = ParseArguments(argc, argv);
+  if (const auto* status = std::get_if<ExitStatus>(&arguments)) return *status;
+  const QtMessageHandler handler = qInstallMessageHandler(TellNoDisplay);
+  QApplication app(argc, argv);
+  qInstallMessageHandler(handler);
+  QApplication::setApplicationName(kApplicationTitle);
+  QApplication::setApplicationVersion(kVersion);
+  QApplication::setDesktopFileName(QStringLiteral("folionet"));
+  QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("folionet")));
+  QApplication::setQuitOnLastWindowClosed(false);
+  DressApplication();
+  QTranslator ours;
+  QTranslator qts;
+  SpeakDesktopLanguage(ours, qts);
+  return OpenForms(app, std::get<Arguments>(arguments));
+}
+
 }  // namespace
 }  // namespace folionet
 
 int main(int argc, char** argv) {
-  // A limit on the size of files is a failure of the write that meets it, like a full disk.
-  std::signal(SIGXFSZ, SIG_IGN);
-  const auto arguments = folionet::ParseArguments(argc, argv);
-  if (const auto* status = std::get_if<folionet::ExitStatus>(&arguments)) return *status;
-  const QtMessageHandler handler = qInstallMessageHandler(folionet::TellNoDisplay);
-  QApplication app(argc, argv);
-  qInstallMessageHandler(handler);
-  QApplication::setApplicationName(folionet::kApplicationTitle);
-  QApplication::setApplicationVersion(folionet::kVersion);
-  QApplication::setDesktopFileName(QStringLiteral("folionet"));
-  QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("folionet")));
-  QApplication::setQuitOnLastWindowClosed(false);
-  folionet::DressApplication();
-  QTranslator ours;
-  QTranslator qts;
-  folionet::SpeakDesktopLanguage(ours, qts);
-  return folionet::OpenForms(app, std::get<folionet::Arguments>(arguments));
+  const int status = folionet::Run(argc, argv);
+  folionet::EndWhereTasksRun(status);
+  return status;
 }

@@ -5,9 +5,10 @@
 #include <algorithm>
 #include <cerrno>
 #include <future>
-#include <thread>
+#include <memory>
 #include <utility>
 
+#include "BackgroundWork.h"
 #include "CompileRequest.h"
 #include "FolderTree.h"
 #include "OpeningCombo.h"
@@ -74,9 +75,9 @@ void FolderPickers::ListVolumes() {
 // Throws RunTimeError when it does not answer; nothing waits for the thread then. A form that is shown goes on being
 // painted meanwhile.
 void FolderPickers::AwaitDisk(const std::string& path) const {
-  std::packaged_task<void()> task([ask = askDisk, path] { ask(path); });
-  const std::future<void> answer = task.get_future();
-  std::thread(std::move(task)).detach();
+  const auto task = std::make_shared<std::packaged_task<void()>>([ask = askDisk, path] { ask(path); });
+  const std::future<void> answer = task->get_future();
+  RunBeside([task] { (*task)(); });
   constexpr std::chrono::milliseconds kUnnoticed(100);
   constexpr std::chrono::milliseconds kFrame(20);
   const auto end = std::chrono::steady_clock::now() + patience;

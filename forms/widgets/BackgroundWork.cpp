@@ -1,10 +1,31 @@
 #include "BackgroundWork.h"
 
+#include <cstdio>
+#include <cstdlib>
 #include <exception>
 #include <thread>
 #include <utility>
 
 namespace folionet {
+namespace {
+
+std::atomic<int> runningTasks{0};
+
+}  // namespace
+
+void RunBeside(std::function<void()> task) {
+  ++runningTasks;
+  std::thread([task = std::move(task)]() mutable {
+    std::exchange(task, nullptr)();
+    --runningTasks;
+  }).detach();
+}
+
+void EndWhereTasksRun(int status) {
+  if (runningTasks == 0) return;
+  std::fflush(nullptr);
+  std::_Exit(status);
+}
 
 struct BackgroundWork::Run {
   std::atomic<bool> isWanted{true};
@@ -23,14 +44,14 @@ void BackgroundWork::Start(Work work, std::function<void()> done) {
   Drop();
   m_run = std::make_shared<Run>();
   m_done = std::move(done);
-  std::thread([run = m_run, work = std::move(work)] {
+  RunBeside([run = m_run, work = std::move(work)] {
     try {
       work(run->isWanted);
     } catch (const std::exception&) {
       // Its owner finds nothing given.
     }
     run->isDone = true;
-  }).detach();
+  });
   m_poll.start();
 }
 

@@ -8,6 +8,13 @@
 
 namespace folionet {
 
+// Runs the task, which throws nothing, in a thread that nothing waits for.
+void RunBeside(std::function<void()> task);
+
+// For the end of main: where a task of RunBeside still runs, the process ends here and with this status, for the task
+// may use what would be taken away.
+void EndWhereTasksRun(int status);
+
 // Work beside the form, one piece at a time, in a thread that nothing waits for. What the thread and the form share
 // must be held by both.
 class BackgroundWork : public QObject {

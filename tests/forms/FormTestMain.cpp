@@ -5,6 +5,7 @@
 #include <cstdio>
 #include <cstdlib>
 
+#include "BackgroundWork.h"
 #include "FormRunsTest.h"
 #include "FormStyle.h"
 
@@ -24,5 +25,7 @@ int main(int argc, char** argv) {
     QApplication::installTranslator(&translator);
   }
   folionet::RegisterFormRuns();
-  return RUN_ALL_TESTS();
+  const int status = RUN_ALL_TESTS();
+  folionet::EndWhereTasksRun(status);
+  return status;
 }

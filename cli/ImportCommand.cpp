@@ -155,7 +155,7 @@ std::string ResultLine(const LibraryPlan& plan) {
   return plan.stem + ": " + plan.text.name + ": " + Counted(static_cast<std::size_t>(plan.books), "book") + ", " +
          Counted(static_cast<std::size_t>(plan.chapters), "chapter") + ", " + Counted(plan.verses, "verse") + ", " +
          plan.text.charset + (plan.text.language.empty() ? std::string() : ", language " + plan.text.language) +
-         ", in " + plan.folder;
+         ", in " + plan.library.Folder();
 }
 
 // What was read, as JSON: each book with its numbers, and the translation that becomes of it.
@@ -183,12 +183,12 @@ void TellHowToChoose(const CommonOptions& common, const LibraryPlan& plan, Conso
   const Session session(common, ui);
   const std::string known = session.glob.InstallPath;
   std::error_code ignored;
-  if (fs::equivalent(known, plan.folder, ignored)) return;
+  if (fs::equivalent(known, plan.library.Folder(), ignored)) return;
   if (known.empty()) {
-    ui.Tell("Choose this library with --versalia-path " + plan.folder);
+    ui.Tell("Choose this library with --versalia-path " + plan.library.Folder());
     return;
   }
-  ui.Tell("Another library is known, " + known + "; choose this one with --versalia-path " + plan.folder);
+  ui.Tell("Another library is known, " + known + "; choose this one with --versalia-path " + plan.library.Folder());
 }
 
 }  // namespace

@@ -26,7 +26,8 @@ class Import {
                           .arg(locale.toString(plan.books), locale.toString(plan.chapters),
                                locale.toString(static_cast<qulonglong>(plan.verses))),
                       tr("Language: %1").arg(shown), tr("Charset: %1").arg(ToQt(plan.text.charset)),
-                      tr("Stem of its files: %1").arg(ToQt(plan.stem)), tr("Library: %1").arg(ToQt(plan.folder))};
+                      tr("Stem of its files: %1").arg(ToQt(plan.stem)),
+                      tr("Library: %1").arg(ToQt(plan.library.Folder()))};
     if (plan.replaces) lines += tr("The library holds a translation with this stem. It would be replaced.");
     for (const LeftOutBook& book : bible.leftOut) {
       lines += tr("Left out, as it is none of the 66 books: %1 (verses: %2)")

@@ -91,7 +91,7 @@ void frmImport::ConnectImport() {
     const LibraryPlan plan = *m_import.CurrentPlan();
     m_import.Forget();
     hide();
-    emit Imported(plan.folder, plan.stem);
+    emit Imported(plan.library.Folder(), plan.stem);
   });
   connect(&m_import, &TextImport::Failed, this, &frmImport::Fail);
   connect(&m_edits, &QTimer::timeout, this, [this] {

@@ -1,0 +1,26 @@
+#include "LibraryFiles.h"
+
+#include <filesystem>
+#include <system_error>
+
+#include "Paths.h"
+
+namespace folionet {
+
+std::string LibraryFiles::At(const char* below, const std::string& name) const {
+  return LocateIgnoringCase(WithSeparator(LocateIgnoringCase(m_folder, below)), name);
+}
+
+std::string LibraryFiles::InTheWay(const std::string& stem) const {
+  for (const std::string& path : {VerseFile(stem), IndexFile(stem)}) {
+    if (IsThere(path)) return path;
+  }
+  return {};
+}
+
+bool IsThere(const std::string& path) {
+  std::error_code ignored;
+  return std::filesystem::exists(std::filesystem::symlink_status(path, ignored));
+}
+
+}  // namespace folionet

@@ -197,14 +197,21 @@ class FactFinder {
                 {"Give other titles with --language-file, or short names: --set \"Use83=1\"."}));
   }
 
+  // A ":" is that of a scheme only before "//".
+  static bool IsReached(std::string_view address) {
+    const std::size_t colon = address.substr(0, address.find('/')).find(':');
+    const bool isOfScheme = colon == std::string_view::npos || address.substr(colon + 1).starts_with("//");
+    return isOfScheme && address.find_first_of("\"#?") == std::string_view::npos;
+  }
+
   void FindLostIndex() {
-    const std::string& address = m_request.options.txthttpRoot;
-    if (address.find_first_of("\"#?", address.rfind('/') + 1) == std::string::npos) return;
+    if (IsReached(m_request.options.txthttpRoot)) return;
     m_facts.push_back(Warning(
         "index-not-found",
         {Words("QObject",
-               "No browser finds the index page %1: \"?\", \"#\" and a quotation mark have another meaning in a link."),
-         {m_index}},
+               "No browser finds the index page %1: \"?\", \"#\", \":\" and a quotation mark have another meaning in a "
+               "link."),
+         {m_request.options.txthttpRoot}},
         {"Give it another name with --index-address."}));
   }
 

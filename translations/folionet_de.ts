@@ -651,8 +651,8 @@
         <translation>Der Name der Übersetzung ist nicht in UTF-8, die Seiten sind es.</translation>
     </message>
     <message>
-        <source>No browser finds the index page %1: &quot;?&quot;, &quot;#&quot; and a quotation mark have another meaning in a link.</source>
-        <translation>Kein Browser findet die Indexseite %1: „?“, „#“ und ein Anführungszeichen haben in einem Link eine andere Bedeutung.</translation>
+        <source>No browser finds the index page %1: &quot;?&quot;, &quot;#&quot;, &quot;:&quot; and a quotation mark have another meaning in a link.</source>
+        <translation>Kein Browser findet die Indexseite %1: „?“, „#“, „:“ und ein Anführungszeichen haben in einem Link eine andere Bedeutung.</translation>
     </message>
     <message>
         <source>The book titles are not in %1, the charset of the pages.</source>

@@ -651,8 +651,8 @@
         <translation>El nombre de la traducción no está en UTF-8 y las páginas sí.</translation>
     </message>
     <message>
-        <source>No browser finds the index page %1: &quot;?&quot;, &quot;#&quot; and a quotation mark have another meaning in a link.</source>
-        <translation>Ningún navegador encuentra la página de índice %1: «?», «#» y las comillas tienen otro significado en un enlace.</translation>
+        <source>No browser finds the index page %1: &quot;?&quot;, &quot;#&quot;, &quot;:&quot; and a quotation mark have another meaning in a link.</source>
+        <translation>Ningún navegador encuentra la página de índice %1: «?», «#», «:» y las comillas tienen otro significado en un enlace.</translation>
     </message>
     <message>
         <source>The book titles are not in %1, the charset of the pages.</source>

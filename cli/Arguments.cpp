@@ -36,7 +36,8 @@ void AddCommonOptions(CLI::App& app, CommonOptions& common) {
   app.add_flag("--quiet", common.quiet, "Say nothing when all goes well");
   app.add_flag("--strict", common.strict, "End with 1 when there were warnings");
   app.footer(
-      "\"COMMAND --help\" shows a command's options. Exit status: see folionet-cli(1).\n\n"
+      "\"COMMAND --help\" shows a command's options, \"man folionet-cli\" has all of it. The guide, with recipes, is\n"
+      "/usr/share/doc/folionet-cli/guide.html.\n\n"
       "Example:\n"
       "  folionet-cli compile --output ~/site --index-address index.html");
 }

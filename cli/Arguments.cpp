@@ -36,8 +36,7 @@ void AddCommonOptions(CLI::App& app, CommonOptions& common) {
   app.add_flag("--quiet", common.quiet, "Say nothing when all goes well");
   app.add_flag("--strict", common.strict, "End with 1 when there were warnings");
   app.footer(
-      "\"COMMAND --help\" shows a command's options, \"man folionet-cli\" has all of it. The guide, with recipes, is\n"
-      "/usr/share/doc/folionet-cli/guide.html.\n\n"
+      "More: COMMAND --help; man folionet-cli; /usr/share/doc/folionet-cli/guide.html\n\n"
       "Example:\n"
       "  folionet-cli compile --output ~/site --index-address index.html");
 }

@@ -23,11 +23,10 @@ constexpr char kDoubtful = '/';  // with which no name begins
 constexpr std::size_t kLongest = std::size_t{16} << 20;
 
 // One number for each folder, whatever way leads to it (FNV-1a of its real path).
-std::string JournalPath(const std::string& stateFolder, const std::string& outputFolder) {
-  const std::string real = RealPath(outputFolder);
-  if (stateFolder.empty() || real.empty()) return {};
+std::string JournalPath(const std::string& stateFolder, const std::string& realFolder) {
+  if (stateFolder.empty() || realFolder.empty()) return {};
   std::uint64_t number = 0xCBF29CE484222325U;
-  for (const char c : real) {
+  for (const char c : realFolder) {
     number = (number ^ static_cast<unsigned char>(c)) * 0x100000001B3U;
   }
   return WithSeparator(stateFolder) + std::to_string(number) + ".changes";
@@ -35,8 +34,8 @@ std::string JournalPath(const std::string& stateFolder, const std::string& outpu
 
 }  // namespace
 
-ChangeJournal::ChangeJournal(const std::string& stateFolder, const std::string& outputFolder)
-    : m_path(JournalPath(stateFolder, outputFolder)) {
+ChangeJournal::ChangeJournal(const std::string& stateFolder, const std::string& realFolder)
+    : m_path(JournalPath(stateFolder, realFolder)) {
   if (m_path.empty()) return;
   std::string text;
   try {

@@ -16,8 +16,9 @@ namespace folionet {
 // missing when the program is killed.
 class ChangeJournal : public ChangeWatch {
  public:
-  // Reads what earlier runs left for an output folder. With an empty `stateFolder` nothing is kept.
-  ChangeJournal(const std::string& stateFolder, const std::string& outputFolder);
+  // Reads what earlier runs left for an output folder, by its path without a link. Where either is empty nothing is
+  // kept.
+  ChangeJournal(const std::string& stateFolder, const std::string& realFolder);
 
   // Throws RunTimeError where another program has begun to use the journal meanwhile.
   void WillChange(const std::string& name) override;

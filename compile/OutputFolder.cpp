@@ -37,7 +37,7 @@ void OpenOutputFolder(const CompileRequest& request, RunFolder& folder) {
   }
   folder.site.Open(path, doing);
   folder.site.Lock();
-  folder.journal = std::make_shared<ChangeJournal>(request.stateFolder, folder.site.Path());
+  folder.journal = std::make_shared<ChangeJournal>(request.stateFolder, folder.site.RealPath());
   // Another folder was in this place when a program that runs still opened it.
   if (!folder.journal->Holder().empty()) folder.site.RefuseHeld(folder.journal->Holder());
   folder.site.SetWatch(folder.journal.get());

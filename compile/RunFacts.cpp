@@ -201,7 +201,8 @@ class FactFinder {
   static bool IsReached(std::string_view address) {
     const std::size_t colon = address.substr(0, address.find('/')).find(':');
     const bool isOfScheme = colon == std::string_view::npos || address.substr(colon + 1).starts_with("//");
-    return isOfScheme && address.find_first_of("\"#?") == std::string_view::npos;
+    return isOfScheme && address.find('"') == std::string_view::npos &&
+           address.find_first_of("#?", address.rfind('/') + 1) == std::string_view::npos;
   }
 
   void FindLostIndex() {

@@ -83,6 +83,7 @@ void CarryOut(const ImportedBible& bible, const LibraryPlan& plan, Doing doing) 
   const std::string note = NotePath(fs::path(plan.catalogue).parent_path().string(), doing);
   const std::string indexFile = plan.library.IndexFile(plan.stem);
   if (doing == Doing::kPlan) {
+    TryReplacement(note);
     for (const std::string& path : {plan.verseFile, indexFile}) TryReplacement(path);
     for (const auto& [path, content] : plan.files) TryReplacement(path);
     return;

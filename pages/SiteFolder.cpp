@@ -106,9 +106,14 @@ SiteFolder::OldFile SiteFolder::OpenOld(const std::string& name) {
 }
 
 // Two files of a run cannot be one: each would get the text of the other.
+std::string SiteFolder::RealPath() const {
+  const std::string place = folionet::RealPath("/proc/self/fd/" + std::to_string(m_folder.Get()));
+  return place.empty() ? folionet::RealPath(m_path) : place;
+}
+
 void SiteFolder::RefuseShared(const std::string& name, const FileHandle& file) {
-  const std::string folder = WithSeparator(RealPath("/proc/self/fd/" + std::to_string(m_folder.Get())));
-  const std::string target = RealPath("/proc/self/fd/" + std::to_string(file.Get()));
+  const std::string folder = WithSeparator(RealPath());
+  const std::string target = folionet::RealPath("/proc/self/fd/" + std::to_string(file.Get()));
   std::string other = target.starts_with(folder) ? target.substr(folder.size()) : std::string();
   if (other == name || !m_isOfRun || !m_isOfRun(other)) {
     const struct stat status = StatusOf(file, m_path + name);
@@ -124,8 +129,8 @@ FileHandle SiteFolder::OpenThroughLink(const std::string& name, int flags) {
   FileHandle file = OpenBeneath(m_folder.Get(), name, flags);
   if (!file.IsOpen() && errno == EXDEV) {
     const std::string folder = "/proc/self/fd/" + std::to_string(m_folder.Get());
-    const std::string inside = WithSeparator(RealPath(folder));
-    const std::string target = RealPath(folder + "/" + name);
+    const std::string inside = WithSeparator(RealPath());
+    const std::string target = folionet::RealPath(folder + "/" + name);
     if (target.starts_with(inside)) file = OpenBeneath(m_folder.Get(), target.substr(inside.size()), flags);
   }
   if (file.IsOpen()) RefuseShared(name, file);

@@ -97,6 +97,10 @@ class SiteFolder {
 
   const std::string& Path() const { return m_path; }
 
+  // Where the open folder is, with no link in it, whatever its path leads to since; by its path where the system does
+  // not tell.
+  std::string RealPath() const;
+
  private:
   struct OldFile {
     FileHandle file;

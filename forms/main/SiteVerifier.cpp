@@ -128,6 +128,7 @@ void OfferRemoval(const SiteReport& report, UserInterface& ui) {
       pages.removed.size() == 1
           ? QObject::tr("1 page was deleted. Remove it from your server too.")
           : QObject::tr("%1 pages were deleted. Remove them from your server too.").arg(Shown(pages.removed.size()))};
+  for (const std::string& name : pages.removed) lines << ToQt(name);
   lines += Some(pages.kept, FindingText);
   ui.ShowMessage(
       {pages.kept.empty() ? MessageIcon::kInformation : MessageIcon::kWarning, title, FromQt(lines.join("\r\n"))});

@@ -93,7 +93,7 @@ TEST_F(CompileFromForm, ShowsProgressAndThenTheSite) {
   m_ui.yesNo = {true};
   Click("cmdVerifySite");
   EXPECT_EQ(m_ui.said[m_ui.said.size() - 2], "Nothing leads to this page of Folionet:\r\nold_1.html\r\nDelete it?");
-  EXPECT_EQ(m_ui.said.back(), "1 page was deleted. Remove it from your server too.");
+  EXPECT_EQ(m_ui.said.back(), "1 page was deleted. Remove it from your server too.\r\nold_1.html");
   EXPECT_FALSE(std::filesystem::exists(m_home.Path() + "site/old_1.html"));
   Remove("site/default.css");
   for (int i = 1; i < 13; ++i) {

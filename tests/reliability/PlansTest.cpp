@@ -151,6 +151,8 @@ TEST(ImportPlans, FailWhereTheImportWould) {
                           {"mkdir -p lib/Sysdefs; chmod 555 lib/Sysdefs", 3},
                           {"mkdir -p lib/Index/TEXT.TXT.INDEX", 1},
                           {"mkdir -p lib/Modules", 0},
+                          {"mkdir config; chmod 555 config", 3},
+                          {"mkdir -p config/.Folionet.import", 3},
                           {arrangeFresh.c_str(), 0},
                           {arrangeFresh.c_str(), 3, fresh},
                           {"mkdir -p lib/Sysdefs", 3, "lib/Sysdefs"}};

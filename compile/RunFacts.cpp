@@ -52,6 +52,7 @@ class FactFinder {
     FindMeetingBooks();
     FindLostBooks();
     FindLostIndex();
+    FindLostImage();
     FindOldPages();
     return std::move(m_facts);
   }
@@ -201,8 +202,8 @@ class FactFinder {
   static bool IsReached(std::string_view address) {
     const std::size_t colon = address.substr(0, address.find('/')).find(':');
     const bool isOfScheme = colon == std::string_view::npos || address.substr(colon + 1).starts_with("//");
-    return isOfScheme && address.find('"') == std::string_view::npos &&
-           address.find_first_of("#?", address.rfind('/') + 1) == std::string_view::npos;
+    return isOfScheme && address.find_first_of("\"#") == std::string_view::npos &&
+           address.find('?', address.rfind('/') + 1) == std::string_view::npos;
   }
 
   void FindLostIndex() {
@@ -214,6 +215,18 @@ class FactFinder {
                "link."),
          {m_request.options.txthttpRoot}},
         {"Give it another name with --index-address."}));
+  }
+
+  void FindLostImage() {
+    const PageOptions& options = m_request.options;
+    const std::string& image = options.frmBackground.txtImagepath;
+    if (!options.chkBack || options.chkCSS || image.find("://") != std::string::npos || IsReached(image)) return;
+    m_facts.push_back(Warning("image-not-found",
+                              {Words("QObject",
+                                     "No browser finds the background image %1: \"?\", \"#\", \":\" and a quotation "
+                                     "mark have another meaning in a link."),
+                               {image}},
+                              {"Give its file another name, and --set \"BackImage=NAME\"."}));
   }
 
   const CompileRequest& m_request;

@@ -40,8 +40,10 @@ bool HasControl(std::string_view text) {
   return std::any_of(text.begin(), text.end(), [](unsigned char c) { return c < 0x20 || c == 0x7F; });
 }
 
+// With no link in it that could be pointed elsewhere before the last file is written.
 std::string AbsoluteFolder(const std::string& folder) {
-  return WithSeparator(fs::absolute(folder).lexically_normal().string());
+  const std::string real = RealPath(folder);
+  return WithSeparator(!real.empty() ? real : fs::absolute(folder).lexically_normal().string());
 }
 
 std::string ChosenFolder(const LibraryRequest& request) {

@@ -79,6 +79,15 @@ FileHandle TakeLibrary(const LibraryPlan& plan, Doing doing) {
        {LockHolderName(lock.Get())}});
 }
 
+bool HasCatalogueOf(const LibraryPlan& plan) {
+  return ReadIfThere(plan.catalogue).value_or("") == plan.catalogueBefore;
+}
+
+[[noreturn]] void FailChanged(const LibraryPlan& plan) {
+  throw ImportError(kPermissionDenied, plan.library.Folder(),
+                    {Words("Import", "Another program has changed this library. Import again.")});
+}
+
 void CarryOut(const ImportedBible& bible, const LibraryPlan& plan, Doing doing) {
   const std::string note = NotePath(fs::path(plan.catalogue).parent_path().string(), doing);
   const std::string indexFile = plan.library.IndexFile(plan.stem);
@@ -93,6 +102,8 @@ void CarryOut(const ImportedBible& bible, const LibraryPlan& plan, Doing doing) 
   change.Write(plan.verseFile, [&](const JointChange::Pieces& take) { index = WriteVerses(bible, plan, take); });
   change.Replace(indexFile, index);
   for (const auto& [path, content] : plan.files) change.Replace(path, content);
+  // Versalia, or an editor, may have added to it meanwhile.
+  if (!HasCatalogueOf(plan)) FailChanged(plan);
   change.Commit();
 }
 
@@ -100,17 +111,14 @@ void CarryOut(const ImportedBible& bible, const LibraryPlan& plan, Doing doing) 
 
 void WriteLibrary(const ImportedBible& bible, const LibraryPlan& plan) {
   const FileHandle lock = TakeLibrary(plan, Doing::kChange);
-  if (ReadIfThere(plan.catalogue).value_or("") != plan.catalogueBefore) {
-    throw ImportError(kPermissionDenied, plan.library.Folder(),
-                      {Words("Import", "Another import has changed this library. Import again.")});
-  }
+  if (!HasCatalogueOf(plan)) FailChanged(plan);
   CarryOut(bible, plan, Doing::kChange);
 }
 
 LibraryPlan ImportLibrary(const ImportedBible& bible, const LibraryRequest& request, Doing doing) {
   LibraryPlan plan = PlanLibrary(bible, request);
   const FileHandle lock = TakeLibrary(plan, doing);
-  if (ReadIfThere(plan.catalogue).value_or("") != plan.catalogueBefore) {
+  if (!HasCatalogueOf(plan)) {
     plan = PlanLibrary(bible, request);
     MakeFoldersOf(plan, doing);
   }

@@ -67,7 +67,8 @@ void LocateInstallation(const StoredSettings& store, const GivenFolders& given, 
   const bool isGivenAlone = !given.versaliaPath.empty() && given.modulePath.empty();
   const bool isOwn = isGivenAlone && (FolderExists(own) || !IsStoredInstallation(store, install));
   std::string modules = isOwn ? own : folder(given.modulePath, "ModulePath");
-  if (modules.empty()) modules = own;
+  const bool isOtherCase = !FolderExists(modules) && EqualIgnoringCase(NativePath(modules), own);
+  if (modules.empty() || isOtherCase) modules = own;
   SetInstallation(glob, std::move(install), std::move(modules), "Sysdefs");
 }
 

@@ -208,8 +208,8 @@
         <translation>Ein anderer Import schreibt in diese Bibliothek: %1. Importieren Sie noch einmal, wenn er zu Ende ist.</translation>
     </message>
     <message>
-        <source>Another import has changed this library. Import again.</source>
-        <translation>Ein anderer Import hat diese Bibliothek verändert. Importieren Sie noch einmal.</translation>
+        <source>Another program has changed this library. Import again.</source>
+        <translation>Ein anderes Programm hat diese Bibliothek verändert. Importieren Sie noch einmal.</translation>
     </message>
     <message>
         <source>a line of at most 4 MiB was expected</source>
@@ -649,6 +649,10 @@
     <message>
         <source>The name of the translation is not UTF-8, the pages are.</source>
         <translation>Der Name der Übersetzung ist nicht in UTF-8, die Seiten sind es.</translation>
+    </message>
+    <message>
+        <source>No browser finds the background image %1: &quot;?&quot;, &quot;#&quot;, &quot;:&quot; and a quotation mark have another meaning in a link.</source>
+        <translation>Kein Browser findet das Hintergrundbild %1: „?“, „#“, „:“ und ein Anführungszeichen haben in einem Link eine andere Bedeutung.</translation>
     </message>
     <message>
         <source>No browser finds the index page %1: &quot;?&quot;, &quot;#&quot;, &quot;:&quot; and a quotation mark have another meaning in a link.</source>

@@ -208,8 +208,8 @@
         <translation>Otra importación está escribiendo en esta biblioteca: %1. Importe de nuevo cuando haya terminado.</translation>
     </message>
     <message>
-        <source>Another import has changed this library. Import again.</source>
-        <translation>Otra importación ha cambiado esta biblioteca. Importe de nuevo.</translation>
+        <source>Another program has changed this library. Import again.</source>
+        <translation>Otro programa ha cambiado esta biblioteca. Importe de nuevo.</translation>
     </message>
     <message>
         <source>a line of at most 4 MiB was expected</source>
@@ -649,6 +649,10 @@
     <message>
         <source>The name of the translation is not UTF-8, the pages are.</source>
         <translation>El nombre de la traducción no está en UTF-8 y las páginas sí.</translation>
+    </message>
+    <message>
+        <source>No browser finds the background image %1: &quot;?&quot;, &quot;#&quot;, &quot;:&quot; and a quotation mark have another meaning in a link.</source>
+        <translation>Ningún navegador encuentra la imagen de fondo %1: «?», «#», «:» y las comillas tienen otro significado en un enlace.</translation>
     </message>
     <message>
         <source>No browser finds the index page %1: &quot;?&quot;, &quot;#&quot;, &quot;:&quot; and a quotation mark have another meaning in a link.</source>

@@ -19,7 +19,8 @@ namespace {
 namespace fs = std::filesystem;
 
 // An error report on one line: its layout is the same each time, so that its label, its number with the text and what
-// it is about say all. "FOLDERS" behind it are the words around it that ask for Versalia's folders.
+// it is about say all. "FOLDERS" behind it are the words around it that ask for Versalia's folders; what to do
+// about a line of a text, a place of an index and a place that is taken stands in full here alone.
 std::string WithShortReports(std::string text) {
   const std::string begin =
       "An Error has occured.\nTitle        : Folionet\nApp Path     : @bin\nSoftware Ver : " FOLIONET_VERSION
@@ -49,6 +50,18 @@ std::string WithShortReports(std::string text) {
       "or because Versalia is not correctly installed.\n"
       "Folionet will attempt to gather the correct information manually\n"
       "You will need to enter the values for the following:\n1. The Versalia Path\n2. The Versalia Module Path\n";
+  Replace(text,
+          "Correct this line of the translation's text, or install the translation anew, in Versalia or by "
+          "\"folionet-cli import --replace\"; \"folionet-cli check\" names every such line.",
+          "LINE");
+  Replace(text,
+          "Correct the place that the report names, or remove this index and run Versalia on the translation, which "
+          "makes it anew; \"folionet-cli check\" names every such place.",
+          "INDEX");
+  Replace(text,
+          "See what is in the place of this file or folder and move it away, or choose another folder with "
+          "--output FOLDER.",
+          "PLACE");
   const std::size_t how = text.find(saysHow);
   const std::size_t asked = text.find(asks);
   if (how != std::string::npos && asked != std::string::npos) {

@@ -1,6 +1,7 @@
 #include "Text.h"
 
 #include <algorithm>
+#include <cstdint>
 
 #include "CodePage.h"
 #include "Utf8.h"
@@ -75,17 +76,33 @@ std::string InOneLine(std::string_view text) {
   return line;
 }
 
+namespace {
+
+// What turns the order of the letters behind it, parts lines or is not seen.
+bool IsFormat(std::int32_t character) {
+  return (character >= 0x2028 && character <= 0x202E) || (character >= 0x2066 && character <= 0x2069) ||
+         character == 0xFEFF;
+}
+
+}  // namespace
+
 std::string Escaped(std::string_view text, std::string_view kept) {
   std::string shown;
   for (std::size_t i = 0; i < text.size();) {
     int32_t length = 0;
-    const bool isCharacter = FirstUtf8(text.substr(i, U8_MAX_LENGTH), length) >= 0;
+    const std::int32_t character = FirstUtf8(text.substr(i, U8_MAX_LENGTH), length);
+    const bool isCharacter = character >= 0;
     const std::size_t size = isCharacter ? static_cast<std::size_t>(length) : 1;
     // A terminal that knows no UTF-8 obeys the bytes from 0x80 on too.
     const auto byte = static_cast<unsigned char>(text[i]);
     const bool isObeyed = IsControl(text, i) || (!isCharacter && byte >= 0x80 && byte <= 0x9F);
     const std::string_view piece = text.substr(i, size);
     i += size;
+    if (IsFormat(character)) {
+      shown += "\\u" + TwoHexDigits(static_cast<unsigned char>(character >> 8)) +
+               TwoHexDigits(static_cast<unsigned char>(character & 0xFF));
+      continue;
+    }
     if (!isObeyed || kept.find(piece[0]) != std::string_view::npos) {
       shown += piece;
       continue;

@@ -30,8 +30,8 @@ bool IsControl(std::string_view text, std::size_t at);
 // A UTF-8 text with a blank for each line break, CR LF being one, and for each control character.
 std::string InOneLine(std::string_view text);
 
-// A UTF-8 text as a line shows it: each control character but those to keep as "\n", "\t" or "\x1B", so that nothing
-// that an argument or a file brings is obeyed or passes for a line of the program's own.
+// A UTF-8 text as a line shows it: each control character but those to keep as "\n", "\t", "\x1B" or "\u202E", so that
+// nothing that an argument or a file brings is obeyed or passes for a line of the program's own.
 std::string Escaped(std::string_view text, std::string_view kept = {});
 
 // A text of a file, shortened to a length that a message can show, escaped, in double quotes. Bytes that are no UTF-8

@@ -8,6 +8,7 @@
 #include <QMenu>
 #include <QShortcut>
 #include <QTime>
+#include <algorithm>
 #include <optional>
 #include <utility>
 
@@ -18,6 +19,7 @@
 #include "DraggedPath.h"
 #include "EncodingInUse.h"
 #include "FactLines.h"
+#include "FileNames.h"
 #include "FolderPickers.h"
 #include "FormLooks.h"
 #include "FormMemory.h"
@@ -199,7 +201,13 @@ void frmMain::Compile() {
   m_ui->cmdOpenIndex->setEnabled(true);
   m_ui->cmdVerifySite->setEnabled(true);
   m_ui->cmdOpenIndex->setFocus();
-  ShowResult(changes.New().size() + changes.Changed().size() + changes.Same().size());
+  std::size_t pages = 0;
+  for (const auto& names : {changes.New(), changes.Changed(), changes.Same()}) {
+    pages += static_cast<std::size_t>(std::count_if(names.begin(), names.end(), [](const std::string& name) {
+      return name != kStyleSheetFile && name != kSitemapFile;
+    }));
+  }
+  ShowResult(pages);
 }
 
 // What panel 1 is left with: the pages that a run made, where they are and since when.

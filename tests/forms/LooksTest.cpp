@@ -135,6 +135,7 @@ TEST_F(Looks, TheSampleLinkLooksAsInAPage) {
   EXPECT_EQ(Get<QComboBox>("frmEffects.cboFont").count(), QFontDatabase::families().size());
   EXPECT_EQ(ColourOf("frmEffects.lblRColor", QPalette::Window), 4478310);
   const QSize size = link.sizeHint();
+  EXPECT_EQ(FromQt(link.font().family()), "Verdana") << "the page's";
   EXPECT_EQ(colour(), 16711680);
   press(QEvent::MouseButtonPress);
   EXPECT_EQ(colour(), 255);

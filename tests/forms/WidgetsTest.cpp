@@ -191,6 +191,9 @@ TEST(StatusPanelsTest, TellTheStepAtHandAndMoveTheBar) {
   EXPECT_LE(moves, time.elapsed() / 30) << "a timer may be early";
   panels.EndRun(CompileOutcome::kFailed);
   EXPECT_TRUE(progress.isHidden());
+  EXPECT_LT(progress.value(), progress.maximum());
+  panels.EndRun(CompileOutcome::kDone);
+  EXPECT_EQ(progress.value(), progress.maximum());
 }
 
 TEST(BackgroundWorkTest, AnExceptionIsAnEndAndWhatIsBegunAnewCountsAlone) {

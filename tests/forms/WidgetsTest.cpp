@@ -225,6 +225,7 @@ TEST(FormUiTest, AFolderOfALibraryIsEnteredOrThatOfAnImportedText) {
   const std::string text = home.Write("text", "GEN 1:1 First\n");
   FormUi ui;
   WhenShown<QInputDialog>([](QInputDialog& box) {
+    EXPECT_EQ(FromQt(box.windowTitle() + box.labelText() + box.textValue()), "titlepromptC:\\");
     box.setTextValue(QStringLiteral("/pasted/\r\n"));
     box.accept();
   });
@@ -234,6 +235,7 @@ TEST(FormUiTest, AFolderOfALibraryIsEnteredOrThatOfAnImportedText) {
       form.findChild<QLineEdit*>("txtPath")->setText(ToQt(text));
       QTest::keyClick(form.findChild<QLineEdit*>("txtPath"), Qt::Key_Return);
       EXPECT_TRUE(QTest::qWaitFor([&] { return !form.IsBusy(); }));
+      EXPECT_EQ(FromQt(form.findChild<QLineEdit*>("txtStem")->placeholderText()), "TEXT");
       form.findChild<QPushButton*>("cmdImport")->click();
     });
     box.findChild<QPushButton*>("cmdImport")->click();

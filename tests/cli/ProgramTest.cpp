@@ -69,7 +69,7 @@ TEST(ProgramTest, ATerminalSeesAStepEach40Milliseconds) {
   for (const std::string& part : CompileSmall({"--start-book=66"})) line.back() += part + " ";
   std::vector<std::string> steps;
   // A fast machine comes to a second step with a long text only.
-  for (const std::size_t length : {0, 200000, 800000}) {
+  for (const std::size_t length : {std::size_t{0}, std::size_t{200000}, std::size_t{800000}}) {
     std::string verses;
     std::istringstream lines(library);
     for (std::string verse; std::getline(lines, verse, '\r'); lines.get()) {

@@ -116,7 +116,7 @@ int OpenForms(QApplication& app, const Arguments& arguments) {
   }
 }
 
-int Run(int argc, char** argv) {
+int RunProgram(int argc, char** argv) {
   // A limit on the size of files is a failure of the write that meets it, like a full disk.
   std::signal(SIGXFSZ, SIG_IGN);
   const auto arguments = ParseArguments(argc, argv);
@@ -140,7 +140,7 @@ int Run(int argc, char** argv) {
 }  // namespace folionet
 
 int main(int argc, char** argv) {
-  const int status = folionet::Run(argc, argv);
+  const int status = folionet::RunProgram(argc, argv);
   folionet::EndWhereTasksRun(status);
   return status;
 }

@@ -1,5 +1,7 @@
 // Builds titles from any template and any words, and once more by plain replacing, one occurrence after the other.
 
+#include <algorithm>
+
 #include "BuildTitles.h"
 #include "FuzzFiles.h"
 #include "SilentUi.h"
@@ -35,6 +37,9 @@ Replacing PlainTitle(const std::vector<std::string>& parts, const VerseCounts& c
   int replacements = 0;
   Replacing result = ReplaceOneByOne(text, "%bible%", parts[1], replacements);
   if (result == Replacing::kDone) result = ReplaceOneByOne(text, "%bk%", parts[2], replacements);
+  // A number has no control characters.
+  std::replace_if(
+      text.begin(), text.end(), [](unsigned char c) { return c < 0x20 || c == 0x7F; }, ' ');
   if (result == Replacing::kDone) result = ReplaceOneByOne(text, "%ch%", parts[3], replacements);
   if (result != Replacing::kDone) return result;
   return ReplaceOneByOne(text, "%vs%", "1-" + counts.GetVSCnt(parts[2], parts[3], ui), replacements);

@@ -164,7 +164,8 @@ void CountBooks(const ImportedBible& bible, LibraryPlan& plan) {
 // The titles of pages, and which books have had other ones.
 BookTitleList ChooseTitles(const ImportedBible& bible, const LibraryRequest& request, LibraryPlan& plan) {
   BookTitleList given = request.titlesFile.empty() ? bible.titles : ReadTitlesFile(request.titlesFile);
-  const auto before = plan.replaced ? ReadTitlesIfSound(plan.library.Sysdefs(plan.replaced->titles)) : std::nullopt;
+  if (!plan.replaced) return MakePageTitles(given, plan.text.language);
+  const auto before = ReadTitlesIfSound(plan.library.Sysdefs(plan.replaced->titles));
   if (!before) return MakePageTitles(given, plan.text.language);
   if (request.titlesFile.empty()) given = KeepTitles(std::move(given), *before, plan.replaced->language);
   BookTitleList titles = MakePageTitles(given, plan.text.language);

@@ -5,6 +5,7 @@
 #include <QEvent>
 #include <QScreen>
 #include <QScrollBar>
+#include <QTimer>
 #include <algorithm>
 
 namespace folionet {
@@ -58,7 +59,7 @@ bool ContentScroll::eventFilter(QObject* watched, QEvent* event) {
   if (isChanged) KeepOffBar();
   // Once the content has laid out its parts.
   const bool isMoved = isChanged || (watched == widget() && event->type() == QEvent::Resize);
-  if (isMoved) QMetaObject::invokeMethod(this, &ContentScroll::KeepFocusSeen, Qt::QueuedConnection);
+  if (isMoved) QTimer::singleShot(0, this, &ContentScroll::KeepFocusSeen);
   return isDone;
 }
 

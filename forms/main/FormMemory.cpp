@@ -82,7 +82,13 @@ QString FormMemory::Text(const QString& key) const {
 
 void FormMemory::Place(QWidget& window) {
   const QByteArray place = QByteArray::fromBase64(Text(window.objectName()).toLatin1());
-  if (!place.isEmpty()) window.restoreGeometry(place);
+  const QWidget* owner = window.parentWidget() == nullptr ? nullptr : window.parentWidget()->window();
+  if (!place.isEmpty()) {
+    window.restoreGeometry(place);
+  } else if (owner != nullptr && owner->isVisible()) {
+    const QSize wanted = window.testAttribute(Qt::WA_Resized) ? window.size() : window.sizeHint();
+    window.resize(wanted.boundedTo(owner->size()));  // at first no larger than the form that it belongs to
+  }
   FitToScreen(window);
 }
 

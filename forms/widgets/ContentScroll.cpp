@@ -5,7 +5,6 @@
 #include <QEvent>
 #include <QScreen>
 #include <QScrollBar>
-#include <QTimer>
 #include <algorithm>
 
 namespace folionet {
@@ -25,6 +24,9 @@ ContentScroll::ContentScroll(QWidget* parent) : QScrollArea(parent) {
   setFocusPolicy(Qt::NoFocus);
   viewport()->setAutoFillBackground(false);
   setBackgroundRole(QPalette::Window);
+  m_moved.setSingleShot(true);
+  m_moved.setInterval(0);
+  connect(&m_moved, &QTimer::timeout, this, &ContentScroll::KeepFocusSeen);
   // Qt scrolls for the Tab key alone, not for an Alt key nor for a form that gives the focus.
   connect(qApp, &QApplication::focusChanged, this, &ContentScroll::KeepFocusSeen);
 }
@@ -57,9 +59,8 @@ bool ContentScroll::eventFilter(QObject* watched, QEvent* event) {
   if (isChanged) updateGeometry();
   const bool isDone = QScrollArea::eventFilter(watched, event);
   if (isChanged) KeepOffBar();
-  // Once the content has laid out its parts.
   const bool isMoved = isChanged || (watched == widget() && event->type() == QEvent::Resize);
-  if (isMoved) QTimer::singleShot(0, this, &ContentScroll::KeepFocusSeen);
+  if (isMoved) m_moved.start();
   return isDone;
 }
 

@@ -2,6 +2,7 @@
 
 #include <QDialog>
 #include <QScrollArea>
+#include <QTimer>
 
 namespace folionet {
 
@@ -36,6 +37,8 @@ class ContentScroll : public QScrollArea {
   int BarRoom() const;
   void KeepOffBar();  // room between the content and a scroll bar that is there
   void KeepFocusSeen();
+
+  QTimer m_moved;  // once the content has laid out its parts
 };
 
 // Makes all of a dialog scroll but the last row of its layout, which holds its buttons.

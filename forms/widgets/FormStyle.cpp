@@ -42,7 +42,9 @@ class OutlineStyle : public QProxyStyle {
     }
     const bool isPart = widget != nullptr && !widget->isWindow();
     if (element == PE_Frame && option != nullptr && isPart && qobject_cast<const QFrame*>(widget) != nullptr) {
-      return DrawFrame(*option, *painter);
+      DrawFrame(*option, *painter);
+      if (qobject_cast<const QAbstractScrollArea*>(widget) != nullptr) FillFrame(*option, *painter);
+      return;
     }
     if (drawsOutline && (element == PE_FrameLineEdit || element == PE_Frame)) {
       if (const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option)) {
@@ -103,6 +105,13 @@ class OutlineStyle : public QProxyStyle {
     constexpr int kBeside = 4;
     const QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
     return type == CT_PushButton ? size + QSize(2 * kBeside, 0) : size;
+  }
+
+  // A ring for the focus is not half under what scrolls.
+  int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override {
+    const bool isOfScrolled =
+        metric == PM_DefaultFrameWidth && qobject_cast<const QAbstractScrollArea*>(widget) != nullptr;
+    return isOfScrolled ? static_cast<int>(kRingWidth) : QProxyStyle::pixelMetric(metric, option, widget);
   }
 
   // The buttons of boxes look like those of the forms, which have none.
@@ -180,11 +189,20 @@ class OutlineStyle : public QProxyStyle {
     for (const QRect& side : QRegion(all).subtracted(within)) painter.fillRect(side, line.lighter(kLightening));
   }
 
+  // What the ring has room in is of the colour of what it goes around.
+  static void FillFrame(const QStyleOption& option, QPainter& painter) {
+    const QRect within = option.rect.adjusted(1, 1, -1, -1);
+    const int width = static_cast<int>(kRingWidth) - 1;
+    const QRegion room = QRegion(within).subtracted(within.adjusted(width, width, -width, -width));
+    for (const QRect& side : room) painter.fillRect(side, option.palette.color(QPalette::Base));
+  }
+
   // Over the style's own frame, which lies under the title.
   void DrawGroupFrame(const QStyleOption& option, QPainter& painter) const {
     constexpr int kGap = 3;
     constexpr qreal kRadius = 2;
-    const int title = std::max(pixelMetric(PM_ExclusiveIndicatorHeight), option.fontMetrics.height()) + kGap;
+    const int title =
+        std::max(QProxyStyle::pixelMetric(PM_ExclusiveIndicatorHeight), option.fontMetrics.height()) + kGap;
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     const QPalette& palette = option.palette;

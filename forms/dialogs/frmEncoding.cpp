@@ -135,11 +135,12 @@ frmEncoding::HtmlTexts frmEncoding::ReadHtml() const {
 // A file that was read in a wrong charset is read right in the new one.
 void frmEncoding::TakeHtml(const HtmlTexts& before) {
   const HtmlTexts now = ReadHtml();
-  PageTexts& texts = m_state.texts;
-  std::string* const shared[] = {&texts.CustomHeader, &texts.CustomFooter};
-  for (std::size_t i = 0; i < now.size(); ++i) {
-    if (now[i] && before[i] && *shared[i] == *before[i]) *shared[i] = *now[i];
-  }
+  const auto take = [](const std::optional<std::string>& old, const std::optional<std::string>& read,
+                       std::string& shared) {
+    if (old && read && shared == *old) shared = *read;
+  };
+  take(before[0], now[0], m_state.texts.CustomHeader);
+  take(before[1], now[1], m_state.texts.CustomFooter);
 }
 
 void frmEncoding::AddNew() {

@@ -264,6 +264,12 @@ TEST_F(Texts, OpenWithinTheScreen) {
   const QSize smallest = m_form->minimumSizeHint();
   EXPECT_TRUE(smallest.boundedTo(kSmallest - kAround) == smallest || !HasLetters())
       << smallest.width() << " x " << smallest.height();
+  m_form->resize(smallest);
+  QWidget& meta = Get("frmKeywords.");
+  meta.show();
+  EXPECT_LE(meta.height(), m_form->height()) << "no dialog is larger than the form at first";
+  meta.resize(meta.sizeHint());
+  m_form->resize(m_form->sizeHint());
   for (QDialog* dialog : m_form->findChildren<QDialog*>()) {
     dialog->show();
     QApplication::processEvents();

@@ -17,7 +17,6 @@
 #include "Session.h"
 #include "StoredSettings.h"
 #include "TextDecoder.h"
-#include "TitleLanguages.h"
 
 namespace folionet {
 namespace {
@@ -72,19 +71,6 @@ void RefuseWrongArguments(const ImportArguments& arguments, const LibraryRequest
   }
 }
 
-void TellFindings(const ImportedBible& bible, ConsoleUi& ui) {
-  for (const Finding& finding : bible.findings.Kept()) ui.Remark(finding);
-  if (const std::size_t more = bible.findings.Count() - bible.findings.Kept().size(); more != 0) {
-    ui.Tell("And " + std::to_string(more) + " more.");
-  }
-  for (const LeftOutBook& book : bible.leftOut) {
-    ui.Remark(
-        {.kind = "left-out-book",
-         .severity = Severity::kNote,
-         .what = {"Left out, as it is none of the 66 books: %1 (%2)", {book.name, Counted(book.verses, "verse")}}});
-  }
-}
-
 // The code that pages declare of a text that names no language; empty where the settings have none that can be read.
 std::string LanguageOfSettings() {
   try {
@@ -94,60 +80,18 @@ std::string LanguageOfSettings() {
   }
 }
 
-// Where the text did not name it.
-void TellLanguage(const LibraryPlan& plan, ConsoleUi& ui) {
-  const auto tell = [&](const std::string& how) {
-    ui.Remark(
-        {.kind = "language",
-         .severity = Severity::kNote,
-         .what = {"The text names no language%1 with --language CODE; \"folionet-cli list codes\" shows the codes.",
-                  {how}}});
-  };
-  switch (plan.languageFrom) {
-    case LanguageSource::kNone: {
-      const std::string code = LanguageOfSettings();
-      return tell((code.empty() ? "" : "; its pages declare " + code + ", that of the settings") + ". Name it");
+// A warning that a person can do something about is told always, the others unless fewer words are asked for.
+void TellFindings(const LibraryPlan& plan, ConsoleUi& ui) {
+  for (const Finding& finding : plan.findings) {
+    const bool hasRemedy = !finding.remedy.IsEmpty();
+    if (finding.severity == Severity::kWarning && hasRemedy) {
+      ui.Warn(finding);
+    } else if (!ui.IsQuiet() || ui.IsJson()) {
+      Finding told = finding;
+      if (hasRemedy) told.what = {"%1 %2", {finding.what.InEnglish(), finding.remedy.InEnglish()}};
+      told.remedy = {};
+      ui.Remark(told);
     }
-    case LanguageSource::kScript:
-      return tell("; by its letters it is " + plan.text.language + ". Name another");
-    case LanguageSource::kReplaced:
-      return tell("; it stays " + plan.text.language + ", as before. Name another");
-    case LanguageSource::kTitles:
-      return tell("; by its book titles it is " + plan.text.language + ". Name another");
-    case LanguageSource::kGiven:
-    case LanguageSource::kText:
-      break;
-  }
-}
-
-// Where the pages of a site that is there get other names.
-void TellNewNames(const LibraryPlan& plan, Severity severity, ConsoleUi& ui) {
-  if (plan.renamed.empty()) return;
-  const auto& [before, now] = plan.renamed.front();
-  Finding finding{.kind = "renamed-books",
-                  .severity = severity,
-                  .what = {"%1 of the translation that is replaced had another name, such as %2, now %3: their pages "
-                           "get other addresses.",
-                           {Counted(plan.renamed.size(), "book"), before, now}}};
-  if (severity == Severity::kNote) return ui.Remark(finding);
-  finding.remedy = {"Give the names as they were with --titles BOOKS_FILE."};
-  ui.Warn(finding);
-}
-
-// Where pages have English names of books, and their text is in another language.
-void TellTitles(const ImportedBible& bible, const LibraryPlan& plan, ConsoleUi& ui) {
-  const bool isEnglish = &NearestLanguage("en") == &NearestLanguage(plan.text.language);
-  if (!isEnglish || plan.text.language.empty() || plan.text.language.substr(0, plan.text.language.find('-')) == "en") {
-    return;
-  }
-  for (std::size_t i = 0; i < bible.VerseCount(); ++i) {
-    const auto book = static_cast<std::size_t>(bible.VerseAt(i).book);
-    if (!bible.titles[book].empty()) continue;
-    return ui.Remark(
-        {.kind = "book-names",
-         .severity = Severity::kNote,
-         .what = {"The text does not name all of its books; the names of the others are English. Name them "
-                  "with --titles BOOKS_FILE."}});
   }
 }
 
@@ -205,19 +149,10 @@ ExitStatus RunImport(const CommonOptions& common, const ImportArguments& argumen
   RefuseWrongArguments(arguments, request);
   try {
     StoredSettings(StoredSettings::DefaultFolder()).FinishChange();
+    request.pageLanguage = LanguageOfSettings();
     const ImportedBible bible = ReadBible({arguments.paths, arguments.charset});
     const LibraryPlan plan = ImportLibrary(bible, request, arguments.dryRun ? Doing::kPlan : Doing::kChange);
-    const bool isTold = !common.quiet || common.json;
-    if (arguments.titles.empty()) {
-      TellNewNames(plan, Severity::kWarning, ui);
-    } else if (isTold) {
-      TellNewNames(plan, Severity::kNote, ui);
-    }
-    if (isTold) {
-      TellFindings(bible, ui);
-      TellLanguage(plan, ui);
-      if (arguments.titles.empty() && !plan.replaced) TellTitles(bible, plan, ui);
-    }
+    TellFindings(plan, ui);
     if (common.json) ShowPlan(bible, plan, ui);
     ui.Sum(ResultLine(plan), Severity::kNote);
     if (arguments.dryRun) ui.Sum("Nothing was written.", Severity::kNote);

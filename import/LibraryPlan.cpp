@@ -8,6 +8,7 @@
 #include "FileNames.h"
 #include "FlowingText.h"
 #include "ImportError.h"
+#include "ImportFindings.h"
 #include "ImportedText.h"
 #include "LibraryTitles.h"
 #include "OwnLibrary.h"
@@ -249,6 +250,7 @@ LibraryPlan PlanLibrary(const ImportedBible& bible, const LibraryRequest& reques
   AddDeliveredTitles(plan);
   plan.catalogueBefore = catalogue.Content();
   plan.files.emplace_back(plan.catalogue, catalogue.With({CatalogueName(plan.text.name), plan.stem}));
+  plan.findings = FindingsOf(bible, request, plan);
   return plan;
 }
 

@@ -22,6 +22,7 @@ struct LibraryRequest {
   std::string titlesFile;  // path of a file of book titles to use; empty for the titles of the text, and, where it has
                            // none, those that the translation which is replaced was given
   std::string language;    // code of the text's language; empty for the one that it tells, or had before
+  std::string pageLanguage;  // code that pages declare of a text without one; empty where that is not known
   std::string fallbackName;
   bool replace = false;  // a translation of the same name or stem, and its files, are replaced
 };
@@ -41,6 +42,7 @@ struct LibraryPlan {
   std::optional<ImportedText> replaced;                      // what was known of it, where it was imported
   std::vector<std::pair<std::string, std::string>> renamed;  // books of the text: their titles in it, and now
   LanguageSource languageFrom = LanguageSource::kNone;
+  std::vector<Finding> findings;  // what a person is told; the remedies are those of the command line
 
   std::string verseFile;                                   // its path; WriteVerses gives its content
   std::string catalogue;                                   // its path

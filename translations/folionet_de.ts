@@ -32,10 +32,6 @@
         <translation>Die Bibliothek enthält eine Übersetzung mit diesem Stamm. Sie würde ersetzt.</translation>
     </message>
     <message>
-        <source>Left out, as it is none of the 66 books: %1 (verses: %2)</source>
-        <translation>Ausgelassen, weil es keins der 66 Bücher ist: %1 (Verse: %2)</translation>
-    </message>
-    <message>
         <source>And %1 more.</source>
         <translation>Und %1 weitere.</translation>
     </message>
@@ -270,6 +266,46 @@
     <message>
         <source>a text without entities of its own was expected: %1</source>
         <translation>ein Text ohne eigene Entitäten wurde erwartet: %1</translation>
+    </message>
+    <message>
+        <source>%1 book of the translation that is replaced had another name, such as %2, now %3: their pages get other addresses.</source>
+        <translation>%1 Buch der Übersetzung, die ersetzt wird, hieß anders, etwa %2, jetzt %3: Die Seiten bekommen andere Adressen.</translation>
+    </message>
+    <message>
+        <source>%1 books of the translation that is replaced had another name, such as %2, now %3: their pages get other addresses.</source>
+        <translation>%1 Bücher der Übersetzung, die ersetzt wird, hießen anders, etwa %2, jetzt %3: Ihre Seiten bekommen andere Adressen.</translation>
+    </message>
+    <message>
+        <source>The text names no language.</source>
+        <translation>Der Text nennt keine Sprache.</translation>
+    </message>
+    <message>
+        <source>The text names no language; its pages declare %1, that of the settings.</source>
+        <translation>Der Text nennt keine Sprache; seine Seiten geben %1 an, die der Einstellungen.</translation>
+    </message>
+    <message>
+        <source>The text names no language; by its letters it is %1.</source>
+        <translation>Der Text nennt keine Sprache; nach seinen Buchstaben ist es %1.</translation>
+    </message>
+    <message>
+        <source>The text names no language; it stays %1, as before.</source>
+        <translation>Der Text nennt keine Sprache; es bleibt %1, wie bisher.</translation>
+    </message>
+    <message>
+        <source>The text names no language; by its book titles it is %1.</source>
+        <translation>Der Text nennt keine Sprache; nach seinen Buchtiteln ist es %1.</translation>
+    </message>
+    <message>
+        <source>Left out, as it is none of the 66 books: %2 (%1 verse)</source>
+        <translation>Ausgelassen, weil es keins der 66 Bücher ist: %2 (%1 Vers)</translation>
+    </message>
+    <message>
+        <source>Left out, as it is none of the 66 books: %2 (%1 verses)</source>
+        <translation>Ausgelassen, weil es keins der 66 Bücher ist: %2 (%1 Verse)</translation>
+    </message>
+    <message>
+        <source>The text does not name all of its books; the names of the others are English.</source>
+        <translation>Der Text nennt nicht alle seine Bücher; die Namen der übrigen sind englisch.</translation>
     </message>
 </context>
 <context>

@@ -32,10 +32,6 @@
         <translation>La biblioteca contiene una traducción con esta raíz. Sería sustituida.</translation>
     </message>
     <message>
-        <source>Left out, as it is none of the 66 books: %1 (verses: %2)</source>
-        <translation>Omitido, porque no es ninguno de los 66 libros: %1 (versículos: %2)</translation>
-    </message>
-    <message>
         <source>And %1 more.</source>
         <translation>Y %1 más.</translation>
     </message>
@@ -270,6 +266,46 @@
     <message>
         <source>a text without entities of its own was expected: %1</source>
         <translation>se esperaba un texto sin entidades propias: %1</translation>
+    </message>
+    <message>
+        <source>%1 book of the translation that is replaced had another name, such as %2, now %3: their pages get other addresses.</source>
+        <translation>%1 libro de la traducción que se sustituye tenía otro nombre, como %2, ahora %3: sus páginas reciben otras direcciones.</translation>
+    </message>
+    <message>
+        <source>%1 books of the translation that is replaced had another name, such as %2, now %3: their pages get other addresses.</source>
+        <translation>%1 libros de la traducción que se sustituye tenían otro nombre, como %2, ahora %3: sus páginas reciben otras direcciones.</translation>
+    </message>
+    <message>
+        <source>The text names no language.</source>
+        <translation>El texto no indica ningún idioma.</translation>
+    </message>
+    <message>
+        <source>The text names no language; its pages declare %1, that of the settings.</source>
+        <translation>El texto no indica ningún idioma; sus páginas declaran %1, el de la configuración.</translation>
+    </message>
+    <message>
+        <source>The text names no language; by its letters it is %1.</source>
+        <translation>El texto no indica ningún idioma; por sus letras es %1.</translation>
+    </message>
+    <message>
+        <source>The text names no language; it stays %1, as before.</source>
+        <translation>El texto no indica ningún idioma; sigue siendo %1, como antes.</translation>
+    </message>
+    <message>
+        <source>The text names no language; by its book titles it is %1.</source>
+        <translation>El texto no indica ningún idioma; por los títulos de sus libros es %1.</translation>
+    </message>
+    <message>
+        <source>Left out, as it is none of the 66 books: %2 (%1 verse)</source>
+        <translation>Omitido, porque no es ninguno de los 66 libros: %2 (%1 versículo)</translation>
+    </message>
+    <message>
+        <source>Left out, as it is none of the 66 books: %2 (%1 verses)</source>
+        <translation>Omitido, porque no es ninguno de los 66 libros: %2 (%1 versículos)</translation>
+    </message>
+    <message>
+        <source>The text does not name all of its books; the names of the others are English.</source>
+        <translation>El texto no nombra todos sus libros; los nombres de los demás están en inglés.</translation>
     </message>
 </context>
 <context>

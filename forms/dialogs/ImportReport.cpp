@@ -15,7 +15,7 @@ class Import {
   Q_DECLARE_TR_FUNCTIONS(Import)
 
  public:
-  static QStringList Facts(const ImportedBible& bible, const LibraryPlan& plan) {
+  static QStringList Facts(const LibraryPlan& plan) {
     const QString code = ToQt(plan.text.language);
     const QLocale language(code);
     QString shown = tr("not told by the text");
@@ -29,16 +29,9 @@ class Import {
                       tr("Stem of its files: %1").arg(ToQt(plan.stem)),
                       tr("Library: %1").arg(ToQt(plan.library.Folder()))};
     if (plan.replaces) lines += tr("The library holds a translation with this stem. It would be replaced.");
-    for (const LeftOutBook& book : bible.leftOut) {
-      lines += tr("Left out, as it is none of the 66 books: %1 (verses: %2)")
-                   .arg(ToQt(book.name), locale.toString(static_cast<qulonglong>(book.verses)));
-    }
     return lines;
   }
 
-  static QString More(std::size_t count) {
-    return tr("And %1 more.").arg(QLocale().toString(static_cast<qulonglong>(count)));
-  }
   static QString Line(std::size_t line) { return tr("line %1").arg(static_cast<qulonglong>(line)); }
   static QString Nothing() { return tr("Nothing was written."); }
 };
@@ -50,15 +43,13 @@ QString OfImport(const Sentence& sentence) {
   return ToQt(Sentence{pattern.constData(), sentence.arguments}.InEnglish());
 }
 
-QString FoundInText(const ImportedBible& bible, const LibraryPlan& plan) {
-  QStringList lines = Import::Facts(bible, plan);
-  for (const Finding& finding : bible.findings.Kept()) {
+QString FoundInText(const LibraryPlan& plan) {
+  QStringList lines = Import::Facts(plan);
+  for (const Finding& finding : plan.findings) {
     QString where = ToQt(finding.file);
     if (finding.line != 0) where += ", " + Import::Line(finding.line);
     lines += where.isEmpty() ? OfImport(finding.what) : where + ": " + OfImport(finding.what);
   }
-  const std::size_t more = bible.findings.Count() - bible.findings.Kept().size();
-  if (more != 0) lines += Import::More(more);
   return lines.join('\n');
 }
 

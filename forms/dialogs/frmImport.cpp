@@ -174,7 +174,7 @@ void frmImport::ShowFound() {
   const LibraryPlan& plan = *m_import.CurrentPlan();
   m_ui->txtStem->setPlaceholderText(ToQt(plan.stem));
   DressBoxes(*this);  // it has a hint only now
-  m_ui->txtFound->setPlainText(FoundInText(*m_import.Bible(), plan));
+  m_ui->txtFound->setPlainText(FoundInText(plan));
 }
 
 void frmImport::ShowStep() {

@@ -29,14 +29,10 @@ std::string_view Between(std::string_view text, std::string_view before, std::st
   return end == std::string_view::npos ? std::string_view() : text.substr(0, end);
 }
 
-// What is to be read of a file: whether it is an index page of ours, whose name is then told, or the name in any case.
-enum class Look { kKind, kName };
-
 // A file of the folder, as far as it has been read.
 struct OldFile {
   bool isFolder = false;
   bool isOurs = false;
-  bool isIndex = false;
   std::string translation;  // UTF-8; empty when the page does not tell it
   std::string head;
 };
@@ -51,7 +47,7 @@ std::string_view NameInIndex(std::string_view page) {
   return heading.empty() ? Between(body, "<u>", "<br><br></u>") : heading;
 }
 
-OldFile ReadOldFile(int folder, const char* name, Look look) {
+OldFile ReadOldFile(int folder, const char* name) {
   constexpr std::size_t kLongestHead = std::size_t{64} << 10;
   OldFile old;
   const FileHandle file = FileHandle::OpenAt(folder, name, O_RDONLY | O_NONBLOCK | O_NOFOLLOW);
@@ -61,14 +57,12 @@ OldFile ReadOldFile(int folder, const char* name, Look look) {
   std::string& head = old.head;
   if (!S_ISREG(status.st_mode) || !ReadAll(file.Get(), head, kGeneratorHead, 0)) return old;
   old.isOurs = IsOurPage(head);
-  old.isIndex = old.isOurs && Between(head, kGenerator, "\"") != kChapterVersion;
-  if (!old.isOurs || (look == Look::kKind && !old.isIndex) ||
-      !ReadAll(file.Get(), head, std::min(kLongestHead, static_cast<std::size_t>(status.st_size)), 0)) {
-    return old;
-  }
+  const std::size_t length = std::min(kLongestHead, static_cast<std::size_t>(status.st_size));
+  if (!old.isOurs || (length > head.size() && !ReadAll(file.Get(), head, length, 0))) return old;
+  const bool isIndex = Between(head, kGenerator, "\"") != kChapterVersion;
   const CodePage codePage{std::string(Between(head, "charset=", "\""))};
   // The link of another page back to the index page tells it, in its first form.
-  old.translation = codePage.DecodeForDisplay(old.isIndex ? NameInIndex(head) : Between(head, "Main Index: ", "<"));
+  old.translation = codePage.DecodeForDisplay(isIndex ? NameInIndex(head) : Between(head, "Main Index: ", "<"));
   return old;
 }
 
@@ -83,12 +77,10 @@ std::string StartOfStyleSheet(const CompileRequest& request) {
 
 std::optional<FolderFacts> LookIntoFolder(const std::string& folder, const WrittenFiles& written,
                                           const std::function<bool()>& isWanted) {
-  constexpr std::size_t kAskedPages = 100;  // one in its first form among them is enough
   FolderFacts facts;
   FolderReader reader(folder.c_str());
   if (!reader.IsOpen()) return facts;
   facts.isThere = true;
-  std::set<std::string> ofIndexPages;
   while (const dirent* const entry = reader.Next()) {
     if (!isWanted()) return std::nullopt;
     const std::string name = entry->d_name;
@@ -100,22 +92,18 @@ std::optional<FolderFacts> LookIntoFolder(const std::string& folder, const Writt
     const bool isWritten = of != written.end();
     OldFile old;
     const bool isFile = entry->d_type == DT_REG || entry->d_type == DT_UNKNOWN;
-    if (isFile && (isWritten || IsHtmlName(name))) {
-      const bool isNameWanted = facts.translations.empty() && facts.pages < kAskedPages;
-      old = ReadOldFile(reader.Descriptor(), entry->d_name, isNameWanted ? Look::kName : Look::kKind);
-    }
+    if (isFile && (isWritten || IsHtmlName(name))) old = ReadOldFile(reader.Descriptor(), entry->d_name);
     if (old.isFolder) {
       facts.hasFolders = true;
     } else if (old.isOurs) {
       ++facts.pages;
-      if (!old.translation.empty()) (old.isIndex ? ofIndexPages : facts.translations).insert(old.translation);
+      if (!old.translation.empty()) ++facts.translations[old.translation];
     } else if (isWritten) {
       if (of->second.empty() || !old.head.starts_with(of->second)) facts.replaced.push_back(name);
     } else {
       ++facts.others;
     }
   }
-  if (!ofIndexPages.empty()) facts.translations = std::move(ofIndexPages);
   return facts;
 }
 
@@ -140,7 +128,7 @@ std::string TranslationOfSite(const CompileRequest& request, const PageNames& na
   for (const std::string& name :
        {IndexFileName(request.options.txthttpRoot), names.OnDisk(request.cboStartBook + 1, 1)}) {
     if (name.empty() || name.find('/') != std::string::npos) continue;
-    const OldFile old = ReadOldFile(folder.Get(), name.c_str(), Look::kName);
+    const OldFile old = ReadOldFile(folder.Get(), name.c_str());
     if (!old.translation.empty()) return old.translation;
   }
   return {};

@@ -4,7 +4,6 @@
 #include <functional>
 #include <map>
 #include <optional>
-#include <set>
 #include <string>
 #include <vector>
 
@@ -21,12 +20,12 @@ using WrittenFiles = std::map<std::string, std::string>;
 
 // What lies in an output folder before a compile, as a person wants to know it before anything is written.
 struct FolderFacts {
-  bool isThere = false;                // whether there is such a folder, and it can be read
-  std::size_t pages = 0;               // of an earlier compile: files with our GENERATOR line
-  std::set<std::string> translations;  // the names that those pages tell (UTF-8): of all index pages, else of one page
-  std::vector<std::string> replaced;   // files that are not ours and bear names that the compile will write
-  std::size_t others = 0;              // all other files; they stay untouched
-  bool hasFolders = false;             // which stay untouched too
+  bool isThere = false;                             // whether there is such a folder, and it can be read
+  std::size_t pages = 0;                            // of an earlier compile: files with our GENERATOR line
+  std::map<std::string, std::size_t> translations;  // the names that those pages tell (UTF-8), and how many do
+  std::vector<std::string> replaced;  // files that are not ours and bear names that the compile will write
+  std::size_t others = 0;             // all other files; they stay untouched
+  bool hasFolders = false;            // which stay untouched too
 };
 
 // Looks through a folder. `written` are the names that the compile will write, as FilesOfSite gives them. A folder of

@@ -77,12 +77,22 @@ class FactFinder {
   }
 
  private:
+  // Several are told with their pages.
   void FindOtherTranslation() {
     const CodePage codePage(m_request.texts.PageCharset);
     const std::string there = TranslationOfSite(m_request, m_names);
     if (there.empty() || there == codePage.DecodeForDisplay(m_request.options.txtBibleSel)) return;
+    const auto facts = LookIntoFolder(m_request.txtOutputPath, {}, [] { return true; }).value_or(FolderFacts());
+    Sentence what{Words("QObject", "The folder holds pages of another translation: %1."), {there}};
+    if (facts.translations.size() > 1) {
+      std::string names;
+      for (const auto& [name, pages] : facts.translations) {
+        names += (names.empty() ? "" : ", ") + name + " (" + std::to_string(pages) + ")";
+      }
+      what = {Words("QObject", "The folder holds pages of several translations: %1."), {names}};
+    }
     m_facts.push_back(Warning(
-        "other-translation", {Words("QObject", "The folder holds pages of another translation: %1."), {there}},
+        "other-translation", std::move(what),
         {"Pages of the same names are written over; choose another folder with --output if that is not meant."}));
   }
 

@@ -746,6 +746,10 @@ Jetzt %3 wählen?</translation>
         <source>The index page %1 takes the place of a chapter&apos;s page, %2, where the letter case of names does not count, as on Windows.</source>
         <translation>Die Indexseite %1 nimmt den Platz der Seite eines Kapitels, %2, ein, wo die Groß- und Kleinschreibung von Namen nicht zählt, etwa unter Windows.</translation>
     </message>
+    <message>
+        <source>The folder holds pages of several translations: %1.</source>
+        <translation>Der Ordner enthält Seiten mehrerer Übersetzungen: %1.</translation>
+    </message>
 </context>
 <context>
     <name>folionet::CommandCopy</name>
@@ -858,6 +862,14 @@ Jetzt %3 wählen?</translation>
     <message>
         <source>Choose &quot;%1&quot; in Page Encoding.</source>
         <translation>Wählen Sie „%1“ unter „Page Encoding“.</translation>
+    </message>
+    <message>
+        <source>without a name: %1</source>
+        <translation>ohne Namen: %1</translation>
+    </message>
+    <message>
+        <source>%1 pages of earlier compiles (%2)</source>
+        <translation>%1 Seiten früherer Läufe (%2)</translation>
     </message>
 </context>
 <context>

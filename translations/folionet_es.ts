@@ -746,6 +746,10 @@ Otro nombre para cboLang en %2, como %3, permite que el programa vuelva a arranc
         <source>The index page %1 takes the place of a chapter&apos;s page, %2, where the letter case of names does not count, as on Windows.</source>
         <translation>La página de índice %1 ocupa el lugar de la página de un capítulo, %2, donde las mayúsculas de los nombres no cuentan, como en Windows.</translation>
     </message>
+    <message>
+        <source>The folder holds pages of several translations: %1.</source>
+        <translation>La carpeta contiene páginas de varias traducciones: %1.</translation>
+    </message>
 </context>
 <context>
     <name>folionet::CommandCopy</name>
@@ -858,6 +862,14 @@ Otro nombre para cboLang en %2, como %3, permite que el programa vuelva a arranc
     <message>
         <source>Choose &quot;%1&quot; in Page Encoding.</source>
         <translation>Elija «%1» en «Page Encoding».</translation>
+    </message>
+    <message>
+        <source>without a name: %1</source>
+        <translation>sin nombre: %1</translation>
+    </message>
+    <message>
+        <source>%1 pages of earlier compiles (%2)</source>
+        <translation>%1 páginas de compilaciones anteriores (%2)</translation>
     </message>
 </context>
 <context>

@@ -28,15 +28,23 @@ bool HasAllBooks(const ModGlob& glob) { return glob.cboStartBook.size() >= stati
 
 QString Number(std::size_t number) { return QLocale().toString(static_cast<qulonglong>(number)); }
 
+// Pages of several texts, or such as name none, are counted by their names.
 QString PagesText(const FolderFacts& facts) {
-  QStringList names;
-  for (const std::string& name : facts.translations) names << ToQt(name);
+  if (facts.pages == 1) return FactLines::tr("1 page of an earlier compile");
   const QString count = Number(facts.pages);
-  if (names.isEmpty() || facts.pages == 1) {
-    return facts.pages == 1 ? FactLines::tr("1 page of an earlier compile")
-                            : FactLines::tr("%1 pages of an earlier compile").arg(count);
+  if (facts.translations.empty()) return FactLines::tr("%1 pages of an earlier compile").arg(count);
+  QStringList names;
+  std::size_t unnamed = facts.pages;
+  for (const auto& [name, pages] : facts.translations) {
+    names << QStringLiteral("%1: %2").arg(ToQt(name), Number(pages));
+    unnamed -= pages;
   }
-  return FactLines::tr("%1 pages of an earlier compile of %2").arg(count, names.join(QStringLiteral(", ")));
+  if (unnamed == 0 && names.size() == 1) {
+    const QString name = ToQt(facts.translations.begin()->first);
+    return FactLines::tr("%1 pages of an earlier compile of %2").arg(count, name);
+  }
+  if (unnamed > 0) names << FactLines::tr("without a name: %1").arg(Number(unnamed));
+  return FactLines::tr("%1 pages of earlier compiles (%2)").arg(count, names.join(QStringLiteral(", ")));
 }
 
 QString ReplacedText(const FolderFacts& facts) {

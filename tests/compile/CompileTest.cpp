@@ -98,14 +98,15 @@ TEST(FolderFactsTest, TellWhatLiesInAFolder) {
     Texts more;
     Texts replaced;
     std::size_t others;
-    std::set<std::string> translations;
+    std::map<std::string, std::size_t> translations;
   } cases[] = {
       {{}, {}, {}, 0, {}},
       {{}, {"index.html", "genesis_1.html", "own.html"}, {"genesis_1.html", "index.html"}, 1, {}},
-      {{"defaults"}, {}, {}, 0, {"King James Version"}},
-      {{"style-sheet"}, {}, {}, 2, {"King James Version"}},
-      {{"russian"}, {"picture.png"}, {}, 1, {"Синодальный перевод"}},
-      {{"defaults"}, {"index.html"}, {"index.html"}, 0, {"King James Version"}},
+      {{"defaults"}, {}, {}, 0, {{"King James Version", 8}}},
+      {{"style-sheet"}, {}, {}, 2, {{"King James Version", 8}}},
+      {{"russian"}, {"picture.png"}, {}, 1, {{"Синодальный перевод", 4}}},
+      {{"defaults", "russian"}, {}, {}, 0, {{"King James Version", 7}, {"Синодальный перевод", 4}}},
+      {{"defaults"}, {"index.html"}, {"index.html"}, 0, {{"King James Version", 7}}},
   };
   for (const auto& c : cases) {
     const test::TemporaryFolder folder;

@@ -1,12 +1,15 @@
 #include "MakeFolders.h"
 
 #include <fcntl.h>
+#include <linux/magic.h>
 #include <sys/stat.h>
+#include <sys/vfs.h>
 #include <unistd.h>
 
 #include <cerrno>
 #include <climits>
 
+#include "FileHandle.h"
 #include "Paths.h"
 
 namespace folionet {
@@ -15,6 +18,15 @@ namespace {
 bool IsThere(const std::string& path) {
   struct stat status {};
   return stat(path.c_str(), &status) == 0;
+}
+
+// What a folder answers that is a view of the system itself, in which no person makes a file, whatever its mode says; 0
+// for one of a disk.
+int WhyMakesNone(const FileHandle& folder) {
+  struct statfs status {};
+  if (fstatfs(folder.Get(), &status) != 0) return 0;
+  if (status.f_type == PROC_SUPER_MAGIC) return ENOENT;
+  return status.f_type == SYSFS_MAGIC || status.f_type == DEVPTS_SUPER_MAGIC ? EACCES : 0;
 }
 
 }  // namespace
@@ -26,8 +38,10 @@ int WhyNotMake(int folder, const std::string& name) {
   const std::size_t slash = name.rfind('/') + 1;
   const std::string parent = slash == 0 ? "." : name.substr(0, slash);
   if (faccessat(folder, parent.c_str(), W_OK | X_OK, AT_EACCESS) != 0) return errno;
+  const FileHandle above = FileHandle::OpenAt(folder, parent.c_str(), O_PATH | O_DIRECTORY);
   // The current folder, or one that was opened, may have been deleted.
-  return fstatat(folder, parent.c_str(), &status, 0) == 0 && status.st_nlink == 0 ? ENOENT : 0;
+  if (above.IsOpen() && fstat(above.Get(), &status) == 0 && status.st_nlink == 0) return ENOENT;
+  return WhyMakesNone(above);
 }
 
 // What unlinkat and renameat refuse.

@@ -33,6 +33,11 @@ std::string BehindLinks(const std::string& path) {
   return path;
 }
 
+std::string FolderOf(const std::string& path) {
+  const std::size_t slash = path.rfind('/') + 1;
+  return slash == 0 ? "." : path.substr(0, slash);
+}
+
 // Looks at a file on its way to take the place of `path`, which could be opened or not, with errno set.
 void CheckOnItsWay(const FileHandle& file, const std::string& path, const std::string& name) {
   struct stat status {};
@@ -50,11 +55,9 @@ void CheckOnItsWay(const FileHandle& file, const std::string& path, const std::s
 }  // namespace
 
 Replacement::Replacement(const std::string& path, mode_t modeIfNew) : m_path(BehindLinks(path)), m_mode(modeIfNew) {
-  const std::size_t slash = m_path.rfind('/') + 1;
-  m_name = m_path.substr(slash);
+  m_name = m_path.substr(m_path.rfind('/') + 1);
   m_fresh = OnItsWay(m_name);
-  const std::string folder = slash == 0 ? "." : m_path.substr(0, slash);
-  m_folder = FileHandle::Open(folder.c_str(), O_PATH | O_DIRECTORY);
+  m_folder = FileHandle::Open(FolderOf(m_path).c_str(), O_PATH | O_DIRECTORY);
   if (!m_folder.IsOpen()) throw RunTimeError::FromErrno(errno, m_path);
   LookAtTarget();
   GetHold();
@@ -135,7 +138,7 @@ void TryReplacement(const std::string& path) {
   }
   const std::string fresh = OnItsWay(target);
   const int systemError = found == 0 || found == ENOENT ? WhyNotMake(AT_FDCWD, fresh) : found;
-  if (systemError == 0 || systemError == ENOENT) return;
+  if (systemError == 0 || (systemError == ENOENT && !FolderExists(FolderOf(fresh)))) return;
   if (systemError != EEXIST) throw RunTimeError::FromErrno(systemError, target);
   // One that a killed program left is used again; of another program's one the end is waited for.
   const FileHandle file = FileHandle::Open(fresh.c_str(), O_WRONLY | O_NOFOLLOW | O_NONBLOCK);

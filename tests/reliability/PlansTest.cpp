@@ -44,6 +44,7 @@ const Row kRows[] = {
     {"ANewFolderBelowOneThatMayNotBeWritten", "rm -r out; mkdir out", "chmod 555 out", {"--output=out/a/b"}},
     {"ANewFolderBelowAFile", "echo mine > file", "true", {"--output=file/a"}},
     {"AFileInThePlaceOfTheFolder", "echo mine > file", "true", {"--output=file"}},
+    {"AFolderThatIsNoDisks", "true", "true", {"--output=/proc/self/fd"}},
     {"ALinkToNoFolder", "ln -s none link", "true", {"--output=link/a"}},
     {"ANewFolderWithTooLongAName", "true", "true", {"--output=out/a/" + std::string(256, 'n')}},
     {"ANewPage", "rm out/exodus_1.html", "chmod 555 out"},

@@ -1,6 +1,5 @@
 #include "CompileCommand.h"
 
-#include <cstdio>
 #include <filesystem>
 #include <system_error>
 
@@ -95,14 +94,20 @@ void TellKept(const std::vector<std::string>& names, ConsoleUi& ui) {
   }
 }
 
-// What the run did, as the arguments ask for it.
-void PrintChanges(const CompileArguments& arguments, const SiteChanges& changes, ConsoleUi& ui) {
+// What the run did, as the arguments ask for it; false where a list that was asked for has not reached its reader.
+bool PrintChanges(const CompileArguments& arguments, const SiteChanges& changes, ConsoleUi& ui) {
   TellKept(changes.Kept(), ui);
-  if (!arguments.listChanged) return;
+  if (!arguments.listChanged) return true;
   for (const std::string& name : changes.New()) ui.Print(name);
   for (const std::string& name : changes.Changed()) ui.Print(name);
   for (const std::string& name : changes.pending) ui.Print(name);
+  // Apart from those, for nobody is to upload them.
+  bool isTold = ui.Flush();
+  for (const auto& names : {changes.Removed(), changes.pendingRemoved}) {
+    for (const std::string& name : names) isTold = ui.Tell("Removed: " + name) && isTold;
+  }
   if (!changes.trouble.empty()) ui.Tell("Warning: a list that is lost cannot be told again: " + changes.trouble);
+  return isTold;
 }
 
 // The run was broken off by a person, or by a machine that is shut down.
@@ -242,9 +247,9 @@ ExitStatus RunCompile(const CommonOptions& common, const CompileArguments& given
   const StopSignals noted;
   const CompileOutcome outcome = cmdCompile_Click(request, session.glob, session.ui);
   // What has changed by the time of a failure is to be uploaded all the same: the next run finds it as it should be.
-  if (!arguments.dryRun) PrintChanges(arguments, changes, ui);
+  const bool isTold = arguments.dryRun || PrintChanges(arguments, changes, ui);
   if (outcome == CompileOutcome::kDone && arguments.dryRun) PrintPlan(request, session.glob, changes, ui);
-  if (request.listsChanges && changes.knowsPending && std::fflush(stdout) == 0) changes.journal->ForgetAll();
+  if (request.listsChanges && changes.knowsPending && isTold) changes.journal->ForgetAll();
   switch (outcome) {
     case CompileOutcome::kDone:
       SaveRun(arguments.saveSettings, request, session);

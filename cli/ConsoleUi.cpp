@@ -36,11 +36,11 @@ void ConsoleUi::EndProgress() {
 }
 
 // Each stream is behind the other in the order in which they were written to, where both go to one place.
-void ConsoleUi::Write(std::FILE* stream, std::string_view text, std::string_view kept) {
+bool ConsoleUi::Write(std::FILE* stream, std::string_view text, std::string_view kept) {
   EndProgress();
   const std::string shown = Escaped(text, kept) + "\n";
   if (stream == stderr) std::fflush(stdout);
-  std::fwrite(shown.data(), 1, shown.size(), stream);
+  return std::fwrite(shown.data(), 1, shown.size(), stream) == shown.size();
 }
 
 void ConsoleUi::Print(std::string_view line) { Write(stdout, line, {}); }
@@ -59,7 +59,7 @@ void ConsoleUi::WriteText(std::FILE* stream, std::string_view text) {
 
 void ConsoleUi::PrintText(std::string_view text) { WriteText(stdout, text); }
 
-void ConsoleUi::Tell(std::string_view line) { Write(stderr, line, {}); }
+bool ConsoleUi::Tell(std::string_view line) { return Write(stderr, line, {}); }
 
 void ConsoleUi::TellText(std::string_view text) { WriteText(stderr, text); }
 

@@ -37,8 +37,8 @@ class ConsoleUi : public UserInterface {
   // The lines of a text of the program's own, such as its help; the last need not end, and an empty text is none.
   void PrintText(std::string_view text);
 
-  // A line for the person, beside what was asked for.
-  void Tell(std::string_view line);
+  // A line for the person, beside what was asked for; false when it cannot be written.
+  bool Tell(std::string_view line);
   void TellText(std::string_view text);
 
   // Something that was looked for and found, on standard output, as a line or as JSON.
@@ -72,7 +72,7 @@ class ConsoleUi : public UserInterface {
  private:
   void EndProgress();
   void WriteText(std::FILE* stream, std::string_view text);
-  void Write(std::FILE* stream, std::string_view text, std::string_view kept);
+  bool Write(std::FILE* stream, std::string_view text, std::string_view kept);
 
   CommonOptions m_common;
   bool m_showsResults;

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <array>
 #include <ctime>
-#include <exception>
 #include <new>
 #include <optional>
 #include <set>
@@ -31,9 +30,6 @@
 
 namespace folionet {
 namespace {
-
-// Ends a run that a person broke off.
-class Stopped : public std::exception {};
 
 // One compile run, from the first page to the counts.
 class CompileRun {
@@ -221,7 +217,7 @@ class CompileRun {
   void Note(const std::string& name, PageChange change) {
     NoteWritten(m_request, m_folder, name, change);
     if (m_request.dryRun && change != PageChange::kSame) m_planned.insert(name);
-    if (m_request.isStopped && m_request.isStopped()) throw Stopped();
+    EndIfStopped(m_request);
   }
 
   // Of a plan, the pages that it would write are as of now.

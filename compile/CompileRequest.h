@@ -41,7 +41,7 @@ struct CompileRequest {
   std::string stateFolder;
   bool listsChanges = false;
 
-  std::function<bool()> isStopped;  // asked after each page: whether the run is to end there; may be empty
+  std::function<bool()> isStopped;  // asked between two pages: whether the run is to end there; may be empty
 };
 
 inline bool IsFolderChosen(const CompileRequest& request) {

@@ -19,6 +19,7 @@ namespace folionet {
 namespace {
 
 void Remove(const CompileRequest& request, RunFolder& folder, const std::string& name) {
+  EndIfStopped(request);
   const Removal removal = folder.site.Remove(name);
   if (request.changes == nullptr) return;
   request.changes->Removed(name, removal);
@@ -26,6 +27,10 @@ void Remove(const CompileRequest& request, RunFolder& folder, const std::string&
 }
 
 }  // namespace
+
+void EndIfStopped(const CompileRequest& request) {
+  if (request.isStopped && request.isStopped()) throw Stopped();
+}
 
 void OpenOutputFolder(const CompileRequest& request, RunFolder& folder) {
   if (folder.site.IsOpen()) return;
@@ -49,7 +54,8 @@ void EndRun(const CompileRequest& request, RunFolder& folder) {
     request.changes->knowsPending = folder.journal->KnowsPending();
     request.changes->trouble = folder.journal->Trouble();
     for (const std::string& name : folder.journal->Pending()) {
-      if (!request.changes->IsTold(name) && folder.site.Has(name)) request.changes->pending.push_back(name);
+      if (request.changes->IsTold(name)) continue;
+      (folder.site.Has(name) ? request.changes->pending : request.changes->pendingRemoved).push_back(name);
     }
   }
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <exception>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -12,6 +13,12 @@
 #include "SiteFolder.h"
 
 namespace folionet {
+
+// Ends a run that a person broke off.
+class Stopped : public std::exception {};
+
+// To be asked between two files: throws Stopped where the request says so.
+void EndIfStopped(const CompileRequest& request);
 
 // The output folder of a run.
 struct RunFolder {
@@ -48,7 +55,7 @@ std::vector<int> BooksRemovedAfter(const CompileRequest& request, const PageName
 
 // Deletes the pages of the books before the start book, and of BooksRemovedAfter, but no file that one of the names of
 // `kept` leads to. Gives the number of these pages, which counts those that are kept or were not there; every failure
-// is passed over.
+// is passed over. Throws Stopped before a page, and RunTimeError where another program has begun to write there.
 std::int16_t CleanUp(const CompileRequest& request, const PageInputs& inputs, const std::vector<std::string>& kept,
                      RunFolder& folder);
 

@@ -37,7 +37,10 @@ class SiteChanges {
   // Files that earlier runs changed, and that no list has told yet: none of those above, and all of them are there.
   std::vector<std::string> pending;
 
-  // Whether `pending` is known: a run that ends before it has come to the output folder tells of no other.
+  // The same for those that are not there any more.
+  std::vector<std::string> pendingRemoved;
+
+  // Whether these are known: a run that ends before it has come to the output folder tells of no other.
   bool knowsPending = false;
 
   // Keeps them until they have been told, of a run that lists them; null where it has not come to the folder.

@@ -252,6 +252,7 @@ Removal SiteFolder::Remove(const std::string& name) {
   if (S_ISDIR(status.st_mode)) return Removal::kFailed;
   const std::optional<bool> isToKeep = S_ISREG(status.st_mode) ? IsToKeep(name) : false;
   if (!isToKeep || (*isToKeep && Has(KeptName(name)))) return Removal::kFailed;
+  WillChange(name);
   const int systemError =
       *isToKeep ? m_changes->Rename(folder, name, status, KeptName(name)) : m_changes->Remove(folder, name, status);
   if (systemError != 0) return Removal::kFailed;

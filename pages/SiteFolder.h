@@ -80,7 +80,7 @@ class SiteFolder {
   // How long the file is that was written last.
   std::size_t WrittenBytes() const { return m_writtenBytes; }
 
-  // Takes away a file that is no folder. Nothing is thrown.
+  // Takes away a file that is no folder. Nothing is thrown but by the watch.
   Removal Remove(const std::string& name);
 
   // Whether there is a file of that name.

@@ -89,6 +89,31 @@ class TextReader {
     return false;
   }
 
+  void TakeOrder(const Verse& verse, const BiblePlace& place) {
+    const auto found = m_verses.Next(verse.verse);
+    if (!found) return;
+    const std::string& path = m_reader.Lines().Path();
+    const std::size_t line = m_reader.Lines().LineNumber();
+    std::vector<std::string> texts{std::to_string(verse.book), std::to_string(verse.chapter)};
+    const auto add = [&](const char* kind, const char* pattern, std::initializer_list<std::string> more) {
+      texts.insert(texts.end(), more);
+      m_library.Add(kind, path, line, {pattern, texts}, place);
+    };
+    switch (found->oddity) {
+      case VerseOrder::Oddity::kBadNumber:
+        return add("bad-verse", "Book %1 chapter %2: The number of a verse was expected: %3", {Quoted(verse.verse)});
+      case VerseOrder::Oddity::kDoubled:
+        return add("doubled-verse", "Book %1 chapter %2: Verse %3 is doubled.", {place.verse});
+      case VerseOrder::Oddity::kOutOfOrder:
+        return add("verse-order", "Book %1 chapter %2: Verse %3 is out of order.", {place.verse});
+      case VerseOrder::Oddity::kMissing:
+        break;
+    }
+    const std::string first = std::to_string(found->first);
+    if (found->first == found->last) return add("missing-verse", "Book %1 chapter %2: Missing: verse %3", {first});
+    add("missing-verse", "Book %1 chapter %2: Missing: verse %3 to %4", {first, std::to_string(found->last)});
+  }
+
   void Take(const Verse& verse) {
     const std::string& path = m_reader.Lines().Path();
     const std::size_t line = m_reader.Lines().LineNumber();
@@ -96,15 +121,11 @@ class TextReader {
       m_chapter = &m_order.Begin(verse.book, verse.chapter, line);
       m_bookNumber = verse.book;
       m_chapterNumber = verse.chapter;
-      m_verses.Begin();
+      m_verses = {};
     }
     ++m_chapter->verses;
     const BiblePlace place{verse.book, verse.chapter, std::string(TrimBlanks(verse.verse))};
-    if (auto wrong = m_verses.Next(verse.verse)) {
-      wrong->what.arguments.insert(wrong->what.arguments.begin(),
-                                   {std::to_string(verse.book), std::to_string(verse.chapter)});
-      m_library.Add(wrong->kind, path, line, std::move(wrong->what), place);
-    }
+    TakeOrder(verse, place);
     m_chapter->covered = m_verses.Covered();
     m_library.CheckBytes(path, line, verse.text, place);
   }

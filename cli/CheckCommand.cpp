@@ -19,7 +19,8 @@ void ShowAll(const Findings& findings, ConsoleUi& ui) {
     if (finding.remedy.IsEmpty()) {
       finding.remedy = {kCorrectPlace};
     } else if (!ui.IsJson()) {
-      finding.what = {"%1 %2", {finding.what.InEnglish(), finding.remedy.InEnglish()}};
+      const std::string what = finding.what.InEnglish();
+      finding.what = {what.ends_with('.') ? "%1 %2" : "%1. %2", {what, finding.remedy.InEnglish()}};
     }
     ui.Show(finding);
   }

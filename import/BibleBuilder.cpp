@@ -190,13 +190,10 @@ void BibleBuilder::EndCanonicalTitle() {
 
 void BibleBuilder::CloseVerse() {
   if (!m_hasVerse) return;
-  if (m_book > kBooks) {
-    ++m_outside[static_cast<std::size_t>(m_book - kBooks - 1)].verses;
-  } else {
-    NameOddities();
-  }
+  if (m_book > kBooks) ++m_outside[static_cast<std::size_t>(m_book - kBooks - 1)].verses;
   // Names that are none of ours may turn out to be those of the 66 books in another language.
   if (m_book <= kBooks || (m_mayNamesBeInOrder && m_book <= 2 * kBooks)) {
+    NameOddities();
     m_bible.Add({m_book, m_chapter, m_field, m_verse.Text()});
   }
   m_hasVerse = false;
@@ -209,40 +206,37 @@ void BibleBuilder::CloseChapter() {
   if (m_hasVerse) m_verse.Append(m_title);
   m_title.Clear();
   CloseVerse();
-  m_lastNumber = 0;
-  m_seenHere = nullptr;
-}
-
-// Notes that the verse at hand is there, and tells whether it was before.
-bool BibleBuilder::IsSeenNow(int number) {
-  if (m_seenHere == nullptr) m_seenHere = &m_seen[{m_book, m_chapter}];
-  const bool isPlain =
-      m_field.size() <= 3 && number < kPlainVerses && std::all_of(m_field.begin(), m_field.end(), IsDigit);
-  if (!isPlain) return !m_seenHere->others.insert(m_field).second;
-  const auto place = static_cast<std::size_t>(number);
-  const bool isSeen = m_seenHere->plain[place];
-  m_seenHere->plain[place] = true;
-  return isSeen;
+  m_verseOrder = nullptr;
 }
 
 void BibleBuilder::NameOddities() {
   const auto name = [this](const char* kind, const char* pattern) {
     const std::string place = Place();
-    m_bible.findings.Add({kind,
-                          Severity::kWarning,
-                          m_file,
-                          m_verseLine,
-                          {m_book, m_chapter, m_field},
-                          {pattern, {place.substr(0, place.size() - 2)}},
-                          {}});
+    Findings& findings = m_book <= kBooks ? m_bible.findings : m_ofOutside;
+    findings.Add({kind,
+                  Severity::kWarning,
+                  m_file,
+                  m_verseLine,
+                  {m_book, m_chapter, m_field},
+                  {pattern, {place.substr(0, place.size() - 2)}},
+                  {}});
   };
-  const auto number = LeadingInteger(m_field).value_or(0);
-  if (IsSeenNow(number)) {
-    name("doubled-verse", Words("Import", "%1 comes twice; both are kept."));
-  } else if (number < m_lastNumber) {
-    name("verse-order", Words("Import", "%1 is out of order."));
+  if (m_verseOrder == nullptr) m_verseOrder = &m_verseOrders[{m_book, m_chapter}];
+  if (const auto found = m_verseOrder->Next(m_field)) {
+    switch (found->oddity) {
+      case VerseOrder::Oddity::kBadNumber:
+        name("bad-verse", Words("Import", "%1 is no number of a verse such as 3, 3a or 3-4; it is kept."));
+        break;
+      case VerseOrder::Oddity::kDoubled:
+        name("doubled-verse", Words("Import", "%1 comes twice; both are kept."));
+        break;
+      case VerseOrder::Oddity::kOutOfOrder:
+        name("verse-order", Words("Import", "%1 is out of order."));
+        break;
+      case VerseOrder::Oddity::kMissing:
+        break;  // a text need not have all
+    }
   }
-  m_lastNumber = std::max(m_lastNumber, static_cast<int>(number));
   if (m_verse.IsEmpty()) name("empty-verse", Words("Import", "%1 has no text."));
 }
 
@@ -266,8 +260,13 @@ void BibleBuilder::UseNamesInOrder() {
     numbers[old] = isInOrder ? static_cast<std::uint8_t>(i + 1) : static_cast<std::uint8_t>(old <= kBooks ? old : 0);
     if (isInOrder && old > kBooks) m_bible.titles[i + 1] = m_outside[old - kBooks - 1].name;
   }
-  if (isInOrder) m_outside.clear();
   m_bible.Renumber(numbers);
+  if (!isInOrder) return;
+  m_outside.clear();
+  for (Finding finding : m_ofOutside.Kept()) {
+    finding.place.book = numbers[static_cast<std::size_t>(finding.place.book)];
+    m_bible.findings.Add(std::move(finding));
+  }
 }
 
 void BibleBuilder::FindMissing() {

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <array>
-#include <bitset>
 #include <cstddef>
 #include <map>
 #include <set>
@@ -12,6 +11,7 @@
 
 #include "FlowingText.h"
 #include "ImportedBible.h"
+#include "VerseOrder.h"
 
 namespace folionet {
 
@@ -71,14 +71,6 @@ class BibleBuilder {
   ImportedBible Finish();
 
  private:
-  // The verses of a chapter so far.
-  static constexpr int kPlainVerses = 256;
-  struct SeenVerses {
-    std::bitset<kPlainVerses> plain;  // those whose field is just a number below that
-    std::set<std::string> others;
-  };
-
-  bool IsSeenNow(int number);
   void OpenBook(int number);
   void CloseVerse();
   void CloseChapter();
@@ -97,7 +89,6 @@ class BibleBuilder {
   int m_chapter = 0;
   std::string m_field;
   std::size_t m_verseLine = 0;
-  int m_lastNumber = 0;  // the highest verse number of the chapter so far
   FlowingText m_verse;
   FlowingText m_title;  // a canonical title that waits for its verse
   bool m_hasVerse = false;
@@ -109,8 +100,9 @@ class BibleBuilder {
   std::vector<int> m_order;  // the books in the order of their first appearance
   bool m_mayNamesBeInOrder = false;
   std::set<std::string> m_noted;
-  std::map<std::pair<int, int>, SeenVerses> m_seen;  // by book and chapter
-  SeenVerses* m_seenHere = nullptr;                  // of the chapter at hand; null when that is not known yet
+  std::map<std::pair<int, int>, VerseOrder> m_verseOrders;  // by book and chapter
+  VerseOrder* m_verseOrder = nullptr;                       // of the chapter at hand; null when that is not known yet
+  Findings m_ofOutside;                                     // in books that may turn out to be some of the 66
   std::array<int, kBooks + 1> m_titleRank{};
 };
 

@@ -30,18 +30,24 @@ std::string Nameable(std::string_view title) {
   return name.substr(std::min(name.find_first_not_of(". "), name.size()));
 }
 
+// What the names of pages have of a title: titles that differ in letter case, or by a blank and a "_", share them.
+std::string PageName(const std::string& title) {
+  std::string name = CodePage("utf-8").ToLower(title);
+  std::ranges::replace(name, ' ', '_');
+  return name;
+}
+
 }  // namespace
 
 BookTitleList MakePageTitles(const BookTitleList& given, std::string_view language) {
   const TitleLanguage& nearest = NearestLanguage(language);
-  const CodePage utf8("utf-8");
   BookTitleList titles;
   std::set<std::string> names;
   for (std::size_t book = 1; book <= kBooks; ++book) {
     std::string title = Nameable(given[book]);
     if (title.empty()) title = nearest.titles[book - 1];
     std::string unique = title;
-    for (int number = 2; !names.insert(utf8.ToLower(unique)).second; ++number) {
+    for (int number = 2; !names.insert(PageName(unique)).second; ++number) {
       unique = title + " " + std::to_string(number);
     }
     titles[book] = std::move(unique);

@@ -307,6 +307,10 @@
         <source>The text does not name all of its books; the names of the others are English.</source>
         <translation>Der Text nennt nicht alle seine Bücher; die Namen der übrigen sind englisch.</translation>
     </message>
+    <message>
+        <source>%1 is no number of a verse such as 3, 3a or 3-4; it is kept.</source>
+        <translation>%1 ist keine Versnummer wie 3, 3a oder 3-4; sie bleibt so.</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

@@ -307,6 +307,10 @@
         <source>The text does not name all of its books; the names of the others are English.</source>
         <translation>El texto no nombra todos sus libros; los nombres de los demás están en inglés.</translation>
     </message>
+    <message>
+        <source>%1 is no number of a verse such as 3, 3a or 3-4; it is kept.</source>
+        <translation>%1 no es un número de versículo como 3, 3a o 3-4; se conserva.</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

@@ -74,6 +74,20 @@ void BibleBuilder::Note(const char* kind, const char* pattern, const std::string
   m_bible.findings.Add({kind, Severity::kNote, m_file, m_line, {}, {pattern, {about}}, {}});
 }
 
+void BibleBuilder::NoteMisfit(const Misfit& misfit, const std::string& about) {
+  const auto [noted, isNew] = m_misfits.try_emplace({misfit.kind, about}, NotedMisfits{misfit, m_line});
+  if (!isNew) ++noted->second.more;
+}
+
+void BibleBuilder::TellMisfits() {
+  for (const auto& [key, noted] : m_misfits) {
+    Sentence what{noted.misfit.one, {key.second}};
+    if (noted.more != 0) what = {noted.misfit.many, {key.second, std::to_string(noted.more)}};
+    m_bible.findings.Add({noted.misfit.kind, Severity::kWarning, m_file, noted.line, {}, std::move(what), {}});
+  }
+  m_misfits.clear();
+}
+
 void BibleBuilder::NoteLeftOutFile(const std::string& file, const std::string& form) {
   const char* const pattern = Words("Import", "Left out, as it is %1 and the other files are not.");
   m_bible.findings.Add({"left-out-file", Severity::kNote, file, 0, {}, {pattern, {form}}, {}});
@@ -242,6 +256,7 @@ void BibleBuilder::NameOddities() {
 
 void BibleBuilder::EndFile() {
   CloseChapter();
+  TellMisfits();
   m_book = 0;
   m_chapter = 0;
 }

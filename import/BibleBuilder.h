@@ -58,6 +58,15 @@ class BibleBuilder {
   // Something that was passed over or put up with, told once for each `about`.
   void Note(const char* kind, const char* pattern, const std::string& about);
 
+  // What has not quite its form at the line at hand, and is put up with: a warning for each file and `about`, which
+  // is %1. Where there are several it has the words `many`, whose %2 is the number of those after the first.
+  struct Misfit {
+    const char* kind = "";
+    const char* one = "";
+    const char* many = "";
+  };
+  void NoteMisfit(const Misfit& misfit, const std::string& about);
+
   // A file is none of the text, as it has this form and the others have another.
   void NoteLeftOutFile(const std::string& file, const std::string& form);
 
@@ -72,6 +81,7 @@ class BibleBuilder {
 
  private:
   void OpenBook(int number);
+  void TellMisfits();
   void CloseVerse();
   void CloseChapter();
   int OutsideBook(std::string_view name);
@@ -100,9 +110,15 @@ class BibleBuilder {
   std::vector<int> m_order;  // the books in the order of their first appearance
   bool m_mayNamesBeInOrder = false;
   std::set<std::string> m_noted;
-  std::map<std::pair<int, int>, VerseOrder> m_verseOrders;  // by book and chapter
-  VerseOrder* m_verseOrder = nullptr;                       // of the chapter at hand; null when that is not known yet
-  Findings m_ofOutside;                                     // in books that may turn out to be some of the 66
+  struct NotedMisfits {
+    Misfit misfit;
+    std::size_t line = 0;  // of the first
+    std::size_t more = 0;
+  };
+  std::map<std::pair<std::string, std::string>, NotedMisfits> m_misfits;  // of the file, by kind and `about`
+  std::map<std::pair<int, int>, VerseOrder> m_verseOrders;                // by book and chapter
+  VerseOrder* m_verseOrder = nullptr;  // of the chapter at hand; null when that is not known yet
+  Findings m_ofOutside;                // in books that may turn out to be some of the 66
   std::array<int, kBooks + 1> m_titleRank{};
 };
 

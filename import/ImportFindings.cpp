@@ -49,16 +49,20 @@ Sentence WhereLanguageIsFrom(const LibraryRequest& request, const LibraryPlan& p
   return {};
 }
 
-// Pages have English names of books, and their text is in another language.
-bool LacksNames(const ImportedBible& bible, const LibraryRequest& request, const LibraryPlan& plan) {
+// Where pages have English names of books, and their text is in another language; empty where they have not.
+Sentence WhichNamesLack(const ImportedBible& bible, const LibraryRequest& request, const LibraryPlan& plan) {
   const std::string& language = plan.text.language;
-  if (!request.titlesFile.empty() || plan.replaced || language.empty()) return false;
-  if (language.substr(0, language.find('-')) == "en" || &NearestLanguage("en") != &NearestLanguage(language))
-    return false;
+  if (!request.titlesFile.empty() || plan.replaced || language.empty()) return {};
+  if (language.substr(0, language.find('-')) == "en" || &NearestLanguage("en") != &NearestLanguage(language)) return {};
+  bool areSomeThere = false;
+  bool areSomeMissing = false;
   for (std::size_t i = 0; i < bible.VerseCount(); ++i) {
-    if (bible.titles[static_cast<std::size_t>(bible.VerseAt(i).book)].empty()) return true;
+    const bool isMissing = bible.titles[static_cast<std::size_t>(bible.VerseAt(i).book)].empty();
+    (isMissing ? areSomeMissing : areSomeThere) = true;
   }
-  return false;
+  if (!areSomeMissing) return {};
+  if (!areSomeThere) return {Words("Import", "The text names none of its books; their names are English.")};
+  return {Words("Import", "The text does not name all of its books; the names of the others are English.")};
 }
 
 }  // namespace
@@ -84,10 +88,8 @@ std::vector<Finding> FindingsOf(const ImportedBible& bible, const LibraryRequest
          {plan.text.language.empty() ? "Name it with %1" : "Name another with %1",
           {"--language CODE; \"folionet-cli list codes\" shows the codes."}});
   }
-  if (LacksNames(bible, request, plan)) {
-    note("book-names",
-         {Words("Import", "The text does not name all of its books; the names of the others are English.")},
-         {"Name them with --titles BOOKS_FILE."});
+  if (Sentence lacking = WhichNamesLack(bible, request, plan); !lacking.IsEmpty()) {
+    note("book-names", std::move(lacking), {"Name them with --titles BOOKS_FILE."});
   }
   return told;
 }

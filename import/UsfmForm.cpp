@@ -222,8 +222,11 @@ void UsfmForm::BeginUnknown(std::string_view name) {
 void UsfmForm::BeginLine(MarkerKind kind, std::string_view name) {
   if (!m_note.empty()) {
     m_builder.SetLine(m_noteLine);
-    m_builder.Note("open-note", Words("Import", "A note does not end: %1 was expected."),
-                   "\\" + m_note + "* (line " + std::to_string(m_noteLine) + ")");
+    constexpr BibleBuilder::Misfit kOpen{
+        .kind = "open-note",
+        .one = Words("Import", "A note does not end: %1 was expected."),
+        .many = Words("Import", "A note does not end: %1 was expected; more of them in the file: %2.")};
+    m_builder.NoteMisfit(kOpen, "\\" + m_note + "*");
     m_builder.SetLine(m_line);
     m_note.clear();
   }

@@ -106,8 +106,11 @@ void XmlForm::AddBreak() {
 
 bool XmlForm::NoteEnd(std::string_view name) {
   m_builder.SetLine(m_reader.Line());
-  m_builder.Note("xml-end", Words("Import", "An element ends in the wrong place: %1"),
-                 std::string(name) + " (line " + std::to_string(m_reader.Line()) + ")");
+  constexpr BibleBuilder::Misfit kEnd{
+      .kind = "xml-end",
+      .one = Words("Import", "An element ends in the wrong place: %1."),
+      .many = Words("Import", "An element ends in the wrong place: %1; more of them in the file: %2.")};
+  m_builder.NoteMisfit(kEnd, std::string(name));
   return true;
 }
 

@@ -88,10 +88,6 @@
         <translation>Text in der unbekannten Formatvorlage %1 bleibt.</translation>
     </message>
     <message>
-        <source>An element ends in the wrong place: %1</source>
-        <translation>Ein Element endet an der falschen Stelle: %1</translation>
-    </message>
-    <message>
         <source>%1: a code such as he or pt-br was expected: %2</source>
         <translation>%1: ein Kürzel wie he oder pt-br wurde erwartet: %2</translation>
     </message>
@@ -310,6 +306,22 @@
     <message>
         <source>%1 is no number of a verse such as 3, 3a or 3-4; it is kept.</source>
         <translation>%1 ist keine Versnummer wie 3, 3a oder 3-4; sie bleibt so.</translation>
+    </message>
+    <message>
+        <source>The text names none of its books; their names are English.</source>
+        <translation>Der Text nennt keinen Namen seiner Bücher; ihre Namen sind englisch.</translation>
+    </message>
+    <message>
+        <source>A note does not end: %1 was expected; more of them in the file: %2.</source>
+        <translation>Eine Anmerkung endet nicht: %1 wurde erwartet; weitere in der Datei: %2.</translation>
+    </message>
+    <message>
+        <source>An element ends in the wrong place: %1.</source>
+        <translation>Ein Element endet an der falschen Stelle: %1.</translation>
+    </message>
+    <message>
+        <source>An element ends in the wrong place: %1; more of them in the file: %2.</source>
+        <translation>Ein Element endet an der falschen Stelle: %1; weitere in der Datei: %2.</translation>
     </message>
 </context>
 <context>
@@ -1089,12 +1101,12 @@ Stattdessen die der importierten Texte zeigen, bis Folionet geschlossen wird? Sp
         <translation>&amp;Text</translation>
     </message>
     <message>
-        <source>A file, a folder or a zip archive. Return reads it.</source>
-        <translation>Eine Datei, ein Ordner oder ein Zip-Archiv. Die Eingabetaste liest es.</translation>
+        <source>A file, a folder, or a zip or tar archive. Return reads it.</source>
+        <translation>Eine Datei, ein Ordner oder ein Zip- oder Tar-Archiv. Die Eingabetaste liest es.</translation>
     </message>
     <message>
-        <source>A file, a folder or a zip archive</source>
-        <translation>Eine Datei, ein Ordner oder ein Zip-Archiv</translation>
+        <source>A file, a folder, or a zip or tar archive</source>
+        <translation>Eine Datei, ein Ordner oder ein Zip- oder Tar-Archiv</translation>
     </message>
     <message>
         <source>&amp;File...</source>

@@ -88,10 +88,6 @@
         <translation>El texto en el estilo desconocido %1 se conserva.</translation>
     </message>
     <message>
-        <source>An element ends in the wrong place: %1</source>
-        <translation>Un elemento termina en un lugar equivocado: %1</translation>
-    </message>
-    <message>
         <source>%1: a code such as he or pt-br was expected: %2</source>
         <translation>%1: se esperaba un código como he o pt-br: %2</translation>
     </message>
@@ -310,6 +306,22 @@
     <message>
         <source>%1 is no number of a verse such as 3, 3a or 3-4; it is kept.</source>
         <translation>%1 no es un número de versículo como 3, 3a o 3-4; se conserva.</translation>
+    </message>
+    <message>
+        <source>The text names none of its books; their names are English.</source>
+        <translation>El texto no nombra ninguno de sus libros; sus nombres están en inglés.</translation>
+    </message>
+    <message>
+        <source>A note does not end: %1 was expected; more of them in the file: %2.</source>
+        <translation>Una nota no termina: se esperaba %1; más de ellas en el archivo: %2.</translation>
+    </message>
+    <message>
+        <source>An element ends in the wrong place: %1.</source>
+        <translation>Un elemento termina en un lugar equivocado: %1.</translation>
+    </message>
+    <message>
+        <source>An element ends in the wrong place: %1; more of them in the file: %2.</source>
+        <translation>Un elemento termina en un lugar equivocado: %1; más de ellos en el archivo: %2.</translation>
     </message>
 </context>
 <context>
@@ -1089,12 +1101,12 @@ La lista muestra las traducciones de otra biblioteca: %2.
         <translation>&amp;Texto</translation>
     </message>
     <message>
-        <source>A file, a folder or a zip archive. Return reads it.</source>
-        <translation>Un archivo, una carpeta o un archivo zip. La tecla Intro lo lee.</translation>
+        <source>A file, a folder, or a zip or tar archive. Return reads it.</source>
+        <translation>Un archivo, una carpeta o un archivo zip o tar. La tecla Intro lo lee.</translation>
     </message>
     <message>
-        <source>A file, a folder or a zip archive</source>
-        <translation>Un archivo, una carpeta o un archivo zip</translation>
+        <source>A file, a folder, or a zip or tar archive</source>
+        <translation>Un archivo, una carpeta o un archivo zip o tar</translation>
     </message>
     <message>
         <source>&amp;File...</source>

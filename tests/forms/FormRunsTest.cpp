@@ -22,6 +22,7 @@
 #include "FactLines.h"
 #include "FormTest.h"
 #include "Script.h"
+#include "Seen.h"
 #include "frmImport.h"
 #include "frmMain.h"
 
@@ -99,6 +100,10 @@ class FormRuns : public FormTest {
     } else if (line.verb == "panels") {
       const Lines texts = test::MarkLines("| ", std::exchange(m_panels, {}));
       lines.insert(lines.end(), texts.begin(), texts.end());
+    } else if (line.verb == "changed") {
+      const SeenControls now = ControlsOf(*m_form);
+      for (const std::string& change : ChangesOf(m_controls, now)) lines.push_back("| " + m_case.Named(change));
+      m_controls = now;
     } else {
       lines = m_case.Do(whole);
     }
@@ -175,8 +180,9 @@ class FormRuns : public FormTest {
 
   test::ScriptCase m_script;
   test::Case m_case{m_home};
-  std::size_t m_seen = 0;  // boxes
-  std::string m_panels;    // what the status bar has told of runs, a line each
+  std::size_t m_seen = 0;   // boxes
+  SeenControls m_controls;  // at the first start, or when they were last looked at
+  std::string m_panels;     // what the status bar has told of runs, a line each
 };
 
 const std::map<std::string, FormRuns::Act>& FormRuns::Actions() {
@@ -186,6 +192,7 @@ const std::map<std::string, FormRuns::Act>& FormRuns::Actions() {
        [](Test& t, const Line& l) {
          t.m_seen = 0;
          EXPECT_EQ(t.Start(), l.name.empty()) << "\"start fails\" is a start that must not go on";
+         if (t.m_controls.empty()) t.m_controls = ControlsOf(*t.m_form);
        }},
       {"click", Each([](Test& t, const std::string& n) { t.Click(n); })},
       {"compiles", [](Test& t, const Line&) { t.ClickFor("cmdCompile", "Compilation Complete Folionet"); }},

@@ -21,12 +21,12 @@
 #include <QUrl>
 #include <cstdlib>
 #include <fstream>
-#include <map>
 #include <set>
 
-#include "Escapes.h"
 #include "FactLines.h"
 #include "FormTest.h"
+#include "Script.h"
+#include "Seen.h"
 #include "TextBox.h"
 #include "frmImport.h"
 #include "frmMain.h"
@@ -34,28 +34,40 @@
 namespace folionet {
 namespace {
 
-class Texts : public FormTest {};
+class Texts : public FormTest {
+ protected:
+  const bool isTranslated = std::getenv("FOLIONET_TEST_TRANSLATION") != nullptr;
+};
 
 // Buttons without a key of their own; that of sites bears the name of one.
 const QStringList kKeyless{"cmdRestoreAll", "cmdBrowse", "cmdHelp", "cmdClose", "cmdSite"};
 
-// What a person reads, letter for letter; slips in it are meant. A line of the file is control, property and text, with
-// "\n" for a line break, "\\" for a backslash and no "&" of mnemonics; "items" stands for the entries of a list.
-TEST_F(Texts, AreThoseOfTheFile) {
+// What a person sees and reads, letter for letter; slips in it are meant. A line of the file is a control and its
+// traits, with "=" before a text that is fixed and "~" before one that is translated.
+TEST_F(Texts, AndControlsAreThoseOfTheFile) {
   ASSERT_TRUE(Start());
-  for (const char* button : {"cmdPageEncoding", "frmEncoding.cmdAddNew"}) Click(button);
-  std::ifstream file(FORM_TEXTS);
-  std::map<std::string, int> counts;
-  for (std::string control, property, text; std::getline(file, control, '\t');) {
-    std::getline(file, property, '\t');
-    std::getline(file, text);
-    const bool isList = property == "items";
-    const QString shown = Get(control).property(property.c_str()).toString().remove('&');
-    EXPECT_EQ(isList ? Items(control) : FromQt(shown), test::Unescaped(text)) << control;
-    ++counts[control.substr(0, control.find('.') + 1)];
+  for (const char* button : {"cmdPageEncoding", "frmEncoding.cmdAddNew", "cmdImport"}) Click(button);
+  for (QDialog* dialog : m_form->findChildren<QDialog*>()) dialog->show();
+  const SeenControls controls = ControlsOf(*m_form);
+  std::ifstream file(FORM_CONTROLS);
+  std::size_t at = 0;
+  for (std::string line; std::getline(file, line) && at < controls.size(); ++at) {
+    std::string seen = controls[at].first;
+    for (std::string trait : controls[at].second) {
+      test::Replace(trait, m_home.Path(), "@/");
+      const std::string key = '\t' + trait.substr(0, trait.find('=')) + '~';
+      const std::size_t kept = line.find(key);
+      if (kept == std::string::npos) {
+        seen += '\t' + trait;
+      } else if (isTranslated) {
+        seen += line.substr(kept, line.find('\t', kept + 1) - kept);
+      } else {
+        seen += key + trait.substr(key.size() - 1);
+      }
+    }
+    EXPECT_EQ(seen, line) << "line " << at + 1;
   }
-  EXPECT_EQ(counts.size(), 11U) << "two main forms' kinds of names and nine dialogs";
-  EXPECT_GT(counts[""], 40);
+  EXPECT_EQ(at, controls.size());
 }
 
 // A control that takes the focus can be found by name, and no two keys of a form are the same. The main form has more
@@ -194,44 +206,6 @@ TEST_P(TextsIn, HaveTheirRoom) {
 
 INSTANTIATE_TEST_SUITE_P(Fonts, TextsIn, testing::Values("DejaVu Sans", "Liberation Sans", "Noto Sans"),
                          InFont::NameOf);
-
-// What a screen reader has to say: where a text is shown, and what a colour or a list without a choice among its items
-// is.
-TEST_F(Texts, AreHeardAsTheyAreSeen) {
-  ASSERT_TRUE(Start());
-  Get("frmEffects.").show();
-  m_form->ShowPanel(1, "Compiling file 3 Book1");
-  ChooseOutput();
-  Give("cboEndBook", "Book1");
-  ASSERT_TRUE(QTest::qWaitFor([this] { return !m_form->Facts().IsLooking(); }));
-  const char* unreached = "The pages of Book2 to Book66 are written too; the index does not lead to them.";
-  const struct {
-    const char* control;
-    QAccessible::Text what;
-    const char* text;
-  } cases[] = {
-      {"frmMain.StatusBar1_Panel1", QAccessible::Name, "Compiling file 3 Book1"},
-      {"cboLang", QAccessible::Description, "BOOKS.TXT"},
-      {"frmEffects.lblActive", QAccessible::Name, "#ff0000, Default, 3.99 : 1, hard to read: choose a darker color"},
-      {"frmKeywords.txtKeywordsI", QAccessible::Name, "META Keywords of the index page"},
-      {"frmKeywords.txtDescription", QAccessible::Name, "META Description of all other pages"},
-      {"frmPAgeTitles.txtPrevOther", QAccessible::Name, "Preview of the title of all other pages"},
-      {"progressCompile", QAccessible::Name, "Pages compiled"},
-      {"Dir1", QAccessible::Description, "Empty folder."},
-      {"cmdCompile", QAccessible::Description, "Empty folder."},
-      {"cboStartBook", QAccessible::Description, unreached},
-      {"cboEndBook", QAccessible::Description, unreached},
-      {"txtBibleSel", QAccessible::Value, "Small Bible"},
-      {"txtBibleSel", QAccessible::Description, ""},
-  };
-  const bool isTranslated = std::getenv("FOLIONET_TEST_TRANSLATION") != nullptr;
-  for (const auto& c : cases) {
-    QAccessibleInterface* heard = QAccessible::queryAccessibleInterface(&Get(c.control));
-    ASSERT_NE(heard, nullptr) << c.control;
-    EXPECT_TRUE(isTranslated || FromQt(heard->text(c.what)) == c.text) << c.control << FromQt(heard->text(c.what));
-  }
-  EXPECT_NE(FromQt(Get<QTreeWidget>("Dir1").headerItem()->text(0)), "1");
-}
 
 TEST_F(Texts, AreHelpedInTheirLanguage) {
   const char* translation = std::getenv("FOLIONET_TEST_TRANSLATION");  // as folionet_de.qm

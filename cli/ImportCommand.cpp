@@ -71,15 +71,6 @@ void RefuseWrongArguments(const ImportArguments& arguments, const LibraryRequest
   }
 }
 
-// The code that pages declare of a text that names no language; empty where the settings have none that can be read.
-std::string LanguageOfSettings() {
-  try {
-    return EncodingCode(StoredSettings(StoredSettings::DefaultFolder()).Text("Lang"), "Lang");
-  } catch (const RunTimeError&) {
-    return {};
-  }
-}
-
 // A warning that a person can do something about is told always, the others unless fewer words are asked for.
 void TellFindings(const LibraryPlan& plan, ConsoleUi& ui) {
   for (const Finding& finding : plan.findings) {
@@ -148,8 +139,9 @@ ExitStatus RunImport(const CommonOptions& common, const ImportArguments& argumen
   request.replace = arguments.replace;
   RefuseWrongArguments(arguments, request);
   try {
-    StoredSettings(StoredSettings::DefaultFolder()).FinishChange();
-    request.pageLanguage = LanguageOfSettings();
+    StoredSettings settings(StoredSettings::DefaultFolder());
+    settings.FinishChange();
+    request.pageLanguage = StoredLanguage(settings);
     const ImportedBible bible = ReadBible({arguments.paths, arguments.charset});
     const LibraryPlan plan = ImportLibrary(bible, request, arguments.dryRun ? Doing::kPlan : Doing::kChange);
     TellFindings(plan, ui);

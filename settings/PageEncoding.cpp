@@ -59,6 +59,14 @@ bool CanBeIn(const CodePage& codePage, const std::string& programFolder) {
 
 }  // namespace
 
+std::string StoredLanguage(const StoredSettings& store) {
+  try {
+    return EncodingCode(store.Text("Lang"), "Lang");
+  } catch (const RunTimeError&) {
+    return {};
+  }
+}
+
 CodePage StoredCodePage(const StoredSettings& store) { return CodePageOf(store.Text("Charset")); }
 
 OwnFolder StoredOwnFolder(const StoredSettings& store, const std::string& programFolder) {

@@ -22,6 +22,9 @@ struct PageEncoding {
 // RunTimeError (kInvalidProcedureCall) when no code and blank is there.
 std::string EncodingCode(std::string_view entry, std::string_view what);
 
+// The code of the stored language, which pages of a text that names none declare; empty when it cannot be read.
+std::string StoredLanguage(const StoredSettings& store);
+
 // The code page that the stored charset names, be it without a description. The custom header and footer are kept in
 // it. Throws RunTimeError when the settings cannot be read.
 CodePage StoredCodePage(const StoredSettings& store);

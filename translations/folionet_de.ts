@@ -323,6 +323,18 @@
         <source>An element ends in the wrong place: %1; more of them in the file: %2.</source>
         <translation>Ein Element endet an der falschen Stelle: %1; weitere in der Datei: %2.</translation>
     </message>
+    <message>
+        <source>Warning: %1</source>
+        <translation>Warnung: %1</translation>
+    </message>
+    <message>
+        <source>The help says how to name them: &quot;Names of the books in your own language&quot;.</source>
+        <translation>Wie man sie benennt, sagt die Hilfe: „Namen der Bücher in Ihrer Sprache“.</translation>
+    </message>
+    <message>
+        <source>Another one is chosen in Page Encoding, once the text is imported.</source>
+        <translation>Eine andere wird unter „Page Encoding“ gewählt, sobald der Text importiert ist.</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

@@ -323,6 +323,18 @@
         <source>An element ends in the wrong place: %1; more of them in the file: %2.</source>
         <translation>Un elemento termina en un lugar equivocado: %1; más de ellos en el archivo: %2.</translation>
     </message>
+    <message>
+        <source>Warning: %1</source>
+        <translation>Aviso: %1</translation>
+    </message>
+    <message>
+        <source>The help says how to name them: &quot;Names of the books in your own language&quot;.</source>
+        <translation>La ayuda dice cómo nombrarlos: «Los nombres de los libros en su idioma».</translation>
+    </message>
+    <message>
+        <source>Another one is chosen in Page Encoding, once the text is imported.</source>
+        <translation>Otro se elige en «Page Encoding», una vez importado el texto.</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

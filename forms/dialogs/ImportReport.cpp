@@ -33,6 +33,18 @@ class Import {
   }
 
   static QString Line(std::size_t line) { return tr("line %1").arg(static_cast<qulonglong>(line)); }
+  static QString Warning(const QString& text) { return tr("Warning: %1").arg(text); }
+
+  // What a person does in the form about a finding of this kind; the remedy of the finding itself is the command
+  // line's.
+  static QString Step(const Finding& finding) {
+    const std::string_view kind = finding.kind;
+    if (kind == "language") return tr("Another one is chosen in Page Encoding, once the text is imported.");
+    if (kind == "book-names" || kind == "renamed-books") {
+      return tr("The help says how to name them: \"Names of the books in your own language\".");
+    }
+    return {};
+  }
   static QString Nothing() { return tr("Nothing was written."); }
 };
 
@@ -43,14 +55,20 @@ QString OfImport(const Sentence& sentence) {
   return ToQt(Sentence{pattern.constData(), sentence.arguments}.InEnglish());
 }
 
+// What a person can do something about comes first: there may be hundreds of verses that are told.
 QString FoundInText(const LibraryPlan& plan) {
   QStringList lines = Import::Facts(plan);
+  QStringList others;
   for (const Finding& finding : plan.findings) {
+    QString text = OfImport(finding.what);
+    if (finding.severity == Severity::kWarning) text = Import::Warning(text);
     QString where = ToQt(finding.file);
     if (finding.line != 0) where += ", " + Import::Line(finding.line);
-    lines += where.isEmpty() ? OfImport(finding.what) : where + ": " + OfImport(finding.what);
+    if (!where.isEmpty()) text = where + ": " + text;
+    const QString step = Import::Step(finding);
+    step.isEmpty() ? others += text : lines += text + ' ' + step;
   }
-  return lines.join('\n');
+  return (lines + others).join('\n');
 }
 
 QString WhyNoImport(const ImportError& error) {

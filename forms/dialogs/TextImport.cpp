@@ -23,36 +23,40 @@ struct TextImport::Shared {
   }
 };
 
+LibraryRequest TextImport::Request(const std::string& name, const std::string& stem) const {
+  LibraryRequest request;
+  request.name = name;
+  request.stem = stem;
+  request.fallbackName = m_fallbackName;
+  request.pageLanguage = m_pageLanguage;
+  request.replace = true;
+  return request;
+}
+
 void TextImport::Read(const std::string& path) {
   Forget();
   m_fallbackName = NameOfPath(path);
-  LibraryRequest request;
-  request.fallbackName = m_fallbackName;
-  request.replace = true;
-  Begin(Step::kReading, std::make_shared<Shared>(), [path, request](Shared& shared, const auto& isWanted) {
-    ImportSource source;
-    source.paths = {path};
-    source.goOn = [&](const std::string& file) {
-      const std::lock_guard lock(shared.mutex);
-      shared.fileAtHand = file;
-      return isWanted();
-    };
-    shared.bible = std::make_shared<const ImportedBible>(ReadBible(source));
-    shared.MakePlan(request);
-  });
+  Begin(Step::kReading, std::make_shared<Shared>(),
+        [path, request = Request({}, {})](Shared& shared, const auto& isWanted) {
+          ImportSource source;
+          source.paths = {path};
+          source.goOn = [&](const std::string& file) {
+            const std::lock_guard lock(shared.mutex);
+            shared.fileAtHand = file;
+            return isWanted();
+          };
+          shared.bible = std::make_shared<const ImportedBible>(ReadBible(source));
+          shared.MakePlan(request);
+        });
 }
 
 void TextImport::Plan(const std::string& name, const std::string& stem) {
   if (!m_bible) return;
   m_plan.reset();
-  LibraryRequest request;
-  request.name = name;
-  request.stem = stem;
-  request.fallbackName = m_fallbackName;
-  request.replace = true;
   auto shared = std::make_shared<Shared>();
   shared->bible = m_bible;
-  Begin(Step::kPlanning, shared, [request](Shared& own, const auto& /*isWanted*/) { own.MakePlan(request); });
+  Begin(Step::kPlanning, shared,
+        [request = Request(name, stem)](Shared& own, const auto& /*isWanted*/) { own.MakePlan(request); });
 }
 
 void TextImport::Write() {

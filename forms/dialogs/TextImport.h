@@ -4,6 +4,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <utility>
 
 #include "BackgroundWork.h"
 #include "ImportError.h"
@@ -19,6 +20,9 @@ class TextImport : public QObject {
 
  public:
   enum class Step { kNone, kReading, kPlanning, kWriting };
+
+  // `pageLanguage` is that of LibraryRequest.
+  explicit TextImport(std::string pageLanguage) : m_pageLanguage(std::move(pageLanguage)) {}
 
   // Reads the text at a path and plans it by what it tells itself; Found or Failed follows.
   void Read(const std::string& path);
@@ -47,6 +51,7 @@ class TextImport : public QObject {
  private:
   struct Shared;
   using Task = std::function<void(Shared&, const std::function<bool()>& isWanted)>;
+  LibraryRequest Request(const std::string& name, const std::string& stem) const;
   void Begin(Step step, const std::shared_ptr<Shared>& shared, const Task& task);
   void End();
 
@@ -54,6 +59,7 @@ class TextImport : public QObject {
   std::shared_ptr<Shared> m_shared;
   std::shared_ptr<const ImportedBible> m_bible;
   std::shared_ptr<const LibraryPlan> m_plan;
+  std::string m_pageLanguage;
   std::string m_fallbackName;
   BackgroundWork m_work;
 };

@@ -25,8 +25,11 @@ std::string PathOf(const QString& typed) {
 
 }  // namespace
 
-frmImport::frmImport(UserInterface& ui, QWidget* parent)
-    : LoadedDialog(ui, parent), m_boxes(ui), m_ui(std::make_unique<Ui::frmImport>()) {
+frmImport::frmImport(UserInterface& ui, std::string pageLanguage, QWidget* parent)
+    : LoadedDialog(ui, parent),
+      m_boxes(ui),
+      m_ui(std::make_unique<Ui::frmImport>()),
+      m_import(std::move(pageLanguage)) {
   constexpr int kTyping = 300;    // milliseconds
   constexpr int kProgress = 100;  // milliseconds
   m_ui->setupUi(this);

@@ -19,7 +19,8 @@ class frmImport : public LoadedDialog {
   Q_OBJECT
 
  public:
-  explicit frmImport(UserInterface& ui, QWidget* parent = nullptr);
+  // `pageLanguage` is the code that pages declare of a text that names no language.
+  frmImport(UserInterface& ui, std::string pageLanguage, QWidget* parent = nullptr);
   ~frmImport() override;
 
   // Reads a text that was chosen; nothing for one that is empty or already there.

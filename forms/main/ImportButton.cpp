@@ -6,6 +6,7 @@
 
 #include "Dialogs.h"
 #include "LibraryLists.h"
+#include "PageEncoding.h"
 #include "QtText.h"
 #include "frmImport.h"
 #include "ui_frmMain.h"
@@ -23,7 +24,7 @@ ImportButton::~ImportButton() = default;
 
 void ImportButton::Open(const std::string& path) {
   if (!mayOpen()) return;
-  m_dialog = std::make_unique<frmImport>(m_state.ui, m_form);
+  m_dialog = std::make_unique<frmImport>(m_state.ui, StoredLanguage(m_state.store), m_form);
   if (m_dialogs.whenMade) m_dialogs.whenMade(*m_dialog);
   connect(m_dialog.get(), &frmImport::Imported, this, &ImportButton::Choose);
   m_dialog->Take(path);

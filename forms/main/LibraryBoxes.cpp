@@ -9,7 +9,9 @@
 #include <QScreen>
 #include <QVBoxLayout>
 
+#include "PageEncoding.h"
 #include "QtText.h"
+#include "StoredSettings.h"
 #include "frmImport.h"
 
 namespace folionet {
@@ -51,7 +53,7 @@ std::string LibraryBoxes::Ask(const InputBox& box, QWidget* owner) {
   QPushButton* import = buttons->addButton(QObject::tr("&Import a text..."), QDialogButtonBox::ActionRole);
   import->setObjectName(QStringLiteral("cmdImport"));
   QObject::connect(import, &QPushButton::clicked, &dialog, [this, &dialog] {
-    frmImport form(m_ui, &dialog);
+    frmImport form(m_ui, StoredLanguage(StoredSettings(StoredSettings::DefaultFolder())), &dialog);
     QObject::connect(&form, &frmImport::Imported, &dialog, [&](const std::string& folder) {
       m_imported = folder;
       dialog.accept();

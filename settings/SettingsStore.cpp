@@ -36,6 +36,36 @@ std::string KeptPath(const std::string& path) {
   return kept;
 }
 
+bool IsLink(const std::string& path) {
+  struct stat status {};
+  return lstat(path.c_str(), &status) == 0 && S_ISLNK(status.st_mode);
+}
+
+// Keeps a settings file under the name KeptPath, while no other program saves it. A link, as a person's that keeps all
+// settings in one place, stays, and leads to an empty file then.
+void PutAside(const std::string& path, std::size_t longest) {
+  struct stat status {};
+  if (lstat(path.c_str(), &status) != 0 && (errno == ENOENT || errno == ENOTDIR)) return;
+  Replacement file(path);
+  if (IsLink(path)) {
+    ReplaceWholeFile(KeptPath(path), file.OldContent(longest).value_or(""));
+    file.Prepare("");
+    file.Commit();
+  } else if (std::rename(path.c_str(), KeptPath(path).c_str()) != 0) {
+    throw RunTimeError::FromErrno(errno, path);
+  }
+}
+
+// One that stays, or that another program has begun to save, says the same.
+void RemoveEmpty(const std::string& path) {
+  try {
+    const Replacement file(path);
+    if (!IsLink(path) && file.OldContent(1) == "") std::remove(path.c_str());
+  } catch (const RunTimeError&) {
+    return;
+  }
+}
+
 // The text of an option as it is saved: "+20" is "20". A text that has not the option's form as it is.
 std::string InItsForm(std::string_view key, const std::string& text) {
   const Option* const option = FindOption(key);
@@ -126,10 +156,7 @@ void SettingsStore::SaveTogether(const std::function<void()>& saves, JointChange
 
 void SettingsStore::DeleteSetting(std::string_view application) {
   const std::string path = FilePath(application);
-  const bool hasFile = !Folder().empty();
-  if (hasFile && std::rename(path.c_str(), KeptPath(path).c_str()) != 0 && errno != ENOENT && errno != ENOTDIR) {
-    throw RunTimeError::FromErrno(errno, path).About(Subject::kSettingsFile);
-  }
+  if (!Folder().empty()) WorkAbout(Subject::kSettingsFile, [&] { PutAside(path, kLongestFile); });
   Take(application, {});
 }
 
@@ -138,7 +165,7 @@ void SettingsStore::DeleteSettings(JointChange& change) {
   change.Replace(KeptPath(path), ReadIfThere(path, kLongestFile).value_or(""));
   change.Replace(path, "");
   change.Commit();
-  std::remove(path.c_str());  // an empty one that stays says the same
+  RemoveEmpty(path);
   Take(kApplicationTitle, {});
 }
 

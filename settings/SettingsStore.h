@@ -32,8 +32,8 @@ class SettingsStore : public StoredSettings {
   void TrySaving() const;
 
   // Removes an application's whole area; its file is kept beside as "<file>.before-restore", or as the first of
-  // "<file>.before-restore-2" and so on that is not there yet. Throws RunTimeError when that fails, and everything is
-  // as it was.
+  // "<file>.before-restore-2" and so on that is not there yet. A link stays, and the file that it leads to is emptied.
+  // Throws RunTimeError when that fails, and everything is as it was.
   void DeleteSetting(std::string_view application);
 
   // The same of our own area as a part of a change of several files, which it makes.

@@ -71,8 +71,7 @@ void StoredSettings::FinishChange() const {
     const std::string folder = std::filesystem::path(UnfinishedNote()).parent_path().string();
     if (access(folder.c_str(), X_OK) != 0) {
       throw RunTimeError(error.Number(), folder,
-                         error.Detail() + ". This folder holds the settings. Name one of your own by XDG_CONFIG_HOME.")
-          .About(Subject::kSettingsFile);
+                         error.Detail() + ". This folder holds the settings. Name one of your own by XDG_CONFIG_HOME.");
     }
     const std::string more =
         error.Item() == UnfinishedNote()

@@ -263,19 +263,6 @@ TEST_F(Settings, AFailureToSaveIsToldAgain) {
   EXPECT_TRUE(m_hasEnded);
 }
 
-TEST_F(Settings, ARefusedRestoreChangesNothing) {
-  Store("PageTitles", "mine");
-  Store("Charset", "utf-8 (Unicode)");
-  ASSERT_TRUE(Start());
-  m_home.Write("program/CustomFooter.txt/in_the_way", "");
-  m_ui.yesNo = {true};
-  Click("cmdRestoreAll");
-  EXPECT_EQ(m_ui.log, (Log{"Restore Factory Settings?", "75 cmdRestoreAll_Click"}));
-  EXPECT_FALSE(m_hasEnded);
-  EXPECT_EQ(m_state->options.frmPAgeTitles.txtPageTitles, "mine");
-  EXPECT_EQ(m_store->Text("PageTitles"), "mine");
-}
-
 // Else the exit would store again what was removed.
 TEST_F(Settings, ARestoreThatFailsBehindTheRemovalEndsTheProgramToo) {
   Store("PageTitles", "mine");

@@ -1,7 +1,9 @@
 #include <gtest/gtest.h>
+#include <sys/file.h>
 
 #include <filesystem>
 
+#include "FileHandle.h"
 #include "OptionLoading.h"
 #include "OptionSaving.h"
 #include "PageEncoding.h"
@@ -83,6 +85,17 @@ TEST(SettingsStoreTest, AFailedSaveIsToldAndNotTriedAgain) {
   SettingsStore store(folder.Write("file", "") + "/");
   EXPECT_THROW(store.SaveText("Font", "Arial"), RunTimeError);
   EXPECT_EQ(store.Text("Font"), "Verdana");
+}
+
+TEST(SettingsStoreTest, TakesNothingAwayWhileAnotherProgramSaves) {
+  const TemporaryFolder folder;
+  folder.Write("Folionet.ini", "[Keys]\nFont=Arial\n");
+  const FileHandle held = FileHandle::Open(folder.Write(".Folionet.ini.folionet-new", "").c_str(), O_RDONLY);
+  ASSERT_EQ(flock(held.Get(), LOCK_EX), 0);
+  SettingsStore store(folder.Path());
+  EXPECT_THROW(store.DeleteSetting("Folionet"), RunTimeError);
+  EXPECT_EQ(store.Text("Font"), "Arial");
+  EXPECT_FALSE(folder.Has("Folionet.ini.before-restore"));
 }
 
 TEST(OptionsTest, ThatDoNotConvertAreFailuresAndStayAsTheyAreStored) {

@@ -4,6 +4,7 @@
 //
 //   = the case's name
 //   library sixty-six                     another library than the small one: 66 books, or "none"
+//   install                               copies the form's program to bin/folionet, with nothing beside it
 //   write FILE TEXT [N TEXT]...           the text, then others N times each; "append" leaves what the file holds
 //   replace FILE OLD NEW                  also: remove PATH..., rename PATH PATH, folder PATH, pipe PATH,
 //                                         link PATH TARGET, hardlink PATH TARGET,

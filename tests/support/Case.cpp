@@ -71,6 +71,11 @@ std::string WithShortReports(std::string text) {
   return text;
 }
 
+// As "install" makes it, without delivered files beside it.
+constexpr char kInstalled[] = "bin/folionet";
+
+fs::path ProgramOfForm() { return fs::path(FOLIONET_CLI).replace_filename("folionet"); }
+
 // What goes before the program: settings of the environment, and bounds.
 Command Prefix(const std::string& word) {
   if (word == "fed") return {"/bin/sh", "-c", "exec \"$@\" < in", "sh"};
@@ -89,10 +94,10 @@ Command CommandOf(const Command& words) {
   if (word == "site") return CompileSmall(rest);
   if (word == "compile") return CompileCommand(rest);
   if (word == "cli") return With({FOLIONET_CLI}, rest);
-  if (word == "folionet") {
+  if (word == "folionet" || word == kInstalled) {
     // With a person who answers: tests/app/Person.cpp.
     return With({"/usr/bin/env", "-u", "DISPLAY", "-u", "WAYLAND_DISPLAY", "QT_QPA_GENERIC_PLUGINS=person",
-                 "QT_PLUGIN_PATH=" PERSON_PLUGINS, fs::path(FOLIONET_CLI).replace_filename("folionet")},
+                 "QT_PLUGIN_PATH=" PERSON_PLUGINS, word == kInstalled ? word : ProgramOfForm().string()},
                 rest);
   }
   if (word == "terminal") {
@@ -145,6 +150,9 @@ std::vector<std::string> Case::Outcome(const Lines& words) const {
   if (verb == "absent") return m_home.Has(words.at(1)) ? Lines{"+ " + words[1]} : Lines{};
   if (verb == "library") {
     TakeLibrary(words.at(1));
+  } else if (verb == "install") {
+    fs::create_directory(m_home.Path() + "bin");
+    fs::copy_file(ProgramOfForm(), m_home.Path() + kInstalled);
   } else if (!Arrange(m_home.Path(), words)) {
     ADD_FAILURE() << "what is \"" << verb << "\"?";
   }

@@ -193,7 +193,8 @@ TEST_F(Compiles, ThatWereKilledAreToldByTheNextOne) {
   }
 }
 
-// Into the folder that was opened, and no other: the link to it is pointed elsewhere before each call.
+// Into the folder that was opened, and no other: the link to it is pointed elsewhere before each call. What another run
+// has left to tell of that other one stays.
 TEST_F(Compiles, StayInTheFolderThatWasOpened) {
   const auto arrange = [](const TemporaryFolder& home) {
     ArrangeLibrary(home);
@@ -203,11 +204,16 @@ TEST_F(Compiles, StayInTheFolderThatWasOpened) {
     }
     std::filesystem::create_symlink("one", home.Path() + "here");
     std::filesystem::create_symlink("other", home.Path() + "there");
+    home.Write("other/genesis_1.html.before-folionet/in_the_way", "");
+    ASSERT_EQ(RunProgram(Compile({"--output=other"}), home.Path()).status, 3);
+    for (const char* left : {"other/genesis_1.html.before-folionet", "other/default.css"}) {
+      std::filesystem::remove_all(home.Path() + left);
+    }
   };
   const Job job{"link",
                 arrange,
                 [](const TemporaryFolder&) {
-                  return Compile({"--output=here", "--start-book=2"});
+                  return Compile({"--output=here", "--start-book=2", "--list-changed"});
                 },
                 {}};
   const TemporaryFolder first;
@@ -219,12 +225,15 @@ TEST_F(Compiles, StayInTheFolderThatWasOpened) {
   for (std::size_t at = 1; at <= calls; ++at) {
     const TemporaryFolder home;
     arrange(home);
+    const FolderContent notes = ReadFolder(home.Path() + "state");
+    ASSERT_EQ(notes.size(), 1U);
     const FaultyRun run = job.Run(home, {at, "swap"});
     SCOPED_TRACE("call " + std::to_string(at) + ", " + run.calls[at - 1].name + " " + run.calls[at - 1].path);
     EXPECT_EQ(run.result.status, 0) << run.result.errors;
     const std::string place = home.Read("one/exodus_2.html") == site.at("exodus_2.html") ? "one" : "other";
     EXPECT_EQ(DescribeDifference(site, ReadFolder(home.Path() + place)), "");
     EXPECT_EQ(DescribeDifference(before, ReadFolder(home.Path() + (place == "one" ? "other" : "one"))), "");
+    EXPECT_EQ(ReadFolder(home.Path() + "state"), place == "one" ? notes : FolderContent());
     places.insert(place);
   }
   PrintCounts(job.name, calls, {calls, 0});

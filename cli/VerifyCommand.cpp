@@ -51,11 +51,17 @@ void ShowName(const std::string& page, const char* kind, ConsoleUi& ui) {
 ExitStatus RemoveStale(const SiteReport& report, ConsoleUi& ui) {
   std::signal(SIGPIPE, SIG_IGN);  // what is left is told also when nobody reads the names any more
   const StopSignals noted;
-  const RemovedPages pages = RemovePages(report, [&](const std::string& page) {
-    if (StopSignal() != 0) return false;
-    ShowName(page, "removed", ui);
-    return ui.Flush();
-  });
+  RemovedPages pages;
+  try {
+    pages = RemovePages(report, [&](const std::string& page) {
+      if (StopSignal() != 0) return false;
+      ShowName(page, "removed", ui);
+      return ui.Flush();
+    });
+  } catch (const RunTimeError& error) {
+    ui.Tell(error.what());  // and what to do
+    return kExitFailed;
+  }
   for (const Finding& finding : pages.kept) ui.Warn(finding);
   if (pages.left > 0) {
     ui.Tell("Stopped: " + Counted(pages.left, "page") + (pages.left == 1 ? " was" : " were") +

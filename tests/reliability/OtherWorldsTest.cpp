@@ -54,6 +54,23 @@ TEST(OtherWorlds, TheSiteIsTheSameInFoldersOfEveryName) {
   }
 }
 
+TEST(OtherWorlds, AFolderOfSettingsThatMayNotBeEnteredIsNamed) {
+  const TemporaryFolder home;
+  const ProgramResult run = RunProgram({"/bin/sh", "-c",
+                                        "mkdir config; chmod 0 config; "
+                                        "[ $(id -u) != 0 ] || set -- setpriv --reuid=65534 --clear-groups; "
+                                        "exec \"$@\" " FOLIONET_CLI " list settings",
+                                        "sh"},
+                                       home.Path());
+  EXPECT_EQ(run.status, 3);
+  EXPECT_NE(run.errors.find(home.Path() + "config\nPermission denied. This folder holds the settings. Name one of your "
+                                          "own by XDG_CONFIG_HOME.\n"),
+            std::string::npos)
+      << run.errors;
+  EXPECT_TRUE(
+      run.errors.ends_with("\n\nSee that this file or folder is there and may be read, and run this command again.\n"));
+}
+
 TEST(OtherWorlds, AHomeThatCannotBeWrittenIsNoHindrance) {
   const TemporaryFolder home;
   MakeSmallLibrary(home);

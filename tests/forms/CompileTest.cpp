@@ -7,56 +7,13 @@
 #include <QTimer>
 
 #include "FactLines.h"
-#include "FolderContent.h"
 #include "FormTest.h"
-#include "ProgramRun.h"
 #include "frmMain.h"
 
 namespace folionet {
 namespace {
 
 class CompileFromForm : public FormTest {};
-
-TEST_F(CompileFromForm, WritesTheBytesOfTheCommandLine) {
-  const struct {
-    std::vector<const char*> clicks;
-    const char* endBook;
-    std::vector<std::string> arguments;
-    std::size_t files;
-  } cases[] = {
-      {{}, "Book66", {"index.html"}, 4},
-      {{"chkCSS", "OptAlignCenter"},
-       "Book1",
-       {"a/index.html", "--set=chkCSS=1", "--set=Index_Alignment=Center", "--end-book=1"},
-       5},
-      {{"chkUse83", "chkDoubleSpace", "chkUseNames", "chkBack"},
-       "Book2",
-       {"index.htm", "--set=Use83=1", "--set=chkDoubleSpace=1", "--set=chkUseNames=0", "--set=chkBack=1",
-        "--start-book=2", "--end-book=2"},
-       2},
-  };
-  for (const auto& c : cases) {
-    SCOPED_TRACE(c.arguments[0]);
-    for (const char* name : {"config/Folionet.ini", "site", "cli"}) Remove(name);
-    std::filesystem::create_directory(m_home.Path() + "site");
-    ASSERT_TRUE(Start());
-    for (const char* name : c.clicks) Click(name);
-    if (c.clicks.size() > 2) Give("cboStartBook", "Book2");
-    Give("cboEndBook", c.endBook);
-    ChooseOutput(c.arguments[0].c_str());
-    Click("cmdCompile");
-    EXPECT_EQ(m_ui.log.back(), "Compilation Complete Folionet");
-    Remove("config/Folionet.ini");
-    std::vector<std::string> command{"compile", "--program-folder=" + m_home.Path() + "program",
-                                     "--output=" + m_home.Path() + "cli", "--index-address=" + c.arguments[0]};
-    command.insert(command.end(), c.arguments.begin() + 1, c.arguments.end());
-    const test::ProgramResult result = test::RunCli(command, m_home.Path());
-    ASSERT_EQ(result.status, 0) << result.errors;
-    const test::FolderContent site = test::ReadFolder(m_home.Path() + "site");
-    EXPECT_EQ(test::DescribeDifference(test::ReadFolder(m_home.Path() + "cli"), site), "");
-    EXPECT_EQ(site.size(), c.files);
-  }
-}
 
 TEST_F(CompileFromForm, ShowsProgressAndThenTheSite) {
   Store("chkCSS", "1");  // the style sheet is no page

@@ -106,16 +106,6 @@ TEST_F(Looks, ALargeScreenKeepsTheContentTogether) {
   EXPECT_LE(place("cmdLinkToMain").top() - place("cmdPageEncoding").bottom(), 2 * Get("cmdLinkToMain").height());
 }
 
-TEST_F(Looks, TheLinkBackStandsAsChosen) {
-  ASSERT_TRUE(Start());
-  Click("frmLinkToMAin.ORight");
-  Give("frmLinkToMAin.cboSize", "7");
-  for (const char* box : {"frmLinkToMAin.txtLinkToMain", "frmLinkToMAin.txtLinkToMainOK"}) {
-    EXPECT_TRUE(Get<QLineEdit>(box).alignment().testFlag(Qt::AlignRight)) << box;
-    EXPECT_EQ(Get(box).font().pointSize(), 15) << box;
-  }
-}
-
 TEST_F(Looks, TheSampleLinkLooksAsInAPage) {
   ASSERT_TRUE(Start());
   Give("frmEffects.cmdRollover", "4478310");

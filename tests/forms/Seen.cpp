@@ -5,12 +5,9 @@
 #include <QComboBox>
 #include <QDialog>
 #include <QFontDatabase>
-#include <QGroupBox>
 #include <QLabel>
-#include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QProgressBar>
-#include <QPushButton>
 #include <QShortcut>
 #include <QTreeWidget>
 #include <algorithm>
@@ -23,125 +20,112 @@
 namespace folionet {
 namespace {
 
-// Gathers traits; those that are false or empty are left out.
-class Gathered {
- public:
-  void Add(const char* name, bool holds) {
-    if (holds) m_traits.emplace_back(name);
-  }
-  void Add(const char* name, const QString& text) {
-    if (!text.isEmpty()) m_traits.push_back(std::string(name) + '=' + test::Visible(FromQt(text)));
-  }
-  Traits Taken() { return std::move(m_traits); }
+using Names = std::vector<std::pair<const char*, const char*>>;
 
- private:
-  Traits m_traits;
-};
-
-QString ItemsOf(const QComboBox& list) {
-  constexpr int kMost = 12;
-  QStringList items;
-  for (int i = 0; i < list.count(); ++i) items << list.itemText(i);
-  if (list.count() <= kMost) return items.join(QLatin1Char(','));
-  return items.first() + QStringLiteral("..") + items.last() + QStringLiteral(" (%1)").arg(list.count());
+void Add(const char* trait, bool holds, Traits& traits) {
+  if (holds) traits.emplace_back(trait);
 }
 
-void AddText(const QWidget& control, Gathered& traits) {
+void Add(const char* trait, const QString& text, Traits& traits) {
+  if (!text.isEmpty()) traits.push_back(std::string(trait) + '=' + test::Visible(FromQt(text)));
+}
+
+// Both name a trait and Qt's property.
+void AddProperties(const QWidget& widget, const Names& texts, const Names& flags, Traits& traits) {
+  for (const auto& [trait, property] : texts) Add(trait, widget.property(property).toString().trimmed(), traits);
+  for (const auto& [trait, property] : flags) Add(trait, widget.property(property).toBool(), traits);
+}
+
+void AddContent(const QWidget& control, Traits& traits) {
   if (const auto* list = qobject_cast<const QComboBox*>(&control)) {
     const auto* texts = qobject_cast<const TextCombo*>(list);
-    traits.Add("text", texts != nullptr ? texts->Text() : list->currentText());
-    traits.Add("typed", list->isEditable());
-    if (list->count() < QFontDatabase::families().size()) traits.Add("items", ItemsOf(*list));
-    return;
+    Add("text", texts != nullptr ? texts->Text() : list->currentText(), traits);
+    QStringList items;
+    for (int i = 0; i < list->count(); ++i) items << list->itemText(i);
+    constexpr qsizetype kMost = 12;  // of the books the first and the last, of the fonts none
+    if (items.size() > kMost) items = {items.first() + QStringLiteral("..") + items.last()};
+    if (control.objectName() != QLatin1String("cboFont")) Add("items", items.join(','), traits);
+  } else if (const auto* box = qobject_cast<const QPlainTextEdit*>(&control)) {
+    Add("text", box->toPlainText(), traits);
+  } else if (const auto* tree = qobject_cast<const QTreeWidget*>(&control)) {
+    Add("column", tree->headerItem()->text(0), traits);
+  } else if (const auto* bar = qobject_cast<const QProgressBar*>(&control)) {
+    Add("value", QStringLiteral("%1 of %2").arg(bar->value()).arg(bar->maximum()), traits);
+  } else if (const auto* label = qobject_cast<const QLabel*>(&control); label == nullptr || label->buddy() == nullptr) {
+    Add("text", control.property("text").toString(), traits);  // a label's is told with what it names
   }
-  const auto* label = qobject_cast<const QLabel*>(&control);
-  if (label != nullptr && label->buddy() != nullptr) return;  // is told with what it names
-  const auto* box = qobject_cast<const QPlainTextEdit*>(&control);
-  traits.Add("text", box != nullptr ? box->toPlainText() : control.property("text").toString());
-  traits.Add("title", control.property("title").toString());
-  if (const auto* tree = qobject_cast<const QTreeWidget*>(&control)) traits.Add("column", tree->headerItem()->text(0));
-  if (const auto* bar = qobject_cast<const QProgressBar*>(&control)) {
-    traits.Add("value", QStringLiteral("%1 of %2").arg(bar->value()).arg(bar->maximum()));
-  }
-}
-
-void AddState(const QWidget& control, Gathered& traits) {
-  traits.Add("off", !control.isEnabledTo(control.window()));
-  traits.Add("hidden", control.isHidden());
-  traits.Add("on", control.property("checked").toBool());
-  traits.Add("read-only", control.property("readOnly").toBool());
-  traits.Add("default", control.property("default").toBool());
-  traits.Add("unframed", control.inherits("QLineEdit") && !control.property("frame").toBool());
-  traits.Add("wraps", control.property("wordWrap").toBool());
-  traits.Add("selectable", control.inherits("QLabel") &&
-                               control.property("textInteractionFlags").toInt() == Qt::TextSelectableByMouse);
-  traits.Add("hand", control.cursor().shape() == Qt::PointingHandCursor);
-}
-
-void AddLook(const QWidget& control, Gathered& traits) {
-  const int place = control.property("alignment").toInt() & ~(Qt::AlignLeft | Qt::AlignVCenter);
-  if (place != 0 && !control.inherits("QGroupBox")) traits.Add("alignment", QString::number(place, 16));
-  const QFont& font = control.font();
-  if (control.testAttribute(Qt::WA_SetFont)) {
-    const bool isFixed = font.families().contains(QFontDatabase::systemFont(QFontDatabase::FixedFont).family());
-    if ((font.resolveMask() & QFont::FamiliesResolved) != 0) traits.Add("font", isFixed ? "fixed" : font.family());
-    if ((font.resolveMask() & QFont::SizeResolved) != 0 && !isFixed) {
-      traits.Add("size", QString::number(font.pointSizeF()));
-    }
-    traits.Add("bold", font.bold());
-    traits.Add("italic", font.italic());
-    traits.Add("underlined", font.underline());
-  }
-  const std::pair<const char*, QPalette::ColorRole> roles[] = {{"ground", QPalette::Base},
-                                                               {"ink", QPalette::Text},
-                                                               {"window", QPalette::Window},
-                                                               {"words", QPalette::WindowText}};
-  const QPalette& form = control.window()->palette();
-  for (const auto& [name, role] : roles) {
-    if (!control.testAttribute(Qt::WA_SetPalette) || !control.palette().isBrushSet(QPalette::Active, role)) continue;
-    const QColor colour = control.palette().color(QPalette::Active, role);
-    const bool isForms = role == QPalette::Base && colour == form.color(QPalette::Active, QPalette::Window);
-    traits.Add(name, isForms ? "window" : colour.name());
-  }
-}
-
-void AddHelp(const QWidget& control, Gathered& traits) {
   for (const auto* label : control.window()->findChildren<QLabel*>()) {
-    if (label->buddy() == &control) traits.Add("label", label->text());
+    if (label->buddy() == &control) Add("label", label->text(), traits);
   }
-  traits.Add("hint", control.property("placeholderText").toString().trimmed());
-  traits.Add("tip", control.toolTip());
-  traits.Add("heard", control.accessibleName());
-  traits.Add("told", control.accessibleDescription());
-  const QString key = control.property("shortcut").value<QKeySequence>().toString();
-  if (!key.startsWith("Alt+")) traits.Add("key", key);  // its text has the others
-  QStringList actions;
-  for (const QAction* action : control.actions()) actions << action->text() + '(' + action->shortcut().toString() + ')';
-  traits.Add("actions", actions.join(' '));
+}
+
+void AddLook(const QWidget& control, Traits& traits) {
+  const bool isLabel = control.inherits("QLabel");
+  Add("off", !control.isEnabledTo(control.window()), traits);
+  Add("hidden", control.isHidden(), traits);
+  Add("unframed", control.inherits("QLineEdit") && !control.property("frame").toBool(), traits);
+  Add("selectable", isLabel && control.property("textInteractionFlags").toInt() == Qt::TextSelectableByMouse, traits);
+  Add("hand", control.cursor().shape() == Qt::PointingHandCursor, traits);
+  const int place = control.property("alignment").toInt() & ~(Qt::AlignLeft | Qt::AlignVCenter);
+  if (place != 0 && (isLabel || control.inherits("QLineEdit"))) Add("alignment", QString::number(place, 16), traits);
+  if (control.testAttribute(Qt::WA_SetFont)) {
+    const QFont& font = control.font();
+    const bool isFixed = font.families().contains(QFontDatabase::systemFont(QFontDatabase::FixedFont).family());
+    const auto isSet = [&](int part) { return (font.resolveMask() & static_cast<uint>(part)) != 0; };
+    if (isSet(QFont::FamiliesResolved)) Add("font", isFixed ? QStringLiteral("fixed") : font.family(), traits);
+    if (isSet(QFont::SizeResolved) && !isFixed) Add("size", QString::number(font.pointSizeF()), traits);
+    Add("bold", font.bold(), traits);
+    Add("italic", font.italic(), traits);
+    Add("underlined", font.underline(), traits);
+  }
+  const auto colour = [](const QWidget& of, QPalette::ColorRole role) {
+    return of.palette().color(QPalette::Active, role);
+  };
+  for (const auto& [trait, role] : {std::pair{"ground", QPalette::Base},
+                                    {"ink", QPalette::Text},
+                                    {"window", QPalette::Window},
+                                    {"words", QPalette::WindowText}}) {
+    if (!control.testAttribute(Qt::WA_SetPalette) || !control.palette().isBrushSet(QPalette::Active, role)) continue;
+    const bool isForms = role == QPalette::Base && colour(control, role) == colour(*control.window(), QPalette::Window);
+    Add(trait, isForms ? QStringLiteral("window") : colour(control, role).name(), traits);
+  }
 }
 
 Traits TraitsOf(const QWidget& control) {
-  Gathered traits;
-  AddText(control, traits);
-  AddState(control, traits);
+  Traits traits;
+  AddContent(control, traits);
   AddLook(control, traits);
-  AddHelp(control, traits);
-  return traits.Taken();
+  AddProperties(control,
+                {{"title", "title"},
+                 {"hint", "placeholderText"},
+                 {"tip", "toolTip"},
+                 {"heard", "accessibleName"},
+                 {"told", "accessibleDescription"}},
+                {{"on", "checked"},
+                 {"read-only", "readOnly"},
+                 {"typed", "editable"},
+                 {"default", "default"},
+                 {"wraps", "wordWrap"}},
+                traits);
+  const QString key = control.property("shortcut").value<QKeySequence>().toString();
+  if (!key.startsWith("Alt+")) Add("key", key, traits);  // its text has the others
+  for (const QAction* action : control.actions()) {
+    Add("action", (action->text() + ' ' + action->shortcut().toString()).trimmed(), traits);
+  }
+  return traits;
 }
 
 Traits TraitsOfWindow(const QWidget& window) {
-  Gathered traits;
-  traits.Add("title", window.windowTitle());
-  traits.Add("open", window.isVisible());
-  traits.Add("drops", window.acceptDrops());
-  traits.Add("grip", window.property("sizeGripEnabled").toBool());
+  Traits traits;
+  AddProperties(window, {{"title", "windowTitle"}},
+                {{"open", "visible"}, {"drops", "acceptDrops"}, {"grip", "sizeGripEnabled"}}, traits);
   QStringList keys;
   for (const auto* shortcut : window.findChildren<QShortcut*>(Qt::FindDirectChildrenOnly)) {
     keys << shortcut->key().toString();
   }
   for (const QAction* action : window.actions()) keys << action->shortcut().toString();
-  traits.Add("keys", keys.join(' '));
-  return traits.Taken();
+  Add("keys", keys.join(' '), traits);
+  return traits;
 }
 
 bool IsTabbed(const QWidget* control) { return (control->focusPolicy() & Qt::TabFocus) != 0; }
@@ -176,18 +160,17 @@ SeenControls ControlsOf(const QWidget& form) {
 
 std::vector<std::string> ChangesOf(const SeenControls& before, const SeenControls& after) {
   const std::map<std::string, Traits> known(before.begin(), before.end());
+  const auto key = [](const std::string& trait) { return trait.substr(0, trait.find('=')); };
   std::vector<std::string> changes;
   for (const auto& [name, traits] : after) {
     const auto old = known.find(name);
     const Traits was = old == known.end() ? Traits() : old->second;
-    const auto key = [](const std::string& trait) { return trait.substr(0, trait.find('=')); };
     std::string line;
     for (const std::string& trait : traits) {
       if (std::ranges::find(was, trait) == was.end()) line += " | " + trait;
     }
     for (const std::string& trait : was) {
-      const auto isSame = [&](const std::string& now) { return key(now) == key(trait); };
-      if (std::ranges::none_of(traits, isSame)) line += " | no " + key(trait);
+      if (std::ranges::find(traits, key(trait), key) == traits.end()) line += " | no " + key(trait);
     }
     if (!line.empty()) changes.push_back(name + ':' + line.substr(2));
   }

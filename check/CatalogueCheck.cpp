@@ -51,13 +51,13 @@ void CheckRecord(const RecordReader& records, const CatalogueRecord& record, Che
   const std::string& path = records.Lines().Path();
   const std::size_t line = records.Lines().LineNumber();
   const std::string text =
-      record.isListed ? VerseFile(glob, library.codePage, record.stem, library.folders) : std::string();
-  const auto imported = record.isListed ? CheckImported(records, record.name, text, library) : ImportedText();
+      record.IsListed() ? VerseFile(glob, library.codePage, record.stem, library.folders) : std::string();
+  const auto imported = record.IsListed() ? CheckImported(records, record.name, text, library) : ImportedText();
   if (!imported) return;
   // The name of an imported translation is in UTF-8 where windows-1252 lacks its characters.
   if (!imported->IsThere()) CheckName(library, path, line, record.name);
   library.CheckBytes(path, line, record.stem);
-  if (!record.isListed) return;
+  if (!record.IsListed()) return;
   if (!CheckVerseFile(records, record.name, text, library)) return;
   if (std::find(glob.BibleFiles.begin(), glob.BibleFiles.end(), record.stem) != glob.BibleFiles.end()) {
     library.Add("doubled-stem", path, line, {"The file stem is listed twice: %1", {Quoted(record.stem)}});
@@ -80,16 +80,20 @@ void CheckCatalogue(CheckedLibrary& library) {
     const std::string path = SysdefsFile(glob, kCatalogueFile);
     RecordReader records(path, Subject::kCatalogue);
     library.CheckLetterCase(path, glob.SysdefsPath + kCatalogueFile);
-    CatalogueRecord record;
     int listed = 0;
     for (bool more = true; more;) {
       try {
-        more = ReadCatalogueRecord(records, library.codePage, record);
-        if (more && record.isListed && ++listed > kMostListed) {
+        const auto record = ReadCatalogueRecord(records);
+        more = record.has_value();
+        if (!record) break;
+        if (record->IsListed() && LeadsOut(record->stem, library.codePage)) {
+          records.Lines().Fail(kBadFileName, "A file name without a folder was expected: " + Quoted(record->stem));
+        }
+        if (record->IsListed() && ++listed > kMostListed) {
           more = false;
           FailMoreThanMostListed(records);
         }
-        if (more) CheckRecord(records, record, library);
+        CheckRecord(records, *record, library);
       } catch (const RunTimeError& error) {
         library.findings.Add(FindingOf(error));
         more = more && error.Line() != 0;  // a bad record is passed over; a file that cannot be read on is not

@@ -1,7 +1,7 @@
 #include "TitlesCheck.h"
 
 #include <map>
-#include <set>
+#include <utility>
 
 #include "BookTitles.h"
 #include "Installation.h"
@@ -66,23 +66,20 @@ void CheckTitleFile(const std::string& fileName, CheckedLibrary& whole) {
   CheckedLibrary library{whole.glob, codePage, whole.titlesFile, whole.typed, whole.findings};
   try {
     const std::string path = SysdefsFile(glob, fileName);
-    LineReader lines(path, Subject::kBookTitles, LineReader::kLongestEntry);
+    BookTitleReader titles(path);
     library.CheckLetterCase(path, glob.SysdefsPath + fileName);
-    PageNameCheck names(lines, library);
-    std::string_view line;
-    int book = 0;
-    while (book < kBooks && NextTitleLine(lines, line)) {
-      ++book;
-      library.CheckBytes(path, lines.LineNumber(), line, {book});
+    PageNameCheck names(titles.Lines(), library);
+    while (titles.Next()) {
+      const int book = static_cast<int>(titles.Book());
+      library.CheckBytes(path, titles.Lines().LineNumber(), titles.Line(), {book});
       try {
-        names.Add(book, ParseBookTitle(lines, line).title);
+        names.Add(book, titles.Title().title);
       } catch (const RunTimeError& error) {
         library.findings.Add(FindingOf(error));
       }
     }
-    if (book < kBooks) {
-      library.Add("missing-titles", path, 0,
-                  {"The titles of 66 books were expected, %1 found.", {std::to_string(book)}});
+    if (Sentence missing = titles.WhatIsMissing(); !missing.IsEmpty()) {
+      library.Add("missing-titles", path, 0, std::move(missing));
     }
   } catch (const RunTimeError& error) {
     library.findings.Add(FindingOf(error));

@@ -4,69 +4,55 @@
 #include <array>
 
 #include "ImportError.h"
-#include "Numbers.h"
 #include "RecordReader.h"
 #include "Utf8.h"
 #include "WholeFile.h"
 
 namespace folionet {
-namespace {
-
-constexpr int kFirstOtherNumber = 1000;
-
-}  // namespace
-
 CatalogueText::CatalogueText(const std::string& path) : m_path(path) {
   const auto content = ReadIfThere(path);
   if (!content) return;
   m_content = *content;
   RecordReader records(path, Subject::kCatalogue);
-  std::array<std::string_view, 4> fields;
-  while (records.Next(fields)) {
-    Record record;
-    record.number = records.Number(fields[0]);
-    records.Integer(fields[1], kInt32Min, kInt32Max);
-    record.numbers.append(fields[0]).append(",").append(fields[1]).append(",");
-    record.entry = {std::string(fields[2]), std::string(fields[3])};
-    record.end = std::min(records.Lines().NextStart(), m_content.size());
-    m_records.push_back(std::move(record));
+  while (auto record = ReadCatalogueRecord(records)) {
+    m_records.push_back(std::move(*record));
+    m_ends.push_back(std::min(records.Lines().NextStart(), m_content.size()));
   }
 }
 
-bool CatalogueText::IsTranslation(const Record& record) { return record.number < kFirstOtherNumber; }
-
-const CatalogueEntry* CatalogueText::WithStem(std::string_view stem) const {
-  const auto found = std::find_if(m_records.begin(), m_records.end(), [&](const Record& record) {
-    return IsTranslation(record) && EqualIgnoringCase(record.entry.stem, stem);
-  });
-  return found == m_records.end() ? nullptr : &found->entry;
+const CatalogueRecord* CatalogueText::FirstListed(const std::function<bool(const CatalogueRecord&)>& isIt) const {
+  const auto found = std::find_if(m_records.begin(), m_records.end(),
+                                  [&](const CatalogueRecord& record) { return record.IsListed() && isIt(record); });
+  return found == m_records.end() ? nullptr : &*found;
 }
 
-const CatalogueEntry* CatalogueText::WithName(std::string_view name) const {
-  const auto found = std::find_if(m_records.begin(), m_records.end(), [&](const Record& record) {
-    return IsTranslation(record) && record.entry.name == name;
-  });
-  return found == m_records.end() ? nullptr : &found->entry;
+const CatalogueRecord* CatalogueText::WithStem(std::string_view stem) const {
+  return FirstListed([&](const CatalogueRecord& record) { return EqualIgnoringCase(record.stem, stem); });
+}
+
+const CatalogueRecord* CatalogueText::WithName(std::string_view name) const {
+  return FirstListed([&](const CatalogueRecord& record) { return record.name == name; });
 }
 
 int CatalogueText::LowestFree() const {
-  for (int number = 1; number < kFirstOtherNumber; ++number) {
-    const auto isIt = [number](const Record& record) { return record.number == number; };
+  for (int number = 1; number < CatalogueRecord::kFirstUnlisted; ++number) {
+    const auto isIt = [number](const CatalogueRecord& record) { return record.number == number; };
     if (std::none_of(m_records.begin(), m_records.end(), isIt)) return number;
   }
   throw ImportError(kOverflow, m_path,
                     {Words("Import", "A free number from 1 to 999 was expected for the translation.")});
 }
 
-std::string CatalogueText::With(const CatalogueEntry& entry) const {
-  const std::string tail = QuotedRecord(std::array{entry.name, entry.stem});
+std::string CatalogueText::With(const CatalogueRecord& added) const {
+  const std::string tail = QuotedRecord(std::array{added.name, added.stem});
   std::string text;
   bool isPlaced = false;
   std::size_t start = 0;
-  for (const Record& record : m_records) {
-    const std::string_view whole = std::string_view(m_content).substr(start, record.end - start);
-    start = record.end;
-    if (IsTranslation(record) && EqualIgnoringCase(record.entry.stem, entry.stem)) {
+  for (std::size_t i = 0; i < m_records.size(); ++i) {
+    const CatalogueRecord& record = m_records[i];
+    const std::string_view whole = std::string_view(m_content).substr(start, m_ends[i] - start);
+    start = m_ends[i];
+    if (record.IsListed() && EqualIgnoringCase(record.stem, added.stem)) {
       // A mark at the start and blank lines stay. A second record of the stem would list the translation twice.
       text += whole.substr(0, whole.find_first_of("+-.0123456789\""));
       if (!isPlaced) text += record.numbers + tail;

@@ -5,7 +5,7 @@
 
 // A translation in the layout of Versalia's installation:
 //
-//   Sysdefs/Translations.txt             the catalogue                     (CatalogueText.h)
+//   Sysdefs/Translations.txt             the catalogue                     (Catalogue.h)
 //   Sysdefs/BOOKS.TXT                    the book titles, English          (TitleLanguages.h)
 //   Sysdefs/BOOKS_<LANGUAGE>.TXT         the book titles of a language
 //   Sysdefs/BOOKS_<STEM>.TXT             the book titles of the translation; with a number where that name is taken

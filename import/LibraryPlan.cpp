@@ -98,7 +98,7 @@ std::string FreeStem(const LibraryPlan& plan, const CatalogueText& catalogue) {
 
 // Chooses the stem, and refuses to take the place of a translation, or of a file, that is not to be replaced.
 void ChooseStem(const LibraryRequest& request, const CatalogueText& catalogue, LibraryPlan& plan) {
-  const CatalogueEntry* sameName = catalogue.WithName(CatalogueName(plan.text.name));
+  const CatalogueRecord* sameName = catalogue.WithName(CatalogueName(plan.text.name));
   if (sameName == nullptr) sameName = catalogue.WithName(plan.text.name);
   if (sameName != nullptr && (sameName->stem.empty() || !IsStem(sameName->stem)))
     sameName = nullptr;  // nothing of ours, and it may lead elsewhere
@@ -107,7 +107,7 @@ void ChooseStem(const LibraryRequest& request, const CatalogueText& catalogue, L
   } else {
     plan.stem = request.stem;
   }
-  const CatalogueEntry* const sameStem = catalogue.WithStem(plan.stem);
+  const CatalogueRecord* const sameStem = catalogue.WithStem(plan.stem);
   const std::string file = plan.library.InTheWay(plan.stem);
   plan.replaces = sameStem != nullptr || !file.empty();
   if (!plan.replaces || request.replace) return;

@@ -7,7 +7,6 @@
 #include "CodePage.h"
 #include "FlowingText.h"
 #include "ImportError.h"
-#include "LineReader.h"
 #include "TitleLanguages.h"
 #include "Utf8.h"
 
@@ -56,17 +55,14 @@ BookTitleList MakePageTitles(const BookTitleList& given, std::string_view langua
 }
 
 BookTitleList ReadTitlesFile(const std::string& path) {
-  LineReader lines(path, Subject::kBookTitles, LineReader::kLongestEntry);
+  BookTitleReader reader(path);
   BookTitleList titles;
-  for (std::size_t book = 1; book <= kBooks; ++book) {
-    std::string_view line;
-    if (!NextTitleLine(lines, line)) {
-      throw ImportError(
-          kInputPastEnd, path,
-          {Words("Import", "The titles of 66 books were expected, %1 found."), {std::to_string(book - 1)}});
-    }
-    const std::string title = ParseBookTitle(lines, line).title;
-    titles[book] = IsUtf8(title) ? title : CodePage().Decode(title);
+  while (reader.Next()) {
+    const std::string title = reader.Title().title;
+    titles[reader.Book()] = IsUtf8(title) ? title : CodePage().Decode(title);
+  }
+  if (const Sentence missing = reader.WhatIsMissing(); !missing.IsEmpty()) {
+    throw ImportError(kInputPastEnd, path, missing);
   }
   return titles;
 }

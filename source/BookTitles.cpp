@@ -22,22 +22,32 @@ bool IsLanguageFile(std::string_view name) {
 
 }  // namespace
 
-bool NextTitleLine(LineReader& lines, std::string_view& line) {
+BookTitleReader::BookTitleReader(const std::string& path)
+    : m_lines(path, Subject::kBookTitles, LineReader::kLongestEntry) {}
+
+bool BookTitleReader::Next() {
+  if (m_book == kBooks) return false;
   do {
-    if (!lines.Next(line)) return false;
-  } while (line.find_first_not_of(' ') == std::string_view::npos);
-  lines.RefuseLineEnds(line);
+    if (!m_lines.Next(m_line)) return false;
+  } while (m_line.find_first_not_of(' ') == std::string_view::npos);
+  m_lines.RefuseLineEnds(m_line);
+  ++m_book;
   return true;
 }
 
-BookTitle ParseBookTitle(const LineReader& lines, std::string_view line) {
-  const std::size_t firstTab = line.find('\t');
-  const std::size_t lastTab = line.rfind('\t');
+BookTitle BookTitleReader::Title() const {
+  const std::size_t firstTab = m_line.find('\t');
+  const std::size_t lastTab = m_line.rfind('\t');
   if (firstTab == lastTab) {
-    lines.Fail(kInvalidProcedureCall, "Three fields separated by tabs were expected: " + Quoted(line));
+    m_lines.Fail(kInvalidProcedureCall, "Three fields separated by tabs were expected: " + Quoted(m_line));
   }
-  const std::string_view afterFirst = line.substr(firstTab + 1);
-  return {std::string(afterFirst.substr(0, afterFirst.find('\t'))), std::string(line.substr(lastTab + 1))};
+  const std::string_view afterFirst = m_line.substr(firstTab + 1);
+  return {std::string(afterFirst.substr(0, afterFirst.find('\t'))), std::string(m_line.substr(lastTab + 1))};
+}
+
+Sentence BookTitleReader::WhatIsMissing() const {
+  if (m_book == kBooks) return {};
+  return {Words("Import", "The titles of 66 books were expected, %1 found."), {std::to_string(m_book)}};
 }
 
 void ReadBookTitles(ModGlob& glob, const std::string& fileName) {
@@ -47,18 +57,15 @@ void ReadBookTitles(ModGlob& glob, const std::string& fileName) {
     throw RunTimeError(kBadFileName, fileName, "The name of a book-title file without a folder was expected.")
         .About(Subject::kBookTitles);
   }
-  LineReader lines(SysdefsFile(glob, fileName), Subject::kBookTitles, LineReader::kLongestEntry);
-  for (std::size_t book = 1; book <= kBooks; ++book) {
-    std::string_view line;
-    if (!NextTitleLine(lines, line)) {
-      throw RunTimeError(kInputPastEnd, lines.Path(),
-                         "The titles of 66 books were expected, " + std::to_string(book - 1) + " found.")
-          .About(Subject::kBookTitles);
-    }
-    BookTitle parsed = ParseBookTitle(lines, line);
-    glob.cboStartBook.push_back(parsed.title);
-    glob.cboEndBook.push_back(std::move(parsed.title));
-    glob.BookCodes[book] = std::move(parsed.code);
+  BookTitleReader titles(SysdefsFile(glob, fileName));
+  while (titles.Next()) {
+    BookTitle read = titles.Title();
+    glob.cboStartBook.push_back(read.title);
+    glob.cboEndBook.push_back(std::move(read.title));
+    glob.BookCodes[titles.Book()] = std::move(read.code);
+  }
+  if (const Sentence missing = titles.WhatIsMissing(); !missing.IsEmpty()) {
+    throw RunTimeError(kInputPastEnd, titles.Lines().Path(), missing.InEnglish()).About(Subject::kBookTitles);
   }
 }
 

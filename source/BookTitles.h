@@ -1,11 +1,13 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "LineReader.h"
 #include "Outcome.h"
+#include "Sentence.h"
 #include "UserInterface.h"
 #include "modGlob.h"
 
@@ -20,11 +22,33 @@ struct BookTitle {
   std::string title;
 };
 
-// As LineReader::NextNotBlank, but a line of tabs is given too: its fields are empty.
-bool NextTitleLine(LineReader& lines, std::string_view& line);
+// Reads a file of book titles, up to the 66th line.
+class BookTitleReader {
+ public:
+  // Throws RunTimeError for a file that cannot be opened.
+  explicit BookTitleReader(const std::string& path);
 
-// Throws RunTimeError (kInvalidProcedureCall) for a line with fewer than three fields.
-BookTitle ParseBookTitle(const LineReader& lines, std::string_view line);
+  // Goes to the next line that is more than blanks; one of tabs has empty fields. False when there is none, and behind
+  // the 66th. Throws RunTimeError when reading fails.
+  bool Next();
+
+  // Of the line at hand; how many were read, behind the last.
+  std::size_t Book() const { return m_book; }
+  std::string_view Line() const { return m_line; }
+
+  // Throws RunTimeError (kInvalidProcedureCall) for a line with fewer than three fields.
+  BookTitle Title() const;
+
+  // Behind the last line: that books are missing; empty when there are 66.
+  Sentence WhatIsMissing() const;
+
+  const LineReader& Lines() const { return m_lines; }
+
+ private:
+  LineReader m_lines;
+  std::string_view m_line;
+  std::size_t m_book = 0;
+};
 
 // Reads a file of book titles from the folder of definitions into BookCodes and both book lists, which it clears first.
 // Lines after the 66th are not read. Throws RunTimeError: kInvalidProcedureCall for a line with fewer than three

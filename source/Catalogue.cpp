@@ -1,5 +1,6 @@
 #include "Catalogue.h"
 
+#include <algorithm>
 #include <array>
 #include <filesystem>
 #include <system_error>
@@ -13,21 +14,9 @@
 #include "Numbers.h"
 #include "Paths.h"
 #include "RunTimeError.h"
-#include "Text.h"
 
 namespace folionet {
 namespace {
-
-constexpr double kFirstHiddenNumber = 1000;
-
-// A stem names a file in one folder; it must not lead out of it.
-void CheckStem(const RecordReader& records, std::string_view stem, const CodePage& codePage) {
-  for (const char c : codePage.Decode(stem)) {
-    if (c == '/' || c == '\\' || static_cast<unsigned char>(c) < 0x20) {
-      records.Lines().Fail(kBadFileName, "A file name without a folder was expected: " + Quoted(stem));
-    }
-  }
-}
 
 void WarnOfWrongPaths(UserInterface& ui) {
   const std::string title = kApplicationTitle;
@@ -59,28 +48,21 @@ bool IsMissing(const std::string& path) {
   return !std::filesystem::exists(path, error) && !error;
 }
 
-// As ReadCatalogueRecord, passing over records whose stem would lead out of its folder: the others are still good.
-bool ReadSoundRecord(RecordReader& records, const CodePage& codePage, CatalogueRecord& record) {
-  for (;;) {
-    try {
-      return ReadCatalogueRecord(records, codePage, record);
-    } catch (const RunTimeError& error) {
-      if (error.Number() != kBadFileName) throw;
-    }
-  }
-}
-
 }  // namespace
 
-bool ReadCatalogueRecord(RecordReader& records, const CodePage& codePage, CatalogueRecord& record) {
+std::optional<CatalogueRecord> ReadCatalogueRecord(RecordReader& records) {
   std::array<std::string_view, 4> fields;
-  if (!records.Next(fields)) return false;
-  record.isListed = records.Number(fields[0]) < kFirstHiddenNumber;
+  if (!records.Next(fields)) return std::nullopt;
+  CatalogueRecord record{std::string(fields[2]), std::string(fields[3]), records.Number(fields[0])};
   records.Integer(fields[1], kInt32Min, kInt32Max);
-  if (record.isListed) CheckStem(records, fields[3], codePage);
-  record.name = fields[2];
-  record.stem = fields[3];
-  return true;
+  record.numbers.append(fields[0]).append(",").append(fields[1]).append(",");
+  return record;
+}
+
+bool LeadsOut(std::string_view stem, const CodePage& codePage) {
+  const std::string name = codePage.Decode(stem);
+  return std::any_of(name.begin(), name.end(),
+                     [](char c) { return c == '/' || c == '\\' || static_cast<unsigned char>(c) < 0x20; });
 }
 
 void FailMoreThanMostListed(const RecordReader& records) {
@@ -96,15 +78,14 @@ void ReadCatalogue(ModGlob& glob, const CodePage& codePage) {
   glob.listedTranslations = 0;
   glob.firstText.clear();
   std::size_t counter = 0;
-  CatalogueRecord record;
   int& listed = glob.listedTranslations;
   FolderLister folders;
-  while (ReadSoundRecord(records, codePage, record)) {
-    if (!record.isListed) continue;
+  while (const auto record = ReadCatalogueRecord(records)) {
+    if (!record->IsListed() || LeadsOut(record->stem, codePage)) continue;
     if (++listed > kMostListed) FailMoreThanMostListed(records);
-    glob.BibleNames[counter] = record.name;
-    glob.BibleFiles[counter] = record.stem;
-    const std::string text = VerseFile(glob, codePage, record.stem, folders);
+    glob.BibleNames[counter] = record->name;
+    glob.BibleFiles[counter] = record->stem;
+    const std::string text = VerseFile(glob, codePage, record->stem, folders);
     if (!FileExists(text)) {
       if (!IsMissing(text)) glob.unreadableTexts.push_back(text);
       if (listed == 1) glob.firstText = text;

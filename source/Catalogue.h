@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <optional>
 #include <string>
+#include <string_view>
 
 #include "CodePage.h"
 #include "Outcome.h"
@@ -13,18 +14,26 @@
 
 namespace folionet {
 
-// One record of the catalogue of translations, Sysdefs/Translations.txt: number, integer, display name, file stem:
+// A record of the catalogue of translations, Sysdefs/Translations.txt, one a line: number, a number that is 0 here,
+// display name, file stem. All in the bytes of the file:
 //
 //   1,0,"King James Version","KJV"
 struct CatalogueRecord {
+  static constexpr int kFirstUnlisted = 1000;  // from this number on, records are no translations
+
   std::string name;
   std::string stem;
-  bool isListed = false;  // its number is less than 1000
+  double number = 0;
+  std::string numbers{};  // the first two fields, with the comma behind each
+
+  bool IsListed() const { return number < kFirstUnlisted; }
 };
 
-// Reads the next record; false at the end of the file. Throws RunTimeError for a bad record; kBadFileName is one whose
-// stem would lead out of its folder.
-bool ReadCatalogueRecord(RecordReader& records, const CodePage& codePage, CatalogueRecord& record);
+// Reads the next record; nothing at the end of the file. Throws RunTimeError for a bad record.
+std::optional<CatalogueRecord> ReadCatalogueRecord(RecordReader& records);
+
+// Whether a file of this stem would lie in another folder than those of translations.
+bool LeadsOut(std::string_view stem, const CodePage& codePage);
 
 // So many translations may be listed: each is looked for on the disk.
 inline constexpr int kMostListed = 10000;

@@ -80,14 +80,16 @@ std::string InItsForm(std::string_view key, const std::string& text) {
 SettingsStore::SettingsStore(const std::string& folder) : StoredSettings(folder) {}
 
 std::optional<std::string> SettingsStore::Stored(std::string_view application, const std::string& name) const {
-  const auto unsaved = m_unsaved.find(name);
-  return unsaved != m_unsaved.end() ? std::optional(unsaved->second) : StoredSettings::Stored(application, name);
+  if (const auto unsaved = m_unsaved.find(application); unsaved != m_unsaved.end()) {
+    if (const auto found = unsaved->second.find(name); found != unsaved->second.end()) return found->second;
+  }
+  return StoredSettings::Stored(application, name);
 }
 
 void SettingsStore::SaveSetting(std::string_view application, std::string_view section, std::string_view key,
                                 std::string_view value) {
-  m_unsaved.insert_or_assign(NameOf(section, key), value);
-  if (!m_savesTogether) Sync(application);
+  m_unsaved[std::string(application)].insert_or_assign(NameOf(section, key), value);
+  if (!m_savesTogether || application != kApplicationTitle) Sync(application);
 }
 
 void SettingsStore::MakeFolder(std::string_view application) const {
@@ -100,18 +102,22 @@ void SettingsStore::MakeFolder(std::string_view application) const {
   std::filesystem::create_directories(Folder(), ignored);
 }
 
+// A refused value must not be tried again by every later one, nor be read as if it were stored.
+IniChanges SettingsStore::TakeUnsaved(std::string_view application) {
+  const IniValues unsaved = std::exchange(m_unsaved[std::string(application)], {});
+  return {unsaved.begin(), unsaved.end()};
+}
+
 void SettingsStore::Sync(std::string_view application) {
-  // A refused value must not be tried again by every later one, nor be read as if it were stored.
-  const IniValues changed = std::exchange(m_unsaved, {});
+  const IniChanges changed = TakeUnsaved(application);
   if (changed.empty()) return;
   MakeFolder(application);
   const std::string path = FilePath(application);
   // Another program may have saved since the file was read: what it changed is kept.
   IniValues values;
   WorkAbout(Subject::kSettingsFile, [&] {
-    EditWholeFile(path, kLongestFile, [&](const std::string& content) {
-      return Merged(content, {changed.begin(), changed.end()}, path, values);
-    });
+    EditWholeFile(path, kLongestFile,
+                  [&](const std::string& content) { return Merged(content, changed, path, values); });
   });
   Take(application, std::move(values));
 }
@@ -143,13 +149,11 @@ void SettingsStore::SaveTogether(const std::function<void()>& saves) {
 
 void SettingsStore::SaveTogether(const std::function<void()>& saves, JointChange& change) {
   Gather(saves);
-  const IniValues changed = std::exchange(m_unsaved, {});
+  const IniChanges changed = TakeUnsaved(kApplicationTitle);
   MakeFolder(kApplicationTitle);
   const std::string path = FilePath(kApplicationTitle);
   IniValues values;
-  change.Edit(path, kLongestFile, [&](const std::string& content) {
-    return Merged(content, {changed.begin(), changed.end()}, path, values);
-  });
+  change.Edit(path, kLongestFile, [&](const std::string& content) { return Merged(content, changed, path, values); });
   change.Commit();
   Take(kApplicationTitle, std::move(values));
 }

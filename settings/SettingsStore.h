@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <map>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -54,8 +55,9 @@ class SettingsStore : public StoredSettings {
   void Gather(const std::function<void()>& saves);
   void MakeFolder(std::string_view application) const;
   void Sync(std::string_view application);
+  IniChanges TakeUnsaved(std::string_view application);
 
-  IniValues m_unsaved;  // the keys that were set since the last saving
+  std::map<std::string, IniValues, std::less<>> m_unsaved;  // by application, what was set since the last saving
   bool m_savesTogether = false;
 };
 

@@ -13,7 +13,6 @@
 namespace folionet {
 namespace {
 
-constexpr std::size_t kLongestFile = std::size_t{1} << 20;
 constexpr std::array kChoices{kSiteTranslation, kSiteBooks, kSiteIndexAddress, kSiteSitemap, kSiteOnlyChosen};
 
 std::string NameOf(std::string_view section, std::string_view key) {
@@ -53,7 +52,7 @@ void KeepFolder(const IniValues& before, const std::string& path, IniValues& val
 std::optional<Sentence> WhyNoSite(const std::string& path) {
   IniValues values;
   try {
-    values = ParseIni(ReadWholeFile(path, kLongestFile), path);
+    values = ParseIni(ReadWholeFile(path, StoredSettings::kLongestFile), path);
   } catch (const RunTimeError& error) {
     const std::string why = error.Detail().empty() ? std::string(StandardMessage(error.Number())) : error.Detail();
     return Sentence{Words("QObject", "%1 cannot be read: %2"), {path, why}};
@@ -111,7 +110,7 @@ void SaveSite(const std::string& path, const SiteChoices& choices, const PageOpt
     values.emplace(NameOf(kSettingsSection, option.key), text);
   }
   WorkAbout(Subject::kSettingsFile, [&] {
-    EditWholeFile(path, kLongestFile, [&](const std::string& content) {
+    EditWholeFile(path, StoredSettings::kLongestFile, [&](const std::string& content) {
       if (const auto why = content.empty() ? std::nullopt : WhyNoSite(path)) {
         throw RunTimeError(kBadFileName, path, why->InEnglish());
       }

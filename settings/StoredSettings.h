@@ -17,6 +17,9 @@ inline constexpr std::string_view kSettingsSection = "Keys";
 // form that IniText.h tells. All texts are UTF-8.
 class StoredSettings {
  public:
+  // A longer settings file is not read.
+  static constexpr std::size_t kLongestFile = std::size_t{16} << 20;
+
   // `folder` is where the files are; empty when there is none: then nothing is stored, and nothing can be.
   explicit StoredSettings(const std::string& folder);
   virtual ~StoredSettings() = default;
@@ -82,9 +85,6 @@ class StoredSettings {
   std::string Text(std::string_view key) const;
 
  protected:
-  // A longer settings file is not read.
-  static constexpr std::size_t kLongestFile = std::size_t{16} << 20;
-
   // "section/key"
   static std::string NameOf(std::string_view section, std::string_view key);
 

@@ -840,10 +840,6 @@ Jetzt %3 wählen?</translation>
         <translation>Leerer Ordner.</translation>
     </message>
     <message>
-        <source>No translation is there: &quot;%1&quot; lists none whose text is in &quot;%2&quot;.</source>
-        <translation>Keine Übersetzung ist da: „%1“ nennt keine, deren Text in „%2“ liegt.</translation>
-    </message>
-    <message>
         <source>%1 to %2</source>
         <translation>%1 bis %2</translation>
     </message>

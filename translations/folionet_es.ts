@@ -840,10 +840,6 @@ Otro nombre para cboLang en %2, como %3, permite que el programa vuelva a arranc
         <translation>Carpeta vacía.</translation>
     </message>
     <message>
-        <source>No translation is there: &quot;%1&quot; lists none whose text is in &quot;%2&quot;.</source>
-        <translation>No hay ninguna traducción: «%1» no nombra ninguna cuyo texto esté en «%2».</translation>
-    </message>
-    <message>
         <source>%1 to %2</source>
         <translation>%1 a %2</translation>
     </message>

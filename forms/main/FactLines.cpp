@@ -4,7 +4,7 @@
 #include <QStringList>
 #include <algorithm>
 
-#include "FileNames.h"
+#include "Catalogue.h"
 #include "FolderFacts.h"
 #include "FolderPickers.h"
 #include "LibraryLists.h"
@@ -116,12 +116,8 @@ std::string FactLines::IndexPage() const {
 }
 
 void FactLines::ShowTranslations() {
-  const ModGlob& glob = m_state.glob;
-  const bool isEmpty = glob.cboBibleName.empty() && !glob.InstallPath.empty();
-  ShowLine(*m_controls.lblTranslationFacts,
-           !isEmpty ? QString()
-                    : tr("No translation is there: \"%1\" lists none whose text is in \"%2\".")
-                          .arg(ToQt(SysdefsFile(glob, kCatalogueFile)), ToQt(glob.ModulesPath + "Bible")));
+  const auto why = m_state.glob.InstallPath.empty() ? std::nullopt : WhyNoTranslation(m_state.glob);
+  ShowLine(*m_controls.lblTranslationFacts, why ? InDesktopLanguage(*why) : QString());
 }
 
 QString FactLines::BooksText(int first, int last) const {

@@ -98,6 +98,19 @@ TEST(SettingsStoreTest, TakesNothingAwayWhileAnotherProgramSaves) {
   EXPECT_FALSE(folder.Has("Folionet.ini.before-restore"));
 }
 
+TEST(SettingsStoreTest, SavingTogetherHoldsBackOurOwnKeysAlone) {
+  const TemporaryFolder folder;
+  SettingsStore store(folder.Path());
+  const auto stored = [&] { return SettingsStore(folder.Path()).GetSetting("Other", "Keys", "Font", "none"); };
+  store.SaveTogether([&] {
+    store.SaveText("Font", "Arial");
+    EXPECT_EQ(store.GetSetting("Other", "Keys", "Font", "none"), "none");
+    store.SaveSetting("Other", "Keys", "Font", "Other");
+    EXPECT_EQ(stored(), "Other");
+  });
+  EXPECT_EQ(SettingsStore(folder.Path()).Text("Font"), "Arial");
+}
+
 TEST(OptionsTest, ThatDoNotConvertAreFailuresAndStayAsTheyAreStored) {
   const struct {
     const char* key;

@@ -1,8 +1,6 @@
 #include "TextCheck.h"
 
 #include <array>
-#include <filesystem>
-#include <system_error>
 
 #include "ChapterOrder.h"
 #include "CharsetCheck.h"
@@ -172,8 +170,7 @@ void Compare(const ChapterTable& index, const ChapterTable& text, const Translat
 
 void CheckText(CheckedLibrary& library, const TranslationFiles& files) {
   // One that is there and cannot be read is told by its reader.
-  std::error_code ignored;
-  const bool hasIndex = std::filesystem::exists(std::filesystem::symlink_status(files.index, ignored));
+  const bool hasIndex = IsThere(files.index);
   if (!hasIndex) {
     library.Add("missing-index", files.index, 0,
                 {"The chapter index is missing. Versalia makes it at the first search in this translation."});

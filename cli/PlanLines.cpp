@@ -7,6 +7,7 @@
 #include "Counted.h"
 #include "PageNames.h"
 #include "RunFacts.h"
+#include "Text.h"
 
 namespace folionet {
 namespace {
@@ -33,7 +34,7 @@ int BookOf(const std::string& name, const PageNames& names) {
   for (int book = 1; book <= kBooks; ++book) {
     const std::string& begin = names.BookOnDisk(book);
     if (!name.starts_with(begin) || (best != 0 && begin.size() <= names.BookOnDisk(best).size())) continue;
-    if (name.size() > begin.size() && name[begin.size()] >= '0' && name[begin.size()] <= '9') best = book;
+    if (name.size() > begin.size() && IsDigit(name[begin.size()])) best = book;
   }
   return best;
 }

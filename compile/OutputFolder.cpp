@@ -37,8 +37,7 @@ void OpenOutputFolder(const CompileRequest& request, RunFolder& folder) {
   const std::string& path = request.txtOutputPath;
   const Doing doing = request.dryRun ? Doing::kPlan : Doing::kChange;
   if (request.makeOutputFolder && IsFolderChosen(request)) {
-    const int systemError = MakeFolders(path, doing);
-    if (systemError != 0) throw RunTimeError::FromErrno(systemError, path).About(Subject::kOutputFolder);
+    WorkAbout(Subject::kOutputFolder, [&] { MakeFolders(path, doing); });
   }
   folder.site.Open(path, doing);
   folder.site.Lock();

@@ -23,10 +23,6 @@
 namespace folionet {
 namespace {
 
-Finding Warning(const char* kind, Sentence what, Sentence remedy) {
-  return {.kind = kind, .severity = Severity::kWarning, .what = std::move(what), .remedy = std::move(remedy)};
-}
-
 class FactFinder {
  public:
   FactFinder(const CompileRequest& request, const ModGlob& glob)

@@ -10,10 +10,7 @@
 namespace folionet {
 namespace {
 
-bool IsUnreserved(char c) {
-  return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '-' || c == '.' ||
-         c == '_' || c == '~';
-}
+bool IsUnreserved(char c) { return IsLetterOrDigit(c) || c == '-' || c == '.' || c == '_' || c == '~'; }
 
 // Percent-encodes every byte but unreserved ones and those of `kept`; a "%" of `kept` that encodes nothing all the
 // same.

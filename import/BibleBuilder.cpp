@@ -15,8 +15,6 @@ namespace {
 constexpr int kHighestChapter = 255;  // more do not go into a chapter index
 constexpr std::size_t kLongestField = 32;
 
-bool IsDigit(char c) { return c >= '0' && c <= '9'; }
-
 // A verse number without the marks of direction that a text written from right to left may hold in a bridge.
 std::string CleanField(std::string_view field) {
   std::string clean(TrimBlanks(field));

@@ -5,6 +5,7 @@
 
 #include "ImportError.h"
 #include "RecordReader.h"
+#include "Text.h"
 #include "Utf8.h"
 #include "WholeFile.h"
 
@@ -63,7 +64,7 @@ std::string CatalogueText::With(const CatalogueRecord& added) const {
     }
   }
   const std::string_view rest = std::string_view(m_content).substr(start);
-  text += rest.substr(0, rest.find('\x1A'));  // a Ctrl+Z ends a text
+  text += rest.substr(0, rest.find(kCtrlZ));
   if (!isPlaced) text += std::to_string(LowestFree()) + ",0," + tail;
   return text;
 }

@@ -4,11 +4,12 @@
 #include <cstdint>
 #include <cstring>
 
+#include "Text.h"
+
 namespace folionet {
 namespace {
 
 constexpr unsigned char kBomStart = 0xEF;
-constexpr std::string_view kBom = "\xEF\xBB\xBF";
 
 // The bytes that are not simply passed on.
 constexpr std::array<bool, 256> MakeSpecial() {
@@ -60,7 +61,8 @@ bool FlowingText::Add(std::string_view piece) {
     std::size_t end = IsSpecial(piece[at]) ? at : FindSpecial(piece, at);
     const char c = end < piece.size() ? piece[end] : ' ';
     const bool isReference = c == '&' || c == '<' || c == '>';
-    const bool isOther = static_cast<unsigned char>(c) == kBomStart && piece.substr(end, kBom.size()) != kBom;
+    const bool isOther =
+        static_cast<unsigned char>(c) == kBomStart && piece.substr(end, kByteOrderMark.size()) != kByteOrderMark;
     if (end > at || isReference || isOther) {
       if (m_isBlankDue && !m_text.empty()) m_text += ' ';
       m_isBlankDue = false;
@@ -72,7 +74,7 @@ bool FlowingText::Add(std::string_view piece) {
     } else if (isOther) {
       m_text += c;
     } else if (static_cast<unsigned char>(c) == kBomStart) {
-      end += kBom.size() - 1;
+      end += kByteOrderMark.size() - 1;
     } else {
       m_isBlankDue = true;
     }

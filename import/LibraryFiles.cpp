@@ -1,8 +1,5 @@
 #include "LibraryFiles.h"
 
-#include <filesystem>
-#include <system_error>
-
 #include "Paths.h"
 
 namespace folionet {
@@ -16,11 +13,6 @@ std::string LibraryFiles::InTheWay(const std::string& stem) const {
     if (IsThere(path)) return path;
   }
   return {};
-}
-
-bool IsThere(const std::string& path) {
-  std::error_code ignored;
-  return std::filesystem::exists(std::filesystem::symlink_status(path, ignored));
 }
 
 }  // namespace folionet

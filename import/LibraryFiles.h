@@ -37,7 +37,4 @@ class LibraryFiles {
   std::string m_folder;
 };
 
-// Whether the path names anything, a link that leads nowhere included.
-bool IsThere(const std::string& path);
-
 }  // namespace folionet

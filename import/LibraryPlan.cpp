@@ -27,9 +27,7 @@ constexpr std::size_t kLongestStem = 60;
 constexpr std::size_t kLongestName = 200;
 constexpr std::size_t kLongestLanguage = 35;
 
-bool IsOfStem(char c) {
-  return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '-' || c == '_';
-}
+bool IsOfStem(char c) { return IsLetterOrDigit(c) || c == '-' || c == '_'; }
 
 bool IsStem(std::string_view text) {
   return text.size() <= kLongestStem && std::all_of(text.begin(), text.end(), IsOfStem);
@@ -66,7 +64,7 @@ std::string StemOf(std::string_view name) {
       continue;
     }
     const char upper = AsciiUpper(c);
-    if (isStart || (c >= '0' && c <= '9')) initials += upper;
+    if (isStart || IsDigit(c)) initials += upper;
     all += upper;
     isStart = false;
   }

@@ -47,23 +47,19 @@ namespace {
 
 namespace fs = std::filesystem;
 
-void MakeFolder(const std::string& path, Doing doing) {
-  if (const int systemError = MakeFolders(path, doing)) throw RunTimeError::FromErrno(systemError, path);
-}
-
 // Where the change is noted: with the person's settings, as every start looks there; where they have none, in the
 // library, where nobody completes it.
 std::string NotePath(const std::string& sysdefs, Doing doing) {
   const StoredSettings settings(StoredSettings::DefaultFolder());
   if (StoredSettings::DefaultFolder().empty()) return sysdefs + "/.import";
-  MakeFolder(StoredSettings::DefaultFolder(), doing);
+  MakeFolders(StoredSettings::DefaultFolder(), doing);
   return settings.ImportNote();
 }
 
 void MakeFoldersOf(const LibraryPlan& plan, Doing doing) {
-  MakeFolder(fs::path(plan.library.IndexFile(plan.stem)).parent_path().string(), doing);
-  for (const auto& [path, content] : plan.files) MakeFolder(fs::path(path).parent_path().string(), doing);
-  MakeFolder(fs::path(plan.verseFile).parent_path().string(), doing);
+  MakeFolders(fs::path(plan.library.IndexFile(plan.stem)).parent_path().string(), doing);
+  for (const auto& [path, content] : plan.files) MakeFolders(fs::path(path).parent_path().string(), doing);
+  MakeFolders(fs::path(plan.verseFile).parent_path().string(), doing);
 }
 
 // Keeps the library for this import alone, or asks whether that could be done.

@@ -14,8 +14,6 @@ namespace {
 
 constexpr std::string_view kDigits = "0123456789";
 
-bool IsDigit(char c) { return c >= '0' && c <= '9'; }
-
 bool IsNumber(std::string_view text) {
   const std::string_view number = TrimBlanks(text);
   return !number.empty() && number.find_first_not_of(kDigits) == std::string_view::npos;

@@ -14,9 +14,7 @@ constexpr std::size_t kLongestArgument = 10000;
 constexpr std::string_view kBlanks = " \t\r\n";
 constexpr std::string_view kNoBreakSpace = "\xC2\xA0";
 
-bool IsOfName(char c) {
-  return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '-' || c == '_';
-}
+bool IsOfName(char c) { return IsLetterOrDigit(c) || c == '-' || c == '_'; }
 
 // How long the first half of a "//" is at the end of a text: 1 behind an even number of "/".
 std::size_t HalfBreak(std::string_view text) {
@@ -176,7 +174,7 @@ void UsfmForm::BeginMarker(std::string_view name) {
   m_isInMilestone = false;
   m_unknown.clear();
   // "\v1" stands for "\v 1".
-  const bool isNumbered = name.size() > 1 && (name[0] == 'c' || name[0] == 'v') && name[1] >= '0' && name[1] <= '9';
+  const bool isNumbered = name.size() > 1 && (name[0] == 'c' || name[0] == 'v') && IsDigit(name[1]);
   if (isNumbered) {
     BeginLine(name[0] == 'c' ? MarkerKind::kChapter : MarkerKind::kVerse, name);
     m_argument = name.substr(1);

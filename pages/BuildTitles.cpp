@@ -56,8 +56,7 @@ void ReplaceAll(std::string& text, std::string_view word, std::string_view value
 
 // Whether the text is a number of at most four digits: it cannot bring a word with it, nor join two halves of one.
 bool IsPlainNumber(std::string_view text) {
-  return !text.empty() && text.size() <= 4 &&
-         std::all_of(text.begin(), text.end(), [](char c) { return c >= '0' && c <= '9'; });
+  return !text.empty() && text.size() <= 4 && std::all_of(text.begin(), text.end(), IsDigit);
 }
 
 // In every code page of pages such a byte is no part of a letter.

@@ -12,6 +12,7 @@
 #include "FileNames.h"
 #include "RecordReader.h"
 #include "RunTimeError.h"
+#include "Text.h"
 #include "Utf16.h"
 #include "Utf8.h"
 #include "WholeFile.h"
@@ -23,9 +24,7 @@ constexpr std::string_view kCharsetKey = "Charset=";
 constexpr char kAnyEntry[] = "NAME DESCRIPTION";
 
 bool IsPlainCode(std::string_view code) {
-  return !code.empty() && std::all_of(code.begin(), code.end(), [](char c) {
-    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '-';
-  });
+  return !code.empty() && std::all_of(code.begin(), code.end(), [](char c) { return IsLetterOrDigit(c) || c == '-'; });
 }
 
 // Whether a list of languages, "code","description" a line, holds a code.
@@ -46,10 +45,6 @@ bool IsKnownLanguage(const std::string& code, const std::string& list) {
   if (!IsPlainCode(code)) return false;
   const std::string language = code.substr(0, code.find('-'));
   return *uloc_getISO3Language(language.c_str()) != '\0' || language.size() == 3 || IsListed(list, code);
-}
-
-Finding Warning(const char* kind, Sentence what, Sentence remedy) {
-  return {.kind = kind, .severity = Severity::kWarning, .what = std::move(what), .remedy = std::move(remedy)};
 }
 
 void AddWord(const char* key, std::string_view text, std::vector<Finding>& findings) {

@@ -6,6 +6,7 @@
 #include <utility>
 #include <vector>
 
+#include "Text.h"
 #include "Utf8.h"
 
 namespace folionet {
@@ -26,10 +27,7 @@ Parts Lines(std::string_view text) {
   return lines;
 }
 
-bool IsOfWord(char c) {
-  return static_cast<unsigned char>(c) >= 0x80 || (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') ||
-         (c >= 'a' && c <= 'z');
-}
+bool IsOfWord(char c) { return static_cast<unsigned char>(c) >= 0x80 || IsLetterOrDigit(c); }
 
 // The length of the decimal reference that a text begins with; 0 for none.
 std::size_t ReferenceLength(std::string_view text) {

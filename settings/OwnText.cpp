@@ -9,6 +9,7 @@
 
 #include "KeptLetters.h"
 #include "LineReader.h"
+#include "Text.h"
 #include "Utf16.h"
 #include "Utf8.h"
 #include "WholeFile.h"
@@ -69,7 +70,7 @@ std::optional<std::string> TextToRecode(const OwnFolder& folder, std::string_vie
 
 // A text with another line, on a line of its own, at its end, which is a Ctrl+Z where there is one.
 std::string WithLine(std::string text, std::string_view line) {
-  const std::size_t end = std::min(text.find('\x1A'), text.size());
+  const std::size_t end = std::min(text.find(kCtrlZ), text.size());
   const bool isLineOpen = end > 0 && text[end - 1] != '\n';
   return text.insert(end, (isLineOpen ? "\r\n" : "") + std::string(line));
 }

@@ -80,10 +80,10 @@ std::string FindProgramFolder(const std::string& chosen, Doing doing) {
   const std::string folder = ProgramFolderPath(chosen);
   if (folder.empty()) return InstalledDataFolder();
   if (!chosen.empty() || folder == ExecutableFolder()) return folder;
-  if (const int systemError = MakeFolders(folder, doing)) {
-    throw RunTimeError::FromErrno(systemError, folder).About(Subject::kProgramFolder);
-  }
-  WorkAbout(Subject::kProgramFolder, [&] { DeliverFiles(InstalledDataFolder(), folder, doing); });
+  WorkAbout(Subject::kProgramFolder, [&] {
+    MakeFolders(folder, doing);
+    DeliverFiles(InstalledDataFolder(), folder, doing);
+  });
   return doing == Doing::kChange ? folder : ProgramFolderToRead(chosen);
 }
 

@@ -11,6 +11,7 @@
 #include "BuildInfo.h"
 #include "JointChange.h"
 #include "OptionTable.h"
+#include "Paths.h"
 #include "Replacement.h"
 #include "RunTimeError.h"
 #include "WholeFile.h"
@@ -29,8 +30,7 @@ std::string Merged(std::string_view content, const IniChanges& changes, const st
 std::string KeptPath(const std::string& path) {
   const std::string first = path + ".before-restore";
   std::string kept = first;
-  struct stat status {};
-  for (int number = 2; lstat(kept.c_str(), &status) == 0; ++number) {
+  for (int number = 2; IsThere(kept); ++number) {
     kept = first + "-" + std::to_string(number);
   }
   return kept;

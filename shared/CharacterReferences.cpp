@@ -27,9 +27,6 @@ constexpr char16_t kWindows1252[] = {0x20AC, 0x81,   0x201A, 0x192,  0x201E, 0x2
                                      0x90,   0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
                                      0x2DC,  0x2122, 0x161,  0x203A, 0x153,  0x9D,   0x17E,  0x178};
 
-bool IsDigit(char c) { return c >= '0' && c <= '9'; }
-bool IsLetterOrDigit(char c) { return IsDigit(c) || (AsciiLower(c) >= 'a' && AsciiLower(c) <= 'z'); }
-
 // `rest` stands behind "&#". Adds the character and gives the length of its number; 0 for none.
 std::size_t AddNumbered(std::string_view rest, std::string& text) {
   const std::size_t prefix = rest.starts_with('x') || rest.starts_with('X') ? 1 : 0;

@@ -14,6 +14,10 @@ Finding FindingOf(const RunTimeError& error) {
   return finding;
 }
 
+Finding Warning(const char* kind, Sentence what, Sentence remedy) {
+  return {.kind = kind, .severity = Severity::kWarning, .what = std::move(what), .remedy = std::move(remedy)};
+}
+
 void Findings::Add(Finding finding) {
   ++m_counts[static_cast<std::size_t>(finding.severity)];
   if (m_kept.size() < kMostKept) m_kept.push_back(std::move(finding));

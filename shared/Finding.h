@@ -38,6 +38,9 @@ struct Finding {
 // the kind "malformed".
 Finding FindingOf(const RunTimeError& error);
 
+// Something of a warning's weight that is of no one file.
+Finding Warning(const char* kind, Sentence what, Sentence remedy);
+
 // Collects what is found, in the order in which it is found.
 class Findings {
  public:

@@ -9,6 +9,7 @@
 
 #include "Numbers.h"
 #include "RunTimeError.h"
+#include "Text.h"
 #include "Utf16.h"
 
 namespace folionet {
@@ -19,7 +20,6 @@ constexpr std::size_t kChunk = 64;  // so that small inputs are read in parts
 #else
 constexpr std::size_t kChunk = std::size_t{64} << 10;
 #endif
-constexpr char kCtrlZ = 0x1A;  // older programs end a text file with it
 
 }  // namespace
 

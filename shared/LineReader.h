@@ -10,9 +10,6 @@
 
 namespace folionet {
 
-// Of UTF-8, at a file's start; it is no part of the text.
-inline constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
-
 // Reads a text file line by line, in constant memory. Lines end in CR LF or LF, or, in a file whose first line does, in
 // CR alone; the last one need not end. A UTF-8 byte-order mark at the start and a Ctrl+Z at the end are skipped; every
 // other byte, NUL included, is passed on as it is. A file in UTF-16 is refused.

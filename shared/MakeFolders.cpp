@@ -11,11 +11,12 @@
 
 #include "FileHandle.h"
 #include "Paths.h"
+#include "RunTimeError.h"
 
 namespace folionet {
 namespace {
 
-bool IsThere(const std::string& path) {
+bool LeadsSomewhere(const std::string& path) {
   struct stat status {};
   return stat(path.c_str(), &status) == 0;
 }
@@ -27,6 +28,30 @@ int WhyMakesNone(const FileHandle& folder) {
   if (fstatfs(folder.Get(), &status) != 0) return 0;
   if (status.f_type == PROC_SUPER_MAGIC) return ENOENT;
   return status.f_type == SYSFS_MAGIC || status.f_type == DEVPTS_SUPER_MAGIC ? EACCES : 0;
+}
+
+int WhyNotMakeFolders(const std::string& path, Doing doing) {
+  bool isAboveMissing = false;
+  for (std::size_t start = 0; start < path.size();) {
+    const std::size_t end = std::min(path.find('/', start), path.size());
+    const std::string folder = path.substr(0, end);
+    const std::size_t length = end - start;
+    start = end + 1;
+    if (length == 0 || (!isAboveMissing && FolderExists(folder))) continue;
+    const bool isLast = path.find_first_not_of('/', end) == std::string::npos;
+    if (!isLast && LeadsSomewhere(folder)) return ENOTDIR;
+    if (doing == Doing::kChange) {
+      const int systemError = mkdir(folder.c_str(), 0777) == 0 ? 0 : errno;
+      if (systemError != 0 && !FolderExists(folder)) return systemError;
+    } else if (isAboveMissing) {
+      if (length > NAME_MAX) return ENAMETOOLONG;
+    } else if (const int systemError = WhyNotMake(AT_FDCWD, folder); systemError != 0) {
+      return systemError;
+    } else {
+      isAboveMissing = true;
+    }
+  }
+  return 0;
 }
 
 }  // namespace
@@ -58,28 +83,8 @@ int WhyNotRemove(int folder, const std::string& name, const struct stat& old) {
   return known && ((file.stx_attributes | above.stx_attributes) & kFixed) != 0 ? EPERM : 0;
 }
 
-int MakeFolders(const std::string& path, Doing doing) {
-  bool isAboveMissing = false;
-  for (std::size_t start = 0; start < path.size();) {
-    const std::size_t end = std::min(path.find('/', start), path.size());
-    const std::string folder = path.substr(0, end);
-    const std::size_t length = end - start;
-    start = end + 1;
-    if (length == 0 || (!isAboveMissing && FolderExists(folder))) continue;
-    const bool isLast = path.find_first_not_of('/', end) == std::string::npos;
-    if (!isLast && IsThere(folder)) return ENOTDIR;
-    if (doing == Doing::kChange) {
-      const int systemError = mkdir(folder.c_str(), 0777) == 0 ? 0 : errno;
-      if (systemError != 0 && !FolderExists(folder)) return systemError;
-    } else if (isAboveMissing) {
-      if (length > NAME_MAX) return ENAMETOOLONG;
-    } else if (const int systemError = WhyNotMake(AT_FDCWD, folder); systemError != 0) {
-      return systemError;
-    } else {
-      isAboveMissing = true;
-    }
-  }
-  return 0;
+void MakeFolders(const std::string& path, Doing doing) {
+  if (const int systemError = WhyNotMakeFolders(path, doing)) throw RunTimeError::FromErrno(systemError, path);
 }
 
 }  // namespace folionet

@@ -9,9 +9,9 @@ namespace folionet {
 // What is done about a change of the file system: it is made, or it is only asked whether it could be.
 enum class Doing { kChange, kPlan };
 
-// Makes a folder, with those above it that are missing, or asks whether that could be done. 0, or what failed, or would
-// fail, as a value of errno.
-int MakeFolders(const std::string& path, Doing doing);
+// Makes a folder, with those above it that are missing, or asks whether that could be done. Throws RunTimeError where
+// that fails, or would fail.
+void MakeFolders(const std::string& path, Doing doing);
 
 // Whether a file could be made in an open folder, as a value of errno: EEXIST when something has the name.
 int WhyNotMake(int folder, const std::string& name);

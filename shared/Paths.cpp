@@ -20,11 +20,6 @@
 namespace folionet {
 namespace {
 
-bool IsThere(const std::string& path) {
-  struct stat status {};
-  return lstat(path.c_str(), &status) == 0;
-}
-
 // Where the longest name ends that begins at `name`, holds the backslash at `at` and is there; `at` when none is.
 std::size_t EndOfName(const std::string& path, std::size_t name, std::size_t at) {
   std::size_t end = std::min(path.find(kFolderSeparator, name), path.size());
@@ -73,6 +68,11 @@ bool IsSameFolder(std::string_view left, std::string_view right) {
 std::string RealPath(const std::string& path) {
   const std::unique_ptr<char, decltype(&std::free)> real(realpath(path.c_str(), nullptr), &std::free);
   return real != nullptr ? std::string(real.get()) : std::string();
+}
+
+bool IsThere(const std::string& path) {
+  struct stat status {};
+  return lstat(path.c_str(), &status) == 0;
 }
 
 bool FileExists(const std::string& path) {

@@ -28,6 +28,9 @@ bool IsSameFolder(std::string_view left, std::string_view right);
 // The path from the root with no link in it; empty, with errno set, when it leads nowhere.
 std::string RealPath(const std::string& path);
 
+// Whether anything has this name, be it a link that leads nowhere.
+bool IsThere(const std::string& path);
+
 // True when `path` is a file that can be opened for reading; false on any failure, a folder included.
 bool FileExists(const std::string& path);
 

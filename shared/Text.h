@@ -7,6 +7,12 @@ namespace folionet {
 
 // The few things that are done to texts everywhere. Numbers.h has IsBlank and TrimBlanks.
 
+// Of UTF-8, at a file's start; it is no part of the text.
+inline constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+
+// With it older programs end a text file.
+inline constexpr char kCtrlZ = 0x1A;
+
 // `text` without the characters of `blanks` around it.
 std::string_view Trimmed(std::string_view text, std::string_view blanks);
 
@@ -14,6 +20,9 @@ std::string_view Trimmed(std::string_view text, std::string_view blanks);
 inline char AsciiLower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c; }
 std::string AsciiLower(std::string_view text);
 inline char AsciiUpper(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - ('a' - 'A')) : c; }
+
+inline bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+inline bool IsLetterOrDigit(char c) { return IsDigit(c) || (AsciiLower(c) >= 'a' && AsciiLower(c) <= 'z'); }
 
 // The value of a hexadecimal digit, -1 for any other character.
 int HexDigit(char c);

@@ -10,6 +10,7 @@
 #include "Numbers.h"
 #include "Paths.h"
 #include "StoredSettings.h"
+#include "Text.h"
 #include "Utf8.h"
 #include "WholeFile.h"
 

@@ -8,6 +8,7 @@
 
 #include "FileHandle.h"
 #include "LineReader.h"
+#include "Text.h"
 #include "Utf8.h"
 #include "WholeFile.h"
 

@@ -23,19 +23,7 @@ constexpr std::size_t kAlwaysSearched = 1024;
 
 // The character for the byte 0 that does not decode; the others follow it. Nobody else has a use for them.
 constexpr UChar32 kFirstByte = 0x10FE00;
-
-// Gives each character of a text with its bytes; a byte that is no UTF-8 is one below 0.
-template <typename Take>
-void ForEachCharacter(std::string_view text, const Take& take) {
-  const auto* const data = reinterpret_cast<const std::uint8_t*>(text.data());
-  const auto length = static_cast<std::int64_t>(text.size());
-  for (std::int64_t at = 0; at < length;) {
-    const std::int64_t start = at;
-    UChar32 character = 0;
-    U8_NEXT(data, at, length, character);
-    take(character, text.substr(static_cast<std::size_t>(start), static_cast<std::size_t>(at - start)));
-  }
-}
+bool IsByte(UChar32 character) { return character >= kFirstByte && character < kFirstByte + 0x100; }
 
 // What follows "charset" and "=" in a text such as "text/html; charset=utf-8".
 std::string CharsetInContent(std::string_view content) {
@@ -67,7 +55,7 @@ std::string DeclaredCharset(const HtmlTag& tag) {
 bool IsUtf16(std::string_view page) { return page.starts_with("\xFF\xFE") || page.starts_with("\xFE\xFF"); }
 
 std::string FindPageCharset(std::string_view page) {
-  if (page.starts_with("\xEF\xBB\xBF")) return "utf-8";
+  if (page.starts_with(kByteOrderMark)) return "utf-8";
   std::string ascii(page);
   std::replace_if(
       ascii.begin(), ascii.end(), [](char c) { return static_cast<unsigned char>(c) >= 0x80; }, '?');
@@ -85,11 +73,11 @@ std::string FindPageCharset(std::string_view page) {
 
 std::string DecodePage(std::string_view page, const CodePage& codePage) {
   std::string text;
-  ForEachCharacter(codePage.Decode(page), [&](UChar32 character, std::string_view bytes) {
-    if (character >= 0) {
-      text += bytes;
+  ForEachUtf8(codePage.Decode(page), [&](const Piece& piece) {
+    if (piece.character >= 0) {
+      text += piece.bytes;
     } else {
-      for (const char byte : bytes)
+      for (const char byte : piece.bytes)
         AppendUtf8(text, static_cast<char32_t>(kFirstByte) + static_cast<unsigned char>(byte));
     }
   });
@@ -98,19 +86,17 @@ std::string DecodePage(std::string_view page, const CodePage& codePage) {
 
 std::string AsBrowsersRead(std::string_view text) {
   std::string read;
-  ForEachCharacter(text, [&](UChar32 character, std::string_view bytes) {
-    read += character >= kFirstByte && character < kFirstByte + 0x100 ? "\uFFFD" : bytes;
-  });
+  ForEachUtf8(text, [&](const Piece& piece) { read += IsByte(piece.character) ? "\uFFFD" : piece.bytes; });
   return read;
 }
 
 std::string AsItIsWritten(std::string_view text) {
   std::string written;
-  ForEachCharacter(text, [&](UChar32 character, std::string_view bytes) {
-    if (character >= kFirstByte && character < kFirstByte + 0x100) {
-      written += static_cast<char>(character - kFirstByte);
+  ForEachUtf8(text, [&](const Piece& piece) {
+    if (IsByte(piece.character)) {
+      written += static_cast<char>(piece.character - kFirstByte);
     } else {
-      written += bytes;
+      written += piece.bytes;
     }
   });
   return written;

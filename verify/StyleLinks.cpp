@@ -14,10 +14,7 @@ constexpr std::string_view kBlanks = " \t\r\n\f";
 
 bool IsStyleBlank(char c) { return kBlanks.find(c) != std::string_view::npos; }
 
-bool IsNamePart(char c) {
-  return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '-' || c == '_' ||
-         static_cast<unsigned char>(c) >= 0x80;
-}
+bool IsNamePart(char c) { return IsLetterOrDigit(c) || c == '-' || c == '_' || static_cast<unsigned char>(c) >= 0x80; }
 
 // Whether the text at `at` begins with an ASCII lower-case word, in any letter case.
 bool BeginsWith(std::string_view text, std::size_t at, std::string_view word) {

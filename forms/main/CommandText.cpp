@@ -8,6 +8,7 @@
 #include "OptionTable.h"
 #include "PageEncoding.h"
 #include "ProgramFolder.h"
+#include "Text.h"
 
 namespace folionet {
 namespace {
@@ -18,8 +19,7 @@ class Command {
   void Add(std::string_view word) {
     if (!m_text.empty()) m_text += ' ';
     const auto isPlain = [](char c) {
-      return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') ||
-             std::string_view("_./:=@%+,-").find(c) != std::string_view::npos;
+      return IsLetterOrDigit(c) || std::string_view("_./:=@%+,-").find(c) != std::string_view::npos;
     };
     if (!word.empty() && std::all_of(word.begin(), word.end(), isPlain)) {
       m_text += word;

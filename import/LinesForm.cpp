@@ -149,9 +149,12 @@ std::optional<LinesForm::Columns> LinesForm::ColumnsOf(std::string_view line) {
     if (count >= 5 && FindBook(fields[1]) != 0 && IsNumber(fields[2]) && IsNumber(fields[3])) {
       return Columns{separator, false, ':', 1, 2, 3, 4};
     }
-    if (count >= 4 && IsNumber(fields[1]) && FieldLength(TrimBlanks(fields[2])) != 0) return Columns{separator};
     if (count < 2) continue;
     const auto point = PointOf(fields[0]);
+    // A verse behind its reference may hold numbers between commas, too.
+    if (!point && count >= 4 && IsNumber(fields[1]) && FieldLength(TrimBlanks(fields[2])) != 0) {
+      return Columns{separator};
+    }
     if (point && TrimBlanks(SplitReference(fields[0], *point)->text).empty()) {
       return Columns{separator, true, *point, 0, 0, 0, 1};
     }

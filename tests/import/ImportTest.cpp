@@ -116,6 +116,7 @@ TEST(Lines, AreReadOrToldWithTheirNumber) {
       {"Jude,1,5,\"a\nJude,1,6,\"b\"\n", "1: a closing quote was expected: \"Jude,1,5,\"a\\nJude,1,6,\"b\"\""},
       {"Jude\t1\t5\t\"a,\" b\nJude\t1\t6\t\"c\"\nJude\t1\t7\t\"d \"\"e\"\"\"\nJude\t1\t8\t\"f\n",
        "65 1:5 \"a,\" b|65 1:6 \"c\"|65 1:7 d \"e\"|65 1:8 \"f|"},
+      {"Ge1:1 at 1,2,3,4 o'clock\nGe1:2 b\n", "1 1:1 at 1,2,3,4 o'clock|1 1:2 b|"},
       {"Ge0:1 In", "1: Genesis: a chapter from 1 to 255 was expected: \"0\""},
       {"Ge99999999999:1 In", "1: Genesis: a chapter from 1 to 255 was expected: \"99999999999\""}};
   for (const auto& [content, expected] : cases) EXPECT_EQ(Outcome(content), expected) << content;

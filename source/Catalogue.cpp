@@ -42,10 +42,10 @@ bool AskForPaths(ModGlob& glob, UserInterface& ui) {
   return true;
 }
 
-// Whether there is nothing of that name, as far as the system tells.
+// Whether there is nothing of that name, as far as the system tells: a link to a disk that is away is something.
 bool IsMissing(const std::string& path) {
   std::error_code error;
-  return !std::filesystem::exists(path, error) && !error;
+  return std::filesystem::symlink_status(path, error).type() == std::filesystem::file_type::not_found;
 }
 
 }  // namespace

@@ -20,6 +20,7 @@
 #include "Case.h"
 #include "Escapes.h"
 #include "FactLines.h"
+#include "FolderContent.h"
 #include "FormTest.h"
 #include "Script.h"
 #include "Seen.h"
@@ -55,7 +56,7 @@ Line Parsed(const std::string& whole) {
   return line;
 }
 
-// The words of tests/runs/RunsTest.cpp that drive the forms or look at them.
+// The words of tests/runs/README.md that drive the forms or look at them.
 class FormRuns : public FormTest {
  public:
   explicit FormRuns(test::ScriptCase script) : m_script(std::move(script)) {
@@ -169,13 +170,21 @@ class FormRuns : public FormTest {
         {"=PageLanguage", texts.PageLanguage},
         {"=PageCharset", texts.PageCharset},
         {"=CodePage", std::string(m_state->codePage.Name())},
-        {"=page", m_ui.pageShown.substr(m_ui.pageShown.rfind('/') + 1)},
+        {"=page", PageShown()},
         {"=clipboard", FromQt(QApplication::clipboard()->text())},
         {"=startBook", m_state->startBookText},
         {"=nextSite", m_site},
         {"=txtBibleSel", m_state->options.txtBibleSel},
         {"=chapters", std::to_string(m_state->glob.ChapterIndex.size() - 1)}};
     return name.starts_with("=") ? fields.at(name) : Shown(name);
+  }
+
+  // The name of the page in the browser, and its verses.
+  std::string PageShown() const {
+    const std::string page = m_ui.pageShown.empty() ? "" : test::ReadFile(m_ui.pageShown);
+    const std::size_t verses = page.find(" 1:1 ");
+    return m_ui.pageShown.substr(m_ui.pageShown.rfind('/') + 1) + ": " +
+           (verses == std::string::npos ? "" : page.substr(verses, page.find("</bl", verses) - verses));
   }
 
   test::ScriptCase m_script;

@@ -146,8 +146,11 @@ TEST_F(MainForm, AFolderIsChosenInTheTreeOrByDrive) {
   auto& fresh = Get<FolderTree>("Dir1");
   emit fresh.itemClicked(fresh.topLevelItem(0), 0);  // the current one
   EXPECT_EQ(Shown("txtOutputPath"), home);
+  Give("cmdBrowse", home + "site");
+  emit fresh.itemActivated(fresh.topLevelItem(0), 0);  // by Enter
+  EXPECT_EQ(Shown("txtOutputPath"), home);
   Click("cmdBrowse");
-  EXPECT_EQ(m_ui.offered, (Log{"/", home}));
+  EXPECT_EQ(m_ui.offered, (Log{"/", home, home}));
 }
 
 TEST_F(MainForm, FoldersAreReadAnewWhenAskedFor) {
@@ -176,6 +179,15 @@ TEST_F(MainForm, RemembersAddressesFoldersAndPlaces) {
   ASSERT_TRUE(Start());
   ChooseOutput("http://a/index.html");
   Click("cmdCompile");
+  Give("txthttpRoot", "");
+  QTimer::singleShot(0, [] {
+    auto* list = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    ASSERT_EQ(list->actions().size(), 2);
+    list->actions()[0]->trigger();
+    list->close();
+  });
+  Get("txthttpRoot").actions()[0]->trigger();
+  EXPECT_EQ(Shown("txthttpRoot"), "http://a/index.html") << "offered before the next start";
   m_form->resize(1, 500);
   const QSize size = m_form->size();
   EXPECT_EQ(size.height(), 500);

@@ -161,6 +161,14 @@ TEST(FormUiTest, AChooserThatIsCancelledKeepsWhatThereIs) {
       isAccepted ? static_cast<QDialog&>(box).accept() : box.reject();
     });
     EXPECT_EQ(ui.ChooseFile("*.gif - Compuserve GIF|*.gif| *.* - All Files| *.*", old), isAccepted ? other : old);
+    WhenShown<QFileDialog>([&](QFileDialog& box) {
+      EXPECT_EQ(box.acceptMode(), QFileDialog::AcceptSave);
+      EXPECT_EQ(box.nameFilters(), QStringList("Folionet (*.folionet)"));
+      EXPECT_EQ(box.selectedFiles(), QStringList(ToQt(old)));
+      box.selectFile(ToQt(folder.Path()) + "new");
+      isAccepted ? static_cast<QDialog&>(box).accept() : box.reject();
+    });
+    EXPECT_EQ(ui.ChooseFileToSave("Folionet|*.folionet", old), isAccepted ? folder.Path() + "new.folionet" : "");
     WhenShown<QFileDialog>([isAccepted](QFileDialog& box) {
       EXPECT_EQ(FromQt(box.windowTitle()), "title");
       box.setDirectory(QStringLiteral("/usr"));

@@ -16,7 +16,7 @@ struct ScriptStep {
   std::vector<std::string> outcome;
 };
 
-// A case of a file tests/runs/*.runs; tests/runs/RunsTest.cpp tells the language.
+// A case of a file tests/runs/*.runs; tests/runs/README.md tells the language.
 struct ScriptCase {
   std::string file;   // its path
   std::string topic;  // the file's name without what follows its dot

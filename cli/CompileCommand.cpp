@@ -1,5 +1,6 @@
 #include "CompileCommand.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <system_error>
 

@@ -17,13 +17,17 @@ function(folionet_library name)
 endfunction()
 
 # What ccache needs to know to keep what is made with precompiled headers.
-if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND NOT CMAKE_DISABLE_PRECOMPILE_HEADERS)
-  add_compile_options(-fpch-preprocess)
+if(NOT CMAKE_DISABLE_PRECOMPILE_HEADERS)
+  if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+    add_compile_options(-fpch-preprocess)
+  else()
+    add_compile_options("SHELL:-Xclang -fno-pch-timestamp")
+  endif()
 endif()
 
 # folionet_precompile(TARGET FIRST HEADER): the target's sources begin with what the header names, headers of the system
-# alone, read once for all that share the FIRST target's. Builds without (debug, clang) hold that each source names what
-# it uses.
+# alone, read once for all that share the FIRST target's. script/check-includes holds that each source names what it uses of
+# them, as does a build without (debug).
 function(folionet_precompile target first header)
   if(target STREQUAL first)
     target_precompile_headers(${target} PRIVATE ${PROJECT_SOURCE_DIR}/${header})
@@ -35,7 +39,7 @@ endfunction()
 # folionet_reads_arguments(SOURCE...): sources that read the parser of arguments. Its templates take a third of the
 # time to compile when they are optimised no more than this, and it runs once.
 function(folionet_reads_arguments)
-  set_source_files_properties(${ARGN} PROPERTIES SKIP_PRECOMPILE_HEADERS ON COMPILE_OPTIONS "$<$<CONFIG:Release>:-O1>")
+  set_source_files_properties(${ARGN} PROPERTIES SKIP_PRECOMPILE_HEADERS ON COMPILE_OPTIONS "$<IF:$<CONFIG:Release>,-O1,-O0>")
 endfunction()
 
 # folionet_form_component(NAME ...): the same, for a folder that has forms drawn in .ui files.

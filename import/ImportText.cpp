@@ -16,6 +16,8 @@ namespace {
 constexpr const char* kForms =
     Words("Import", "A Bible text was expected: USFM, USX, USFX, OSIS, Zefania XML, or one verse a line.");
 
+constexpr const char* kEmpty = Words("Import", "A Bible text was expected; the file is empty.");
+
 // Reads the files of one text, which all have the same form. A file of a folder or an archive that looks like one verse
 // a line beside files of another form is none of the text: a licence, a list of verse counts.
 class BibleReader {
@@ -44,7 +46,9 @@ class BibleReader {
   void TakeText(const InputFile& file, TextDecoder& text) {
     const FormKind kind = FormOf(text.Head());
     if (kind == FormKind::kNone) {
-      if (file.isGiven) throw ImportError(kInvalidProcedureCall, file.name, {kForms});
+      if (file.isGiven) {
+        throw ImportError(kInvalidProcedureCall, file.name, {text.Head().empty() ? kEmpty : kForms});
+      }
       return;
     }
     if (kind != m_kind && !BelongsHere(kind, file)) return;

@@ -167,7 +167,9 @@ bool TextDecoder::Next(std::string_view& piece) {
   m_isGiven = true;
   if (m_text.empty() && m_faultLine != 0) {
     throw TextFault(
-        {Words("Import", "text in %1 was expected; give the charset of the file with --charset NAME"), {m_encoding}},
+        {Words("Import",
+               "text in %1 was expected; \"folionet-cli import --charset NAME\" reads one in another charset"),
+         {m_encoding}},
         m_faultLine);
   }
   piece = m_text;

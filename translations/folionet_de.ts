@@ -224,10 +224,6 @@
         <translation>der Name eines Zeichensatzes, etwa windows-1251, wurde erwartet: %1</translation>
     </message>
     <message>
-        <source>text in %1 was expected; give the charset of the file with --charset NAME</source>
-        <translation>Text in %1 wurde erwartet; nennen Sie den Zeichensatz der Datei mit --charset NAME</translation>
-    </message>
-    <message>
         <source>\id and the code of a book were expected before %1 %2</source>
         <translation>vor %1 %2 wurden \id und das Kürzel eines Buches erwartet</translation>
     </message>
@@ -334,6 +330,14 @@
     <message>
         <source>Another one is chosen in Page Encoding, once the text is imported.</source>
         <translation>Eine andere wird unter „Page Encoding“ gewählt, sobald der Text importiert ist.</translation>
+    </message>
+    <message>
+        <source>A Bible text was expected; the file is empty.</source>
+        <translation>Ein Bibeltext wurde erwartet; die Datei ist leer.</translation>
+    </message>
+    <message>
+        <source>text in %1 was expected; &quot;folionet-cli import --charset NAME&quot; reads one in another charset</source>
+        <translation>Text in %1 wurde erwartet; „folionet-cli import --charset NAME“ liest einen in einem anderen Zeichensatz</translation>
     </message>
 </context>
 <context>

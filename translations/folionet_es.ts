@@ -224,10 +224,6 @@
         <translation>se esperaba el nombre de un juego de caracteres, como windows-1251: %1</translation>
     </message>
     <message>
-        <source>text in %1 was expected; give the charset of the file with --charset NAME</source>
-        <translation>se esperaba texto en %1; indique el juego de caracteres del archivo con --charset NAME</translation>
-    </message>
-    <message>
         <source>\id and the code of a book were expected before %1 %2</source>
         <translation>se esperaban \id y el código de un libro antes de %1 %2</translation>
     </message>
@@ -334,6 +330,14 @@
     <message>
         <source>Another one is chosen in Page Encoding, once the text is imported.</source>
         <translation>Otro se elige en «Page Encoding», una vez importado el texto.</translation>
+    </message>
+    <message>
+        <source>A Bible text was expected; the file is empty.</source>
+        <translation>Se esperaba un texto bíblico; el archivo está vacío.</translation>
+    </message>
+    <message>
+        <source>text in %1 was expected; &quot;folionet-cli import --charset NAME&quot; reads one in another charset</source>
+        <translation>se esperaba texto en %1; «folionet-cli import --charset NAME» lee uno en otro juego de caracteres</translation>
     </message>
 </context>
 <context>

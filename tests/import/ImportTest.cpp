@@ -105,7 +105,7 @@ TEST(Lines, AreReadOrToldWithTheirNumber) {
        "Psalm\t3:6\t I\thave  \nMat 2:21\nGe1:3 12:30 o'clock\nJude1:255 x\nGe1:1-2a y\n",
        "1 1:1 In the beginning|1 1:2 And|1 1:3 12:30 o'clock|1 1:1-2a y|9 3:4 And|12 2:1 came: to|19 3:6 I have|"
        "40 2:22 |40 2:21 |65 1:255 x|"},
-      {"", "0: A Bible text was expected: USFM, USX, USFX, OSIS, Zefania XML, or one verse a line."},
+      {"", "0: A Bible text was expected; the file is empty."},
       {"Ge1:1 In\n\r\nhello\r\n",
        "3: Genesis 1:1: a verse such as \"GEN 1:1 In the beginning\" was expected: \"hello\""},
       {"Jude 5 a 3:4\nOBA 3-4 b\n2 John 6\nPhilemon 1:4 c\nJude 1:6 d\n",
@@ -145,10 +145,11 @@ TEST(Text, IsInTheCharsetThatTheFileTells) {
        "\x93\xE9</VERS></CHAPTER></BIBLEBOOK></XMLBIBLE>",
        "1 1:1 “é|"},
       {"Ge1:1 a\nGe1:2 \xE9",
-       "2: Genesis 1:1: text in UTF-8 was expected; give the charset of the file with --charset NAME"},
+       "2: Genesis 1:1: text in UTF-8 was expected; \"folionet-cli import --charset NAME\" reads one in another "
+       "charset"},
       {"\xFF\xFE" + Wide("Ge1:1 a\nGe", true) + "b",
-       "2: Genesis 1:1: text in UTF-16LE was expected; give the charset of the file with "
-       "--charset NAME"}};
+       "2: Genesis 1:1: text in UTF-16LE was expected; \"folionet-cli import --charset NAME\" reads one in another "
+       "charset"}};
   for (const auto& [content, expected] : cases) EXPECT_EQ(Outcome(content), expected);
 }
 

@@ -7,7 +7,6 @@
 #include <utility>
 
 #include "FileHandle.h"
-#include "LineReader.h"
 #include "Text.h"
 #include "Utf8.h"
 #include "WholeFile.h"
@@ -15,49 +14,29 @@
 namespace folionet {
 namespace {
 
-// The charset of texts in a language that are not in UTF-8, by how its code begins.
-constexpr std::array<std::pair<std::string_view, const char*>, 40> kCharsetsOfLanguages{{
-    {"ar", "windows-1256 (ANSI Arabic)"},
-    {"be", "windows-1251 (ANSI Cyrillic)"},
-    {"bg", "windows-1251 (ANSI Cyrillic)"},
-    {"bs", "windows-1250 (ANSI Central European)"},
-    {"cs", "windows-1250 (ANSI Central European)"},
-    {"el", "windows-1253 (ANSI Greek)"},
-    {"et", "windows-1257 (ANSI Baltic)"},
-    {"fa", "windows-1256 (ANSI Arabic)"},
-    {"he", "windows-1255 (ANSI Hebrew)"},
-    {"hr", "windows-1250 (ANSI Central European)"},
-    {"hu", "windows-1250 (ANSI Central European)"},
-    {"iw", "windows-1255 (ANSI Hebrew)"},
-    {"ja", "shift_jis (Japanese - Shift JIS)"},
-    {"kk", "windows-1251 (ANSI Cyrillic)"},
-    {"ko", "euc-kr (Korean - EUC)"},
-    {"ky", "windows-1251 (ANSI Cyrillic)"},
-    {"lt", "windows-1257 (ANSI Baltic)"},
-    {"lv", "windows-1257 (ANSI Baltic)"},
-    {"mk", "windows-1251 (ANSI Cyrillic)"},
-    {"mn", "windows-1251 (ANSI Cyrillic)"},
-    {"pl", "windows-1250 (ANSI Central European)"},
-    {"ro", "windows-1250 (ANSI Central European)"},
-    {"ru", "windows-1251 (ANSI Cyrillic)"},
-    {"sk", "windows-1250 (ANSI Central European)"},
-    {"sl", "windows-1250 (ANSI Central European)"},
-    {"sq", "windows-1250 (ANSI Central European)"},
-    {"sr", "windows-1251 (ANSI Cyrillic)"},
-    {"tg", "windows-1251 (ANSI Cyrillic)"},
-    {"th", "windows-874 (ANSI Thai)"},
-    {"tr", "windows-1254 (ANSI Turkish)"},
-    {"tt", "windows-1251 (ANSI Cyrillic)"},
-    {"uk", "windows-1251 (ANSI Cyrillic)"},
-    {"ur", "windows-1256 (ANSI Arabic)"},
-    {"uz", "windows-1251 (ANSI Cyrillic)"},
-    {"vi", "windows-1258 (ANSI Vietnamese)"},
-    {"yi", "windows-1255 (ANSI Hebrew)"},
-    {"zh-hk", "big5 (Traditional Chinese - Big 5)"},
-    {"zh-mo", "big5 (Traditional Chinese - Big 5)"},
-    {"zh-tw", "big5 (Traditional Chinese - Big 5)"},
-    {"zh", "gbk (Simplified Chinese - GBK)"},
+// A charset of texts that are not in UTF-8.
+struct LanguageCharset {
+  std::string_view entry;
+  std::string_view languages;  // that are written in it: their codes, lower case, a blank around each
+  bool isLatin = false;        // whether their letters are
+};
+
+constexpr std::array<LanguageCharset, 13> kCharsets{{
+    {"windows-1250 (ANSI Central European)", " bs cs hr hu pl ro sk sl sq ", true},
+    {"windows-1251 (ANSI Cyrillic)", " be bg kk ky mk mn ru sr tg tt uk uz "},
+    {"windows-1253 (ANSI Greek)", " el "},
+    {"windows-1254 (ANSI Turkish)", " tr ", true},
+    {"windows-1255 (ANSI Hebrew)", " he iw yi "},
+    {"windows-1256 (ANSI Arabic)", " ar fa ur "},
+    {"windows-1257 (ANSI Baltic)", " et lt lv ", true},
+    {"windows-1258 (ANSI Vietnamese)", " vi ", true},
+    {"windows-874 (ANSI Thai)", " th "},
+    {"shift_jis (Japanese - Shift JIS)", " ja "},
+    {"euc-kr (Korean - EUC)", " ko "},
+    {"big5 (Traditional Chinese - Big 5)", " zh-hk zh-mo zh-tw "},
+    {"gbk (Simplified Chinese - GBK)", " zh "},
 }};
+constexpr LanguageCharset kOtherLanguages{"windows-1252 (ANSI Latin 1)", {}, true};
 
 bool IsHigh(char c) { return (static_cast<unsigned char>(c) & 0x80) != 0; }
 
@@ -83,32 +62,27 @@ bool IsMostlyUndecodable(std::string_view bytes, const CodePage& codePage) {
   return wrong * kFew >= high && wrong > 0;
 }
 
-// Whether a code such as "zh-tw" is that of the language "zh-tw" or "zh".
-bool IsOfLanguage(std::string_view code, std::string_view language) {
+// Of the language of a code such as "zh-tw", or of "zh".
+const LanguageCharset& CharsetOf(std::string_view code) {
   constexpr std::size_t kLongest = 16;
-  if (language.find('-') != std::string_view::npos) return EqualIgnoringCase(code, language);
   std::array<char, kLongest> own{};  // "ru" of "rus" too
   UErrorCode status = U_ZERO_ERROR;
   uloc_getLanguage(std::string(code).c_str(), own.data(), kLongest, &status);
-  return U_SUCCESS(status) && std::string_view(own.data()) == language;
+  const std::string whole = " " + AsciiLower(code) + " ";
+  const std::string language = U_SUCCESS(status) ? " " + std::string(own.data()) + " " : whole;
+  const auto* const found = std::find_if(kCharsets.begin(), kCharsets.end(), [&](const LanguageCharset& charset) {
+    return charset.languages.find(whole) != std::string_view::npos ||
+           charset.languages.find(language) != std::string_view::npos;
+  });
+  return found == kCharsets.end() ? kOtherLanguages : *found;
 }
 
 // The entry that a text fits which is not in UTF-8.
 std::string EntryFor(std::string_view bytes, std::string_view pageLanguage) {
-  const char* entry = "windows-1252 (ANSI Latin 1)";
-  bool isLatin = true;
-  for (const auto& [language, charset] : kCharsetsOfLanguages) {
-    if (!IsOfLanguage(pageLanguage, language)) continue;
-    entry = charset;
-    const std::string_view name = charset;
-    isLatin = name.find("European") != std::string_view::npos || name.find("Baltic") != std::string_view::npos ||
-              name.find("Turkish") != std::string_view::npos || name.find("Vietnamese") != std::string_view::npos;
-    break;
-  }
-  if (isLatin && IsInOtherScript(bytes)) return {};
-  const std::string_view name = entry;
-  const CodePage codePage(name.substr(0, name.find(' ')));
-  return codePage.FindUndecodable(bytes) == std::string_view::npos ? entry : std::string();
+  const LanguageCharset& charset = CharsetOf(pageLanguage);
+  if (charset.isLatin && IsInOtherScript(bytes)) return {};
+  const CodePage codePage(charset.entry.substr(0, charset.entry.find(' ')));
+  return codePage.FindUndecodable(bytes) == std::string_view::npos ? std::string(charset.entry) : std::string();
 }
 
 }  // namespace

@@ -5,6 +5,7 @@
 namespace folionet {
 
 void ChapterOrder::AddMissingBooks(int from, int to, std::size_t line) {
+  if (m_library.IsImported()) return;
   const BiblePlace place{.book = from};
   if (from == to) {
     m_library.Add("missing-book", m_path, line, {"Missing: book %1", {std::to_string(from)}}, place);
@@ -24,6 +25,7 @@ void ChapterOrder::CheckStep(int book, int chapter, std::size_t line) {
     return;
   }
   if (book > m_book + 1) AddMissingBooks(m_book + 1, book - 1, line);
+  if (m_library.IsImported()) return;
   const int first = (book == m_book ? m_chapter : 0) + 1;
   if (chapter == first + 1) {
     m_library.Add("missing-chapter", m_path, line, {"Missing: book %1 chapter %2", {name, std::to_string(first)}},

@@ -8,26 +8,8 @@
 
 namespace folionet {
 
-namespace {
-
-// Whether a text may have this of itself, so that its import keeps it and tells of it.
-bool IsOfVerses(std::string_view kind) {
-  return kind == "bad-verse" || kind == "doubled-verse" || kind == "verse-order";
-}
-
-}  // namespace
-
 void CheckedLibrary::Add(const char* kind, const std::string& path, std::size_t line, Sentence what, BiblePlace place) {
-  // An imported text may lack anything; its import has told.
-  const bool isMissing = std::string_view(kind) == "missing-book" || std::string_view(kind) == "missing-chapter" ||
-                         std::string_view(kind) == "missing-verse";
-  if (isMissing && glob.Imported.IsThere()) return;
-  Finding finding{.kind = kind, .file = path, .line = line, .place = std::move(place), .what = std::move(what)};
-  if (glob.Imported.IsThere() && IsOfVerses(kind)) {
-    finding.severity = Severity::kWarning;
-    finding.remedy = {"Its import has kept it; if it is not meant, correct the text and import it with --replace."};
-  }
-  findings.Add(std::move(finding));
+  findings.Add({.kind = kind, .file = path, .line = line, .place = std::move(place), .what = std::move(what)});
 }
 
 void CheckedLibrary::CheckLetterCase(const std::string& found, const std::string& expected) {

@@ -21,6 +21,9 @@ struct CheckedLibrary {
   std::string translation = {};  // that is examined alone
   FolderLister folders{};        // which an examination changes nothing in
 
+  // Whether the text that is examined was imported: it may lack anything, of which its import has told.
+  bool IsImported() const { return glob.Imported.IsThere(); }
+
   // `line` is counted from 1; 0 is a fault of the file as a whole.
   void Add(const char* kind, const std::string& path, std::size_t line, Sentence what, BiblePlace place = {});
 

@@ -95,7 +95,12 @@ class TextReader {
     std::vector<std::string> texts{std::to_string(verse.book), std::to_string(verse.chapter)};
     const auto add = [&](const char* kind, const char* pattern, std::initializer_list<std::string> more) {
       texts.insert(texts.end(), more);
-      m_library.Add(kind, path, line, {pattern, texts}, place);
+      Finding finding{.kind = kind, .file = path, .line = line, .place = place, .what = {pattern, texts}};
+      if (m_library.IsImported()) {
+        finding.severity = Severity::kWarning;
+        finding.remedy = {"Its import has kept it; if it is not meant, correct the text and import it with --replace."};
+      }
+      m_library.findings.Add(std::move(finding));
     };
     switch (found->oddity) {
       case VerseOrder::Oddity::kBadNumber:
@@ -107,6 +112,7 @@ class TextReader {
       case VerseOrder::Oddity::kMissing:
         break;
     }
+    if (m_library.IsImported()) return;
     const std::string first = std::to_string(found->first);
     if (found->first == found->last) return add("missing-verse", "Book %1 chapter %2: Missing: verse %3", {first});
     add("missing-verse", "Book %1 chapter %2: Missing: verse %3 to %4", {first, std::to_string(found->last)});

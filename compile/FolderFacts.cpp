@@ -30,7 +30,7 @@ std::string_view Between(std::string_view text, std::string_view before, std::st
 }
 
 // A file of the folder, as far as it has been read.
-struct OldFile {
+struct FileFacts {
   bool isFolder = false;
   bool isOurs = false;
   std::string translation;  // UTF-8; empty when the page does not tell it
@@ -47,9 +47,9 @@ std::string_view NameInIndex(std::string_view page) {
   return heading.empty() ? Between(body, "<u>", "<br><br></u>") : heading;
 }
 
-OldFile ReadOldFile(int folder, const char* name) {
+FileFacts LookAtFile(int folder, const char* name) {
   constexpr std::size_t kLongestHead = std::size_t{64} << 10;
-  OldFile old;
+  FileFacts old;
   const FileHandle file = FileHandle::OpenAt(folder, name, O_RDONLY | O_NONBLOCK | O_NOFOLLOW);
   struct stat status {};
   if (!file.IsOpen() || fstat(file.Get(), &status) != 0) return old;
@@ -90,9 +90,9 @@ std::optional<FolderFacts> LookIntoFolder(const std::string& folder, const Writt
     }
     const auto of = written.find(name);
     const bool isWritten = of != written.end();
-    OldFile old;
+    FileFacts old;
     const bool isFile = entry->d_type == DT_REG || entry->d_type == DT_UNKNOWN;
-    if (isFile && (isWritten || IsHtmlName(name))) old = ReadOldFile(reader.Descriptor(), entry->d_name);
+    if (isFile && (isWritten || IsHtmlName(name))) old = LookAtFile(reader.Descriptor(), entry->d_name);
     if (old.isFolder) {
       facts.hasFolders = true;
     } else if (old.isOurs) {
@@ -128,7 +128,7 @@ std::string TranslationOfSite(const CompileRequest& request, const PageNames& na
   for (const std::string& name :
        {IndexFileName(request.options.txthttpRoot), names.OnDisk(request.cboStartBook + 1, 1)}) {
     if (name.empty() || name.find('/') != std::string::npos) continue;
-    const OldFile old = ReadOldFile(folder.Get(), name.c_str());
+    const FileFacts old = LookAtFile(folder.Get(), name.c_str());
     if (!old.translation.empty()) return old.translation;
   }
   return {};

@@ -49,7 +49,7 @@ class FactFinder {
     FindLostBooks();
     FindLostIndex();
     FindLostImage();
-    FindOldPages();
+    WarnOfOldPages();
     return std::move(m_facts);
   }
 
@@ -92,7 +92,7 @@ class FactFinder {
         {"Pages of the same names are written over; choose another folder with --output if that is not meant."}));
   }
 
-  void FindOldPages() {
+  void WarnOfOldPages() {
     const std::set<std::string> old = OldPages();
     if (old.empty()) return;
     m_facts.push_back(Warning(

@@ -7,6 +7,7 @@
 #include <array>
 #include <exception>
 #include <memory>
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -81,20 +82,20 @@ class ArchiveReader : public ByteSource {
     Check(Library().open(m_archive.get(), this, nullptr, OnRead, nullptr));
   }
 
-  // Goes on to the next file; false at the end.
-  bool Next(std::string& name) {
+  // Goes on to the next file and gives its name; nothing at the end.
+  std::optional<std::string> Next() {
     archive_entry* entry = nullptr;
     for (;;) {
       const int status = Library().nextHeader(m_archive.get(), &entry);
-      if (status == ARCHIVE_EOF) return false;
+      if (status == ARCHIVE_EOF) return std::nullopt;
       Check(status);
       const char* path = Library().pathnameUtf8(entry);
       if (path == nullptr) path = Library().pathname(entry);
-      name = path != nullptr ? path : "";
+      const std::string name = path != nullptr ? path : "";
       if (LeadsOut(name)) Fail({Words("Import", "Paths that stay in the archive were expected: %1"), {Quoted(name)}});
       if (++m_entries > kMostEntries)
         Fail({Words("Import", "At most %1 files were expected."), {std::to_string(kMostEntries)}});
-      if (Library().filetype(entry) == AE_IFREG || Library().filetype(entry) == 0) return true;
+      if (Library().filetype(entry) == AE_IFREG || Library().filetype(entry) == 0) return name;
     }
   }
 
@@ -162,11 +163,10 @@ bool IsArchive(std::string_view head) {
 
 void ForEachEntry(const std::string& file, ByteSource& bytes, const std::function<void(const InputFile&)>& take) {
   ArchiveReader reader(file, bytes);
-  std::string name;
-  while (reader.Next(name)) {
+  while (const auto name = reader.Next()) {
     const bool isAlone = reader.IsAlone();
     std::string shown = file;
-    if (!isAlone) shown.append(": ").append(name);
+    if (!isAlone) shown.append(": ").append(*name);
     take({shown, isAlone, &reader});
   }
 }

@@ -59,8 +59,8 @@ void ReadBookTitles(ModGlob& glob, const std::string& fileName);
 // missing. Throws RunTimeError when the folder cannot be read.
 std::vector<std::string> LanguageFiles(const ModGlob& glob);
 
-// Fills cboLang with the names of LanguageFiles. A failure, which a folder without
-// any is too (kFileNotFound), is reported under "GetLang"; the list is then empty.
+// Fills cboLang with the names of LanguageFiles. A failure, which a folder without any is too (kFileNotFound), is
+// reported under "GetLang"; the list is then empty.
 Outcome GetLang(ModGlob& glob, UserInterface& ui);
 
 }  // namespace folionet

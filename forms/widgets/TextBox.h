@@ -7,8 +7,8 @@
 namespace folionet {
 
 // A multi-line box. Its text is UTF-8 with CR LF for each line break; with `oneLine`, breaks that are typed or pasted
-// become blanks. A text that was put in and not changed since
-// comes back byte for byte; in a changed one, bytes that are not UTF-8 still do.
+// become blanks. A text that was put in and not changed since comes back byte for byte; in a changed one, bytes that
+// are not UTF-8 still do.
 class TextBox : public QPlainTextEdit {
   Q_OBJECT
   Q_PROPERTY(int rows READ Rows WRITE setRows)

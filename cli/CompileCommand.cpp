@@ -6,10 +6,10 @@
 
 #include "ChangeJournal.h"
 #include "ChapterIndex.h"
+#include "ChosenText.h"
 #include "CommandEnd.h"
 #include "Compile.h"
 #include "Effects.h"
-#include "ImportedText.h"
 #include "Installation.h"
 #include "OptionLoading.h"
 #include "Paths.h"
@@ -23,6 +23,7 @@
 #include "StopSignals.h"
 #include "TellFacts.h"
 #include "Text.h"
+#include "TranslationNames.h"
 
 namespace folionet {
 namespace {

@@ -4,13 +4,15 @@
 #include <iterator>
 
 #include "BookTitles.h"
+#include "ChosenText.h"
 #include "CommandEnd.h"
 #include "EncodingLists.h"
-#include "ImportedText.h"
 #include "OptionTable.h"
+#include "OwnCharset.h"
 #include "PageEncoding.h"
 #include "Paths.h"
 #include "ProgramFolder.h"
+#include "TranslationNames.h"
 
 namespace folionet {
 namespace {

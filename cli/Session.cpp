@@ -4,10 +4,11 @@
 #include <utility>
 
 #include "Catalogue.h"
+#include "ChosenText.h"
 #include "CommandEnd.h"
 #include "CustomHtml.h"
-#include "ImportedText.h"
 #include "OptionLoading.h"
+#include "OwnCharset.h"
 #include "PageEncoding.h"
 #include "Paths.h"
 #include "RunTimeError.h"
@@ -69,9 +70,7 @@ void Session::LoadOptions() {
 
 void Session::LoadCodePage() {
   try {
-    PageEncoding encoding;
-    LoadPageEncoding(store, options, encoding, ui);
-    TakeEncodingOf(glob.Imported, store, encoding, ui);
+    const PageEncoding encoding = ReadPageEncoding(store, options, glob.Imported, ui);
     texts.PageCharset = encoding.PageCharset;
     texts.PageLanguage = encoding.PageLanguage;
     codePage = CodePage(encoding.PageCharset);

@@ -29,8 +29,7 @@ void LoadAll(const std::string& folder) {
   });
   Try([&] {
     PageOptions options;
-    PageEncoding encoding;
-    LoadPageEncoding(store, options, encoding, ui);
+    ReadPageEncoding(store, options, {}, ui);
   });
   PageOptions options;
   for (const Option& option : OptionTable()) {

@@ -6,7 +6,6 @@
 #include <array>
 
 #include "CharsetLabels.h"
-#include "LineReader.h"
 #include "RunTimeError.h"
 #include "Text.h"
 #include "TextFault.h"

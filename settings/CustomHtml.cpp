@@ -1,6 +1,6 @@
 #include "CustomHtml.h"
 
-#include "PageEncoding.h"
+#include "OwnCharset.h"
 
 namespace folionet {
 

@@ -6,7 +6,6 @@
 #include <vector>
 
 #include "CodePage.h"
-#include "LineReader.h"
 #include "Text.h"
 #include "Utf16.h"
 #include "Utf8.h"

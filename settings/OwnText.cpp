@@ -8,7 +8,6 @@
 #include <utility>
 
 #include "KeptLetters.h"
-#include "LineReader.h"
 #include "Text.h"
 #include "Utf16.h"
 #include "Utf8.h"

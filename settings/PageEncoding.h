@@ -3,10 +3,8 @@
 #include <string>
 #include <string_view>
 
-#include "CodePage.h"
-#include "OwnText.h"
 #include "PageOptions.h"
-#include "SettingsStore.h"
+#include "StoredSettings.h"
 #include "UserInterface.h"
 #include "modGlob.h"
 
@@ -25,40 +23,14 @@ std::string EncodingCode(std::string_view entry, std::string_view what);
 // The code of the stored language, which pages of a text that names none declare; empty when it cannot be read.
 std::string StoredLanguage(const StoredSettings& store);
 
-// The code page that the stored charset names, be it without a description. The custom header and footer are kept in
-// it. Throws RunTimeError when the settings cannot be read.
-CodePage StoredCodePage(const StoredSettings& store);
-
-// The texts of a person's own as the charset has them that is stored now, by whatever program: that of the person's own
-// settings, as all sites share these texts. Throws RunTimeError when the settings cannot be read and never were.
-OwnFolder StoredOwnFolder(const StoredSettings& store, const std::string& programFolder);
-
-// The same to save to: a change that was not finished is completed first. Throws RunTimeError when it cannot be.
-OwnFolder OwnFolderToSave(const StoredSettings& store, const std::string& programFolder);
-
-// The same for a run that may have another charset than the stored one, which a person's texts stay in. Where none was
-// ever stored, texts that can be in the run's charset were made for it.
-OwnFolder OwnFolderOfRun(const StoredSettings& store, const std::string& programFolder);
-
-// Stores the entries that were chosen, those that are not empty, and, when that changes the code page, brings the
-// custom header and footer and the lists of encodings over to it, unless it is that of a site: one change, of which all
-// is made or nothing. Throws RunTimeError.
-void SaveEncoding(SettingsStore& store, const std::string& programFolder, const EncodingOptions& chosen);
-
-// Removes all that is stored, as SettingsStore::DeleteSetting does; what is in another code page than the default one
-// comes over to that in the same change. Of a site whose file is in use, SettingsStore::RestoreSite. Throws
-// RunTimeError, and everything is as it was.
-void RestoreSettings(SettingsStore& store, const std::string& programFolder);
-
-// Reads both entries and shows their codes in panels 3 and 2 of the status bar. Throws RunTimeError for the first that
-// cannot be read; what comes before it is set and shown.
-void LoadPageEncoding(const StoredSettings& store, PageOptions& options, PageEncoding& encoding, UserInterface& ui);
+// Reads both entries, with the codes that an imported translation brings in the place of those that the person has not
+// set, and shows the codes in panels 3 and 2 of the status bar. Throws RunTimeError for the first that cannot be read;
+// what comes before it is shown.
+PageEncoding ReadPageEncoding(const StoredSettings& store, PageOptions& options, const ImportedText& imported,
+                              UserInterface& ui);
 
 // The code that a translation which was imported brings for "Charset" or "Lang"; empty when it brings none, or the
 // person has set one.
 std::string CodeOfText(const ImportedText& text, const StoredSettings& store, std::string_view key);
-
-// Takes and shows the codes of an imported translation in the place of those that the person has not set.
-void TakeEncodingOf(const ImportedText& text, const StoredSettings& store, PageEncoding& encoding, UserInterface& ui);
 
 }  // namespace folionet

@@ -10,7 +10,6 @@
 
 #include "BuildInfo.h"
 #include "FileNames.h"
-#include "OwnLibrary.h"
 #include "Paths.h"
 #include "RunTimeError.h"
 #include "WholeFile.h"

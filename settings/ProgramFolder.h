@@ -9,6 +9,10 @@ namespace folionet {
 // The folder of the running executable, ending in the folder separator.
 std::string ExecutableFolder();
 
+// Where imported texts go when nothing else is said, and where they are looked for when no library of Versalia is
+// known: $XDG_DATA_HOME/Folionet/library/, or under ~/.local/share; empty where neither is a whole path.
+std::string OwnLibraryFolder();
+
 // Why a folder that a person gave cannot be the program folder: it is not there. Empty when it is, or none was given.
 std::string MissingFolder(const std::string& chosen);
 

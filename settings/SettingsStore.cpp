@@ -19,13 +19,6 @@
 namespace folionet {
 namespace {
 
-// The text of the settings file `path` with changed values; `values` gets all of them.
-std::string Merged(std::string_view content, const IniChanges& changes, const std::string& path, IniValues& values) {
-  std::string edited = EditIni(content, changes, path);
-  values = ParseIni(edited);
-  return edited;
-}
-
 // Where a settings file is kept whose options are dropped. One that was kept before stays, and whatever is there.
 std::string KeptPath(const std::string& path) {
   const std::string first = path + ".before-restore";
@@ -114,12 +107,12 @@ void SettingsStore::Sync(std::string_view application) {
   MakeFolder(application);
   const std::string path = FilePath(application);
   // Another program may have saved since the file was read: what it changed is kept.
-  IniValues values;
+  std::string edited;
   WorkAbout(Subject::kSettingsFile, [&] {
     EditWholeFile(path, kLongestFile,
-                  [&](const std::string& content) { return Merged(content, changed, path, values); });
+                  [&](const std::string& content) { return edited = EditIni(content, changed, path); });
   });
-  Take(application, std::move(values));
+  Take(application, ParseIni(edited));
 }
 
 void SettingsStore::TrySaving() const {
@@ -152,10 +145,10 @@ void SettingsStore::SaveTogether(const std::function<void()>& saves, JointChange
   const IniChanges changed = TakeUnsaved(kApplicationTitle);
   MakeFolder(kApplicationTitle);
   const std::string path = FilePath(kApplicationTitle);
-  IniValues values;
-  change.Edit(path, kLongestFile, [&](const std::string& content) { return Merged(content, changed, path, values); });
+  std::string edited;
+  change.Edit(path, kLongestFile, [&](const std::string& content) { return edited = EditIni(content, changed, path); });
   change.Commit();
-  Take(kApplicationTitle, std::move(values));
+  Take(kApplicationTitle, ParseIni(edited));
 }
 
 void SettingsStore::DeleteSetting(std::string_view application) {
@@ -176,7 +169,7 @@ void SettingsStore::DeleteSettings(JointChange& change) {
 // What the person's own settings do not have either is left out: the default of a charset, say, stands back behind the
 // one that a text brings.
 void SettingsStore::RestoreSite() {
-  IniValues values;
+  std::string edited;
   const std::string prefix = NameOf(kSettingsSection, "");
   WorkAbout(Subject::kSettingsFile, [&] {
     EditWholeFile(SitePath(), kLongestFile, [&](const std::string& content) {
@@ -186,13 +179,13 @@ void SettingsStore::RestoreSite() {
         if (name.starts_with(prefix)) changes.emplace(name, std::nullopt);
       }
       for (const Option& option : OptionTable()) {
-        if (OwnText(option.key))
+        if (UserText(option.key))
           changes.insert_or_assign(prefix + std::string(option.key), std::string(option.defaultText));
       }
-      return Merged(content, changes, SitePath(), values);
+      return edited = EditIni(content, changes, SitePath());
     });
   });
-  Take(kApplicationTitle, std::move(values));
+  Take(kApplicationTitle, ParseIni(edited));
 }
 
 void SettingsStore::SaveText(std::string_view key, std::string_view value) {

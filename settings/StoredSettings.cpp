@@ -28,7 +28,7 @@ std::string StoredSettings::FilePath(std::string_view application) const {
 }
 
 std::string StoredSettings::FileOf(std::string_view key) const {
-  const bool isOwn = !m_sitePath.empty() && !Area(m_sitePath).contains(NameOf(kSettingsSection, key)) && OwnText(key);
+  const bool isOwn = !m_sitePath.empty() && !Area(m_sitePath).contains(NameOf(kSettingsSection, key)) && UserText(key);
   return isOwn ? OwnPath(kApplicationTitle) : FilePath(kApplicationTitle);
 }
 
@@ -143,7 +143,7 @@ void StoredSettings::Override(std::string_view key, std::string value) {
   m_overrides.insert_or_assign(std::string(key), std::move(value));
 }
 
-std::optional<std::string> StoredSettings::OwnText(std::string_view key) const {
+std::optional<std::string> StoredSettings::UserText(std::string_view key) const {
   const IniValues& values = Area(OwnPath(kApplicationTitle));
   const auto found = values.find(NameOf(kSettingsSection, key));
   return found == values.end() ? std::nullopt : std::optional(found->second);

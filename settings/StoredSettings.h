@@ -72,7 +72,7 @@ class StoredSettings {
 
   // The text of a key of our own in the person's own settings, whatever a site or the run has in its place; nothing
   // when none is stored.
-  std::optional<std::string> OwnText(std::string_view key) const;
+  std::optional<std::string> UserText(std::string_view key) const;
 
   // Whether a key of our own is stored, by the site or the person, or overridden.
   bool Has(std::string_view key) const;

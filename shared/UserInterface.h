@@ -73,8 +73,11 @@ class UserInterface {
   virtual std::optional<Colour> ChooseColour(Colour /*initial*/) { return std::nullopt; }
   virtual std::optional<SampleText> ChooseFont(const SampleText& /*initial*/) { return std::nullopt; }
   virtual std::string ChooseFile(const std::string& /*filter*/, const std::string& previous) { return previous; }
-  // A file to be written; empty when the person cancelled.
-  virtual std::string ChooseFileToSave(const std::string& /*filter*/, const std::string& /*initial*/) { return {}; }
+  // A file to be written, with this suffix unless it is given another; empty when the person cancelled.
+  virtual std::string ChooseFileToSave(const std::string& /*name*/, const std::string& /*suffix*/,
+                                       const std::string& /*initial*/) {
+    return {};
+  }
   virtual std::string ChooseFolder(const std::string& initial, const std::string& /*title*/) { return initial; }
 
   // Shows a page that was written in the person's browser.

@@ -1,19 +1,20 @@
 #include "BookChoice.h"
 
-#include "ImportedText.h"
 #include "Numbers.h"
+#include "TranslationNames.h"
 #include "Utf8.h"
 
 namespace folionet {
 namespace {
 
-struct Part {
+struct NamedBooks {
   const char* name = nullptr;
   BookRange books;
 };
 
-constexpr Part kParts[] = {{"OT", {0, 38}},      {"NT", {39, 65}},       {"Law", {0, 4}},       {"History", {5, 16}},
-                           {"Poetry", {17, 21}}, {"Prophets", {22, 38}}, {"Gospels", {39, 42}}, {"Letters", {44, 64}}};
+constexpr NamedBooks kParts[] = {{"OT", {0, 38}},       {"NT", {39, 65}},     {"Law", {0, 4}},
+                                 {"History", {5, 16}},  {"Poetry", {17, 21}}, {"Prophets", {22, 38}},
+                                 {"Gospels", {39, 42}}, {"Letters", {44, 64}}};
 
 // The place of the one text that is `wanted`, exactly or else in any letter case.
 template <typename Texts>
@@ -39,7 +40,7 @@ std::optional<int> ChooseBook(const ModGlob& glob, const CodePage& codePage, std
 }
 
 std::optional<BookRange> ChooseBooks(const ModGlob& glob, const CodePage& codePage, std::string_view text) {
-  for (const Part& part : kParts) {
+  for (const NamedBooks& part : kParts) {
     if (EqualIgnoringCase(TrimBlanks(text), part.name)) return part.books;
   }
   if (const auto book = ChooseBook(glob, codePage, text)) return BookRange{*book, *book};
@@ -70,7 +71,7 @@ std::optional<std::size_t> FindTranslation(const ModGlob& glob, const CodePage& 
 
 std::vector<std::string> BookParts() {
   std::vector<std::string> names;
-  for (const Part& part : kParts) names.emplace_back(part.name);
+  for (const NamedBooks& part : kParts) names.emplace_back(part.name);
   return names;
 }
 

@@ -7,6 +7,7 @@
 
 #include "BookTitles.h"
 #include "BuildInfo.h"
+#include "ChosenText.h"
 #include "FileNames.h"
 #include "FolderLister.h"
 #include "ImportedText.h"

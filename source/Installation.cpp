@@ -6,8 +6,8 @@
 #include <utility>
 #include <vector>
 
-#include "OwnLibrary.h"
 #include "Paths.h"
+#include "ProgramFolder.h"
 #include "StoredSettings.h"
 #include "Utf8.h"
 

@@ -2,7 +2,7 @@
 
 #include <QFontDatabase>
 
-#include "PageEncoding.h"
+#include "OwnCharset.h"
 #include "QtText.h"
 #include "RunTimeError.h"
 #include "ui_CustomHtmlDialog.h"

@@ -1,12 +1,11 @@
 #include "EncodingInUse.h"
 
+#include "PageEncoding.h"
+
 namespace folionet {
 
 PageEncoding ReadEncoding(AppState& state) {
-  PageEncoding encoding;
-  LoadPageEncoding(state.store, state.options, encoding, state.ui);
-  TakeEncodingOf(state.glob.Imported, state.store, encoding, state.ui);
-  return encoding;
+  return ReadPageEncoding(state.store, state.options, state.glob.Imported, state.ui);
 }
 
 void UseEncoding(AppState& state, const PageEncoding& read) {

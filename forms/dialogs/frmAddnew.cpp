@@ -7,7 +7,7 @@
 #include "HelpWindow.h"
 #include "LabelColumn.h"
 #include "OneLine.h"
-#include "PageEncoding.h"
+#include "OwnCharset.h"
 #include "QtText.h"
 #include "RunTimeError.h"
 #include "ShownBoxes.h"

@@ -7,6 +7,7 @@
 #include "CustomHtml.h"
 #include "EncodingInUse.h"
 #include "EncodingLists.h"
+#include "OwnCharset.h"
 #include "PageEncoding.h"
 #include "QtText.h"
 #include "RunTimeError.h"

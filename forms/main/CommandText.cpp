@@ -3,12 +3,12 @@
 #include <algorithm>
 #include <string_view>
 
-#include "ImportedText.h"
 #include "Installation.h"
 #include "OptionTable.h"
 #include "PageEncoding.h"
 #include "ProgramFolder.h"
 #include "Text.h"
+#include "TranslationNames.h"
 
 namespace folionet {
 namespace {

@@ -226,11 +226,11 @@ std::string FormUi::ChooseFile(const std::string& filter, const std::string& pre
   return chosen.isEmpty() ? previous : FromQt(chosen);
 }
 
-std::string FormUi::ChooseFileToSave(const std::string& filter, const std::string& initial) {
-  QFileDialog dialog(Owner(), {}, ToQt(initial), ToQt(FileDialogFilter(filter)));
+std::string FormUi::ChooseFileToSave(const std::string& name, const std::string& suffix, const std::string& initial) {
+  QFileDialog dialog(Owner(), {}, ToQt(initial), ToQt(FileDialogFilter(name + "|*." + suffix)));
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   dialog.setFileMode(QFileDialog::AnyFile);
-  dialog.setDefaultSuffix(ToQt(filter.substr(filter.rfind('.') + 1)));
+  dialog.setDefaultSuffix(ToQt(suffix));
   return dialog.exec() == QDialog::Accepted ? FromQt(dialog.selectedFiles().value(0)) : std::string();
 }
 

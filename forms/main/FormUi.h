@@ -33,7 +33,7 @@ class FormUi : public UserInterface {
   std::optional<Colour> ChooseColour(Colour initial) override;
   std::optional<SampleText> ChooseFont(const SampleText& initial) override;
   std::string ChooseFile(const std::string& filter, const std::string& previous) override;
-  std::string ChooseFileToSave(const std::string& filter, const std::string& initial) override;
+  std::string ChooseFileToSave(const std::string& name, const std::string& suffix, const std::string& initial) override;
   std::string ChooseFolder(const std::string& initial, const std::string& title) override;
   void ShowPage(const std::string& path) override;
 

@@ -7,10 +7,10 @@
 #include <utility>
 
 #include "BuildInfo.h"
-#include "ImportedText.h"
 #include "OptionLoading.h"
 #include "QtText.h"
 #include "RunTimeError.h"
+#include "TranslationNames.h"
 
 namespace folionet {
 namespace {
@@ -90,7 +90,8 @@ void SiteMenu::SaveAs() {
   const std::optional<CompileRequest> request = m_gather();
   if (!request) return;
   const std::string& open = m_state.store.SitePath();
-  const std::string path = m_state.ui.ChooseFileToSave(kFilter, open.empty() ? FromQt(QDir::homePath()) + "/" : open);
+  const std::string path =
+      m_state.ui.ChooseFileToSave("Folionet", "folionet", open.empty() ? FromQt(QDir::homePath()) + "/" : open);
   if (path.empty()) return;
   SiteChoices choices = ChoicesOf(*request);
   choices.sitemap = request->sitemapAddress;

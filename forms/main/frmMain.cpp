@@ -28,7 +28,7 @@
 #include "LibraryLists.h"
 #include "OneLine.h"
 #include "OptionSaving.h"
-#include "PageEncoding.h"
+#include "OwnCharset.h"
 #include "PageNames.h"
 #include "PagePreview.h"
 #include "QtText.h"
@@ -278,7 +278,6 @@ void frmMain::VerifyCompiledSite() {
 
 void frmMain::OpenEncoding() {
   Open<frmEncoding>();
-  m_state.codePage = CodePage(m_state.texts.PageCharset);
   m_lists->ShowNames();
   m_facts->Show();
 }

@@ -7,7 +7,7 @@
 #include "FolderPickers.h"
 #include "LibraryLists.h"
 #include "OptionLoading.h"
-#include "PageEncoding.h"
+#include "OwnCharset.h"
 #include "QtText.h"
 #include "RunTimeError.h"
 #include "SiteFile.h"

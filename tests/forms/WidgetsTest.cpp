@@ -168,7 +168,7 @@ TEST(FormUiTest, AChooserThatIsCancelledKeepsWhatThereIs) {
       box.selectFile(ToQt(folder.Path()) + "new");
       isAccepted ? static_cast<QDialog&>(box).accept() : box.reject();
     });
-    EXPECT_EQ(ui.ChooseFileToSave("Folionet|*.folionet", old), isAccepted ? folder.Path() + "new.folionet" : "");
+    EXPECT_EQ(ui.ChooseFileToSave("Folionet", "folionet", old), isAccepted ? folder.Path() + "new.folionet" : "");
     WhenShown<QFileDialog>([isAccepted](QFileDialog& box) {
       EXPECT_EQ(FromQt(box.windowTitle()), "title");
       box.setDirectory(QStringLiteral("/usr"));

@@ -16,7 +16,7 @@
 #include "EncodingLists.h"
 #include "OptionLoading.h"
 #include "OptionSaving.h"
-#include "PageEncoding.h"
+#include "OwnCharset.h"
 #include "RunTimeError.h"
 #include "ScriptedUi.h"
 #include "SettingsStore.h"

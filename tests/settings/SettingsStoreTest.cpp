@@ -6,7 +6,7 @@
 #include "FileHandle.h"
 #include "OptionLoading.h"
 #include "OptionSaving.h"
-#include "PageEncoding.h"
+#include "OwnCharset.h"
 #include "RunTimeError.h"
 #include "SettingsStore.h"
 #include "TemporaryFolder.h"

@@ -44,8 +44,9 @@ class ScriptedUi : public UserInterface {
   std::string ChooseFile(const std::string& filter, const std::string& previous) override {
     return Take(texts, Offer(previous, filter));
   }
-  std::string ChooseFileToSave(const std::string& filter, const std::string& initial) override {
-    Offer(initial, filter);
+  std::string ChooseFileToSave(const std::string& name, const std::string& suffix,
+                               const std::string& initial) override {
+    Offer(initial, name + "|*." + suffix);
     return Take(texts, std::string());
   }
   std::string ChooseFolder(const std::string& initial, const std::string& /*title*/) override {

@@ -57,7 +57,7 @@ class Person : public QObject {
     for (QWidget* window : QApplication::topLevelWidgets()) {
       if (window->objectName() != QLatin1String("frmMain") || !window->isVisible()) continue;
       m_form = window;
-      for (const char* name : {"txtBibleSel", "cmdVerifySite"}) {
+      for (const char* name : {"txtBibleSel", "cmdVerifySite", "StatusBar1_Panel2"}) {
         Tell(name, window->findChild<QWidget*>(QLatin1String(name))->property("text").toString());
       }
       Tell("folder:", QDir::currentPath());

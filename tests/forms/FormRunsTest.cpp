@@ -272,7 +272,7 @@ const std::map<std::string, FormRuns::Look>& FormRuns::States() {
       {"off", is([](Test& t, const std::string& n) { return !t.IsEnabled(n); })},
       {"open", is([](Test& t, const std::string& n) { return t.IsShown(n); })},
       {"hidden", is([](Test& t, const std::string& n) { return !t.IsShown(n); })},
-      {"focus", is([](Test& t, const std::string& n) { return t.m_form->focusWidget() == &t.Get(n); })},
+      {"focus", is([](Test& t, const std::string& n) { return t.Get(n).window()->focusWidget() == &t.Get(n); })},
       {"warned",
        is([](Test& t, const std::string& n) { return (t.m_ui.icon == MessageIcon::kWarning) == (n == "yes"); })},
       {"ended", is([](Test& t, const std::string& n) { return t.m_hasEnded == (n == "yes"); })},

@@ -8,6 +8,7 @@
 #include <cstdlib>
 
 #include "FolderPickers.h"
+#include "FolderTree.h"
 #include "TextBox.h"
 #include "TextCombo.h"
 #include "frmMain.h"
@@ -115,6 +116,7 @@ std::string FormTest::Shown(const std::string& name) const {
   if (const auto* list = qobject_cast<const QComboBox*>(&control)) return FromQt(list->currentText());
   if (const auto* box = qobject_cast<const TextBox*>(&control)) return box->Text();
   if (const auto* box = qobject_cast<const QPlainTextEdit*>(&control)) return FromQt(box->toPlainText());
+  if (const auto* tree = qobject_cast<const FolderTree*>(&control)) return FromQt(tree->currentItem()->text(0));
   const auto* button = qobject_cast<const QAbstractButton*>(&control);
   if (button != nullptr && button->isCheckable()) return button->isChecked() ? "1" : "0";
   return FromQt(control.property("text").toString() + control.accessibleDescription());

@@ -136,6 +136,9 @@ TEST_F(Looks, TheSampleLinkLooksAsInAPage) {
   EXPECT_EQ(colour(), 4478310);
   EXPECT_TRUE(link.font().bold());
   EXPECT_EQ(link.sizeHint(), size) << "nothing moves under the mouse";
+  QEvent leave(QEvent::Leave);
+  QApplication::sendEvent(&link, &leave);
+  EXPECT_EQ(colour(), 8323199);
   Click("frmEffects.chkRollover");
   EXPECT_EQ(colour(), 16711680);
   EXPECT_FALSE(link.font().bold());
@@ -278,6 +281,22 @@ TEST_F(Looks, AFrameIsWholeOnEverySide) {
     EXPECT_NE(picture.pixel(picture.width() - 1, middle.y()), ground) << more;
     EXPECT_NE(picture.pixel(middle.x(), picture.height() - 1), ground) << more;
   }
+}
+
+TEST_F(Looks, TheArrowOfTheLastAddressesPointsDown) {
+  ASSERT_TRUE(Start());
+  const QAction& list = *Get("txthttpRoot").actions()[0];
+  EXPECT_EQ(list.toolTip(), list.text());
+  const QImage arrow = list.icon().pixmap(64).toImage();
+  const auto row = [&](int y) {
+    int seen = 0;
+    for (int x = 0; x < arrow.width(); ++x) seen += qAlpha(arrow.pixel(x, y)) == 160 ? 1 : 0;
+    return seen;
+  };
+  EXPECT_EQ(row(20) + row(44), 0);
+  EXPECT_NEAR(row(24), 30, 2);
+  EXPECT_NEAR(row(38), 5, 3);
+  EXPECT_EQ(qAlpha(arrow.pixel(44, 32)), 160) << "at the end of the box";
 }
 
 TEST_F(Looks, APathThatIsTooLongBeginsAndEndsWithWholeLetters) {

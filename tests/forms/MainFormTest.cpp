@@ -220,6 +220,13 @@ TEST_F(MainForm, RemembersAddressesFoldersAndPlaces) {
   emit sites->aboutToShow();
   EXPECT_EQ(FromQt(sites->actions()[0]->text()), "a&&b \u2014 " + m_home.Path().substr(0, m_home.Path().size() - 1));
   EXPECT_TRUE(sites->actions()[0]->isChecked());
+  m_ui.texts = {m_home.Path() + "b.folionet"};
+  m_form->findChild<QAction*>("actSaveSite")->trigger();
+  emit sites->aboutToShow();
+  EXPECT_EQ(sites->actions().size(), 6) << "two sites, a line and three commands";
+  m_ui.yesNo = {true};
+  sites->actions()[1]->trigger();
+  EXPECT_EQ(m_site, m_home.Path() + "a&b.folionet");
 }
 
 TEST_F(MainForm, ADiskThatDoesNotAnswerDoesNotHoldTheStartUp) {
@@ -250,8 +257,10 @@ TEST_F(MainForm, ADiskThatDoesNotAnswerIsToldWhereItWouldBeWaitedFor) {
   EXPECT_FALSE(root->child(1)->isExpanded());
   Give("cmdBrowse", m_home.Path() + "library");
   for (const char* button : {"cmdCompile", "cmdPreviewPage"}) Click(button);
+  Give("Drive1", "Computer");
+  EXPECT_EQ(Shown("Drive1"), "Home");
   answer.set_value();
-  EXPECT_EQ(m_ui.log, Log(5, "71 Drive_Change"));
+  EXPECT_EQ(m_ui.log, Log(6, "71 Drive_Change"));
   EXPECT_EQ(m_ui.pageShown, "");
   EXPECT_EQ(m_ui.offered.back(), "") << "the chooser opens where the form does not hang";
   EXPECT_EQ(Shown("txtOutputPath"), m_home.Path() + "site/");

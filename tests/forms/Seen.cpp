@@ -49,6 +49,7 @@ void AddContent(const QWidget& control, Traits& traits) {
     Add("text", box->toPlainText(), traits);
   } else if (const auto* tree = qobject_cast<const QTreeWidget*>(&control)) {
     Add("column", tree->headerItem()->text(0), traits);
+    Add("current", tree->currentItem() == nullptr ? QString() : tree->currentItem()->text(0), traits);
   } else if (const auto* bar = qobject_cast<const QProgressBar*>(&control)) {
     Add("value", QStringLiteral("%1 of %2").arg(bar->value()).arg(bar->maximum()), traits);
   } else if (const auto* label = qobject_cast<const QLabel*>(&control); label == nullptr || label->buddy() == nullptr) {
@@ -65,6 +66,7 @@ void AddLook(const QWidget& control, Traits& traits) {
   Add("hidden", control.isHidden(), traits);
   Add("unframed", control.inherits("QLineEdit") && !control.property("frame").toBool(), traits);
   Add("selectable", isLabel && control.property("textInteractionFlags").toInt() == Qt::TextSelectableByMouse, traits);
+  Add("at its end", control.property("readOnly").toBool() && control.property("cursorPosition").toInt() > 0, traits);
   Add("hand", control.cursor().shape() == Qt::PointingHandCursor, traits);
   const int place = control.property("alignment").toInt() & ~(Qt::AlignLeft | Qt::AlignVCenter);
   if (place != 0 && (isLabel || control.inherits("QLineEdit"))) Add("alignment", QString::number(place, 16), traits);

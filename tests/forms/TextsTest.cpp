@@ -46,7 +46,7 @@ const QStringList kKeyless{"cmdRestoreAll", "cmdBrowse", "cmdHelp", "cmdClose", 
 // traits, with "=" before a text that is fixed and "~" before one that is translated.
 TEST_F(Texts, AndControlsAreThoseOfTheFile) {
   ASSERT_TRUE(Start());
-  for (const char* button : {"cmdPageEncoding", "frmEncoding.cmdAddNew", "cmdImport"}) Click(button);
+  for (const char* button : {"cmdPageEncoding", "frmEncoding.cmdAddNew", "cmdImport", "cmdHelp"}) Click(button);
   for (QDialog* dialog : m_form->findChildren<QDialog*>()) dialog->show();
   const SeenControls controls = ControlsOf(*m_form);
   std::ifstream file(FORM_CONTROLS);

@@ -53,7 +53,7 @@ TEST(TextBoxTest, GivesBackWhatWasPutIn) {
     box.SetText(given);
     EXPECT_EQ(box.Text(), given);
     box.moveCursor(QTextCursor::End);
-    box.insertPlainText(QStringLiteral("!"));
+    QTest::keyClicks(&box, "!");
     EXPECT_EQ(box.Text(), edited);
   }
 }
@@ -133,7 +133,7 @@ TEST(FormUiTest, NoIsTheDefaultAnswerAndACancelledInputIsEmpty) {
     });
     EXPECT_EQ(ui.AskYesNo("T", "Q"), answer);
     WhenShown<QInputDialog>([answer](QInputDialog& box) {
-      EXPECT_EQ(FromQt(box.textValue() + box.labelText()), "C:\\prompt");
+      EXPECT_EQ(FromQt(box.windowTitle() + box.textValue() + box.labelText()), "titleC:\\prompt");
       answer ? box.accept() : box.reject();
     });
     EXPECT_EQ(ui.AskText({"prompt", "title", "C:\\"}), answer ? "C:\\" : "");
@@ -202,6 +202,11 @@ TEST(StatusPanelsTest, TellTheStepAtHandAndMoveTheBar) {
   EXPECT_LT(progress.value(), progress.maximum());
   panels.EndRun(CompileOutcome::kDone);
   EXPECT_EQ(progress.value(), progress.maximum());
+  panels.BeginRun(2);
+  EXPECT_TRUE(progress.isHidden()) << "what the run before has left";
+  panels.Set(1, "first");
+  EXPECT_FALSE(progress.isHidden());
+  EXPECT_TRUE(QTest::qWaitFor([&] { return progress.value() == 1; }));
 }
 
 TEST(BackgroundWorkTest, AnExceptionIsAnEndAndWhatIsBegunAnewCountsAlone) {
@@ -246,6 +251,9 @@ TEST(FormUiTest, AFolderOfALibraryIsEnteredOrThatOfAnImportedText) {
       EXPECT_EQ(FromQt(form.findChild<QLineEdit*>("txtStem")->placeholderText()), "TEXT");
       form.findChild<QPushButton*>("cmdImport")->click();
     });
+    const auto* about = box.findChild<QLabel*>("lblAbout");
+    EXPECT_TRUE(about != nullptr && about->isVisible() && about->wordWrap());
+    EXPECT_GT(box.width(), 60 * box.fontMetrics().averageCharWidth()) << "a path has room";
     box.findChild<QPushButton*>("cmdImport")->click();
   });
   const std::string library = home.Path() + "Folionet/library/";
@@ -315,6 +323,7 @@ TEST(FormUiTest, TheReportCanBeCopiedWhole) {
     WhenShown<frmErr>([extra](frmErr& window) {
       EXPECT_EQ(FromQt(window.windowTitle()), "An Error has ocurred.");
       auto* report = window.findChild<QPlainTextEdit*>(QStringLiteral("txtErr"));
+      EXPECT_EQ(report->font().families().first(), "Fixedsys");
       EXPECT_TRUE(report->textInteractionFlags().testFlag(Qt::TextSelectableByMouse));
       EXPECT_TRUE(report->toPlainText().startsWith(QStringLiteral("An Error has occured.\nTitle        : Folionet\n")));
       EXPECT_TRUE(report->toPlainText().contains(QStringLiteral("Module       : GetLang.\nError Number : 53\n")));

@@ -169,7 +169,8 @@ TEST_F(Compiles, EndBetweenTwoPagesOnceTheyAreStopped) {
   EXPECT_EQ(removed, 3);
 }
 
-// The list of the run that was killed is lost with it: the next one tells all that the two have changed.
+// The list of the run that was killed, or could not be written, is lost with it: the next one tells all that the two
+// have changed.
 TEST_F(Compiles, ThatWereKilledAreToldByTheNextOne) {
   const TemporaryFolder first;
   m_list.arrange(first);
@@ -189,6 +190,14 @@ TEST_F(Compiles, ThatWereKilledAreToldByTheNextOne) {
     if (killed.result.output == whole.output && killed.result.errors == whole.errors) continue;
     const ProgramResult next = m_list.Run(home).result;
     EXPECT_EQ(lines(next.output), lines(whole.output));
+    EXPECT_NE(next.errors.find("Removed: genesis_1.html\n"), std::string::npos) << next.errors;
+  }
+  for (const std::string open : {"exec > /dev/full", "exec 2> /dev/full"}) {
+    const TemporaryFolder home;
+    m_list.arrange(home);
+    RunProgram(With({"/bin/sh", "-c", open + "; exec \"$0\" \"$@\""}, m_list.command(home)), home.Path());
+    const ProgramResult next = m_list.Run(home).result;
+    EXPECT_EQ(lines(next.output), lines(whole.output)) << open;
     EXPECT_NE(next.errors.find("Removed: genesis_1.html\n"), std::string::npos) << next.errors;
   }
 }

@@ -57,16 +57,12 @@ void RefuseWrongArguments(const ImportArguments& arguments, const LibraryRequest
   if (!arguments.charset.empty() && !IsCharset(arguments.charset)) {
     RefuseUsage("--charset: the name of a charset, such as windows-1251, was expected: \"" + arguments.charset + "\"");
   }
-  const auto isMissing = [](const std::string& path) {
-    std::error_code ignored;
-    return fs::status(NativePath(path), ignored).type() == fs::file_type::not_found;
-  };
   for (const std::string& path : arguments.paths) {
-    if (path != "-" && isMissing(path)) {
+    if (path != "-" && IsMissing(NativePath(path))) {
       RefuseUsage("There is no file or folder \"" + path + "\": give one that holds a Bible text.");
     }
   }
-  if (!arguments.titles.empty() && isMissing(arguments.titles)) {
+  if (!arguments.titles.empty() && IsMissing(NativePath(arguments.titles))) {
     RefuseUsage("--titles: there is no file \"" + arguments.titles + "\": give one of book titles.");
   }
 }

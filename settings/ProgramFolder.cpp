@@ -1,10 +1,8 @@
 #include "ProgramFolder.h"
 
 #include <fcntl.h>
-#include <sys/stat.h>
 #include <unistd.h>
 
-#include <cerrno>
 #include <filesystem>
 #include <system_error>
 
@@ -16,12 +14,6 @@
 
 namespace folionet {
 namespace {
-
-// A file that cannot be opened, or a link that leads nowhere, is the person's all the same.
-bool IsNameTaken(const std::string& path) {
-  struct stat status {};
-  return lstat(path.c_str(), &status) == 0 || (errno != ENOENT && errno != ENOTDIR);
-}
 
 // Where the delivered files are that a person's own folder is filled from: beside the program, as in a build that
 // belongs to somebody else, or where an installation, moved or not, has them.
@@ -54,7 +46,7 @@ namespace {
 std::string ProgramFolderPath(const std::string& chosen) {
   if (!chosen.empty()) return WithSeparator(NativePath(chosen));
   const std::string own = ExecutableFolder();
-  return IsNameTaken(own + kStyleSheetFile) && access(own.c_str(), W_OK) == 0 ? own : UserDataFolder();
+  return MayBeThere(own + kStyleSheetFile) && access(own.c_str(), W_OK) == 0 ? own : UserDataFolder();
 }
 
 }  // namespace
@@ -65,7 +57,7 @@ std::string MissingFolder(const std::string& chosen) {
 
 void DeliverFiles(const std::string& from, const std::string& folder, Doing doing) {
   for (const std::string name : {kStyleSheetFile, kLanguageList, kCharsetList}) {
-    if (IsNameTaken(folder + name)) continue;
+    if (MayBeThere(folder + name)) continue;
     const std::string bytes = ReadWholeFile(from + name);
     if (doing == Doing::kChange) {
       ReplaceWholeFile(folder + name, bytes);
@@ -88,7 +80,7 @@ std::string FindProgramFolder(const std::string& chosen, Doing doing) {
 
 std::string StyleSheetToRead(const std::string& chosen) {
   const std::string own = ProgramFolderPath(chosen) + kStyleSheetFile;
-  return chosen.empty() && !IsNameTaken(own) ? InstalledDataFolder() + kStyleSheetFile : own;
+  return chosen.empty() && !MayBeThere(own) ? InstalledDataFolder() + kStyleSheetFile : own;
 }
 
 std::string ProgramFolderToRead(const std::string& chosen) {

@@ -1,7 +1,5 @@
 #include "SettingsStore.h"
 
-#include <sys/stat.h>
-
 #include <cerrno>
 #include <cstdio>
 #include <filesystem>
@@ -29,16 +27,10 @@ std::string KeptPath(const std::string& path) {
   return kept;
 }
 
-bool IsLink(const std::string& path) {
-  struct stat status {};
-  return lstat(path.c_str(), &status) == 0 && S_ISLNK(status.st_mode);
-}
-
 // Keeps a settings file under the name KeptPath, while no other program saves it. A link, as a person's that keeps all
 // settings in one place, stays, and leads to an empty file then.
 void PutAside(const std::string& path, std::size_t longest) {
-  struct stat status {};
-  if (lstat(path.c_str(), &status) != 0 && (errno == ENOENT || errno == ENOTDIR)) return;
+  if (!MayBeThere(path)) return;
   Replacement file(path);
   if (IsLink(path)) {
     ReplaceWholeFile(KeptPath(path), file.OldContent(longest).value_or(""));

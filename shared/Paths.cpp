@@ -75,6 +75,18 @@ bool IsThere(const std::string& path) {
   return lstat(path.c_str(), &status) == 0;
 }
 
+bool MayBeThere(const std::string& path) { return IsThere(path) || (errno != ENOENT && errno != ENOTDIR); }
+
+bool IsMissing(const std::string& path) {
+  struct stat status {};
+  return stat(path.c_str(), &status) != 0 && (errno == ENOENT || errno == ENOTDIR);
+}
+
+bool IsLink(const std::string& path) {
+  struct stat status {};
+  return lstat(path.c_str(), &status) == 0 && S_ISLNK(status.st_mode);
+}
+
 bool FileExists(const std::string& path) {
   const FileHandle file = FileHandle::Open(NativePath(path).c_str(), O_RDONLY | O_NONBLOCK);
   struct stat status {};

@@ -28,8 +28,15 @@ bool IsSameFolder(std::string_view left, std::string_view right);
 // The path from the root with no link in it; empty, with errno set, when it leads nowhere.
 std::string RealPath(const std::string& path);
 
-// Whether anything has this name, be it a link that leads nowhere.
+// Whether anything has this name, be it a link that leads nowhere, as to a disk that is away; and the same with a yes
+// where the system does not tell.
 bool IsThere(const std::string& path);
+bool MayBeThere(const std::string& path);
+
+// Whether a path leads nowhere, as far as the system tells.
+bool IsMissing(const std::string& path);
+
+bool IsLink(const std::string& path);
 
 // True when `path` is a file that can be opened for reading; false on any failure, a folder included.
 bool FileExists(const std::string& path);

@@ -16,11 +16,6 @@
 namespace folionet {
 namespace {
 
-bool IsLink(const std::string& path) {
-  struct stat status {};
-  return lstat(path.c_str(), &status) == 0 && S_ISLNK(status.st_mode);
-}
-
 // The file behind a link, so that replacing it leaves the link.
 std::string BehindLinks(const std::string& path) {
   std::string real = RealPath(path);

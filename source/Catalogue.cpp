@@ -2,8 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <filesystem>
-#include <system_error>
 
 #include "BookTitles.h"
 #include "BuildInfo.h"
@@ -41,12 +39,6 @@ bool AskForPaths(ModGlob& glob, UserInterface& ui) {
   if (!modules) return false;
   SetInstallation(glob, *install, *modules, "SysDefs");
   return true;
-}
-
-// Whether there is nothing of that name, as far as the system tells: a link to a disk that is away is something.
-bool IsMissing(const std::string& path) {
-  std::error_code error;
-  return std::filesystem::symlink_status(path, error).type() == std::filesystem::file_type::not_found;
 }
 
 }  // namespace
@@ -88,7 +80,7 @@ void ReadCatalogue(ModGlob& glob, const CodePage& codePage) {
     glob.BibleFiles[counter] = record->stem;
     const std::string text = VerseFile(glob, codePage, record->stem, folders);
     if (!FileExists(text)) {
-      if (!IsMissing(text)) glob.unreadableTexts.push_back(text);
+      if (MayBeThere(text)) glob.unreadableTexts.push_back(text);
       if (listed == 1) glob.firstText = text;
       continue;
     }

@@ -45,8 +45,7 @@ std::string FileOfStem(const std::string& base, const std::string& folder, const
                        FolderLister& folders) {
   for (const std::string& name : names) {
     std::string path = folders.Locate(base, folder + name);
-    std::error_code error;
-    if (std::filesystem::exists(path, error) || error) return path;
+    if (!IsMissing(path)) return path;
   }
   return folders.Locate(base, folder + names.front());
 }

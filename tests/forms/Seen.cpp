@@ -141,12 +141,17 @@ void AddWindow(const QWidget& window, const std::string& prefix, SeenControls& s
   for (const QWidget* control : window.findChildren<QWidget*>()) {
     if (!IsTabbed(control)) controls << control;
   }
+  Traits mereTexts;
   for (const QWidget* control : controls) {
     const QString name = control->objectName();
     if (control->window() != &window || name.isEmpty() || name.startsWith("qt_")) continue;
     Traits traits = TraitsOf(*control);
-    if (!traits.empty() || IsTabbed(control)) seen.emplace_back(prefix + FromQt(name), std::move(traits));
+    const bool isMereText = !IsTabbed(control) && traits.size() == 1 && traits[0].starts_with("t");
+    if (isMereText) mereTexts.push_back(FromQt(name) + traits[0].substr(traits[0].find('=')));
+    if (!isMereText && (!traits.empty() || IsTabbed(control)))
+      seen.emplace_back(prefix + FromQt(name), std::move(traits));
   }
+  if (!mereTexts.empty()) seen.emplace_back(prefix + "texts", std::move(mereTexts));
 }
 
 }  // namespace

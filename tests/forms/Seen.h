@@ -11,7 +11,8 @@ namespace folionet {
 using Traits = std::vector<std::string>;
 
 // The controls of a form and of its dialogs by their names, as FormTest has them: those that take the focus first, in
-// the order of the Tab key. Nothing in it depends on the fonts and colours of a desktop.
+// the order of the Tab key, then others, then as one "texts" what is a text and nothing else. Nothing in it depends on
+// the fonts and colours of a desktop.
 using SeenControls = std::vector<std::pair<std::string, Traits>>;
 SeenControls ControlsOf(const QWidget& form);
 

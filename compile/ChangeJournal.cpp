@@ -5,13 +5,12 @@
 #include <cerrno>
 #include <cstdint>
 #include <cstdio>
-#include <filesystem>
 #include <string_view>
-#include <system_error>
 
 #include "BuildInfo.h"
 #include "FileHandle.h"
 #include "FileLock.h"
+#include "MakeFolders.h"
 #include "Paths.h"
 #include "RunTimeError.h"
 #include "WholeFile.h"
@@ -68,8 +67,7 @@ bool ChangeJournal::IsDoubtful(const std::string& name) const {
 
 bool ChangeJournal::Open() {
   if (m_file.IsOpen()) return true;
-  std::error_code ignored;
-  std::filesystem::create_directories(std::filesystem::path(m_path).parent_path(), ignored);
+  MakeFolderOf(m_path);
   return m_file.Open(m_path, m_whole);
 }
 

@@ -3,11 +3,10 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <filesystem>
-#include <system_error>
 #include <utility>
 
 #include "KeptLetters.h"
+#include "MakeFolders.h"
 #include "Text.h"
 #include "Utf16.h"
 #include "Utf8.h"
@@ -89,8 +88,7 @@ void SaveOwnText(const OwnFolder& folder, std::string_view name, std::string_vie
   const std::string bytes = folder.codePage.Encode(text);
   const bool isWhole = HoldsAllLetters(folder.codePage, text);
   if (isWhole && !Letters(folder, name)) return ReplaceWholeFile(PathOf(folder, name), bytes);
-  std::error_code ignored;
-  std::filesystem::create_directories(std::filesystem::path(folder.note).parent_path(), ignored);
+  MakeFolderOf(folder.note);
   JointChange change(folder.note);
   change.Replace(LettersPath(folder, name), text);
   change.Replace(PathOf(folder, name), bytes);

@@ -2,12 +2,11 @@
 
 #include <cerrno>
 #include <cstdio>
-#include <filesystem>
-#include <system_error>
 #include <utility>
 
 #include "BuildInfo.h"
 #include "JointChange.h"
+#include "MakeFolders.h"
 #include "OptionTable.h"
 #include "Paths.h"
 #include "Replacement.h"
@@ -83,8 +82,7 @@ void SettingsStore::MakeFolder(std::string_view application) const {
     throw RunTimeError(kPathNotFound, FilePath(kApplicationTitle), "HOME does not name a folder to save it in.")
         .About(Subject::kSettingsFile);
   }
-  std::error_code ignored;
-  std::filesystem::create_directories(Folder(), ignored);
+  MakeFolderOf(FilePath(application));
 }
 
 // A refused value must not be tried again by every later one, nor be read as if it were stored.

@@ -88,4 +88,6 @@ void MakeFolders(const std::string& path, Doing doing) {
   if (const int systemError = WhyNotMakeFolders(path, doing)) throw RunTimeError::FromErrno(systemError, path);
 }
 
+void MakeFolderOf(const std::string& file) { WhyNotMakeFolders(file.substr(0, file.rfind('/') + 1), Doing::kChange); }
+
 }  // namespace folionet

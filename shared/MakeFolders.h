@@ -13,6 +13,9 @@ enum class Doing { kChange, kPlan };
 // that fails, or would fail.
 void MakeFolders(const std::string& path, Doing doing);
 
+// Makes the folder of a file if it can; making the file tells of a failure.
+void MakeFolderOf(const std::string& file);
+
 // Whether a file could be made in an open folder, as a value of errno: EEXIST when something has the name.
 int WhyNotMake(int folder, const std::string& name);
 

@@ -5,6 +5,7 @@
 #include <QTemporaryDir>
 #include <algorithm>
 #include <cerrno>
+#include <cstdio>
 #include <filesystem>
 #include <string>
 #include <string_view>
@@ -12,6 +13,7 @@
 
 #include "Compile.h"
 #include "Installation.h"
+#include "MakeFolders.h"
 #include "PageNames.h"
 #include "Paths.h"
 #include "QtText.h"
@@ -73,9 +75,8 @@ void CopyPicture(const CompileRequest& request, const std::string& folder) {
   const bool isOutside = name.is_absolute() || std::find(name.begin(), name.end(), "..") != name.end();
   if (!request.options.chkBack || name.empty() || isOutside) return;
   const std::string to = folder + name.string();
-  std::error_code ignored;  // what follows tells of a failure
-  std::filesystem::create_directories(std::filesystem::path(to).parent_path(), ignored);
-  std::filesystem::remove(to, ignored);
+  MakeFolderOf(to);
+  std::remove(to.c_str());  // what follows tells of a failure
   if (const auto picture = ReadIfThere(request.txtOutputPath + name.string())) ReplaceWholeFile(to, *picture);
 }
 

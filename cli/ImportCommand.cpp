@@ -135,7 +135,7 @@ ExitStatus RunImport(const CommonOptions& common, const ImportArguments& argumen
   request.replace = arguments.replace;
   RefuseWrongArguments(arguments, request);
   try {
-    StoredSettings settings(StoredSettings::DefaultFolder());
+    const StoredSettings settings(StoredSettings::DefaultFolder());
     settings.FinishChange();
     request.pageLanguage = StoredLanguage(settings);
     const ImportedBible bible = ReadBible({arguments.paths, arguments.charset});

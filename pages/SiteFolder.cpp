@@ -105,12 +105,12 @@ SiteFolder::OldFile SiteFolder::OpenOld(const std::string& name) {
   return old;
 }
 
-// Two files of a run cannot be one: each would get the text of the other.
 std::string SiteFolder::RealPath() const {
   const std::string place = folionet::RealPath("/proc/self/fd/" + std::to_string(m_folder.Get()));
   return place.empty() ? folionet::RealPath(m_path) : place;
 }
 
+// Two files of a run cannot be one: each would get the text of the other.
 void SiteFolder::RefuseShared(const std::string& name, const FileHandle& file) {
   const std::string folder = WithSeparator(RealPath());
   const std::string target = folionet::RealPath("/proc/self/fd/" + std::to_string(file.Get()));

@@ -2,9 +2,6 @@
 add_library(folionet_warnings INTERFACE)
 target_compile_options(folionet_warnings INTERFACE
   -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wnon-virtual-dtor -Wold-style-cast -Woverloaded-virtual -Werror)
-if(CMAKE_CXX_COMPILER_ID MATCHES "Clang")
-  target_compile_options(folionet_warnings INTERFACE -Wreserved-identifier -Wreserved-macro-identifier)
-endif()
 
 if(FOLIONET_SANITIZE)
   add_compile_definitions(FUZZING_BUILD_MODE_UNSAFE_FOR_PRODUCTION)

@@ -163,7 +163,7 @@ bool IsArchive(std::string_view head) {
 
 void ForEachEntry(const std::string& file, ByteSource& bytes, const std::function<void(const InputFile&)>& take) {
   ArchiveReader reader(file, bytes);
-  while (const auto name = reader.Next()) {
+  for (auto name = reader.Next(); name.has_value(); name = reader.Next()) {
     const bool isAlone = reader.IsAlone();
     std::string shown = file;
     if (!isAlone) shown.append(": ").append(*name);

@@ -15,7 +15,7 @@ CatalogueText::CatalogueText(const std::string& path) : m_path(path) {
   if (!content) return;
   m_content = *content;
   RecordReader records(path, Subject::kCatalogue);
-  while (auto record = ReadCatalogueRecord(records)) {
+  for (auto record = ReadCatalogueRecord(records); record.has_value(); record = ReadCatalogueRecord(records)) {
     m_records.push_back(std::move(*record));
     m_ends.push_back(std::min(records.Lines().NextStart(), m_content.size()));
   }

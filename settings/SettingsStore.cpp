@@ -72,7 +72,7 @@ std::optional<std::string> SettingsStore::Stored(std::string_view application, c
 
 void SettingsStore::SaveSetting(std::string_view application, std::string_view section, std::string_view key,
                                 std::string_view value) {
-  m_unsaved[std::string(application)].insert_or_assign(NameOf(section, key), value);
+  m_unsaved[std::string(application)].insert_or_assign(NameOf(section, key), std::string(value));
   if (!m_savesTogether || application != kApplicationTitle) Sync(application);
 }
 
@@ -87,8 +87,7 @@ void SettingsStore::MakeFolder(std::string_view application) const {
 
 // A refused value must not be tried again by every later one, nor be read as if it were stored.
 IniChanges SettingsStore::TakeUnsaved(std::string_view application) {
-  const IniValues unsaved = std::exchange(m_unsaved[std::string(application)], {});
-  return {unsaved.begin(), unsaved.end()};
+  return std::exchange(m_unsaved[std::string(application)], {});
 }
 
 void SettingsStore::Sync(std::string_view application) {
@@ -183,6 +182,11 @@ void SettingsStore::SaveText(std::string_view key, std::string_view value) {
   if (key == "Dir1" && NamesStoredFolder(value)) return;
   if (!SitePath().empty() && (key == "Drive1" || InItsForm(key, Text(key)) == value)) return;
   SaveSetting(kApplicationTitle, kSettingsSection, key, value);
+}
+
+void SettingsStore::RemoveText(std::string_view key) {
+  m_unsaved[std::string(kApplicationTitle)].insert_or_assign(NameOf(kSettingsSection, key), std::nullopt);
+  if (!m_savesTogether) Sync(kApplicationTitle);
 }
 
 }  // namespace folionet

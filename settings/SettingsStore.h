@@ -48,6 +48,9 @@ class SettingsStore : public StoredSettings {
   // settings, and no folder that merely is written in another way.
   void SaveText(std::string_view key, std::string_view value);
 
+  // Stores one of our own keys no longer; in a site's file, what the person's own settings have of it holds again.
+  void RemoveText(std::string_view key);
+
  protected:
   std::optional<std::string> Stored(std::string_view application, const std::string& name) const override;
 
@@ -57,7 +60,7 @@ class SettingsStore : public StoredSettings {
   void Sync(std::string_view application);
   IniChanges TakeUnsaved(std::string_view application);
 
-  std::map<std::string, IniValues, std::less<>> m_unsaved;  // by application, what was set since the last saving
+  std::map<std::string, IniChanges, std::less<>> m_unsaved;  // by application, what was set since the last saving
   bool m_savesTogether = false;
 };
 

@@ -899,6 +899,10 @@ Jetzt %3 wählen?</translation>
         <source>%1 pages of earlier compiles (%2)</source>
         <translation>%1 Seiten früherer Läufe (%2)</translation>
     </message>
+    <message>
+        <source>%1 pages of earlier compiles</source>
+        <translation>%1 Seiten früherer Läufe</translation>
+    </message>
 </context>
 <context>
     <name>folionet::FolderPickers</name>

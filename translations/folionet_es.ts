@@ -899,6 +899,10 @@ Otro nombre para cboLang en %2, como %3, permite que el programa vuelva a arranc
         <source>%1 pages of earlier compiles (%2)</source>
         <translation>%1 páginas de compilaciones anteriores (%2)</translation>
     </message>
+    <message>
+        <source>%1 pages of earlier compiles</source>
+        <translation>%1 páginas de compilaciones anteriores</translation>
+    </message>
 </context>
 <context>
     <name>folionet::FolderPickers</name>

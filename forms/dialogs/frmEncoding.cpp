@@ -7,6 +7,7 @@
 #include "CustomHtml.h"
 #include "EncodingInUse.h"
 #include "EncodingLists.h"
+#include "OptionTable.h"
 #include "OwnCharset.h"
 #include "PageEncoding.h"
 #include "QtText.h"
@@ -169,6 +170,11 @@ void frmEncoding::SaveChanged() {
     store.ReadAnew();
     if (isShownOnly("Charset", entries.cboCharset, m_shown.cboCharset)) changed.cboCharset.clear();
     if (isShownOnly("Lang", entries.cboLang, m_shown.cboLang)) changed.cboLang.clear();
+    if (!changed.cboLang.empty() && CodeOfEntry(changed.cboLang) == m_state.glob.Imported.language) {
+      // The text's own again: it must not become that of every other text too.
+      if (store.Has("Lang")) store.RemoveText("Lang");
+      if (!store.Has("Lang")) changed.cboLang.clear();
+    }
     if (!changed.cboCharset.empty() || !changed.cboLang.empty()) SaveEncoding(store, m_state.programFolder, changed);
   });
   m_state.refusedEncoding = isSaved ? EncodingOptions() : std::move(changed);

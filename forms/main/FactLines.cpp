@@ -43,6 +43,7 @@ QString PagesText(const FolderFacts& facts) {
     const QString name = ToQt(facts.translations.begin()->first);
     return FactLines::tr("%1 pages of an earlier compile of %2").arg(count, name);
   }
+  if (names.size() < 2) return FactLines::tr("%1 pages of earlier compiles").arg(count);
   if (unnamed > 0) names << FactLines::tr("without a name: %1").arg(Number(unnamed));
   return FactLines::tr("%1 pages of earlier compiles (%2)").arg(count, names.join(QStringLiteral(", ")));
 }

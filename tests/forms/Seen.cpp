@@ -68,7 +68,8 @@ void AddLook(const QWidget& control, Traits& traits) {
   Add("selectable", isLabel && control.property("textInteractionFlags").toInt() == Qt::TextSelectableByMouse, traits);
   Add("at its end", control.property("readOnly").toBool() && control.property("cursorPosition").toInt() > 0, traits);
   Add("hand", control.cursor().shape() == Qt::PointingHandCursor, traits);
-  const int place = control.property("alignment").toInt() & ~(Qt::AlignLeft | Qt::AlignVCenter);
+  constexpr int kUsual = static_cast<int>(Qt::AlignLeft) | static_cast<int>(Qt::AlignVCenter);
+  const int place = control.property("alignment").toInt() & ~kUsual;
   if (place != 0 && (isLabel || control.inherits("QLineEdit"))) Add("alignment", QString::number(place, 16), traits);
   if (control.testAttribute(Qt::WA_SetFont)) {
     const QFont& font = control.font();

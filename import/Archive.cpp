@@ -163,7 +163,9 @@ bool IsArchive(std::string_view head) {
 
 void ForEachEntry(const std::string& file, ByteSource& bytes, const std::function<void(const InputFile&)>& take) {
   ArchiveReader reader(file, bytes);
-  for (auto name = reader.Next(); name.has_value(); name = reader.Next()) {
+  while (true) {
+    const std::optional<std::string> name = reader.Next();
+    if (!name) return;
     const bool isAlone = reader.IsAlone();
     std::string shown = file;
     if (!isAlone) shown.append(": ").append(*name);

@@ -15,8 +15,10 @@ CatalogueText::CatalogueText(const std::string& path) : m_path(path) {
   if (!content) return;
   m_content = *content;
   RecordReader records(path, Subject::kCatalogue);
-  for (auto record = ReadCatalogueRecord(records); record.has_value(); record = ReadCatalogueRecord(records)) {
-    m_records.push_back(std::move(*record));
+  while (true) {
+    std::optional<CatalogueRecord> record = ReadCatalogueRecord(records);
+    if (!record) return;
+    m_records.push_back(*std::move(record));
     m_ends.push_back(std::min(records.Lines().NextStart(), m_content.size()));
   }
 }

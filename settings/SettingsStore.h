@@ -49,6 +49,7 @@ class SettingsStore : public StoredSettings {
   void SaveText(std::string_view key, std::string_view value);
 
   // Stores one of our own keys no longer; in a site's file, what the person's own settings have of it holds again.
+  // Throws as SaveSetting.
   void RemoveText(std::string_view key);
 
  protected:

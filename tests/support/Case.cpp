@@ -71,6 +71,11 @@ std::string WithShortReports(std::string text) {
   return text;
 }
 
+// What a check advises below its faults.
+constexpr char kCorrect[] =
+    "Correct these places, or install the translation anew, in Versalia or by \"folionet-cli import --replace\", and "
+    "check again.\n";
+
 // As "install" makes it, without delivered files beside it.
 constexpr char kInstalled[] = "bin/folionet";
 
@@ -135,7 +140,14 @@ void Append(std::vector<std::string>& lines, const std::vector<std::string>& mor
 }  // namespace
 
 std::vector<std::string> Case::Do(const std::string& line) const {
-  const Lines words = SplitWords(line);
+  std::string meant = line;
+  for (const auto& [name, path] : {std::pair{"@catalogue", kCatalogueFile},
+                                   {"@titles", kTitlesFile},
+                                   {"@index", kIndexFile},
+                                   {"@verses", kVersesFile}}) {
+    Replace(meant, name, path);
+  }
+  const Lines words = SplitWords(meant);
   if (words.at(0).starts_with("$")) return Run(line, {words.begin() + 1, words.end()});
   Lines lines{line};
   Append(lines, Outcome(words));
@@ -162,11 +174,14 @@ std::vector<std::string> Case::Outcome(const Lines& words) const {
 std::vector<std::string> Case::Run(const std::string& line, const Lines& words) const {
   const Stamps before = Outside();
   const ProgramResult result = RunProgram(CommandOf(words), m_home.Path());
-  std::string errors = Named(result.errors);
+  std::string errors = WithShortReports(Named(result.errors));
   Replace(errors, "This plugin does not support propagateSizeHints()\n", "");  // of Qt, off-screen
+  const bool hasFaults = result.status == 1 && std::find(words.begin(), words.end(), "check") != words.end();
+  if (hasFaults && errors.empty()) errors = "no advice\n";
+  if (hasFaults && errors == kCorrect) errors.clear();
   Lines lines{"$" + (result.status == 0 ? "" : std::to_string(result.status)) + line.substr(line.find(' '))};
   Append(lines, MarkLines("| ", Named(result.output)));
-  Append(lines, MarkLines("! ", WithShortReports(errors)));
+  Append(lines, MarkLines("! ", errors));
   const Stamps after = Outside();
   for (const auto& [name, stamp] : after) {
     const auto old = before.find(name);

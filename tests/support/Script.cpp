@@ -32,6 +32,7 @@ using Lines = std::vector<std::string>;
 constexpr std::string_view kAndSoOn = "...";
 constexpr std::string_view kMarks = "|!+~->";
 constexpr std::string_view kThen = " // ";  // between what stands on one line
+constexpr std::string_view kFinds = " | ";  // and before the one line that a look at a file finds
 
 Lines SplitLine(const std::string& line) {
   Lines parts;
@@ -42,6 +43,16 @@ Lines SplitLine(const std::string& line) {
   }
   parts.push_back(line.substr(from));
   return parts;
+}
+
+bool LooksAtFiles(const std::string& step) {
+  return step.starts_with("find ") || step.starts_with("show ") || step.starts_with("list ");
+}
+
+ScriptStep StepOf(const std::string& part, int number, bool isBehind) {
+  const std::size_t at = LooksAtFiles(part) ? part.find(kFinds) : std::string::npos;
+  if (at == std::string::npos) return {number, isBehind, part, {}};
+  return {number, isBehind, part.substr(0, at), {part.substr(at + 1)}};
 }
 
 std::vector<ScriptCase> ReadScript(const fs::path& path) {
@@ -63,7 +74,7 @@ std::vector<ScriptCase> ReadScript(const fs::path& path) {
     } else {
       bool isBehind = false;
       for (const std::string& part : SplitLine(line)) {
-        cases.back().steps.push_back({number, std::exchange(isBehind, true), part, {}});
+        cases.back().steps.push_back(StepOf(part, number, std::exchange(isBehind, true)));
       }
     }
   }
@@ -108,6 +119,8 @@ std::string Joined(const Lines& lines) {
 std::string Written(const ScriptStep& step) {
   constexpr std::size_t kWidest = 120;
   std::string text = step.line;
+  const bool isOne = LooksAtFiles(text) && step.outcome.size() == 1;
+  if (isOne && text.size() + 1 + step.outcome[0].size() <= kWidest) return text + " " + step.outcome[0];
   char last = '\0';
   for (const std::string& line : step.outcome) {
     const std::size_t width = text.size() - (text.rfind('\n') + 1) + line.size() + 2;
@@ -123,8 +136,9 @@ void Rewrite(const ScriptCase& script, const std::vector<ScriptStep>& actual) {
   bool canFollow = false;
   for (const ScriptStep& step : actual) {
     if (step.isBehind && canFollow) all.replace(all.size() - 1, 1, kThen);
-    all += Written(step) + "\n";
-    canFollow = step.outcome.empty();
+    const std::string written = Written(step);
+    all += written + "\n";
+    canFollow = written.find('\n') == std::string::npos;
   }
   std::string text = ReadFile(script.file);
   const std::string title = "= " + script.name + "\n";

@@ -57,11 +57,12 @@ class Person : public QObject {
     for (QWidget* window : QApplication::topLevelWidgets()) {
       if (window->objectName() != QLatin1String("frmMain") || !window->isVisible()) continue;
       m_form = window;
+      QStringList seen;
       for (const char* name : {"txtBibleSel", "cmdVerifySite", "StatusBar1_Panel2"}) {
-        Tell(name, window->findChild<QWidget*>(QLatin1String(name))->property("text").toString());
+        seen << window->findChild<QWidget*>(QLatin1String(name))->property("text").toString();
       }
-      Tell("folder:", QDir::currentPath());
-      Tell("direction:", QString::number(window->layoutDirection()));
+      seen << QDir::currentPath() << QString::number(window->layoutDirection());
+      Tell("form:", seen.join(QStringLiteral(", ")));
     }
   }
 

@@ -107,6 +107,29 @@ void EveryCall::TryAll(const Job& job, const Check& check) {
   PrintCounts(job.name, calls.size(), counts);
 }
 
+void EveryCall::StrikeEach(const Job& job, const std::vector<std::string>& kinds, const std::set<std::string>& names,
+                           const Look& look) {
+  const TemporaryFolder first;
+  job.arrange(first);
+  const FaultyRun whole = job.Run(first);
+  look(first, whole, "");
+  Counts counts;
+  for (std::size_t at = 1; at <= whole.calls.size(); ++at) {
+    const Call& call = whole.calls[at - 1];
+    if (!names.empty() && !names.contains(call.name)) continue;
+    for (const std::string& kind : kinds) {
+      SCOPED_TRACE("call " + std::to_string(at) + ", " + call.name + " " + call.path + ", " + kind);
+      const TemporaryFolder home;
+      job.arrange(home);
+      m_notes = ReadFolder(home.Path() + "state");
+      look(home, job.Run(home, {at, kind}), kind);
+      ++counts.runs;
+      counts.kills += kind == "kill" ? 1 : 0;
+    }
+  }
+  PrintCounts(job.name, whole.calls.size(), counts);
+}
+
 void EveryCall::PrintCounts(const std::string& job, std::size_t calls, const Counts& counts) {
   std::printf("| %s | %zu | %zu | %zu |\n", job.c_str(), calls, counts.runs, counts.kills);
 }

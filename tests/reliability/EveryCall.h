@@ -20,14 +20,14 @@ namespace folionet::test {
 struct Job {
   std::string name;
   std::function<void(const TemporaryFolder&)> arrange;
-  std::function<Command(const TemporaryFolder&)> command;
+  Command command;
   std::set<std::string> calls;  // their names: none that the program makes may go by unseen
   std::string watched = {};     // the folder below the home, where it is not all of it
   bool isSample = false;        // each call that writes is struck once only, each in another way
   std::size_t mostKinds = 99;   // of ways to go wrong that are tried at a call
 
   FaultyRun Run(const TemporaryFolder& home, const Fault& fault = {}) const {
-    return RunFaulty(command(home), home, home.Path() + watched, fault);
+    return RunFaulty(command, home, home.Path() + watched, fault);
   }
 };
 
@@ -44,6 +44,12 @@ class EveryCall : public testing::Test {
   // anew; `note` is the file that tells of a change at work.
   void TryOneChange(const Job& job, const std::string& note, const Command& start);
 
+  // Strikes each call that is meant in each of these ways, and prints how many runs there were. The first look, with no
+  // kind, is at a run that nothing befalls.
+  using Look = std::function<void(const TemporaryFolder&, const FaultyRun&, const std::string& kind)>;
+  void StrikeEach(const Job& job, const std::vector<std::string>& kinds, const std::set<std::string>& names,
+                  const Look& look);
+
   // A line of the table in docs/reliability.md.
   struct Counts {
     std::size_t runs = 0;
@@ -55,7 +61,8 @@ class EveryCall : public testing::Test {
 
   FolderContent m_before;  // what the folder holds before the job and after it
   FolderContent m_after;
-  std::string m_told;  // on standard output, where nothing goes wrong
+  FolderContent m_notes;  // of the program's own, before a run in which a call is struck
+  std::string m_told;     // on standard output, where nothing goes wrong
   bool m_isKilled = false;
 
  private:

@@ -87,25 +87,21 @@ class Compiles : public EveryCall {
                        home.Write(page, std::string(5000, 'x'));
                      }
                    },
-                   [](const TemporaryFolder&) {
-                     return Compile({"--output=site", "--start-book=2", "--list-changed"});
-                   },
+                   Compile({"--output=site", "--start-book=2", "--list-changed"}),
                    {}};
 };
 
 TEST_F(Compiles, IntoANewFolder) {
   TryCompile({"anew",
               ArrangeLibrary,
-              [](const TemporaryFolder&) { return Compile({"--output=made/site"}); },
+              Compile({"--output=made/site"}),
               {"close", "create", "ftruncate", "lock", "mkdir", "open", "read", "readdir", "stat", "unlink", "write"}});
 }
 
 TEST_F(Compiles, WhereEveryFileHasAName) {
   Job job{"named",
           ArrangeLibrary,
-          [](const TemporaryFolder&) {
-            return With({"/usr/bin/env", "FAULT_NAMED=1"}, Compile({"--output=made/site"}));
-          },
+          With({"/usr/bin/env", "FAULT_NAMED=1"}, Compile({"--output=made/site"})),
           {"close", "create", "ftruncate", "lock", "mkdir", "open", "read", "readdir", "stat", "unlink", "write"}};
   job.mostKinds = 2;
   TryCompile(job);
@@ -116,17 +112,14 @@ TEST_F(Compiles, OverAnOlderSite) {
   const auto arrange = [](const TemporaryFolder& home) {
     ArrangeLibrary(home);
     home.Write("site/genesis_1.html", "a person's page");
-    const std::string ours = "<meta name=\"GENERATOR\" content=\"Versalia Folionet Ver 1.0\">";
-    home.Write("site/exodus_1.html", ours + std::string(5000, 'x'));
-    const std::string page = home.Write(std::string("site/") + kOfTwoNames, ours + "shorter");
+    home.Write("site/exodus_1.html", kOurLine + std::string(5000, 'x'));
+    const std::string page = home.Write(std::string("site/") + kOfTwoNames, kOurLine + std::string("shorter"));
     std::filesystem::create_hard_link(page, home.Path() + "copy.html");
     home.Write("site/not-ours.html", "not ours");
   };
   TryCompile({"over",
               arrange,
-              [](const TemporaryFolder&) {
-                return Compile({"--output=site", "--start-book=2"});
-              },
+              Compile({"--output=site", "--start-book=2"}),
               {"chmod", "close", "create", "ftruncate", "lock", "mkdir", "open", "read", "readdir", "rename", "stat",
                "unlink", "write"}});
 }
@@ -172,33 +165,27 @@ TEST_F(Compiles, EndBetweenTwoPagesOnceTheyAreStopped) {
 // The list of the run that was killed, or could not be written, is lost with it: the next one tells all that the two
 // have changed.
 TEST_F(Compiles, ThatWereKilledAreToldByTheNextOne) {
-  const TemporaryFolder first;
-  m_list.arrange(first);
-  const auto [whole, calls] = m_list.Run(first);
   const auto lines = [](const std::string& text) {
     std::istringstream rest(text);
     return std::multiset<std::string>(std::istream_iterator<std::string>(rest), {});
   };
-  ASSERT_GT(lines(whole.output).size(), 5U);
-  for (std::size_t at = 1; at <= calls.size(); ++at) {
-    const std::set<std::string> names{"create", "write", "link", "close", "unlink"};
-    if (!names.contains(calls[at - 1].name)) continue;
-    SCOPED_TRACE("call " + std::to_string(at) + ", " + calls[at - 1].name + " " + calls[at - 1].path);
-    const TemporaryFolder home;
-    m_list.arrange(home);
-    const FaultyRun killed = m_list.Run(home, {at, "kill"});
-    if (killed.result.output == whole.output && killed.result.errors == whole.errors) continue;
+  ProgramResult whole;
+  const auto expectAll = [&](const TemporaryFolder& home) {
     const ProgramResult next = m_list.Run(home).result;
     EXPECT_EQ(lines(next.output), lines(whole.output));
     EXPECT_NE(next.errors.find("Removed: genesis_1.html\n"), std::string::npos) << next.errors;
-  }
+  };
+  StrikeEach(m_list, {"kill"}, {"create", "write", "link", "close", "unlink"},
+             [&](const TemporaryFolder& home, const FaultyRun& run, const std::string& kind) {
+               if (kind.empty()) whole = run.result;
+               if (run.result.output != whole.output || run.result.errors != whole.errors) expectAll(home);
+             });
+  EXPECT_GT(lines(whole.output).size(), 5U);
   for (const std::string open : {"exec > /dev/full", "exec 2> /dev/full"}) {
     const TemporaryFolder home;
     m_list.arrange(home);
-    RunProgram(With({"/bin/sh", "-c", open + "; exec \"$0\" \"$@\""}, m_list.command(home)), home.Path());
-    const ProgramResult next = m_list.Run(home).result;
-    EXPECT_EQ(lines(next.output), lines(whole.output)) << open;
-    EXPECT_NE(next.errors.find("Removed: genesis_1.html\n"), std::string::npos) << next.errors;
+    RunProgram(With({"/bin/sh", "-c", open + "; exec \"$0\" \"$@\""}, m_list.command), home.Path());
+    expectAll(home);
   }
 }
 
@@ -219,33 +206,25 @@ TEST_F(Compiles, StayInTheFolderThatWasOpened) {
       std::filesystem::remove_all(home.Path() + left);
     }
   };
-  const Job job{"link",
-                arrange,
-                [](const TemporaryFolder&) {
-                  return Compile({"--output=here", "--start-book=2", "--list-changed"});
-                },
-                {}};
-  const TemporaryFolder first;
-  arrange(first);
-  const std::size_t calls = job.Run(first).calls.size();
-  const FolderContent site = ReadFolder(first.Path() + "one");
-  const FolderContent before = ReadFolder(first.Path() + "other");
+  const Job job{"link", arrange, Compile({"--output=here", "--start-book=2", "--list-changed"}), {}};
+  FolderContent site;
+  FolderContent before;
   std::set<std::string> places;
-  for (std::size_t at = 1; at <= calls; ++at) {
-    const TemporaryFolder home;
-    arrange(home);
-    const FolderContent notes = ReadFolder(home.Path() + "state");
-    ASSERT_EQ(notes.size(), 1U);
-    const FaultyRun run = job.Run(home, {at, "swap"});
-    SCOPED_TRACE("call " + std::to_string(at) + ", " + run.calls[at - 1].name + " " + run.calls[at - 1].path);
+  StrikeEach(job, {"swap"}, {}, [&](const TemporaryFolder& home, const FaultyRun& run, const std::string& kind) {
+    const auto content = [&](const std::string& name) { return ReadFolder(home.Path() + name); };
+    if (kind.empty()) {
+      site = content("one");
+      before = content("other");
+      return;
+    }
+    ASSERT_EQ(m_notes.size(), 1U);
     EXPECT_EQ(run.result.status, 0) << run.result.errors;
     const std::string place = home.Read("one/exodus_2.html") == site.at("exodus_2.html") ? "one" : "other";
-    EXPECT_EQ(DescribeDifference(site, ReadFolder(home.Path() + place)), "");
-    EXPECT_EQ(DescribeDifference(before, ReadFolder(home.Path() + (place == "one" ? "other" : "one"))), "");
-    EXPECT_EQ(ReadFolder(home.Path() + "state"), place == "one" ? notes : FolderContent());
+    EXPECT_EQ(DescribeDifference(site, content(place)), "");
+    EXPECT_EQ(DescribeDifference(before, content(place == "one" ? "other" : "one")), "");
+    EXPECT_EQ(content("state"), place == "one" ? m_notes : FolderContent());
     places.insert(place);
-  }
-  PrintCounts(job.name, calls, {calls, 0});
+  });
   EXPECT_EQ(places.size(), 2U);
 }
 
@@ -261,29 +240,16 @@ TEST_F(Compiles, AreRidOfStalePagesWhereTheyWereVerified) {
     std::filesystem::create_symlink("other", home.Path() + "here");
     std::filesystem::create_symlink("one", home.Path() + "there");
   };
-  const Job job{"stale",
-                arrange,
-                [](const TemporaryFolder&) {
-                  return Command{FOLIONET_CLI, "verify", "here", "--remove-stale"};
-                },
-                {}};
-  const TemporaryFolder first;
-  arrange(first);
-  const FolderContent other = ReadFolder(first.Path() + "other");
-  const std::size_t calls = job.Run(first).calls.size();
+  const Job job{"stale", arrange, {FOLIONET_CLI, "verify", "here", "--remove-stale"}, {}};
+  FolderContent other;
   std::multiset<std::size_t> left;
-  for (std::size_t at = 1; at <= calls; ++at) {
-    for (const char* kind : {"swap", "swap2"}) {
-      const TemporaryFolder home;
-      arrange(home);
-      const FaultyRun run = job.Run(home, {at, kind});
-      SCOPED_TRACE("call " + std::to_string(at) + ", " + run.calls[at - 1].name + " " + run.calls[at - 1].path);
-      EXPECT_EQ(run.result.status, 0) << run.result.errors;
-      EXPECT_EQ(DescribeDifference(other, ReadFolder(home.Path() + "other")), "");
-      left.insert(ReadFolder(home.Path() + "one").size());
-    }
-  }
-  PrintCounts(job.name, calls, {left.size(), 0});
+  StrikeEach(job, {"swap", "swap2"}, {},
+             [&](const TemporaryFolder& home, const FaultyRun& run, const std::string& kind) {
+               if (kind.empty()) other = ReadFolder(home.Path() + "other");
+               EXPECT_EQ(run.result.status, 0) << run.result.errors;
+               EXPECT_EQ(DescribeDifference(other, ReadFolder(home.Path() + "other")), "");
+               if (!kind.empty()) left.insert(ReadFolder(home.Path() + "one").size());
+             });
   EXPECT_TRUE(left.count(2) > 0 && left.count(3) > 0 && left.count(2) + left.count(3) == left.size());
 }
 
@@ -295,24 +261,16 @@ TEST_F(Compiles, AreRidOfNoPageThatIsNotTold) {
     }
   };
   const Command verify{FOLIONET_CLI, "verify", "site", "--remove-stale"};
-  const Job job{"told", arrange, [&](const TemporaryFolder&) { return verify; }, {}};
-  const TemporaryFolder first;
-  arrange(first);
-  const std::vector<Call> calls = job.Run(first).calls;
+  const Job job{"told", arrange, verify, {}};
   std::set<std::string> ends;
-  for (std::size_t at = 1; at <= calls.size(); ++at) {
-    if (calls[at - 1].name != "unlink") continue;
-    for (const char* kind : {"stop2", "stop15", "kill"}) {
-      const TemporaryFolder home;
-      arrange(home);
-      const ProgramResult run = job.Run(home, {at, kind}).result;
-      for (const char* page : {"b.html", "c.html"}) {
-        const bool isTold = run.output.find(page) != std::string::npos;
-        EXPECT_TRUE(isTold || std::filesystem::exists(home.Path() + "site/" + page)) << page << ", " << kind;
-      }
-      ends.insert(std::to_string(run.status) + " " + run.errors);
-    }
-  }
+  StrikeEach(job, {"stop2", "stop15", "kill"}, {"unlink"},
+             [&](const TemporaryFolder& home, const FaultyRun& run, const std::string& kind) {
+               for (const char* page : {"b.html", "c.html"}) {
+                 const bool isTold = run.result.output.find(page) != std::string::npos;
+                 EXPECT_TRUE(isTold || home.Has(std::string("site/") + page)) << page;
+               }
+               if (!kind.empty()) ends.insert(std::to_string(run.result.status) + " " + run.result.errors);
+             });
   const std::string stopped = " Stopped: 1 page was not removed. Remove the stale pages again.\n";
   EXPECT_EQ(ends, (std::set<std::string>{"0 ", "130" + stopped, "143" + stopped, "137 "}));
   for (const std::string open : {"exec > /dev/full", "mkfifo f; true < f & exec > f; wait"}) {
@@ -337,23 +295,17 @@ TEST_F(Compiles, WriteNothingOutsideWhateverIsSwapped) {
     std::filesystem::create_symlink("here/1.html", home.Path() + "site/genesis_1.html");
     std::filesystem::create_symlink(home.Path() + "site/here/2.html", home.Path() + "site/exodus_2.html");
   };
-  Job job{"swap", arrange, [](const TemporaryFolder&) { return Compile({"--output=site"}); }, {}};
+  Job job{"swap", arrange, Compile({"--output=site"}), {}};
   job.watched = "site/";
-  const TemporaryFolder first;
-  arrange(first);
-  const std::size_t calls = job.Run(first).calls.size();
-  EXPECT_TRUE(first.Read("site/here/1.html") != "not ours" && first.Read("site/here/2.html") != "not ours");
   std::set<int> statuses;
-  for (std::size_t at = 1; at <= calls; ++at) {
-    const TemporaryFolder home;
-    arrange(home);
-    const FaultyRun run = job.Run(home, {at, "swap"});
-    SCOPED_TRACE("call " + std::to_string(at) + ", " + run.calls[at - 1].name + " " + run.calls[at - 1].path);
-    for (const char* page : {"outside/1.html", "outside/2.html"}) EXPECT_EQ(home.Read(page), "not ours");
+  StrikeEach(job, {"swap"}, {}, [&](const TemporaryFolder& home, const FaultyRun& run, const std::string& kind) {
+    for (const std::string page : {"1.html", "2.html"}) {
+      EXPECT_EQ(home.Read("outside/" + page), "not ours");
+      EXPECT_TRUE(!kind.empty() || home.Read("site/here/" + page) != "not ours");
+    }
     EXPECT_EQ(run.result.errors.find("leads out of the output folder") != std::string::npos, run.result.status != 0);
-    statuses.insert(run.result.status);
-  }
-  PrintCounts(job.name, calls, {calls, 0});
+    if (!kind.empty()) statuses.insert(run.result.status);
+  });
   EXPECT_EQ(statuses, (std::set<int>{0, 3}));
 }
 
@@ -365,9 +317,7 @@ TEST_F(Compiles, AreVerifiedOrWhatCannotBeReadIsNamed) {
                   home.Write("site/sub/a.html", "<html><a href=\"../index.html\">b</a></html>\r\n");
                   home.Write("site/b.gif", "");
                 },
-                [](const TemporaryFolder&) {
-                  return Command{FOLIONET_CLI, "verify", "site"};
-                },
+                {FOLIONET_CLI, "verify", "site"},
                 {"close", "open", "read", "readdir", "stat"}};
   TryAll(job, [&](const TemporaryFolder&, const FaultyRun& run, const Call& struck) {
     const std::string all = run.result.output + run.result.errors;

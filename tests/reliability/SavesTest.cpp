@@ -10,10 +10,9 @@ Job Save(const std::string& what, const std::string& file, const std::string& be
                                        "open",  "ftruncate", "rename", "stat",  "write"};
   std::set<std::string> edits = replaces;
   edits.insert("read");
-  return {what, [=](const TemporaryFolder& home) { home.Write(file, before); },
-          [=](const TemporaryFolder& home) {
-            return Command{SAVE_PROGRAM, what, home.Path(), "the new text, \"quoted\""};
-          },
+  return {what,
+          [=](const TemporaryFolder& home) { home.Write(file, before); },
+          {SAVE_PROGRAM, what, "./", "the new text, \"quoted\""},
           what == "header" ? replaces : edits};
 }
 
@@ -60,9 +59,7 @@ TEST_F(SavesTogether, GiveAllFilesTheirNewContentOrNone) {
                "\"fr\",\"Fran\xE7"
                "ais\"\r\n");
   };
-  const auto command = [](const TemporaryFolder& home) {
-    return Command{SAVE_PROGRAM, "encoding", home.Path(), "koi8-r (Cyrillic)"};
-  };
+  const Command command{SAVE_PROGRAM, "encoding", "./", "koi8-r (Cyrillic)"};
   TryOneChange({"encoding", arrange, command, m_calls}, "/.Folionet.unfinished", {SAVE_PROGRAM, "finish", "./", ""});
 }
 
@@ -77,17 +74,15 @@ TEST_F(SavesTogether, OfTheFormAreToldWhenTheyFail) {
     home.Write("config/program/CustomHeader.txt", "caf\xE9\r\n");
     home.Write("config/Folionet.ini", "[Keys]\nKeywords=kept\n");
   };
-  const auto command = [](const TemporaryFolder&) {
-    return Command{"/usr/bin/env",
-                   "QT_QPA_PLATFORM=offscreen",
-                   "QT_QPA_GENERIC_PLUGINS=person",
-                   "QT_PLUGIN_PATH=" PERSON_PLUGINS,
-                   "PERSON=cmdCustomHeader|frmCustomHeader.Text1=typed|frmCustomHeader.Command1|chkDoubleSpace|"
-                   "cmdPageEncoding|frmEncoding.cboCharset=utf-8 (Unicode)|frmEncoding.cmdDone",
-                   std::filesystem::path(FOLIONET_CLI).replace_filename("folionet"),
-                   "--versalia-path=installation",
-                   "--program-folder=config/program"};
-  };
+  const Command command{"/usr/bin/env",
+                        "QT_QPA_PLATFORM=offscreen",
+                        "QT_QPA_GENERIC_PLUGINS=person",
+                        "QT_PLUGIN_PATH=" PERSON_PLUGINS,
+                        "PERSON=cmdCustomHeader|frmCustomHeader.Text1=typed|frmCustomHeader.Command1|chkDoubleSpace|"
+                        "cmdPageEncoding|frmEncoding.cboCharset=utf-8 (Unicode)|frmEncoding.cmdDone",
+                        std::filesystem::path(FOLIONET_CLI).replace_filename("folionet"),
+                        "--versalia-path=installation",
+                        "--program-folder=config/program"};
   const Job job{"form", arrange, command, m_calls, "config/", true};
   TryAll(job, [&](const TemporaryFolder& home, const FaultyRun& run, const Call&) {
     FolderContent now = Visible(home);
@@ -117,7 +112,7 @@ TEST_F(Imports, ReplaceAllFilesOfATextOrNone) {
                   for (const auto& [name, bytes] : library) home.Write(name, bytes);
                   home.Write("text", "JON 1:1 the new \xD7\x91\n");
                 },
-                [&](const TemporaryFolder&) { return import; },
+                import,
                 {"chmod", "close", "create", "fsync", "ftruncate", "lock", "mkdir", "open", "read", "rename", "stat",
                  "unlink", "write"},
                 {},

@@ -62,6 +62,11 @@ std::string WithShortReports(std::string text) {
           "See what is in the place of this file or folder and move it away, or choose another folder with "
           "--output FOLDER.",
           "PLACE");
+  Replace(text,
+          "\nPlease correct and try again.\nGive an address such as --index-address index.html, or short names with "
+          "--set Use83=1.",
+          " => LONG");
+  Replace(text, "\nGive an address such as --index-address index.htm, or long names with --set Use83=0.", " => SHORT");
   const std::size_t how = text.find(saysHow);
   const std::size_t asked = text.find(asks);
   if (how != std::string::npos && asked != std::string::npos) {

@@ -1,6 +1,7 @@
 #include "Text.h"
 
 #include <algorithm>
+#include <array>
 #include <cstdint>
 
 #include "CodePage.h"
@@ -12,6 +13,21 @@ std::string_view Trimmed(std::string_view text, std::string_view blanks) {
   const std::size_t first = text.find_first_not_of(blanks);
   if (first == std::string_view::npos) return {};
   return text.substr(first, text.find_last_not_of(blanks) - first + 1);
+}
+
+std::vector<std::string_view> SplitAt(std::string_view text, std::string_view separator) {
+  std::vector<std::string_view> parts;
+  if (text.empty()) return parts;
+  for (std::size_t end = text.find(separator); end != std::string_view::npos; end = text.find(separator)) {
+    parts.push_back(text.substr(0, end));
+    text.remove_prefix(end + separator.size());
+  }
+  parts.push_back(text);
+  return parts;
+}
+
+bool IsOneOf(std::string_view text, std::initializer_list<std::string_view> texts) {
+  return std::find(texts.begin(), texts.end(), text) != texts.end();
 }
 
 std::string AsciiLower(std::string_view text) {
@@ -32,24 +48,11 @@ std::string TwoHexDigits(unsigned char value) {
 }
 
 void AppendUtf8(std::string& text, char32_t character) {
-  const auto byte = [&](char32_t lead, unsigned shift, char32_t mask) {
-    text += static_cast<char>(lead | ((character >> shift) & mask));
-  };
-  const bool isSurrogate = character >= 0xD800 && character <= 0xDFFF;
-  if (isSurrogate || character > 0x10FFFF) character = 0xFFFD;
-  if (character < 0x80) return byte(0, 0, 0x7F);
-  if (character < 0x800) {
-    byte(0xC0, 6, 0x1F);
-  } else {
-    if (character < 0x10000) {
-      byte(0xE0, 12, 0x0F);
-    } else {
-      byte(0xF0, 18, 0x07);
-      byte(0x80, 12, 0x3F);
-    }
-    byte(0x80, 6, 0x3F);
-  }
-  byte(0x80, 0, 0x3F);
+  if (character > 0x10FFFF || U_IS_SURROGATE(character)) character = 0xFFFD;
+  std::array<char, U8_MAX_LENGTH> bytes{};
+  std::size_t length = 0;
+  U8_APPEND_UNSAFE(bytes.data(), length, character);
+  text.append(bytes.data(), length);
 }
 
 bool IsControl(std::string_view text, std::size_t at) {

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <initializer_list>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace folionet {
 
@@ -15,6 +17,12 @@ inline constexpr char kCtrlZ = 0x1A;
 
 // `text` without the characters of `blanks` around it.
 std::string_view Trimmed(std::string_view text, std::string_view blanks);
+
+// The parts of a text that stand between separators; of an empty text none.
+std::vector<std::string_view> SplitAt(std::string_view text, std::string_view separator);
+
+// Whether a text is one of several.
+bool IsOneOf(std::string_view text, std::initializer_list<std::string_view> texts);
 
 // Of ASCII alone; every other character stays as it is.
 inline char AsciiLower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c; }

@@ -1,7 +1,6 @@
 #include "OsisForm.h"
 
 #include <algorithm>
-#include <array>
 #include <utility>
 
 #include "BookTable.h"
@@ -56,24 +55,17 @@ std::string FieldOf(const OsisReference& first, std::string_view id) {
 }
 
 // Those whose text is none of the verse they stand in.
-bool IsLeftOut(std::string_view name) {
-  constexpr std::array<std::string_view, 4> kLeftOut{"note", "figure", "rdg", "index"};
-  return std::find(kLeftOut.begin(), kLeftOut.end(), name) != kLeftOut.end();
-}
+bool IsLeftOut(std::string_view name) { return IsOneOf(name, {"note", "figure", "rdg", "index"}); }
 
-bool IsHeading(std::string_view name) { return name == "speaker" || name == "head" || name == "label"; }
+bool IsHeading(std::string_view name) { return IsOneOf(name, {"speaker", "head", "label"}); }
 
 // Divisions that hold no verses.
 bool IsBesideText(std::string_view type) {
-  constexpr std::array<std::string_view, 8> kBeside{"introduction", "preface", "front",       "back",
-                                                    "glossary",     "index",   "concordance", "appendix"};
-  return std::find(kBeside.begin(), kBeside.end(), type) != kBeside.end();
+  return IsOneOf(type, {"introduction", "preface", "front", "back", "glossary", "index", "concordance", "appendix"});
 }
 
 bool IsBlock(std::string_view name) {
-  constexpr std::array<std::string_view, 11> kBlocks{"p",     "l",   "lg",   "lb",     "list",  "item",
-                                                     "table", "row", "cell", "closer", "salute"};
-  return std::find(kBlocks.begin(), kBlocks.end(), name) != kBlocks.end();
+  return IsOneOf(name, {"p", "l", "lg", "lb", "list", "item", "table", "row", "cell", "closer", "salute"});
 }
 
 }  // namespace
@@ -155,10 +147,7 @@ XmlForm::Part OsisForm::BeginVerse(const XmlElement& element) {
 
 XmlForm::Part OsisForm::BeginTitle(const XmlElement& element) {
   const std::string_view type = element.Get("type");
-  if (m_isInWork) {
-    m_captured = Captured::kName;
-    return Part::kCaptured;
-  }
+  if (m_isInWork) return Capture(Told::kName);
   if (IsCapturing()) return Part::kBlock;  // a line of a title
   const bool isOfBook = !m_book.empty() && m_chapter.empty();
   if (!isOfBook || type == "psalm") {
@@ -166,21 +155,7 @@ XmlForm::Part OsisForm::BeginTitle(const XmlElement& element) {
   }
   if (!type.empty() && type != "main" && type != "runningHead") return Part::kLeftOut;
   Builder().AddTitle(TitleKind::kShort, element.Get("short"));
-  m_captured = type == "main" ? Captured::kMainTitle : type.empty() ? Captured::kTitle : Captured::kRunningHead;
-  return Part::kCaptured;
-}
-
-void OsisForm::EndCaptured(const std::string& text) {
-  switch (m_captured) {
-    case Captured::kName:
-      return Builder().SetName(text);
-    case Captured::kRunningHead:
-      return Builder().AddTitle(TitleKind::kShort, text);
-    case Captured::kMainTitle:
-      return Builder().AddTitle(TitleKind::kMiddle, text);
-    case Captured::kTitle:
-      return Builder().AddTitle(TitleKind::kLong, text);
-  }
+  return Capture(type == "main" ? Told::kMiddleTitle : type.empty() ? Told::kLongTitle : Told::kShortTitle);
 }
 
 }  // namespace folionet

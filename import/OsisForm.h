@@ -17,7 +17,6 @@ class OsisForm : public XmlForm {
 
  private:
   Part Begin(const XmlElement& element) override;
-  void EndCaptured(const std::string& text) override;
 
   // Modules of verses that are written as OSIS, one by one, have elements that end in another verse, or nowhere.
   bool PutsUpWithEnd(std::string_view name) override { return NoteEnd(name); }
@@ -27,8 +26,6 @@ class OsisForm : public XmlForm {
   Part BeginVerse(const XmlElement& element);
   void GoTo(std::string_view book, std::string_view chapter);
 
-  enum class Captured { kName, kRunningHead, kMainTitle, kTitle };
-  Captured m_captured = Captured::kName;
   bool m_isInWork = false;
   bool m_goesOn = false;  // the verse, behind the division beside the text that stands in it
   std::string m_book;     // as osisID has it; empty for none

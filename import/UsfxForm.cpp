@@ -1,6 +1,6 @@
 #include "UsfxForm.h"
 
-#include "UsfmMarkers.h"
+#include "Text.h"
 
 namespace folionet {
 
@@ -23,54 +23,12 @@ XmlForm::Part UsfxForm::Begin(const XmlElement& element) {
     return Part::kPass;
   }
   if (name == "generated") return Part::kLeftOut;
-  if (name == "languageCode") {
-    m_captured = Captured::kLanguage;
-    return Part::kCaptured;
-  }
-  if (name == "toc") return PartOfMarker("toc" + std::string(element.Get("level")));
-  const std::string_view sfm = element.Get("sfm");
-  return PartOfMarker(KindOfMarker(sfm) == MarkerKind::kUnknown ? name : sfm);
-}
-
-XmlForm::Part UsfxForm::PartOfMarker(std::string_view marker) {
-  switch (KindOfMarker(marker)) {
-    case MarkerKind::kHeader:
-      m_captured = Captured::kShort;
-      return Part::kCaptured;
-    case MarkerKind::kToc2:
-      m_captured = Captured::kMiddle;
-      return Part::kCaptured;
-    case MarkerKind::kToc1:
-      m_captured = Captured::kLong;
-      return Part::kCaptured;
-    case MarkerKind::kCanonicalTitle:
-      return Part::kCanonicalTitle;
-    case MarkerKind::kParagraph:
-    case MarkerKind::kCell:
-      return Part::kBlock;
-    case MarkerKind::kCharacter:
-    case MarkerKind::kMilestone:
-      return Part::kPass;
-    case MarkerKind::kUnknown:
-      return marker == "table" || marker == "optionalLineBreak" ? Part::kBlock : Part::kPass;
-    case MarkerKind::kLeftOutParagraph:
-      return Part::kHeading;
-    default:
-      return Part::kLeftOut;
-  }
-}
-
-void UsfxForm::EndCaptured(const std::string& text) {
-  switch (m_captured) {
-    case Captured::kLanguage:
-      return Builder().SetLanguage(text);
-    case Captured::kShort:
-      return Builder().AddTitle(TitleKind::kShort, text);
-    case Captured::kMiddle:
-      return Builder().AddTitle(TitleKind::kMiddle, text);
-    case Captured::kLong:
-      return Builder().AddTitle(TitleKind::kLong, text);
-  }
+  if (name == "languageCode") return Capture(Told::kLanguage);
+  if (name == "toc") return PartOfMarker(KindOfMarker("toc" + std::string(element.Get("level"))));
+  MarkerKind kind = KindOfMarker(element.Get("sfm"));
+  if (kind == MarkerKind::kUnknown) kind = KindOfMarker(name);
+  const bool isBlock = kind == MarkerKind::kUnknown && IsOneOf(name, {"table", "optionalLineBreak"});
+  return isBlock ? Part::kBlock : PartOfMarker(kind);
 }
 
 }  // namespace folionet

@@ -13,12 +13,6 @@ class UsfxForm : public XmlForm {
 
  private:
   Part Begin(const XmlElement& element) override;
-  void EndCaptured(const std::string& text) override;
-
-  Part PartOfMarker(std::string_view marker);
-
-  enum class Captured { kShort, kMiddle, kLong, kLanguage };
-  Captured m_captured = Captured::kShort;
 };
 
 }  // namespace folionet

@@ -1,6 +1,6 @@
 #include "UsxForm.h"
 
-#include "UsfmMarkers.h"
+#include "Text.h"
 
 namespace folionet {
 
@@ -23,40 +23,16 @@ XmlForm::Part UsxForm::Begin(const XmlElement& element) {
     Builder().BeginBook(element.Get("code"));
     return Part::kLeftOut;
   }
-  if (name == "note" || name == "figure" || name == "sidebar" || name == "periph") return Part::kLeftOut;
-  if (name == "row" || name == "cell" || name == "optbreak") return Part::kBlock;
-  return Part::kPass;
+  if (IsOneOf(name, {"note", "figure", "sidebar", "periph"})) return Part::kLeftOut;
+  return IsOneOf(name, {"row", "cell", "optbreak"}) ? Part::kBlock : Part::kPass;
 }
 
 XmlForm::Part UsxForm::PartOfStyle(std::string_view style) {
-  switch (KindOfMarker(style)) {
-    case MarkerKind::kHeader:
-      m_title = TitleKind::kShort;
-      return Part::kCaptured;
-    case MarkerKind::kToc2:
-      m_title = TitleKind::kMiddle;
-      return Part::kCaptured;
-    case MarkerKind::kToc1:
-      m_title = TitleKind::kLong;
-      return Part::kCaptured;
-    case MarkerKind::kCanonicalTitle:
-      return Part::kCanonicalTitle;
-    case MarkerKind::kParagraph:
-    case MarkerKind::kCell:
-      return Part::kBlock;
-    case MarkerKind::kCharacter:
-    case MarkerKind::kMilestone:
-      return Part::kPass;
-    case MarkerKind::kUnknown:
-      if (Builder().IsInVerse()) {
-        Builder().Note("unknown-mark", Words("Import", "Text in the unknown style %1 is kept."), std::string(style));
-      }
-      return Part::kPass;
-    case MarkerKind::kLeftOutParagraph:
-      return Part::kHeading;
-    default:
-      return Part::kLeftOut;
+  const MarkerKind kind = KindOfMarker(style);
+  if (kind == MarkerKind::kUnknown && Builder().IsInVerse()) {
+    Builder().Note("unknown-mark", Words("Import", "Text in the unknown style %1 is kept."), std::string(style));
   }
+  return PartOfMarker(kind);
 }
 
 }  // namespace folionet

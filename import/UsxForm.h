@@ -14,11 +14,8 @@ class UsxForm : public XmlForm {
 
  private:
   Part Begin(const XmlElement& element) override;
-  void EndCaptured(const std::string& text) override { Builder().AddTitle(m_title, text); }
 
   Part PartOfStyle(std::string_view style);
-
-  TitleKind m_title = TitleKind::kShort;
 };
 
 }  // namespace folionet

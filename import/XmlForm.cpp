@@ -16,9 +16,7 @@ bool BeginsVerse(const XmlElement& element) {
 }  // namespace
 
 void XmlForm::Start(const XmlElement& element) {
-  if (m_leftOut > 0) {
-    if (BeginsVerse(element)) EndLeftOutBefore(element);
-  }
+  if (m_leftOut > 0 && BeginsVerse(element)) EndLeftOutBefore(element);
   if (m_leftOut > 0) {
     ++m_leftOut;
     return;
@@ -90,12 +88,56 @@ void XmlForm::End(std::string_view /*name*/) {
       m_builder.EndCanonicalTitle();
       break;
     case Part::kCaptured:
-      if (--m_capturing == 0) EndCaptured(m_captured);
+      if (--m_capturing == 0) EndCaptured();
       break;
     case Part::kPass:
     case Part::kLeftOut:
     case Part::kHeading:
       break;
+  }
+}
+
+XmlForm::Part XmlForm::Capture(Told told) {
+  m_told = told;
+  return Part::kCaptured;
+}
+
+void XmlForm::EndCaptured() {
+  switch (m_told) {
+    case Told::kName:
+      return m_builder.SetName(m_captured);
+    case Told::kLanguage:
+      return m_builder.SetLanguage(m_captured);
+    case Told::kShortTitle:
+      return m_builder.AddTitle(TitleKind::kShort, m_captured);
+    case Told::kMiddleTitle:
+      return m_builder.AddTitle(TitleKind::kMiddle, m_captured);
+    case Told::kLongTitle:
+      return m_builder.AddTitle(TitleKind::kLong, m_captured);
+  }
+}
+
+XmlForm::Part XmlForm::PartOfMarker(MarkerKind kind) {
+  switch (kind) {
+    case MarkerKind::kHeader:
+      return Capture(Told::kShortTitle);
+    case MarkerKind::kToc2:
+      return Capture(Told::kMiddleTitle);
+    case MarkerKind::kToc1:
+      return Capture(Told::kLongTitle);
+    case MarkerKind::kCanonicalTitle:
+      return Part::kCanonicalTitle;
+    case MarkerKind::kParagraph:
+    case MarkerKind::kCell:
+      return Part::kBlock;
+    case MarkerKind::kCharacter:
+    case MarkerKind::kMilestone:
+    case MarkerKind::kUnknown:
+      return Part::kPass;
+    case MarkerKind::kLeftOutParagraph:
+      return Part::kHeading;
+    default:
+      return Part::kLeftOut;
   }
 }
 

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "TextForm.h"
+#include "UsfmMarkers.h"
 #include "XmlReader.h"
 
 namespace folionet {
@@ -25,14 +26,18 @@ class XmlForm : public TextForm, protected XmlHandler {
     kBlock,           // as kPass, between blanks
     kVerse,           // a verse, which ends with it; in a file where those that came so far hold nothing, with the next
     kCanonicalTitle,  // ends with it
-    kCaptured,        // no text of a verse; given to EndCaptured
+    kCaptured,        // no text of a verse; what Capture says
   };
 
   // An element begins that stands in nothing left out.
   virtual Part Begin(const XmlElement& element) = 0;
 
-  // The whole text of an element that is kCaptured.
-  virtual void EndCaptured(const std::string& text) = 0;
+  // What the whole text of an element tells that is no text of a verse.
+  enum class Told { kName, kLanguage, kShortTitle, kMiddleTitle, kLongTitle };
+  Part Capture(Told told);
+
+  // The part of an element that stands for a marker of USFM.
+  Part PartOfMarker(MarkerKind kind);
 
   // Notes an end that does not fit, and puts up with it.
   bool NoteEnd(std::string_view name);
@@ -47,6 +52,7 @@ class XmlForm : public TextForm, protected XmlHandler {
   void End(std::string_view name) override;
   void Text(std::string_view text) override;
   void AddBreak();
+  void EndCaptured();
   void BeginLeftOut(Part part, const XmlElement& element);
   void EndLeftOutBefore(const XmlElement& verse);
 
@@ -60,6 +66,7 @@ class XmlForm : public TextForm, protected XmlHandler {
   bool m_isJustBegun = false;       // an element, and nothing of it has come yet
   bool m_doVersesHoldText = false;  // those that are kVerse
   int m_capturing = 0;
+  Told m_told = Told::kName;
   std::string m_captured;
 };
 

@@ -1,8 +1,5 @@
 #include "ZefaniaForm.h"
 
-#include <algorithm>
-#include <array>
-
 #include "BookTable.h"
 #include "LineReader.h"
 #include "Numbers.h"
@@ -10,11 +7,6 @@
 
 namespace folionet {
 namespace {
-
-bool IsLeftOut(std::string_view name) {
-  constexpr std::array<std::string_view, 4> kLeftOut{"note", "remark", "xref", "media"};
-  return std::find(kLeftOut.begin(), kLeftOut.end(), name) != kLeftOut.end();
-}
 
 // The verse number of "vnumber", the last one of several in "enumber", and a part of a verse in "aix": "2-4", "3a".
 std::string FieldOf(const XmlElement& element) {
@@ -53,21 +45,11 @@ XmlForm::Part ZefaniaForm::Begin(const XmlElement& element) {
   }
   if (name == "xmlbible") Builder().SetName(element.Get("biblename"));
   if (name == "information") m_isInInformation = true;
-  if (m_isInInformation && (name == "title" || name == "language")) {
-    m_isLanguage = name == "language";
-    return Part::kCaptured;
-  }
-  if (IsLeftOut(name)) return Part::kLeftOut;
-  if (name == "caption" || name == "prolog") return Part::kHeading;
+  if (m_isInInformation && name == "title") return Capture(Told::kName);
+  if (m_isInInformation && name == "language") return Capture(Told::kLanguage);
+  if (IsOneOf(name, {"note", "remark", "xref", "media"})) return Part::kLeftOut;
+  if (IsOneOf(name, {"caption", "prolog"})) return Part::kHeading;
   return name == "br" ? Part::kBlock : Part::kPass;
-}
-
-void ZefaniaForm::EndCaptured(const std::string& text) {
-  if (m_isLanguage) {
-    Builder().SetLanguage(text);
-  } else {
-    Builder().SetName(text);
-  }
 }
 
 }  // namespace folionet

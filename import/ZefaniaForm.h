@@ -15,10 +15,8 @@ class ZefaniaForm : public XmlForm {
 
  private:
   Part Begin(const XmlElement& element) override;
-  void EndCaptured(const std::string& text) override;
 
   bool m_isInInformation = false;
-  bool m_isLanguage = false;
 };
 
 }  // namespace folionet

@@ -1,8 +1,8 @@
 #include "BookTable.h"
 
+#include <unicode/normalizer2.h>
 #include <unicode/uchar.h>
-#include <unicode/unorm2.h>
-#include <unicode/ustring.h>
+#include <unicode/unistr.h>
 
 #include <algorithm>
 #include <array>
@@ -11,7 +11,9 @@
 #include <utility>
 
 #include "CodePage.h"
+#include "Text.h"
 #include "TitleLanguages.h"
+#include "Utf8.h"
 
 namespace folionet {
 
@@ -92,12 +94,7 @@ std::map<std::string, int> MakeKeys() {
     const Book& book = BookAt(number);
     keys.emplace(BookKey(book.code), number);
     keys.emplace(BookKey(book.title), number);
-    std::string_view rest = book.synonyms;
-    while (!rest.empty()) {
-      const std::size_t end = rest.find(' ');
-      keys.emplace(rest.substr(0, end), number);
-      rest = end == std::string_view::npos ? std::string_view() : rest.substr(end + 1);
-    }
+    for (const std::string_view synonym : SplitAt(book.synonyms, " ")) keys.emplace(synonym, number);
   }
   // A name that two languages give to two books stays with the first.
   for (const TitleLanguage& language : TitleLanguages()) {
@@ -110,23 +107,16 @@ std::map<std::string, int> MakeKeys() {
 
 // A key without its accents, whether they are characters of their own or not.
 std::string WithoutAccents(const std::string& key) {
-  if (std::all_of(key.begin(), key.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; })) return key;
+  if (IsAscii(key)) return key;
   UErrorCode status = U_ZERO_ERROR;
-  constexpr std::size_t kMostPerByte = 4;
-  std::u16string text(key.size(), u'\0');
-  std::int32_t length = 0;
-  u_strFromUTF8(text.data(), static_cast<std::int32_t>(text.size()), &length, key.data(),
-                static_cast<std::int32_t>(key.size()), &status);
-  std::u16string apart(kMostPerByte * key.size(), u'\0');
-  const std::int32_t count = unorm2_normalize(unorm2_getNFDInstance(&status), text.data(), length, apart.data(),
-                                              static_cast<std::int32_t>(apart.size()), &status);
+  const icu::Normalizer2* const apart = icu::Normalizer2::getNFDInstance(status);
   if (U_FAILURE(status)) return key;
-  apart.resize(static_cast<std::size_t>(count));
-  std::erase_if(apart, [](char16_t c) { return u_charType(c) == U_NON_SPACING_MARK; });
-  std::string bare(kMostPerByte * apart.size(), '\0');
-  u_strToUTF8(bare.data(), static_cast<std::int32_t>(bare.size()), &length, apart.data(),
-              static_cast<std::int32_t>(apart.size()), &status);
-  bare.resize(U_FAILURE(status) ? 0 : static_cast<std::size_t>(length));
+  std::string letters;
+  apart->normalize(icu::UnicodeString::fromUTF8(key), status).toUTF8String(letters);
+  std::string bare;
+  ForEachUtf8(letters, [&](const Piece& piece) {
+    if (u_charType(piece.character) != U_NON_SPACING_MARK) bare += piece.bytes;
+  });
   return bare;
 }
 

@@ -18,9 +18,7 @@ constexpr std::size_t kPiece = std::size_t{64} << 10;
 constexpr std::size_t kPivot = std::size_t{16} << 10;
 
 std::size_t LinesIn(std::string_view text) {
-  std::size_t lines = 0;
-  for (std::size_t at = text.find('\n'); at != std::string_view::npos; at = text.find('\n', at + 1)) ++lines;
-  return lines;
+  return static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n'));
 }
 
 // How many bytes at the end of a text begin a character of UTF-8 that goes on behind it.
@@ -222,18 +220,8 @@ void TextDecoder::DecodeUtf8() {
   m_text = Raw().substr(0, m_end - m_start - unfinished);
   EndLinesWithLf(m_raw.data() + m_start, m_text.size());
   m_start += m_text.size();
-  if (IsUtf8(m_text)) return;
-  // The lines before the fault are good.
-  std::size_t good = 0;
-  for (std::size_t end = m_text.find('\n'); end != std::string_view::npos; end = m_text.find('\n', good)) {
-    if (!IsUtf8(m_text.substr(good, end + 1 - good))) break;
-    good = end + 1;
-  }
-  for (std::size_t length = 1; length != 0 && good < m_text.size(); good += length) {
-    const auto byte = static_cast<unsigned char>(m_text[good]);
-    length = byte < 0x80 ? 1 : byte >= 0xF0 ? 4 : byte >= 0xE0 ? 3 : 2;
-    if (!IsUtf8(m_text.substr(good, length))) length = 0;
-  }
+  const std::size_t good = Utf8Length(m_text);
+  if (good == m_text.size()) return;
   m_start = m_end;
   NoteFault(good);
 }

@@ -24,16 +24,7 @@ constexpr char32_t kPolytonicLast = 0x1FFF;
 class ScriptCounts {
  public:
   void Add(std::string_view text) {
-    for (int32_t at = 0; at < static_cast<int32_t>(text.size());) {
-      const auto byte = static_cast<unsigned char>(text[static_cast<std::size_t>(at)]);
-      if (byte < 0x80) {
-        const unsigned char lower = byte | 0x20U;
-        if (lower >= 'a' && lower <= 'z') ++m_counts[USCRIPT_LATIN];
-        ++at;
-      } else {
-        AddCharacter(Next(text, at));
-      }
-    }
+    ForEachUtf8(text, [this](const Piece& piece) { AddCharacter(piece.character); });
   }
 
   UScriptCode Most() const {
@@ -46,15 +37,6 @@ class ScriptCounts {
   bool IsPolytonic() const { return m_isPolytonic; }
 
  private:
-#pragma GCC diagnostic push
-#pragma GCC diagnostic ignored "-Wconversion"  // ICU's macro narrows on purpose
-  static UChar32 Next(std::string_view text, int32_t& at) {
-    UChar32 character = 0;
-    U8_NEXT(text.data(), at, static_cast<int32_t>(text.size()), character);
-    return character;
-  }
-#pragma GCC diagnostic pop
-
   void AddCharacter(UChar32 character) {
     if (character < 0 || u_isalpha(character) == 0) return;
     UErrorCode status = U_ZERO_ERROR;
@@ -121,11 +103,8 @@ std::string LanguageCode(const std::string& code) {
   UErrorCode status = U_ZERO_ERROR;
   const std::size_t end = std::min(code.find('-'), code.size());
   // Three letters that a bibliographer uses are in no table of ICU.
-  for (const TitleLanguage& language : TitleLanguages()) {
-    const std::string codes = " " + std::string(language.codes) + " ";
-    if (end != 0 && codes.find(" " + code.substr(0, end) + " ") != std::string::npos) {
-      return std::string(language.codes.substr(0, 2)) + code.substr(end);
-    }
+  if (const TitleLanguage* const known = FindLanguage(code.substr(0, end))) {
+    return std::string(known->codes.substr(0, 2)) + code.substr(end);
   }
   uloc_getLanguage(code.substr(0, end).c_str(), main.data(), static_cast<int32_t>(main.size()), &status);
   return U_FAILURE(status) || main[0] == '\0' ? code : main.data() + code.substr(end);

@@ -1,14 +1,16 @@
 #include "TitleLanguages.h"
 
-#include <utility>
+#include <algorithm>
 
 #include "BookTable.h"
+#include "Text.h"
 
 namespace folionet {
 
 namespace {
 
-// The titles of a language in canonical order, each but the last followed by a comma and a blank.
+// The titles of a language in canonical order.
+constexpr std::string_view kBetween = ", ";
 constexpr std::string_view kSpanish =
     "Génesis, Éxodo, Levítico, Números, Deuteronomio, Josué, Jueces, Rut, 1 Samuel, 2 Samuel, 1 Reyes, 2 Reyes, "
     "1 Crónicas, 2 Crónicas, Esdras, Nehemías, Ester, Job, Salmos, Proverbios, Eclesiastés, Cantares, Isaías, "
@@ -66,36 +68,30 @@ std::vector<std::string_view> EnglishTitles() {
   return titles;
 }
 
-std::vector<std::string_view> Split(std::string_view list) {
-  constexpr std::string_view kSeparator = ", ";
-  std::vector<std::string_view> titles;
-  for (;;) {
-    const std::size_t end = list.find(kSeparator);
-    titles.push_back(list.substr(0, end));
-    if (end == std::string_view::npos) return titles;
-    list.remove_prefix(end + kSeparator.size());
-  }
-}
-
 }  // namespace
 
 const std::vector<TitleLanguage>& TitleLanguages() {
-  static const std::vector<TitleLanguage> languages = {
-      {"ENGLISH", "en eng", EnglishTitles()},       {"SPANISH", "es spa", Split(kSpanish)},
-      {"GERMAN", "de deu ger", Split(kGerman)},     {"FRENCH", "fr fra fre", Split(kFrench)},
-      {"PORTUGUESE", "pt por", Split(kPortuguese)}, {"ITALIAN", "it ita", Split(kItalian)},
-      {"DUTCH", "nl nld dut", Split(kDutch)}};
+  static const std::vector<TitleLanguage> languages = {{"ENGLISH", "en eng", EnglishTitles()},
+                                                       {"SPANISH", "es spa", SplitAt(kSpanish, kBetween)},
+                                                       {"GERMAN", "de deu ger", SplitAt(kGerman, kBetween)},
+                                                       {"FRENCH", "fr fra fre", SplitAt(kFrench, kBetween)},
+                                                       {"PORTUGUESE", "pt por", SplitAt(kPortuguese, kBetween)},
+                                                       {"ITALIAN", "it ita", SplitAt(kItalian, kBetween)},
+                                                       {"DUTCH", "nl nld dut", SplitAt(kDutch, kBetween)}};
   return languages;
 }
 
-const TitleLanguage& NearestLanguage(std::string_view code) {
-  const std::string main(code.substr(0, code.find_first_of("-_")));
+const TitleLanguage* FindLanguage(std::string_view code) {
   for (const TitleLanguage& language : TitleLanguages()) {
-    if (!main.empty() && (" " + std::string(language.codes) + " ").find(" " + main + " ") != std::string::npos) {
-      return language;
-    }
+    const auto codes = SplitAt(language.codes, " ");
+    if (std::find(codes.begin(), codes.end(), code) != codes.end()) return &language;
   }
-  return TitleLanguages().front();
+  return nullptr;
+}
+
+const TitleLanguage& NearestLanguage(std::string_view code) {
+  const TitleLanguage* const known = FindLanguage(code.substr(0, code.find_first_of("-_")));
+  return known != nullptr ? *known : TitleLanguages().front();
 }
 
 std::string TitleFileText(const std::vector<std::string_view>& titles) {

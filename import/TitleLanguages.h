@@ -20,6 +20,9 @@ struct TitleLanguage {
 // The languages whose titles are known; English is the first.
 const std::vector<TitleLanguage>& TitleLanguages();
 
+// The one of a code, such as "es"; nullptr for a language without titles.
+const TitleLanguage* FindLanguage(std::string_view code);
+
 // The one whose titles stand in for those that a text in this language has not: "es-419" gives Spanish, a language
 // without titles English.
 const TitleLanguage& NearestLanguage(std::string_view code);

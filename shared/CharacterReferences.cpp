@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <iterator>
 
+#include "CodePage.h"
 #include "Text.h"
 
 namespace folionet {
@@ -21,12 +22,6 @@ constexpr HtmlName kHtmlNames[] = {
 #include "HtmlNames.inc"
 };
 
-// Browsers read the numbers of control characters as the bytes of windows-1252.
-constexpr char16_t kWindows1252[] = {0x20AC, 0x81,   0x201A, 0x192,  0x201E, 0x2026, 0x2020, 0x2021,
-                                     0x2C6,  0x2030, 0x160,  0x2039, 0x152,  0x8D,   0x17D,  0x8F,
-                                     0x90,   0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
-                                     0x2DC,  0x2122, 0x161,  0x203A, 0x153,  0x9D,   0x17E,  0x178};
-
 // `rest` stands behind "&#". Adds the character and gives the length of its number; 0 for none.
 std::size_t AddNumbered(std::string_view rest, std::string& text) {
   const std::size_t prefix = rest.starts_with('x') || rest.starts_with('X') ? 1 : 0;
@@ -37,8 +32,11 @@ std::size_t AddNumbered(std::string_view rest, std::string& text) {
   std::uint32_t number = 0;
   const auto [last, error] = std::from_chars(rest.data() + prefix, rest.data() + length, number, prefix == 1 ? 16 : 10);
   if (error != std::errc() || number == 0) number = 0xFFFD;
-  if (number >= 0x80 && number < 0xA0) number = kWindows1252[number - 0x80];
-  AppendUtf8(text, number);
+  if (number >= 0x80 && number < 0xA0) {
+    text += CodePage().Decode(std::string(1, static_cast<char>(number)));
+  } else {
+    AppendUtf8(text, number);
+  }
   return length;
 }
 

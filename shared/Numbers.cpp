@@ -43,13 +43,8 @@ NumberReading ReadNumber(std::string_view text) {
   return reading;
 }
 
-double RoundHalfEven(double value) {
-  const double floor = std::floor(value);
-  const double rest = value - floor;
-  if (rest < 0.5) return floor;
-  if (rest > 0.5) return floor + 1;
-  return std::fmod(floor, 2.0) == 0.0 ? floor : floor + 1;
-}
+// The rounding of floating numbers that every program starts with.
+double RoundHalfEven(double value) { return std::nearbyint(value); }
 
 std::optional<std::int16_t> LeadingInteger(std::string_view text) {
   const std::size_t first = text.find_first_not_of(" \t");

@@ -1,5 +1,7 @@
 #include "Utf16.h"
 
+#include <unicode/utf16.h>
+
 #include "RunTimeError.h"
 #include "Text.h"
 
@@ -30,28 +32,18 @@ std::string FromUtf16(std::string_view bytes, const std::string& path) {
     throw RunTimeError(kTypeMismatch, path, "A character of its UTF-16 is cut off. Save it as UTF-8.");
   };
   if (bytes.size() % 2 != 0) fail();
-  constexpr char32_t kHighest = 0xD800;  // surrogates: the higher ten bits, then the lower ones
-  constexpr char32_t kLowest = 0xDC00;
-  constexpr char32_t kTen = 0x400;
-  constexpr char32_t kBeyond = 0x10000;
-  constexpr char32_t kByte = 0x100;
-  std::string text;
-  char32_t first = 0;
+  std::u16string units;
   for (std::size_t at = 0; at < bytes.size(); at += 2) {
-    const char32_t unit = static_cast<unsigned char>(bytes[at + high]) * kByte +  //
-                          static_cast<unsigned char>(bytes[at + 1 - high]);
-    const bool isSecond = unit >= kLowest && unit < kLowest + kTen;
-    if (isSecond != (first != 0)) fail();
-    if (isSecond) {
-      AppendUtf8(text, kBeyond + (first - kHighest) * kTen + (unit - kLowest));
-      first = 0;
-    } else if (unit >= kHighest && unit < kLowest) {
-      first = unit;
-    } else {
-      AppendUtf8(text, unit);
-    }
+    units += static_cast<char16_t>(static_cast<unsigned char>(bytes[at + high]) << 8U |
+                                   static_cast<unsigned char>(bytes[at + 1 - high]));
   }
-  if (first != 0) fail();
+  std::string text;
+  for (std::size_t at = 0; at < units.size();) {
+    UChar32 character = 0;
+    U16_NEXT(units, at, units.size(), character);
+    if (U_IS_SURROGATE(character)) fail();
+    AppendUtf8(text, static_cast<char32_t>(character));
+  }
   return text;
 }
 

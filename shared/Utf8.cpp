@@ -39,15 +39,16 @@ std::string_view CutToBytes(std::string_view text, std::size_t longest) {
   return text.substr(0, longest);
 }
 
-bool IsUtf8(std::string_view text) {
-  for (;;) {
-    text.remove_prefix(AsciiLength(text));
-    if (text.empty()) return true;
+std::size_t Utf8Length(std::string_view text) {
+  for (std::size_t done = 0;;) {
+    done += AsciiLength(text.substr(done));
     int32_t length = 0;
-    if (FirstUtf8(text.substr(0, U8_MAX_LENGTH), length) < 0) return false;
-    text.remove_prefix(static_cast<std::size_t>(length));
+    if (done == text.size() || FirstUtf8(text.substr(done, U8_MAX_LENGTH), length) < 0) return done;
+    done += static_cast<std::size_t>(length);
   }
 }
+
+bool IsUtf8(std::string_view text) { return Utf8Length(text) == text.size(); }
 
 bool BeginsRightToLeft(std::string_view text) {
   while (!text.empty()) {

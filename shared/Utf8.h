@@ -51,7 +51,8 @@ void ForEachUtf8(std::string_view text, Take take) {
   }
 }
 
-// Whether a text is well-formed UTF-8.
+// How many bytes of well-formed UTF-8 a text begins with; and whether it is that as a whole.
+std::size_t Utf8Length(std::string_view text);
 bool IsUtf8(std::string_view text);
 
 // Whether the first letter of a UTF-8 text is of a script that is written from right to left.

@@ -79,10 +79,9 @@ class StyleReader {
     const auto character =
         static_cast<UChar32>(std::stoul(std::string(m_sheet.substr(start, m_at - start)), nullptr, 16));
     if (m_at < m_sheet.size() && IsStyleBlank(m_sheet[m_at])) ++m_at;
-    std::string bytes(U8_MAX_LENGTH, '\0');
-    std::size_t length = 0;
-    if (U_IS_UNICODE_CHAR(character)) U8_APPEND_UNSAFE(bytes.data(), length, character);
-    return bytes.substr(0, length);
+    std::string bytes;
+    if (U_IS_UNICODE_CHAR(character)) AppendUtf8(bytes, static_cast<char32_t>(character));
+    return bytes;
   }
 
   void AddLink(std::string address) {

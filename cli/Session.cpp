@@ -107,10 +107,10 @@ void Session::ChooseFirst() {
   ChooseImported(glob, 0);
 }
 
-void Session::LoadBookTitles() { Populate(0); }
+void Session::LoadBookTitles() { Populate(kBookLists); }
 
 void Session::LoadLists() {
-  Populate(1);
+  Populate(kAllLists);
   if (const auto why = WhyNoTranslation(glob)) ui.Tell(why->InEnglish());
   for (const std::string& text : glob.unreadableTexts) {
     ui.Tell("A translation is left out, for its text cannot be read: " + text);

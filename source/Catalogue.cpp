@@ -107,7 +107,7 @@ Outcome PopulateCombos(int which, const std::string& cboLang, ModGlob& glob, con
   constexpr int kLastRetry = 3;
   for (int failures = 0;;) {
     try {
-      if (which != 0) ReadCatalogue(glob, codePage);
+      if (which != kBookLists) ReadCatalogue(glob, codePage);
       ReadBookTitles(glob, cboLang);
       if (glob.Imported.IsThere()) EncodeTitles(glob, codePage);
       return Outcome::kDone;

@@ -48,9 +48,14 @@ inline constexpr int kMostListed = 10000;
 // Throws RunTimeError; cboBibleName is then unchanged.
 void ReadCatalogue(ModGlob& glob, const CodePage& codePage);
 
-// Fills the lists of the form: when `which` is not 0 the catalogue, and always the book lists from the book-title file
-// `cboLang`. A failure is reported under "Populate Combos" with a warning, Versalia's two folders are asked for, and
-// all of it starts again; on the fourth failure, or at the first where nobody can be asked, kEndProgram is given.
+// What PopulateCombos fills: the book lists alone or, as for any other number, those of translations too.
+inline constexpr int kBookLists = 0;
+inline constexpr int kAllLists = 1;
+
+// Fills the lists of the form: the book lists from the book-title file `cboLang` and, before them, those of the
+// catalogue as `which` says. A failure is reported under "Populate Combos" with a warning, Versalia's two folders are
+// asked for, and all of it starts again; on the fourth failure, or at the first where nobody can be asked, kEndProgram
+// is given.
 Outcome PopulateCombos(int which, const std::string& cboLang, ModGlob& glob, const CodePage& codePage,
                        UserInterface& ui);
 

@@ -343,6 +343,14 @@
 <context>
     <name>QObject</name>
     <message>
+        <source>Copy as command line</source>
+        <translation>Als Befehlszeile kopieren</translation>
+    </message>
+    <message>
+        <source>The command is on the clipboard.</source>
+        <translation>Der Befehl steht in der Zwischenablage.</translation>
+    </message>
+    <message>
         <source>No browser could be started. The page is:</source>
         <translation>Es konnte kein Browser gestartet werden. Die Seite ist:</translation>
     </message>
@@ -781,17 +789,6 @@ Jetzt %3 wählen?</translation>
     <message>
         <source>The folder holds pages of several translations: %1.</source>
         <translation>Der Ordner enthält Seiten mehrerer Übersetzungen: %1.</translation>
-    </message>
-</context>
-<context>
-    <name>folionet::CommandCopy</name>
-    <message>
-        <source>Copy as command line</source>
-        <translation>Als Befehlszeile kopieren</translation>
-    </message>
-    <message>
-        <source>The command is on the clipboard.</source>
-        <translation>Der Befehl steht in der Zwischenablage.</translation>
     </message>
 </context>
 <context>

@@ -343,6 +343,14 @@
 <context>
     <name>QObject</name>
     <message>
+        <source>Copy as command line</source>
+        <translation>Copiar como línea de órdenes</translation>
+    </message>
+    <message>
+        <source>The command is on the clipboard.</source>
+        <translation>La orden está en el portapapeles.</translation>
+    </message>
+    <message>
         <source>No browser could be started. The page is:</source>
         <translation>No se pudo abrir ningún navegador. La página es:</translation>
     </message>
@@ -781,17 +789,6 @@ Otro nombre para cboLang en %2, como %3, permite que el programa vuelva a arranc
     <message>
         <source>The folder holds pages of several translations: %1.</source>
         <translation>La carpeta contiene páginas de varias traducciones: %1.</translation>
-    </message>
-</context>
-<context>
-    <name>folionet::CommandCopy</name>
-    <message>
-        <source>Copy as command line</source>
-        <translation>Copiar como línea de órdenes</translation>
-    </message>
-    <message>
-        <source>The command is on the clipboard.</source>
-        <translation>La orden está en el portapapeles.</translation>
     </message>
 </context>
 <context>

@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "ContentScroll.h"
-#include "HelpWindow.h"
+#include "HelpTopics.h"
 #include "OneLine.h"
 #include "RunTimeError.h"
 #include "ShownBoxes.h"
@@ -12,7 +12,7 @@
 namespace folionet {
 
 LoadedDialog::LoadedDialog(UserInterface& ui, QWidget* parent) : QDialog(parent), m_reports(ui) {
-  HelpWindow::OpenByKey(*this);
+  OpenHelpByKey(*this);
 }
 
 void LoadedDialog::LoadForm() {

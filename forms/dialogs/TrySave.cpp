@@ -1,5 +1,6 @@
 #include "TrySave.h"
 
+#include "OptionSaving.h"
 #include "RunTimeError.h"
 
 namespace folionet {
@@ -15,6 +16,14 @@ bool TrySave(AppState& state, Procedure procedure, const std::function<void(Sett
     if (!isTold) state.ui.ShowErrorReport({procedure, error});
     return false;
   }
+}
+
+bool TrySave(AppState& state, Procedure procedure, std::string_view key) {
+  return TrySave(state, procedure, [&](SettingsStore& store) { SaveOption(store, key, state.options); });
+}
+
+bool TrySave(AppState& state, Procedure procedure, OptionPart part) {
+  return TrySave(state, procedure, [&](SettingsStore& store) { SaveOptions(store, part, state.options); });
 }
 
 }  // namespace folionet

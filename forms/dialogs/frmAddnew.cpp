@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "EncodingLists.h"
-#include "HelpWindow.h"
+#include "HelpTopics.h"
 #include "LabelColumn.h"
 #include "OneLine.h"
 #include "OwnCharset.h"
@@ -18,7 +18,7 @@ namespace folionet {
 frmAddnew::frmAddnew(AppState& state, QWidget* parent)
     : QDialog(parent), m_state(state), m_ui(std::make_unique<Ui::frmAddnew>()) {
   m_ui->setupUi(this);
-  HelpWindow::OpenByKey(*this);
+  OpenHelpByKey(*this);
   connect(m_ui->cmdUpdLang, &QPushButton::clicked, this,
           [this] { AddRecord(kLanguageList, Procedure::kUpdateLanguages, *m_ui->txtLangAbbr, *m_ui->txtLangLang); });
   connect(m_ui->cmdUpdEnc, &QPushButton::clicked, this,

@@ -4,7 +4,6 @@
 
 #include "Follow.h"
 #include "OptionLoading.h"
-#include "OptionSaving.h"
 #include "TrySave.h"
 #include "ui_frmBackground.h"
 
@@ -27,10 +26,8 @@ frmBackground::frmBackground(AppState& state, QWidget* parent)
   LetContentScroll();
   Follow(m_ui->txtImagepath, m_record.txtImagepath);
   Follow(m_ui->chkWaterMark, m_record.chkWaterMark);
-  connect(m_ui->chkWaterMark, &QCheckBox::clicked, this, [this] {
-    TrySave(m_state, Procedure::kClickWaterMark,
-            [this](SettingsStore& store) { SaveOption(store, "WaterMark", m_state.options); });
-  });
+  connect(m_ui->chkWaterMark, &QCheckBox::clicked, this,
+          [this] { TrySave(m_state, Procedure::kClickWaterMark, "WaterMark"); });
   connect(m_ui->cmdImageName, &QPushButton::clicked, this, &frmBackground::SelectImage);
   connect(m_ui->cmdClose, &QPushButton::clicked, this, [this] {
     SaveImage();
@@ -58,9 +55,6 @@ void frmBackground::SelectImage() {
   SaveImage();
 }
 
-void frmBackground::SaveImage() {
-  TrySave(m_state, Procedure::kSaveBackImage,
-          [this](SettingsStore& store) { SaveOptions(store, OptionPart::kBackground, m_state.options); });
-}
+void frmBackground::SaveImage() { TrySave(m_state, Procedure::kSaveBackImage, OptionPart::kBackground); }
 
 }  // namespace folionet

@@ -9,7 +9,6 @@
 #include "Effects.h"
 #include "Follow.h"
 #include "OptionLoading.h"
-#include "OptionSaving.h"
 #include "Swatches.h"
 #include "TrySave.h"
 #include "ui_frmEffects.h"
@@ -116,8 +115,7 @@ void frmEffects::BuildEffects() {
 
 void frmEffects::Close() {
   BuildEffects();
-  TrySave(m_state, Procedure::kSaveHyperlinkColours,
-          [this](SettingsStore& store) { SaveOptions(store, OptionPart::kEffects, m_state.options); });
+  TrySave(m_state, Procedure::kSaveHyperlinkColours, OptionPart::kEffects);
   hide();
 }
 

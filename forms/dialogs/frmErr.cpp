@@ -3,7 +3,7 @@
 #include <QApplication>
 #include <QFontDatabase>
 
-#include "HelpWindow.h"
+#include "HelpTopics.h"
 #include "QtText.h"
 #include "ui_frmErr.h"
 
@@ -11,7 +11,7 @@ namespace folionet {
 
 frmErr::frmErr(QWidget* parent) : QDialog(parent), m_ui(std::make_unique<Ui::frmErr>()) {
   m_ui->setupUi(this);
-  HelpWindow::OpenByKey(*this);
+  OpenHelpByKey(*this);
   // The labels of the report line up in one column only in a font of one width.
   QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
   font.setFamilies(QStringList{QStringLiteral("Fixedsys")} << font.families());

@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QDropEvent>
+#include <initializer_list>
 #include <utility>
 
 #include "BuildInfo.h"
@@ -143,8 +144,7 @@ void frmImport::WriteOrAsk() {
     const QString question =
         tr("The library holds a translation with the stem %1 already.\n"
            "Replace it? To keep it, answer No and give this text another stem.");
-    if (!m_boxes.AskYesNo(FromQt(windowTitle()),
-                          FromQt(question.arg(ToQt(plan.stem)).replace(QLatin1String("\n"), QLatin1String("\r\n"))))) {
+    if (!m_boxes.AskYesNo(FromQt(windowTitle()), FromQtLines(question.arg(ToQt(plan.stem))))) {
       m_ui->txtStem->setFocus();
       return;
     }
@@ -186,12 +186,11 @@ void frmImport::ShowStep() {
   const bool isFound = m_import.Bible() != nullptr;
   m_ui->progressImport->setVisible(step == TextImport::Step::kReading || isWriting);
   m_ui->cmdStop->setVisible(step == TextImport::Step::kReading);
-  for (QWidget* control : {static_cast<QWidget*>(m_ui->txtPath), static_cast<QWidget*>(m_ui->cmdFile),
-                           static_cast<QWidget*>(m_ui->cmdFolder), static_cast<QWidget*>(m_ui->cmdClose)}) {
+  using Controls = std::initializer_list<QWidget*>;
+  for (QWidget* control : Controls{m_ui->txtPath, m_ui->cmdFile, m_ui->cmdFolder, m_ui->cmdClose}) {
     control->setEnabled(!isWriting);
   }
-  for (QWidget* control : {static_cast<QWidget*>(m_ui->txtName), static_cast<QWidget*>(m_ui->txtStem),
-                           static_cast<QWidget*>(m_ui->cmdImport)}) {
+  for (QWidget* control : Controls{m_ui->txtName, m_ui->txtStem, m_ui->cmdImport}) {
     control->setEnabled(isFound && !isWriting);
   }
   step == TextImport::Step::kReading ? m_progress.start() : m_progress.stop();

@@ -6,7 +6,6 @@
 #include "Follow.h"
 #include "KeyReleases.h"
 #include "OptionLoading.h"
-#include "OptionSaving.h"
 #include "PreviewBox.h"
 #include "TrySave.h"
 #include "ui_frmKeywords.h"
@@ -58,8 +57,7 @@ bool frmKeywords::RefreshTitles() {
 }
 
 void frmKeywords::Close() {
-  TrySave(m_state, Procedure::kSaveMeta,
-          [this](SettingsStore& store) { SaveOptions(store, OptionPart::kKeywords, m_state.options); });
+  TrySave(m_state, Procedure::kSaveMeta, OptionPart::kKeywords);
   hide();
 }
 

@@ -63,8 +63,7 @@ void frmLinkToMAin::SetSizeEnabled(bool isEnabled) { m_ui->cboSize->setEnabled(i
 void frmLinkToMAin::Justify(int justification) {
   m_record.LCR = static_cast<std::int16_t>(justification);
   ShowJustification();
-  TrySave(m_state, Procedure::kSetJustification,
-          [&](SettingsStore& store) { SaveOption(store, "LCR", m_state.options); });
+  TrySave(m_state, Procedure::kSetJustification, "LCR");
   m_record.alignment = AlignmentWord(justification);
   SetString();
 }
@@ -118,8 +117,7 @@ void frmLinkToMAin::Refresh() {
 
 void frmLinkToMAin::Close() {
   hide();
-  TrySave(m_state, Procedure::kSaveLinkToMain,
-          [this](SettingsStore& store) { SaveOptions(store, OptionPart::kLinkToMain, m_state.options); });
+  TrySave(m_state, Procedure::kSaveLinkToMain, OptionPart::kLinkToMain);
 }
 
 }  // namespace folionet

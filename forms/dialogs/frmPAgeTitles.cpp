@@ -3,7 +3,6 @@
 #include "Follow.h"
 #include "KeyReleases.h"
 #include "OptionLoading.h"
-#include "OptionSaving.h"
 #include "PreviewBox.h"
 #include "TrySave.h"
 #include "ui_frmPAgeTitles.h"
@@ -43,10 +42,7 @@ void frmPAgeTitles::showEvent(QShowEvent* event) {
   if (!m_ui->txtPrevIndex->text().isEmpty() || !m_ui->txtPrevOther->text().isEmpty()) ShowPreviews();
 }
 
-void frmPAgeTitles::SaveTitles() {
-  TrySave(m_state, Procedure::kSaveTitles,
-          [this](SettingsStore& store) { SaveOptions(store, OptionPart::kPageTitles, m_state.options); });
-}
+void frmPAgeTitles::SaveTitles() { TrySave(m_state, Procedure::kSaveTitles, OptionPart::kPageTitles); }
 
 bool frmPAgeTitles::ShowPreviews() {
   const PageTitleOptions& titles = m_state.options.frmPAgeTitles;

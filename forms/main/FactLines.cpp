@@ -3,14 +3,12 @@
 #include <QLocale>
 #include <QStringList>
 #include <algorithm>
+#include <utility>
 
 #include "Catalogue.h"
 #include "FolderFacts.h"
-#include "FolderPickers.h"
-#include "LibraryLists.h"
 #include "PageNames.h"
 #include "QtText.h"
-#include "RequestOfForm.h"
 #include "RunFacts.h"
 #include "TypedFindings.h"
 #include "ui_frmMain.h"
@@ -92,9 +90,8 @@ QString TextOf(const Finding& fact) {
 
 }  // namespace
 
-FactLines::FactLines(AppState& state, Ui::frmMain& controls, const LibraryLists& lists, const FolderPickers& folders,
-                     QObject* parent)
-    : QObject(parent), m_state(state), m_controls(controls), m_lists(lists), m_folders(folders) {
+FactLines::FactLines(AppState& state, Ui::frmMain& controls, std::function<CompileRequest()> gather, QObject* parent)
+    : QObject(parent), m_state(state), m_controls(controls), m_gather(std::move(gather)) {
   connect(&m_scan, &FolderScan::Done, this, &FactLines::ShowFolder);
 }
 
@@ -128,7 +125,7 @@ QString FactLines::BooksText(int first, int last) const {
 
 void FactLines::ShowRange() {
   const ModGlob& glob = m_state.glob;
-  CompileRequest request = GatherRequest(m_state, m_controls, m_lists, m_folders);
+  CompileRequest request = m_gather();
   QStringList lines;
   if (request.cboBibleName >= 0 && HasAllBooks(glob) && HasEncoding(m_state.texts)) {
     request.txtOutputPath.clear();  // what is on the disk is found beside the form
@@ -169,7 +166,7 @@ const TextSample& FactLines::Sample(const std::string& file) {
 void FactLines::AskOfFolder() {
   const ModGlob& glob = m_state.glob;
   if (glob.OutputFolder.empty()) return;
-  const CompileRequest request = GatherRequest(m_state, m_controls, m_lists, m_folders);
+  const CompileRequest request = m_gather();
   FolderQuestion question{glob.OutputFolder, {}, {}};
   if (HasAllBooks(glob)) question.written = FilesOfSite(request, glob, CodePage(request.texts.PageCharset));
   const QString typed = m_controls.txthttpRoot->text();

@@ -2,10 +2,12 @@
 
 #include <QObject>
 #include <QString>
+#include <functional>
 #include <optional>
 #include <string>
 
 #include "AppState.h"
+#include "CompileRequest.h"
 #include "FileStamp.h"
 #include "FolderScan.h"
 #include "TextCharset.h"
@@ -15,8 +17,6 @@ namespace folionet {
 namespace Ui {
 class frmMain;
 }
-class FolderPickers;
-class LibraryLists;
 
 // The lines of the main form that tell before a compile what it will do: of the translations, of the range of books, of
 // the output folder.
@@ -24,8 +24,8 @@ class FactLines : public QObject {
   Q_OBJECT
 
  public:
-  FactLines(AppState& state, Ui::frmMain& controls, const LibraryLists& lists, const FolderPickers& folders,
-            QObject* parent);
+  // `gather` gives what would be compiled now.
+  FactLines(AppState& state, Ui::frmMain& controls, std::function<CompileRequest()> gather, QObject* parent);
 
   // Looks at the chosen folder anew, beside the form.
   void LookAtFolder();
@@ -52,8 +52,7 @@ class FactLines : public QObject {
 
   AppState& m_state;
   Ui::frmMain& m_controls;
-  const LibraryLists& m_lists;
-  const FolderPickers& m_folders;
+  std::function<CompileRequest()> m_gather;
   FolderScan m_scan;
   QString m_folderText;
   std::string m_sampled;  // the file of m_sample, as it was then

@@ -41,8 +41,7 @@ void ImportButton::Choose(const std::string& folder, const std::string& stem) {
            "The translations of another library are listed: %2.\n"
            "List those of the imported texts instead, until Folionet is closed? Later, "
            "folionet --versalia-path with the first folder does so.");
-    const QString asked = question.arg(ToQt(folder), ToQt(inUse)).replace(QLatin1String("\n"), QLatin1String("\r\n"));
-    if (!m_state.ui.AskYesNo(FromQt(tr("Import a text")), FromQt(asked))) return;
+    if (!m_state.ui.AskYesNo(FromQt(tr("Import a text")), FromQtLines(question.arg(ToQt(folder), ToQt(inUse))))) return;
   }
   m_lists.ShowImported(folder, stem);
   m_controls.cboBibleName->setFocus();

@@ -12,7 +12,6 @@
 #include "EncodingInUse.h"
 #include "ImportedText.h"
 #include "OptionLoading.h"
-#include "OptionSaving.h"
 #include "Paths.h"
 #include "QtText.h"
 #include "RunTimeError.h"
@@ -51,28 +50,29 @@ Outcome LibraryLists::Fill() {
   glob.cboBibleName.clear();  // a start that stopped may have filled them
   glob.cboBibleFile.clear();
   LocateInstallation(m_state.store, m_state.givenFolders, glob);
-  GetLang(glob, m_state.ui);
-  m_controls.cboLang->clear();
-  for (const std::string& name : glob.cboLang) m_controls.cboLang->addItem(ToQt(name));
+  ListLanguages();
   LoadOptions(m_state.store, OptionPart::kLanguageFile, m_state.options);
   m_controls.cboLang->SetText(ToQt(m_state.options.main.cboLang));
-  if (ReadLists(1) == Outcome::kEndProgram) return Outcome::kEndProgram;
+  if (ReadLists(kAllLists) == Outcome::kEndProgram) return Outcome::kEndProgram;
   ShowTranslations();
   ShowBooks();
   TakeTranslation(0);
   return Outcome::kDone;
 }
 
+void LibraryLists::ListLanguages() {
+  GetLang(m_state.glob, m_state.ui);
+  m_controls.cboLang->clear();
+  for (const std::string& name : m_state.glob.cboLang) m_controls.cboLang->addItem(ToQt(name));
+}
+
 Outcome LibraryLists::ReadLists(int which) {
   ModGlob& glob = m_state.glob;
-  ModGlob before;  // other folders may be asked for
-  before.InstallPath = glob.InstallPath;
-  before.ModulesPath = glob.ModulesPath;
-  before.SysdefsPath = glob.SysdefsPath;
+  const ModGlob before = glob;  // other folders may be asked for
   const Outcome outcome = PopulateCombos(which, m_state.options.main.cboLang, glob, m_state.codePage, m_state.ui);
   if (outcome == Outcome::kEndProgram)
     m_unread = FindUnreadTitles(before, m_state.options.main.cboLang, m_state.codePage);
-  if (which != 0) m_listed = {glob.InstallPath, glob.ModulesPath};
+  if (which == kAllLists) m_listed = {glob.InstallPath, glob.ModulesPath};
   return outcome;
 }
 
@@ -149,7 +149,7 @@ Outcome LibraryLists::TakeImported(std::size_t place) {
   }
   m_state.options.main.cboLang = BookTitlesFile(m_state.store, glob);
   m_controls.cboLang->SetText(ToQt(m_state.options.main.cboLang));
-  if (ReadLists(0) == Outcome::kEndProgram) return Outcome::kEndProgram;
+  if (ReadLists(kBookLists) == Outcome::kEndProgram) return Outcome::kEndProgram;
   ShowBooks();
   TakeTranslation(place);
   return Outcome::kDone;
@@ -206,7 +206,7 @@ void LibraryLists::ShowNames() {
   const int end = m_controls.cboEndBook->currentIndex();
   ShowTranslations();
   // The titles of an imported translation are in the page's code page.
-  if (m_state.glob.Imported.IsThere() && ReadLists(0) == Outcome::kEndProgram) return emit EndProgram();
+  if (m_state.glob.Imported.IsThere() && ReadLists(kBookLists) == Outcome::kEndProgram) return emit EndProgram();
   ShowBooks();
   m_controls.cboBibleName->setCurrentIndex(translation);
   m_controls.cboStartBook->setCurrentIndex(start);
@@ -226,11 +226,9 @@ void LibraryLists::ShowImported(const std::string& folder, const std::string& st
   }
   glob.cboBibleName.clear();
   glob.cboBibleFile.clear();
-  GetLang(glob, m_state.ui);
-  m_controls.cboLang->clear();
-  for (const std::string& name : glob.cboLang) m_controls.cboLang->addItem(ToQt(name));
+  ListLanguages();
   m_controls.cboLang->SetText(ToQt(m_state.options.main.cboLang));
-  if (ReadLists(1) == Outcome::kEndProgram) return emit EndProgram();
+  if (ReadLists(kAllLists) == Outcome::kEndProgram) return emit EndProgram();
   ShowTranslations();
   ShowBooks();
   for (int item = 0; item < m_controls.cboBibleName->count(); ++item) {
@@ -283,12 +281,8 @@ void LibraryLists::ChooseLanguage() {
   m_controls.cboStartBook->clear();
   m_controls.cboEndBook->clear();
   m_state.options.main.cboLang = FromQt(m_controls.cboLang->Text());
-  TrySave(m_state, Procedure::kClickBookTitles,
-          [&](SettingsStore& store) { SaveOption(store, "cboLang", m_state.options); });
-  if (ReadLists(0) == Outcome::kEndProgram) {
-    emit EndProgram();
-    return;
-  }
+  TrySave(m_state, Procedure::kClickBookTitles, "cboLang");
+  if (ReadLists(kBookLists) == Outcome::kEndProgram) return emit EndProgram();
   ShowBooks();
   // The text of another library that was asked for goes with its chapter index.
   if (!IsSameLibrary() && m_controls.cboBibleName->currentIndex() >= 0) return ChooseBible();

@@ -68,7 +68,8 @@ class LibraryLists : public QObject {
   int FirstItem() const;
   void TellUnknown(const QString& text, const std::string& choice) const;
   void TellUnread(int item) const;
-  Outcome ReadLists(int which);
+  void ListLanguages();
+  Outcome ReadLists(int which);  // as PopulateCombos
   bool IsSameLibrary() const;
   bool IsThere(std::size_t place) const;
 

@@ -1,15 +1,18 @@
 #include "SiteVerifier.h"
 
+#include <QCoreApplication>
 #include <QEventLoop>
 #include <QProgressDialog>
 #include <QStringList>
 #include <QTimer>
 #include <algorithm>
 #include <atomic>
+#include <exception>
+#include <memory>
 #include <optional>
-#include <thread>
 #include <utility>
 
+#include "BackgroundWork.h"
 #include "QtText.h"
 #include "RunGuard.h"
 #include "RunTimeError.h"
@@ -55,65 +58,58 @@ QString ReportText(const SiteReport& report) {
   return lines.join("\r\n");
 }
 
-// A look through a site in a thread of its own.
-class Look {
- public:
-  explicit Look(const std::string& indexPage) {
+// A look through a site, which the form and the thread hold.
+struct Look {
+  std::atomic<std::size_t> read = 0;
+  std::atomic<std::size_t> known = 0;
+  std::atomic<bool> isStopped = false;
+  SiteReport report;
+  std::optional<RunTimeError> failure;
+
+  void Run(const std::string& indexPage) {
     const std::size_t slash = indexPage.rfind('/') + 1;
-    m_request = {indexPage.substr(0, slash), indexPage.substr(slash)};
-    m_request.words = {"Page Encoding", "Use 8.3 File Names", {}};
-    m_request.goOn = [this](std::size_t read, std::size_t known) {
-      m_read = read;
-      m_known = known;
-      return !m_isStopped;
+    SiteRequest request{indexPage.substr(0, slash), indexPage.substr(slash)};
+    request.words = {"Page Encoding", "Use 8.3 File Names", {}};
+    request.goOn = [&](std::size_t nowRead, std::size_t nowKnown) {
+      read = nowRead;
+      known = nowKnown;
+      return !isStopped;
     };
-  }
-
-  // Gives what was found when the site is read, or the reading stopped. Throws RunTimeError.
-  SiteReport Await(QWidget& form) {
-    QProgressDialog box(QObject::tr("Reading the site ..."), QObject::tr("Stop"), 0, 0, &form);
-    box.setObjectName("frmVerify");
-    box.setWindowTitle(QObject::tr("Verify site"));
-    box.setAutoClose(false);
-    box.setAutoReset(false);
-    box.setMinimumDuration(400);
-    QTimer progress;
-    QObject::connect(&progress, &QTimer::timeout, &box, [&] {
-      box.setMaximum(static_cast<int>(m_known));
-      box.setValue(static_cast<int>(std::min(m_read.load(), m_known.load())));
-    });
-    QObject::connect(&box, &QProgressDialog::canceled, &box, [&] { m_isStopped = true; });
-    progress.start(50);
-    QEventLoop loop;
-    std::thread reader([&] {
-      Read();
-      QMetaObject::invokeMethod(&loop, &QEventLoop::quit, Qt::QueuedConnection);
-    });
-    loop.exec();
-    m_isStopped = true;  // the program may end, and nothing waits for the rest
-    reader.join();
-    if (m_failure) throw RunTimeError(*m_failure);
-    return std::move(m_report);
-  }
-
- private:
-  void Read() {
     try {
-      m_report = VerifySite(m_request);
+      report = VerifySite(request);
     } catch (const RunTimeError& error) {
-      m_failure = error;
+      failure = error;
     } catch (const std::exception& error) {
-      m_failure = RunTimeError(kOutOfMemory, m_request.folder, error.what());
+      failure = RunTimeError(kOutOfMemory, request.folder, error.what());
     }
   }
-
-  SiteRequest m_request;
-  std::atomic<std::size_t> m_read = 0;
-  std::atomic<std::size_t> m_known = 0;
-  std::atomic<bool> m_isStopped = false;
-  SiteReport m_report;
-  std::optional<RunTimeError> m_failure;
 };
+
+// Gives what was found when the site is read, or the reading stopped. Throws RunTimeError.
+SiteReport AwaitLook(const std::string& indexPage, QWidget& form) {
+  const auto look = std::make_shared<Look>();
+  QProgressDialog box(QObject::tr("Reading the site ..."), QObject::tr("Stop"), 0, 0, &form);
+  box.setObjectName("frmVerify");
+  box.setWindowTitle(QObject::tr("Verify site"));
+  box.setAutoClose(false);
+  box.setAutoReset(false);
+  box.setMinimumDuration(400);
+  QTimer progress;
+  QObject::connect(&progress, &QTimer::timeout, &box, [&] {
+    box.setMaximum(static_cast<int>(look->known));
+    box.setValue(static_cast<int>(std::min(look->read.load(), look->known.load())));
+  });
+  QObject::connect(&box, &QProgressDialog::canceled, &box, [&] { look->isStopped = true; });
+  progress.start(50);
+  QEventLoop loop;
+  BackgroundWork work;
+  work.Start([look, indexPage](const auto& /*isWanted*/) { look->Run(indexPage); }, [&loop] { loop.quit(); });
+  loop.exec();
+  look->isStopped = true;  // the program may end, and nothing waits for the rest
+  while (work.IsRunning()) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+  if (look->failure) throw RunTimeError(*look->failure);
+  return std::move(look->report);
+}
 
 void OfferRemoval(const SiteReport& report, UserInterface& ui) {
   const std::vector<std::string>& stale = report.stale;
@@ -141,7 +137,7 @@ void VerifyWrittenSite(const std::string& indexPage, QWidget& form, UserInterfac
     std::optional<SiteReport> report;
     {
       const RunGuard guard(form);
-      report = Look(indexPage).Await(form);
+      report = AwaitLook(indexPage, form);
     }
     const bool isWell = report->isSound && report->isWhole;
     ui.ShowMessage({isWell ? MessageIcon::kInformation : MessageIcon::kWarning, FromQt(QObject::tr("Verify site")),

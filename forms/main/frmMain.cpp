@@ -23,6 +23,7 @@
 #include "FolderPickers.h"
 #include "FormLooks.h"
 #include "FormMemory.h"
+#include "HelpTopics.h"
 #include "HelpWindow.h"
 #include "ImportButton.h"
 #include "LibraryLists.h"
@@ -52,7 +53,8 @@ frmMain::frmMain(AppState& state, QWidget* parent)
   m_lists = new LibraryLists(state, *m_ui, this);
   m_folders = new FolderPickers(state, *m_ui, this);
   m_style = new StyleOptions(state, *m_ui, this);
-  m_facts = new FactLines(state, *m_ui, *m_lists, *m_folders, this);
+  m_facts = new FactLines(
+      state, *m_ui, [this] { return Gather(); }, this);
   m_memory = new FormMemory(state.store, this);
   m_preview = std::make_unique<PagePreview>();
   m_memory->KeepPlace(*this);
@@ -70,7 +72,7 @@ frmMain::frmMain(AppState& state, QWidget* parent)
   const auto read = [this](const QString& path) { m_importing->Open(FromQt(path)); };
   connect(this, &frmMain::TextDropped, this, read, Qt::QueuedConnection);
   const auto gather = [this] { return TellAndGoOn() ? std::optional(Gather()) : std::nullopt; };
-  new CommandCopy(state, *m_ui->cmdCompile, this, gather);
+  OfferCommandCopy(state, *m_ui->cmdCompile, gather);
   m_sites = new SiteMenu(state, *m_ui->cmdSite, *m_memory, gather);
   m_sites->saveAll = [this] { return SaveDefaults(); };
   connect(m_sites, &SiteMenu::Chosen, this, [this](const std::string& path) {
@@ -97,8 +99,7 @@ void frmMain::ConnectOptions() {
   PageOptions& options = m_state.options;
   connect(m_ui->chkUseNames, &QCheckBox::clicked, this, [this, &options](bool on) {
     options.chkUseNames = on;
-    TrySave(m_state, Procedure::kClickUseNames,
-            [&](SettingsStore& store) { SaveOption(store, "chkUseNames", m_state.options); });
+    TrySave(m_state, Procedure::kClickUseNames, "chkUseNames");
   });
   connect(m_ui->chkUse83, &QCheckBox::toggled, this, [&options](bool on) { options.chkUse83 = on; });
   connect(m_ui->chkUse83, &QCheckBox::clicked, this, [&options] { MarkChosen("Use83", options); });
@@ -129,8 +130,8 @@ void frmMain::ConnectCommands() {
   connect(m_ui->cmdCustomHeader, &QPushButton::clicked, this, [this] { Open<frmCustomHeader>(); });
   connect(m_ui->cmdCustomFooter, &QPushButton::clicked, this, [this] { Open<frmCustomizeFooter>(); });
   connect(m_ui->cmdPageEncoding, &QPushButton::clicked, this, &frmMain::OpenEncoding);
-  connect(m_ui->cmdHelp, &QPushButton::clicked, this, [this] { HelpWindow::Open(*this, nullptr); });
-  HelpWindow::OpenByKey(*this);
+  connect(m_ui->cmdHelp, &QPushButton::clicked, this, [this] { HelpWindow::Open(*this, {}); });
+  OpenHelpByKey(*this);
   // Not the buttons' own shortcuts, which setting their translated texts clears.
   for (const auto& [key, button] : {std::pair{QKeySequence(Qt::CTRL | Qt::Key_O), m_ui->cmdOpenIndex},
                                     std::pair{QKeySequence(Qt::Key_F7), m_ui->cmdPreviewPage},
@@ -158,14 +159,13 @@ void frmMain::updateCheck() {
   m_state.options.chkBack = m_ui->chkBack->isChecked();
   m_ui->cmdBackColour->setEnabled(!m_state.options.chkBack);
   if (m_state.options.chkBack) Open<frmBackground>();
-  TrySave(m_state, Procedure::kUpdateCheck,
-          [&](SettingsStore& store) { SaveOption(store, "chkBack", m_state.options); });
+  TrySave(m_state, Procedure::kUpdateCheck, "chkBack");
 }
 
 void frmMain::CSSCheck() {
   m_state.options.chkCSS = m_ui->chkCSS->isChecked();
   m_ui->cmdEffects->setEnabled(!m_state.options.chkCSS);
-  TrySave(m_state, Procedure::kCssCheck, [&](SettingsStore& store) { SaveOption(store, "chkCSS", m_state.options); });
+  TrySave(m_state, Procedure::kCssCheck, "chkCSS");
   m_style->EnableDisableOptions();
   if (!m_state.options.chkCSS) return;
   m_state.ui.ShowMessage({MessageIcon::kInformation, "CSS file to be used",

@@ -1,6 +1,5 @@
 #include "HelpWindow.h"
 
-#include <QAction>
 #include <QDialogButtonBox>
 #include <QImage>
 #include <QPushButton>
@@ -10,7 +9,6 @@
 #include <QTextCursor>
 #include <QVBoxLayout>
 #include <algorithm>
-#include <map>
 
 // Outside of every namespace, as Qt needs it for resources of a library.
 static void InitHelpResource() { Q_INIT_RESOURCE(help); }
@@ -69,34 +67,6 @@ class HelpPage : public QTextBrowser {
   }
 };
 
-// What the help tells about a control, or about the innermost thing that it is in.
-QString TopicOf(const QWidget* control) {
-  static const std::map<QString, QString> topics{{"frmBible", "bible"},         {"frmLanguage", "language"},
-                                                 {"frmOutput", "output"},       {"frmSample", "text"},
-                                                 {"frmAlignment", "alignment"}, {"frmOptions", "options"},
-                                                 {"frmDialogs", "details"},     {"frmPAgeTitles", "titles"},
-                                                 {"frmKeywords", "meta"},       {"frmEffects", "effects"},
-                                                 {"frmCustomHeader", "header"}, {"frmCustomizeFooter", "header"},
-                                                 {"frmEncoding", "encoding"},   {"frmAddnew", "encoding"},
-                                                 {"frmLinkToMAin", "link"},     {"frmBackground", "background"},
-                                                 {"cmdCompile", "compile"},     {"cmdOpenIndex", "compile"},
-                                                 {"cmdVerifySite", "compile"},  {"cmdHelp", "buttons"},
-                                                 {"cmdRestoreAll", "buttons"},  {"cmdClose", "buttons"},
-                                                 {"cmdPageTitles", "titles"},   {"cmdKeyWords", "meta"},
-                                                 {"cmdEffects", "effects"},     {"cmdCustomHeader", "header"},
-                                                 {"cmdCustomFooter", "header"}, {"cmdPageEncoding", "encoding"},
-                                                 {"cmdLinkToMain", "link"},     {"frmErr", "report"},
-                                                 {"cmdSite", "sites"},          {"frmImport", "import"},
-                                                 {"cmdImport", "import"}};
-  // The ways out of a dialog bear the names of the main form's.
-  if (control != nullptr && qobject_cast<const QDialog*>(control->window()) != nullptr) control = control->window();
-  for (; control != nullptr; control = control->parentWidget()) {
-    const auto topic = topics.find(control->objectName());
-    if (topic != topics.end()) return topic->second;
-  }
-  return {};
-}
-
 }  // namespace
 
 HelpWindow::HelpWindow(QWidget* parent) : QDialog(parent), m_page(new HelpPage(this)) {
@@ -122,16 +92,10 @@ HelpWindow::HelpWindow(QWidget* parent) : QDialog(parent), m_page(new HelpPage(t
   layout->addWidget(buttons);
 }
 
-void HelpWindow::Open(QWidget& window, const QWidget* control) {
+void HelpWindow::Open(QWidget& window, const QString& topic) {
   auto* help = window.findChild<HelpWindow*>(QString(), Qt::FindDirectChildrenOnly);
   if (help == nullptr) help = new HelpWindow(&window);
-  help->ShowTopic(TopicOf(control));
-}
-
-void HelpWindow::OpenByKey(QWidget& window) {
-  const QAction* help = window.addAction(QString(), QKeySequence(Qt::Key_F1));
-  connect(help, &QAction::triggered, &window,
-          [&window] { Open(window, window.focusWidget() != nullptr ? window.focusWidget() : &window); });
+  help->ShowTopic(topic);
 }
 
 void HelpWindow::ShowTopic(const QString& topic) {

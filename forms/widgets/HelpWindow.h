@@ -12,12 +12,8 @@ class HelpWindow : public QDialog {
   Q_OBJECT
 
  public:
-  // Opens the help of a window at what is told about the control, or about what the control is in; at the contents for
-  // one that nothing is told about.
-  static void Open(QWidget& window, const QWidget* control);
-
-  // From now on F1 in the window opens the help at what has the focus.
-  static void OpenByKey(QWidget& window);
+  // Opens the help of a window at that topic, the contents for an empty one.
+  static void Open(QWidget& window, const QString& topic);
 
  private:
   explicit HelpWindow(QWidget* parent);

@@ -156,7 +156,6 @@ bool FormUi::AskYesNo(const std::string& title, const std::string& text) {
   QMessageBox box(QMessageBox::Question, {}, {}, QMessageBox::Yes | QMessageBox::No, Owner());
   PrepareBox(box, title, text);
   box.setDefaultButton(QMessageBox::No);
-  box.setEscapeButton(QMessageBox::No);
   return box.exec() == QMessageBox::Yes;
 }
 
@@ -229,7 +228,6 @@ std::string FormUi::ChooseFile(const std::string& filter, const std::string& pre
 std::string FormUi::ChooseFileToSave(const std::string& name, const std::string& suffix, const std::string& initial) {
   QFileDialog dialog(Owner(), {}, ToQt(initial), ToQt(FileDialogFilter(name + "|*." + suffix)));
   dialog.setAcceptMode(QFileDialog::AcceptSave);
-  dialog.setFileMode(QFileDialog::AnyFile);
   dialog.setDefaultSuffix(ToQt(suffix));
   return dialog.exec() == QDialog::Accepted ? FromQt(dialog.selectedFiles().value(0)) : std::string();
 }

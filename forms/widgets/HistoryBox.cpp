@@ -10,7 +10,6 @@ namespace folionet {
 
 HistoryBox::HistoryBox(QWidget* parent) : QLineEdit(parent), m_list(addAction(QIcon(), TrailingPosition)) {
   m_list->setText(tr("Last addresses"));
-  m_list->setToolTip(m_list->text());
   connect(m_list, &QAction::triggered, this, &HistoryBox::ListAll);
   DrawButton();
 }

@@ -9,6 +9,7 @@
 #include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QPointer>
+#include <QStyle>
 #include <QTimer>
 #include <cstdio>
 
@@ -16,7 +17,7 @@
 // answers every box with its first button, cancels what asks for a text, and closes the form until it is gone. What is
 // seen goes to standard output, a line each. Before that the person takes the steps of the variable PERSON, such as
 // "cmdCustomHeader|frmCustomHeader.Text1=typed|frmCustomHeader.Command1": clicks a button, takes an action of a
-// menu, or fills a box.
+// menu, fills a box, or by "program" tells what the desktop knows of the program, its style and what has the focus.
 class Person : public QObject {
   Q_OBJECT
 
@@ -67,6 +68,13 @@ class Person : public QObject {
   }
 
   void Take(const QString& step) const {
+    if (step == QLatin1String("program")) {
+      return Tell("program:", QStringList{QApplication::applicationName(), QApplication::applicationVersion(),
+                                          QGuiApplication::desktopFileName(),
+                                          QLatin1String(QApplication::style()->metaObject()->className()),
+                                          m_form->focusWidget()->objectName()}
+                                  .join(QLatin1Char(' ')));
+    }
     const QString name = step.section(QLatin1Char('='), 0, 0);
     const QString dialog = name.section(QLatin1Char('.'), 0, -2);
     const QWidget* form = dialog.isEmpty() ? m_form.data() : m_form->findChild<QDialog*>(dialog);

@@ -61,6 +61,8 @@ TEST_F(Looks, PickersChangeTheSample) {
   EXPECT_EQ(FromQt(font.family()), "DejaVu Serif");
   EXPECT_EQ(font.pointSizeF(), 18);
   EXPECT_TRUE(font.bold());
+  Click("cmdEffects");
+  EXPECT_TRUE(Get("frmEffects.lblSampleText").font().bold());
 }
 
 // A form that is as large as it wants to be has room for all four, whatever the height of a line of the font is.
@@ -186,6 +188,17 @@ TEST_F(Looks, ButtonAndBoxesSuitThePalette) {
     EXPECT_GE(least, 4.5) << window;
     for (const char* box : {"txtFilename", "frmKeywords.txtKeyWordsOK"}) {
       EXPECT_EQ(ColourOf(box, QPalette::Base), window) << box;
+    }
+    QApplication::setActiveWindow(m_form.get());
+    Get("txthttpRoot").setFocus();
+    Get("progressCompile").show();
+    const auto seen = [&](const char* name, int x, int y) {
+      return FromQt(Get(name).grab().toImage().pixelColor(x, y));
+    };
+    EXPECT_EQ(seen("txthttpRoot", 100, 4), ColourOf("txthttpRoot", QPalette::Base)) << "with the focus";
+    for (const char* framed : {"frmOutput", "progressCompile"}) {
+      const double contrast = ContrastRatio(seen(framed, 0, Get(framed).height() / 2), kDark);
+      EXPECT_TRUE(window != kDark || (contrast > 1.6 && contrast < 3)) << framed << contrast;
     }
   }
   QApplication::setPalette(before);
@@ -339,10 +352,10 @@ TEST(Contrast, AdvisesOnColoursThatAreHardToRead) {
 }
 
 TEST(RolloverFontTest, RestylesThePagesFont) {
-  const std::pair<const char*, double> lengths[] = {{"12pt", 12},   {"10px", 7.5},  {"0.5in", 36}, {"1pc", 12},
-                                                    {"2.54cm", 72}, {"25.4mm", 72}, {"12", 0},     {"", 0},
-                                                    {"pt", 0},      {"-3pt", 0},    {"big", 0},    {"Default Size", 0}};
-  for (const auto& [text, points] : lengths) EXPECT_NEAR(PointsOf(text).value_or(0), points, 1e-9) << text;
+  const std::pair<const char*, double> lengths[] = {
+      {"12pt", 12}, {"10px", 7.5}, {"0.5in", 36}, {"1pc", 12},  {"2.54cm", 72}, {"25.4mm", 72},
+      {"12", -1},   {"", -1},      {"pt", -1},    {"-3pt", -1}, {"0pt", -1},    {"Default Size", -1}};
+  for (const auto& [text, points] : lengths) EXPECT_NEAR(PointsOf(text).value_or(-1), points, 1e-9) << text;
 
   const QFont page(QStringLiteral("Serif"), 12);
   EffectsOptions options;

@@ -186,8 +186,10 @@ TEST_F(MainForm, RemembersAddressesFoldersAndPlaces) {
     list->actions()[0]->trigger();
     list->close();
   });
+  Get("cboLang").setFocus();
   Get("txthttpRoot").actions()[0]->trigger();
   EXPECT_EQ(Shown("txthttpRoot"), "http://a/index.html") << "offered before the next start";
+  EXPECT_EQ(m_form->focusWidget(), &Get("txthttpRoot"));
   m_form->resize(1, 500);
   const QSize size = m_form->size();
   EXPECT_EQ(size.height(), 500);
@@ -222,11 +224,16 @@ TEST_F(MainForm, RemembersAddressesFoldersAndPlaces) {
   EXPECT_TRUE(sites->actions()[0]->isChecked());
   m_ui.texts = {m_home.Path() + "b.folionet"};
   m_form->findChild<QAction*>("actSaveSite")->trigger();
-  emit sites->aboutToShow();
-  EXPECT_EQ(sites->actions().size(), 6) << "two sites, a line and three commands";
-  m_ui.yesNo = {true};
-  sites->actions()[1]->trigger();
-  EXPECT_EQ(m_site, m_home.Path() + "a&b.folionet");
+  for (const char* first : {"b \u2014", "a&&b"}) {
+    ASSERT_TRUE(Start());
+    sites = Get<QPushButton>("cmdSite").menu();
+    emit sites->aboutToShow();
+    EXPECT_EQ(sites->actions().size(), 6) << "two sites, a line and three commands";
+    EXPECT_TRUE(sites->actions()[0]->text().startsWith(first));
+    m_ui.yesNo = {true};
+    sites->actions()[1]->trigger();
+  }
+  EXPECT_EQ(m_site, m_home.Path() + "b.folionet");
 }
 
 TEST_F(MainForm, ADiskThatDoesNotAnswerDoesNotHoldTheStartUp) {

@@ -112,10 +112,11 @@ class FormRuns : public FormTest {
     return lines;
   }
 
-  // One box comes of it.
-  void ClickFor(const std::string& name, const std::string& box) {
+  // These boxes come of it, and where they ask, the answer is yes.
+  void ClickFor(const std::string& name, const Lines& boxes) {
+    if (boxes[0].ends_with("?")) m_ui.yesNo.push_back(true);
     Click(name);
-    EXPECT_EQ(Lines(m_ui.log.begin() + static_cast<std::ptrdiff_t>(m_seen), m_ui.log.end()), Lines{box});
+    EXPECT_EQ(Lines(m_ui.log.begin() + static_cast<std::ptrdiff_t>(m_seen), m_ui.log.end()), boxes);
     m_seen = m_ui.log.size();
   }
 
@@ -204,11 +205,17 @@ const std::map<std::string, FormRuns::Act>& FormRuns::Actions() {
          if (t.m_controls.empty()) t.m_controls = ControlsOf(*t.m_form);
        }},
       {"click", Each([](Test& t, const std::string& n) { t.Click(n); })},
-      {"compiles", [](Test& t, const Line&) { t.ClickFor("cmdCompile", "Compilation Complete Folionet"); }},
-      {"exits",  // with everything saved
+      {"compiles", [](Test& t, const Line&) { t.ClickFor("cmdCompile", {"Compilation Complete Folionet"}); }},
+      {"exits", [](Test& t, const Line&) { t.ClickFor("cmdClose", {"Confirm Exit?"}); }},
+      {"restores",
        [](Test& t, const Line&) {
-         t.m_ui.yesNo.push_back(true);
-         t.ClickFor("cmdClose", "Confirm Exit?");
+         t.ClickFor("cmdRestoreAll", {"Restore Factory Settings?", "Restart Folionet"});
+       }},
+      {"adds",  // a language
+       [](Test& t, const Line& l) {
+         t.Give("frmAddnew.txtLangAbbr", l.name);
+         t.Give("frmAddnew.txtLangLang", l.text);
+         t.ClickFor("frmAddnew.cmdUpdLang", {"Record Added"});
        }},
       {"give", [](Test& t, const Line& l) { t.Give(l.name, l.text); }},
       {"press", [](Test& t, const Line& l) { Key(t.Get(l.name), QEvent::KeyPress, Qt::Key_Return); }},

@@ -31,34 +31,6 @@ TEST(ProgramTest, TellsThatItsResultCannotBeWritten) {
   EXPECT_EQ(run.status, 3);
 }
 
-// An installed program fills the person's own folder when it first writes a site, and not for a plan of one.
-TEST(ProgramTest, MakesItsFolderForASiteOnly) {
-  const TemporaryFolder home;
-  MakeSmallLibrary(home);
-  for (const char* name : {"default.css", "lang.txt", "enc.txt"}) home.Write(std::string("share/folionet/") + name, "");
-  std::filesystem::create_directory(home.Path() + "bin");
-  const std::string program = home.Path() + "bin/folionet-cli";
-  std::filesystem::copy_file(FOLIONET_CLI, program);
-  Command command{program,        "compile",        "--versalia-path=installation",
-                  "--output=out", "--set=chkCSS=1", "--index-address=index.html"};
-  EXPECT_EQ(RunProgram(command, home.Path()).errors, "");
-  EXPECT_TRUE(home.Has("data/Folionet/default.css"));
-  std::filesystem::remove_all(home.Path() + "data");
-  command.emplace_back("--dry-run");
-  const ProgramResult plan = RunProgram(command, home.Path());
-  EXPECT_EQ(plan.errors, "");
-  EXPECT_NE(plan.output.find("\n0 new, 0 changed, "), std::string::npos) << plan.output;
-  EXPECT_FALSE(home.Has("data"));
-  // A home that is no absolute path is none.
-  command.pop_back();
-  for (const char* environment : {"HOME=relative", "NOTHING=1"}) {
-    Command without{"/usr/bin/env", "-i", environment};
-    without.insert(without.end(), command.begin(), command.end());
-    EXPECT_EQ(RunProgram(without, home.Path()).errors, "");
-  }
-  EXPECT_FALSE(home.Has("relative") || home.Has(".local") || home.Has("data"));
-}
-
 // However fast or slow the machine is.
 TEST(ProgramTest, ATerminalSeesAStepEach40Milliseconds) {
   const TemporaryFolder home;

@@ -71,36 +71,5 @@ TEST(OtherWorlds, AFolderOfSettingsThatMayNotBeEnteredIsNamed) {
       run.errors.ends_with("\n\nSee that this file or folder is there and may be read, and run this command again.\n"));
 }
 
-TEST(OtherWorlds, AHomeThatCannotBeWrittenIsNoHindrance) {
-  const TemporaryFolder home;
-  MakeSmallLibrary(home);
-  const std::string file = home.Write("file", "in the place of a home");
-  // A program without delivered files beside it, as an installed one is.
-  fs::create_directory(home.Path() + "bin");
-  fs::copy(FOLIONET_CLI, home.Path() + "bin/folionet-cli");
-  const Command compile{"/usr/bin/env",
-                        "HOME=" + file,
-                        "XDG_CONFIG_HOME=" + file,
-                        "XDG_DATA_HOME=" + file,
-                        home.Path() + "bin/folionet-cli",
-                        "compile",
-                        "--versalia-path=installation",
-                        "--output=out",
-                        "--index-address=index.html"};
-  ExpectUsualSite(RunProgram(compile, home.Path()), home.Path());
-  const ProgramResult styled = RunProgram(With(compile, {"--set=chkCSS=1"}), home.Path());
-  EXPECT_EQ(styled.status, 3);
-  EXPECT_NE(styled.errors.find(file + "/Folionet/"), std::string::npos) << styled.errors;
-  // An installed one whose folder of the person is not made, or there for another reason and not filled.
-  for (const char* name : {"default.css", "lang.txt", "enc.txt"})
-    home.Write(std::string("share/folionet/") + name, "p");
-  EXPECT_EQ(RunProgram(With(compile, {"--set=chkCSS=1", "--dry-run"}), home.Path()).errors, styled.errors);
-  const Command inHome = With({"/usr/bin/env", "XDG_DATA_HOME="}, Command(compile.begin() + 4, compile.end()));
-  home.Write(".local/share/Folionet/library/Sysdefs/BOOKS.TXT", "");
-  const ProgramResult plan = RunProgram(With(inHome, {"--set=chkCSS=1", "--dry-run"}), home.Path());
-  EXPECT_NE(plan.output.find("new      default.css\n"), std::string::npos) << plan.errors;
-  EXPECT_FALSE(home.Has(".local/share/Folionet/default.css"));
-}
-
 }  // namespace
 }  // namespace folionet::test

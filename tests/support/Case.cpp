@@ -22,6 +22,7 @@ namespace fs = std::filesystem;
 // it is about say all. "FOLDERS" behind it are the words around it that ask for Versalia's folders; what to do
 // about a line of a text, a place of an index and a place that is taken stands in full here alone.
 std::string WithShortReports(std::string text) {
+  Replace(text, ": @/bin\n", ": @bin\n");  // of an installed program
   const std::string begin =
       "An Error has occured.\nTitle        : Folionet\nApp Path     : @bin\nSoftware Ver : " FOLIONET_VERSION
       ".\nModule       : ";
@@ -81,14 +82,16 @@ constexpr char kCorrect[] =
     "Correct these places, or install the translation anew, in Versalia or by \"folionet-cli import --replace\", and "
     "check again.\n";
 
-// As "install" makes it, without delivered files beside it.
+// As "install" makes them, without delivered files beside them.
 constexpr char kInstalled[] = "bin/folionet";
+constexpr char kInstalledCli[] = "bin/folionet-cli";
 
 fs::path ProgramOfForm() { return fs::path(FOLIONET_CLI).replace_filename("folionet"); }
 
 // What goes before the program: settings of the environment, and bounds.
 Command Prefix(const std::string& word) {
   if (word == "fed") return {"/bin/sh", "-c", "exec \"$@\" < in", "sh"};
+  if (word == "bare") return {"/usr/bin/env", "-i"};
   if (word == "limited") return {"/usr/bin/prlimit", "--fsize=4096"};
   if (word == "bounded") {
     Command command{"/usr/bin/prlimit", "--cpu=" BOUND_SECONDS};
@@ -104,6 +107,10 @@ Command CommandOf(const Command& words) {
   if (word == "site") return CompileSmall(rest);
   if (word == "compile") return CompileCommand(rest);
   if (word == "cli") return With({FOLIONET_CLI}, rest);
+  if (word == "installed") {
+    return With(
+        {kInstalledCli, "compile", "--versalia-path=installation", "--output=out", "--index-address=index.html"}, rest);
+  }
   if (word == "folionet" || word == kInstalled) {
     // With a person who answers: tests/app/Person.cpp.
     return With({"/usr/bin/env", "-u", "DISPLAY", "-u", "WAYLAND_DISPLAY", "QT_QPA_GENERIC_PLUGINS=person",
@@ -169,7 +176,8 @@ std::vector<std::string> Case::Outcome(const Lines& words) const {
     TakeLibrary(words.at(1));
   } else if (verb == "install") {
     fs::create_directory(m_home.Path() + "bin");
-    fs::copy_file(ProgramOfForm(), m_home.Path() + kInstalled);
+    fs::copy_file(FOLIONET_CLI, m_home.Path() + kInstalledCli);
+    if (fs::exists(ProgramOfForm())) fs::copy_file(ProgramOfForm(), m_home.Path() + kInstalled);
   } else if (!Arrange(m_home.Path(), words)) {
     ADD_FAILURE() << "what is \"" << verb << "\"?";
   }

@@ -84,7 +84,7 @@ std::vector<ScriptCase> ReadScript(const fs::path& path) {
 bool UsesForms(const ScriptCase& script) {
   return std::any_of(script.steps.begin(), script.steps.end(), [](const ScriptStep& step) {
     const auto has = [&](const char* text) { return step.line.find(text) != std::string::npos; };
-    return step.line.starts_with("start") || (step.line[0] == '$' && (has(" folionet") || has(" bin/folionet")));
+    return step.line.starts_with("start") || (step.line[0] == '$' && (has(" folionet") || has(" bin/folionet ")));
   });
 }
 

@@ -215,7 +215,6 @@ void SaveRun(const std::string& file, const CompileRequest& request, const Sessi
   std::error_code failed;
   const std::filesystem::path folder = std::filesystem::absolute(request.txtOutputPath, failed);
   options.main.Dir1 = failed ? request.txtOutputPath : folder.string();
-  options.main.Drive1 = FindOption("Drive1")->defaultText;
   try {
     SaveSite(file, choices, options, session.store);
   } catch (const RunTimeError& error) {

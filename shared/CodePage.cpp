@@ -138,7 +138,6 @@ class CodePage::Converter {
     std::array<char, 16> buffer{};
     UErrorCode error = U_ZERO_ERROR;
     UConverter* converter = Handle();
-    ucnv_resetFromUnicode(converter);
     const int32_t written =
         ucnv_fromUChars(converter, buffer.data(), static_cast<int32_t>(buffer.size()), units.data(), length, &error);
     // ICU passes over a character without a shape of its own that the code page lacks, as if that were a success.

@@ -108,6 +108,7 @@ TEST(Lines, AreReadOrToldWithTheirNumber) {
       {"", "0: A Bible text was expected; the file is empty."},
       {"Ge1:1 In\n\r\nhello\r\n",
        "3: Genesis 1:1: a verse such as \"GEN 1:1 In the beginning\" was expected: \"hello\""},
+      {"Ge1:1 a\nGe:2 b", "2: Genesis 1:1: a verse such as \"GEN 1:1 In the beginning\" was expected: \"Ge:2 b\""},
       {"Jude 5 a 3:4\nOBA 3-4 b\n2 John 6\nPhilemon 1:4 c\nJude 1:6 d\n",
        "31 1:3-4 b|57 1:4 c|63 1:6 |65 1:5 a 3:4|65 1:6 d|"},
       {"Jude,1,5,\"a, \"\"b\"\"\n\n#c\r\n2\"\nJude,1,6,\"d\" e\n", "65 1:5 a, \"b\" #c 2|65 1:6 \"d\" e|"},
@@ -147,6 +148,9 @@ TEST(Text, IsInTheCharsetThatTheFileTells) {
       {"Ge1:1 a\nGe1:2 \xE9",
        "2: Genesis 1:1: text in UTF-8 was expected; \"folionet-cli import --charset NAME\" reads one in another "
        "charset"},
+      {"Ge1:1 a" + std::string(70000, '\n') + "Ge1:2 \xE9",
+       "70001: Genesis 1:1: text in UTF-8 was expected; \"folionet-cli import --charset NAME\" reads one in another "
+       "charset"},
       {"\xFF\xFE" + Wide("Ge1:1 a\nGe", true) + "b",
        "2: Genesis 1:1: text in UTF-16LE was expected; \"folionet-cli import --charset NAME\" reads one in another "
        "charset"}};
@@ -159,12 +163,12 @@ TEST(Forms, GiveTheTextOfEachVerse) {
   const std::string usfx = "<usfx><book id='PSA'><c id='3'/>";
   const std::string zefania = "<XMLBIBLE><BIBLEBOOK bnumber='19'><CHAPTER cnumber='3'><VERS vnumber='1'>";
   const std::pair<std::string, std::string> cases[] = {
-      {"\\id PSA\n\\c 3\n\\d Of \\nd D\\nd*\\f + \\ft n\\f*.\n\\q1 \\v 1 a\n\\q2 b\\va 2\\va*\n\\qa "
+      {"\\id PSA\n\\c  3\n\\d Of \\nd D\\nd*\\f + \\ft n\\f*.\n\\q1 \\v 1 a\\q2 b\\va 2\\va*\n\\qa "
        "Aleph\n\\b\n\\q~c//d \\qs S\\qs*\n"
        "\\tr \\th1 e\\tc2 f\n\\p \\v 2-3 \\wj g \\+add h\\+add*\\wj* \\rb i|gloss=\"j\"\\rb*\\qt-s |sid=\"x\"\\* "
        "k\\ts-s\\*|l\n"
-       "\\s no\n\\v 4a \\zx m\\zx*\\x - \\xo 3 \\xt n\\x*\\ef - \\ft n\\ef*\\esb\n\\p no\n\\esbe\n\\p o",
-       "19 3:1 Of D. a b \u00A0c d S e f|19 3:2-3 g h i k|l|19 3:4a m o|"},
+       "\\s no\n\\v 4a \\zx m\\zx*\\x - \\xo 3 \\xt n\\x*\\ef - \\ft n\\ef*\\esb\n\\p no\n\\esbe\n\\p o/",
+       "19 3:1 Of D. a b \u00A0c d S e f|19 3:2-3 g h i k|l|19 3:4a m o/|"},
       {usx +
            "<para style='d'>Of <char style='nd'>D</char><note style='f'>n</note></para><para style='q1'><verse "
            "number='1'/>a "

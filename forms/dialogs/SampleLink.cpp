@@ -2,8 +2,8 @@
 
 #include <QMouseEvent>
 
+#include "PageFonts.h"
 #include "QtText.h"
-#include "RolloverFont.h"
 
 namespace folionet {
 

@@ -2,14 +2,14 @@
 
 #include <QFontDatabase>
 #include <QSignalBlocker>
-#include <algorithm>
 #include <tuple>
 #include <utility>
 
 #include "Effects.h"
 #include "Follow.h"
 #include "OptionLoading.h"
-#include "Swatches.h"
+#include "PageFonts.h"
+#include "SwatchLabel.h"
 #include "TrySave.h"
 #include "ui_frmEffects.h"
 
@@ -134,8 +134,8 @@ void frmEffects::ShowRecord() {
 
 void frmEffects::ShowLooks() {
   const SampleText& page = m_state.options.txtSample;
-  const auto show = [&](const Swatch& swatch, QLabel& label, QLabel& ratio) {
-    ShowSwatch(swatch, label);
+  const auto show = [&](const Swatch& swatch, SwatchLabel& label, QLabel& ratio) {
+    label.ShowSwatch(swatch);
     ratio.setText(ContrastAdvice(swatch.colour, page.BackColor));
     QStringList heard{ToQt(swatch.colour).name()};
     if (swatch.isDefault) heard << label.text();
@@ -157,10 +157,7 @@ void frmEffects::ShowSample() {
   colours.setColor(QPalette::Window, ToQt(page.BackColor));
   colours.setColor(QPalette::WindowText, ToQt(page.ForeColor));
   m_ui->fraSample->setPalette(colours);
-  QFont font(ToQt(page.FontName));
-  font.setPointSizeF(std::clamp(page.FontSize, kSmallest, kLargest));
-  font.setBold(page.FontBold);
-  font.setItalic(page.FontItalic);
+  const QFont font = PageFont(page, kSmallest, kLargest);
   m_ui->lblSampleText->setFont(font);
   m_ui->lblSampleLink->SetOptions(m_record, font);
 }

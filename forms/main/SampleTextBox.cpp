@@ -8,6 +8,7 @@
 #include <algorithm>
 
 #include "Numbers.h"
+#include "PageFonts.h"
 #include "QtText.h"
 
 namespace folionet {
@@ -63,11 +64,7 @@ SampleTextBox::SampleTextBox(QWidget* parent) : QPlainTextEdit(parent) {
 void SampleTextBox::ShowSample(const SampleText& sample) {
   constexpr double kSmallest = 1;  // points; Qt shows nothing for less
   constexpr double kLargest = 1000;
-  QFont font(ToQt(sample.FontName));
-  font.setPointSizeF(std::clamp(sample.FontSize, kSmallest, kLargest));
-  font.setBold(sample.FontBold);
-  font.setItalic(sample.FontItalic);
-  setFont(font);
+  setFont(PageFont(sample, kSmallest, kLargest));
   // A disabled box keeps the desktop's colours, so that it looks disabled.
   QPalette colours;
   for (const auto group : {QPalette::Active, QPalette::Inactive}) {

@@ -14,10 +14,10 @@
 
 #include "Contrast.h"
 #include "FormTest.h"
-#include "RolloverFont.h"
+#include "PageFonts.h"
 #include "SampleLink.h"
 #include "SampleTextBox.h"
-#include "Swatches.h"
+#include "SwatchLabel.h"
 #include "frmMain.h"
 
 namespace folionet {

@@ -8,6 +8,9 @@
 
 namespace folionet {
 
+// The font of a page's text, its size kept to what a window can show.
+QFont PageFont(const SampleText& sample, double smallest, double largest);
+
 // The points of a style sheet's length, such as "12pt", "10px" or "0.5in"; nothing for any other text.
 std::optional<double> PointsOf(std::string_view length);
 

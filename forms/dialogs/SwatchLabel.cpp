@@ -1,6 +1,5 @@
-#include "Swatches.h"
+#include "SwatchLabel.h"
 
-#include <QLabel>
 #include <QLocale>
 #include <cmath>
 
@@ -17,15 +16,23 @@ bool IsBestOnBlack(Colour colour) { return ContrastRatio(colour, kBlack) > Contr
 
 }  // namespace
 
-void ShowSwatch(const Swatch& swatch, QLabel& label) {
-  QPalette colours = label.palette();
+SwatchLabel::SwatchLabel(QWidget* parent) : QLabel(parent) {
+  constexpr int kMargin = 3;
+  setAutoFillBackground(true);
+  setFrameShape(QFrame::StyledPanel);
+  setAlignment(Qt::AlignCenter);
+  setMargin(kMargin);
+}
+
+void SwatchLabel::ShowSwatch(const Swatch& swatch) {
+  QPalette colours = palette();
   colours.setColor(QPalette::Window, ToQt(swatch.colour));
   colours.setColor(QPalette::WindowText, IsBestOnBlack(swatch.colour) ? Qt::black : Qt::white);
-  label.setPalette(colours);
+  setPalette(colours);
   constexpr int kCharacters = 12;
-  label.setMinimumWidth(kCharacters * label.fontMetrics().averageCharWidth());
-  label.setText(swatch.isDefault ? QStringLiteral("Default") : QString());
-  label.setAccessibleDescription(ToQt(swatch.colour).name());
+  setMinimumWidth(kCharacters * fontMetrics().averageCharWidth());
+  setText(swatch.isDefault ? QStringLiteral("Default") : QString());
+  setAccessibleDescription(ToQt(swatch.colour).name());
 }
 
 QString ContrastAdvice(Colour colour, Colour background) {

@@ -1,4 +1,4 @@
-#include "RolloverFont.h"
+#include "PageFonts.h"
 
 #include <algorithm>
 #include <array>
@@ -17,6 +17,14 @@ constexpr std::array kUnits{Unit{"pt", 1},  Unit{"px", 0.75},      Unit{"in", 72
                             Unit{"pc", 12}, Unit{"cm", 72 / 2.54}, Unit{"mm", 72 / 25.4}};
 
 }  // namespace
+
+QFont PageFont(const SampleText& sample, double smallest, double largest) {
+  QFont font(ToQt(sample.FontName));
+  font.setPointSizeF(std::clamp(sample.FontSize, smallest, largest));
+  font.setBold(sample.FontBold);
+  font.setItalic(sample.FontItalic);
+  return font;
+}
 
 std::optional<double> PointsOf(std::string_view length) {
   for (const auto& [name, points] : kUnits) {

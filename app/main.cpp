@@ -23,8 +23,8 @@
 #include "QtText.h"
 #include "RunTimeError.h"
 #include "SettingsStore.h"
-#include "SiteFile.h"
 #include "SiteMenu.h"
+#include "SiteSettings.h"
 #include "frmMain.h"
 
 namespace folionet {

@@ -2,8 +2,8 @@
 
 #include "CatalogueCheck.h"
 #include "CharsetCheck.h"
+#include "IndexAndVersesCheck.h"
 #include "Installation.h"
-#include "TextCheck.h"
 #include "TitlesCheck.h"
 #include "TypedCheck.h"
 
@@ -13,7 +13,8 @@ namespace {
 // In the order in which they run: the catalogue tells which translations there are.
 constexpr void (*kListChecks[])(CheckedLibrary&) = {CheckCatalogue, CheckTypedTexts, CheckTitlesCharset, CheckTitles};
 
-constexpr void (*kTranslationChecks[])(CheckedLibrary&, const TranslationFiles&) = {CheckTextCharset, CheckText};
+constexpr void (*kTranslationChecks[])(CheckedLibrary&, const TranslationFiles&) = {CheckTextCharset,
+                                                                                    CheckIndexAndVerses};
 
 }  // namespace
 

@@ -13,7 +13,7 @@
 #include "ImportCommand.h"
 #include "ListCommand.h"
 #include "ProgramFolder.h"
-#include "SiteFile.h"
+#include "SiteSettings.h"
 #include "Text.h"
 #include "Utf8.h"
 #include "VerifyCommand.h"

@@ -5,7 +5,7 @@
 #include "OptionLoading.h"
 #include "ProgramFolder.h"
 #include "Session.h"
-#include "SiteFile.h"
+#include "SiteSettings.h"
 
 namespace folionet {
 namespace {

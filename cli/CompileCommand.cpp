@@ -18,7 +18,7 @@
 #include "Replacement.h"
 #include "RunFacts.h"
 #include "RunTimeError.h"
-#include "SiteFile.h"
+#include "SiteSettings.h"
 #include "Sitemap.h"
 #include "StopSignals.h"
 #include "TellFacts.h"
@@ -39,13 +39,12 @@ std::string OutputPath(const CompileArguments& arguments, const Session& session
 }
 
 // A folder that cannot be made, as in a home that is read only, does not matter where nothing of it is needed.
-std::string ProgramFolderOf(Session& session, const CompileArguments& arguments) {
+std::string ProgramFolderOf(const Session& session, const CompileArguments& arguments) {
   try {
     return FindProgramFolder(session.chosenProgramFolder, arguments.dryRun ? Doing::kPlan : Doing::kChange);
-  } catch (const RunTimeError& error) {
-    if (!session.options.chkCSS) return ProgramFolderToRead(session.chosenProgramFolder);
-    session.ui.ShowErrorReport({Procedure::kFormLoad, error});
-    throw ExitWith(kExitFailed);
+  } catch (const RunTimeError&) {
+    if (session.options.chkCSS) throw;
+    return ProgramFolderToRead(session.chosenProgramFolder);
   }
 }
 

@@ -68,7 +68,7 @@ void PrintPlan(const CompileRequest& request, const ModGlob& glob, const SiteCha
   for (const std::string& name : changes.Kept()) PrintFiles("kept", {KeptName(name)}, ui);
   for (const std::string& name : FindOldPages(request, glob)) PrintFiles("stale", {name}, ui);
 
-  const PageNames names(glob.cboStartBook, request.options.chkUse83, CodePage(request.texts.PageCharset));
+  const PageNames names = PageNamesOf(request, glob);
   std::array<Extent, kBooks + 1> books{};
   std::size_t bytes = 0;
   for (const auto& list : {changes.New(), changes.Changed(), changes.Same()}) {

@@ -14,7 +14,7 @@
 #include "PageNames.h"
 #include "Paths.h"
 #include "RunTimeError.h"
-#include "SiteFile.h"
+#include "SiteSettings.h"
 #include "SiteVerification.h"
 #include "StalePages.h"
 #include "StopSignals.h"

@@ -44,8 +44,8 @@ class CompileRun {
         m_options(EncodePageOptions(request.options, codePage)),
         m_names(glob.cboStartBook, request.options.chkUse83, codePage),
         m_counts(glob),
-        m_titles(m_options),
-        m_inputs{m_options, m_glob, m_names, m_counts, m_linkToMain, m_indexFileName, m_titles, m_ui} {}
+        m_templates(m_options),
+        m_inputs{m_options, m_glob, m_names, m_counts, m_linkToMain, m_indexFileName, m_templates, m_ui} {}
 
   // The link back, the colours and what else is fixed for the run. Throws AlreadyReported.
   void Prepare() {
@@ -92,8 +92,8 @@ class CompileRun {
     }
   }
   void WriteIndex() {
-    m_context.PageTitle = IndexText(m_inputs, m_options.frmKeywords.txtDescriptionI);
-    m_context.PageMeta = IndexText(m_inputs, m_options.frmKeywords.txtKeywordsI);
+    m_context.PageTitle = FillIndexTemplate(m_inputs, m_options.frmKeywords.txtDescriptionI);
+    m_context.PageMeta = FillIndexTemplate(m_inputs, m_options.frmKeywords.txtKeywordsI);
     PageValues values = Values();
     // Its lines are those of the titles, which may be in another script than the text.
     const std::string title = m_codePage.Decode(m_glob.cboStartBook[static_cast<std::size_t>(m_request.cboStartBook)]);
@@ -241,8 +241,8 @@ class CompileRun {
     m_context.BookNumber = static_cast<std::int16_t>(book);
     m_context.ChapterNumber = chapter;
     m_context.BookTitle = BookName(m_inputs, book);
-    m_context.PageTitle = PageText(m_inputs, m_titles.description, m_context.BookTitle, chapterText);
-    m_context.PageMeta = PageText(m_inputs, m_titles.keywords, m_context.BookTitle, chapterText);
+    m_context.PageTitle = FillTemplate(m_inputs, m_templates.description, m_context.BookTitle, chapterText);
+    m_context.PageMeta = FillTemplate(m_inputs, m_templates.keywords, m_context.BookTitle, chapterText);
     WriteChapterHead({.bookName = m_context.BookTitle,
                       .values = Values(),
                       .bookNumber = m_context.BookNumber,
@@ -272,7 +272,7 @@ class CompileRun {
   PageNames m_names;
   VerseCounts m_counts;
   std::string m_linkToMain;
-  ChapterTitles m_titles;
+  ChapterTemplates m_templates;
   PageInputs m_inputs;
   CompileContext m_context;
   std::array<std::string, kBooks + 1> m_labels;
@@ -298,7 +298,7 @@ struct RunFailure {
 CompileOutcome Run(const CompileRequest& request, ModGlob& glob, UserInterface& ui, RunFolder& folder) {
   // They are listed where a link makes it matter.
   folder.site.SetFilesOfRun([&request, &glob, files = WrittenFiles()](const std::string& name) mutable {
-    if (files.empty()) files = FilesOfSite(request, glob, CodePage(request.texts.PageCharset));
+    if (files.empty()) files = FilesOfSite(request, glob);
     return files.contains(name);
   });
   if (request.options.chkCSS) CopyCSS(request, folder);

@@ -4,10 +4,13 @@
 #include <optional>
 #include <string>
 
+#include "CodePage.h"
+#include "PageNames.h"
 #include "PageOptions.h"
 #include "PageTexts.h"
 #include "SiteChanges.h"
 #include "TextCharset.h"
+#include "modGlob.h"
 
 namespace folionet {
 
@@ -46,6 +49,11 @@ struct CompileRequest {
 
 inline bool IsFolderChosen(const CompileRequest& request) {
   return request.txtOutputPath != CompileRequest().txtOutputPath;
+}
+
+// The names of the pages that a run writes; `glob` has the lists of books.
+inline PageNames PageNamesOf(const CompileRequest& request, const ModGlob& glob) {
+  return {glob.cboStartBook, request.options.chkUse83, CodePage(request.texts.PageCharset)};
 }
 
 }  // namespace folionet

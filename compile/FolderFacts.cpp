@@ -107,13 +107,25 @@ std::optional<FolderFacts> LookIntoFolder(const std::string& folder, const Writt
   return facts;
 }
 
-WrittenFiles FilesOfSite(const CompileRequest& request, const ModGlob& glob, const CodePage& codePage) {
-  const PageNames names(glob.cboStartBook, request.options.chkUse83, codePage);
-  WrittenFiles files{{IndexFileName(request.options.txthttpRoot), {}}};
+WrittenFiles FilesOfSite(const CompileRequest& request, const ModGlob& glob) {
+  const PageNames names = PageNamesOf(request, glob);
+  const int books = static_cast<int>(glob.cboStartBook.size());
+  WrittenFiles files;
+  files.reserve(glob.ChapterIndex.size());
+  files.try_emplace(IndexFileName(request.options.txthttpRoot));
+  if (request.cboStartBook >= 0 && request.cboStartBook < books) {
+    files.try_emplace(names.OnDisk(request.cboStartBook + 1, 1));
+  }
+  for (const ChapterEntry& entry : glob.ChapterIndex) {
+    if (entry.Book >= 1 && entry.Book <= books) files.try_emplace(names.OnDisk(entry.Book, entry.Chapter));
+  }
   const ChapterCounts chapters = CountChapters(glob);
-  for (int book = 1; book <= static_cast<int>(glob.cboStartBook.size()); ++book) {
-    ForEachChapter(glob, book, chapters[static_cast<std::size_t>(book)],
-                   [&](int chapter) { files.try_emplace(names.OnDisk(book, chapter)); });
+  std::size_t place = 0;
+  for (int book = 1; book <= books; ++book) {
+    ForEachChapter(glob, book, chapters[static_cast<std::size_t>(book)], [&](int chapter) {
+      const ChapterEntry& entry = glob.ChapterIndex[std::min(place++, glob.ChapterIndex.size() - 1)];
+      if (entry.Book != book || entry.Chapter != chapter) files.try_emplace(names.OnDisk(book, chapter));
+    });
   }
   if (request.options.chkCSS) files.insert_or_assign(kStyleSheetFile, StartOfStyleSheet(request));
   if (!request.sitemapAddress.empty()) {

@@ -5,6 +5,7 @@
 #include <map>
 #include <optional>
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 #include "CodePage.h"
@@ -16,7 +17,7 @@ namespace folionet {
 
 // The names of files that a compile writes, each with what one of ours begins with that is no page; of a page, which
 // its GENERATOR line tells, with an empty text.
-using WrittenFiles = std::map<std::string, std::string>;
+using WrittenFiles = std::unordered_map<std::string, std::string>;
 
 // What lies in an output folder before a compile, as a person wants to know it before anything is written.
 struct FolderFacts {
@@ -34,9 +35,10 @@ struct FolderFacts {
 std::optional<FolderFacts> LookIntoFolder(const std::string& folder, const WrittenFiles& written,
                                           const std::function<bool()>& isWanted);
 
-// All files that a compile of this request writes: the index page, the chapter pages by the chapter index,
-// the style sheet and the sitemap. Needs the lists and the chapters of `glob`, and the page's code page.
-WrittenFiles FilesOfSite(const CompileRequest& request, const ModGlob& glob, const CodePage& codePage);
+// All files that a compile of this request writes: the index page, the chapter pages, the style sheet and the sitemap.
+// The pages are those by the numbers of the chapter index and those by the order of its books: the one that the text
+// has may be either. Needs the lists and the chapters of `glob`.
+WrittenFiles FilesOfSite(const CompileRequest& request, const ModGlob& glob);
 
 // The translation whose pages lie in the output folder of a request, as its index page, or else the page of its start
 // book, tells it (UTF-8); empty where neither does. Takes no time to speak of.

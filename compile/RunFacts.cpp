@@ -5,7 +5,6 @@
 #include <map>
 #include <set>
 #include <string_view>
-#include <unordered_set>
 #include <utility>
 
 #include "ChapterIndex.h"
@@ -28,7 +27,7 @@ class FactFinder {
   FactFinder(const CompileRequest& request, const ModGlob& glob)
       : m_request(request),
         m_glob(glob),
-        m_names(glob.cboStartBook, request.options.chkUse83, CodePage(request.texts.PageCharset)),
+        m_names(PageNamesOf(request, glob)),
         m_chapters(CountChapters(glob)),
         m_index(IndexFileName(request.options.txthttpRoot)) {}
 
@@ -57,7 +56,7 @@ class FactFinder {
     std::set<std::string> old;
     const std::string& folder = m_request.txtOutputPath;
     if (folder.empty() || !FolderExists(folder)) return old;
-    const std::unordered_set<std::string> known = NamesOfRun();
+    const WrittenFiles known = FilesOfSite(m_request, m_glob);
     std::vector<std::string> names;
     try {
       names = FolderEntries(folder);
@@ -110,23 +109,6 @@ class FactFinder {
 
   int Books() const { return static_cast<int>(m_glob.cboStartBook.size()); }
   int ChaptersOf(int book) const { return m_chapters[static_cast<std::size_t>(book)]; }
-
-  // By the numbers of the index and by the order of its books: the one that the text has may be either.
-  std::unordered_set<std::string> NamesOfRun() const {
-    std::unordered_set<std::string> names{m_index, m_names.OnDisk(m_request.cboStartBook + 1, 1)};
-    names.reserve(m_glob.ChapterIndex.size());
-    for (const ChapterEntry& entry : m_glob.ChapterIndex) {
-      if (entry.Book >= 1 && entry.Book <= Books()) names.insert(m_names.OnDisk(entry.Book, entry.Chapter));
-    }
-    std::size_t place = 0;
-    for (int book = 1; book <= Books(); ++book) {
-      ForEachChapter(m_glob, book, ChaptersOf(book), [&](int chapter) {
-        const ChapterEntry& entry = m_glob.ChapterIndex[std::min(place++, m_glob.ChapterIndex.size() - 1)];
-        if (entry.Book != book || entry.Chapter != chapter) names.insert(m_names.OnDisk(book, chapter));
-      });
-    }
-    return names;
-  }
 
   bool ArePagesThere() const {
     const std::string& folder = m_request.txtOutputPath;
@@ -247,8 +229,7 @@ void Append(std::vector<Finding>& facts, std::vector<Finding> more) {
   std::move(more.begin(), more.end(), std::back_inserter(facts));
 }
 
-}  // namespace
-
+// Of the chosen books.
 std::vector<Finding> FindRangeFacts(const CompileRequest& request, const ModGlob& glob) {
   std::vector<Finding> facts;
   const bool isReversed = request.cboEndBook < request.cboStartBook;
@@ -286,12 +267,14 @@ std::vector<Finding> FindRangeFacts(const CompileRequest& request, const ModGlob
              Words("QObject", "%1 pages are removed, those of the books before the starting book."));
   if (!request.onlyChosen) return facts;
   int after = 0;
-  const PageNames names(glob.cboStartBook, request.options.chkUse83, CodePage(request.texts.PageCharset));
+  const PageNames names = PageNamesOf(request, glob);
   for (const int book : BooksRemovedAfter(request, names)) after += pagesOf(book);
   addRemoval(kRemovesLaterPages, after, Words("QObject", "1 page is removed, that of a book after the ending book."),
              Words("QObject", "%1 pages are removed, those of the books after the ending book."));
   return facts;
 }
+
+}  // namespace
 
 std::set<std::string> FindOldPages(const CompileRequest& request, const ModGlob& glob) {
   return FactFinder(request, glob).OldPages();

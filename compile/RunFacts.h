@@ -24,9 +24,6 @@ inline constexpr char kNoChapters[] = "no-chapters";
 inline constexpr char kRemovesPages[] = "removes-pages";
 inline constexpr char kRemovesLaterPages[] = "removes-later-pages";
 
-// Of the chosen books: for a line beside the two lists too. Needs ChapterIndex.
-std::vector<Finding> FindRangeFacts(const CompileRequest& request, const ModGlob& glob);
-
 // The pages of ours in the output folder that this run neither writes nor deletes.
 std::set<std::string> FindOldPages(const CompileRequest& request, const ModGlob& glob);
 

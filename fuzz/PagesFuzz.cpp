@@ -4,8 +4,8 @@
 
 #include "Addresses.h"
 #include "FuzzFiles.h"
+#include "PageCharset.h"
 #include "PageLinks.h"
-#include "PageText.h"
 #include "StyleLinks.h"
 #include "Utf8.h"
 

@@ -163,11 +163,11 @@ void CountBooks(const ImportedBible& bible, LibraryPlan& plan) {
 // The titles of pages, and which books have had other ones.
 BookTitleList ChooseTitles(const ImportedBible& bible, const LibraryRequest& request, LibraryPlan& plan) {
   BookTitleList given = request.titlesFile.empty() ? bible.titles : ReadTitlesFile(request.titlesFile);
-  if (!plan.replaced) return MakePageTitles(given, plan.text.language);
+  if (!plan.replaced) return CompleteTitles(given, plan.text.language);
   const auto before = ReadTitlesIfSound(plan.library.Sysdefs(plan.replaced->titles));
-  if (!before) return MakePageTitles(given, plan.text.language);
+  if (!before) return CompleteTitles(given, plan.text.language);
   if (request.titlesFile.empty()) given = KeepTitles(std::move(given), *before, plan.replaced->language);
-  BookTitleList titles = MakePageTitles(given, plan.text.language);
+  BookTitleList titles = CompleteTitles(given, plan.text.language);
   plan.renamed = RenamedBooks(bible, *before, titles);
   return titles;
 }

@@ -38,7 +38,7 @@ std::string PageName(const std::string& title) {
 
 }  // namespace
 
-BookTitleList MakePageTitles(const BookTitleList& given, std::string_view language) {
+BookTitleList CompleteTitles(const BookTitleList& given, std::string_view language) {
   const TitleLanguage& nearest = NearestLanguage(language);
   BookTitleList titles;
   std::set<std::string> names;

@@ -17,7 +17,7 @@ using BookTitleList = std::array<std::string, kBooks + 1>;  // element 0 is unus
 // The titles of the 66 books as a file of book titles has them: those that are given, the missing ones in the language
 // nearest to `language`; without the characters that no page name can hold; and each with a page name of its own, by a
 // number where two would share one.
-BookTitleList MakePageTitles(const BookTitleList& given, std::string_view language);
+BookTitleList CompleteTitles(const BookTitleList& given, std::string_view language);
 
 // The titles of a file of book titles, in UTF-8 or windows-1252. Throws RunTimeError for one that cannot be read.
 BookTitleList ReadTitlesFile(const std::string& path);

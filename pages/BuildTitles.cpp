@@ -64,7 +64,7 @@ bool IsAsciiControl(char c) { return static_cast<unsigned char>(c) < 0x20 || c =
 
 }  // namespace
 
-void PageTitles::CutAtWords(const Stage& stage) {
+void PageTemplate::CutAtWords(const Stage& stage) {
   std::string_view text = stage.text;
   m_pieces.clear();
   m_namesVerses = text.find(kVersesWord) != std::string_view::npos;
@@ -85,7 +85,7 @@ void PageTitles::CutAtWords(const Stage& stage) {
                       m_pieces.size() + static_cast<std::size_t>(stage.replacements) < kMostReplacements;
 }
 
-std::string PageTitles::Joined(std::string_view chapter, const std::string& verses) const {
+std::string PageTemplate::Joined(std::string_view chapter, const std::string& verses) const {
   std::string text;
   text.reserve(m_joinedLength);
   for (const Piece& piece : m_pieces) {
@@ -96,8 +96,8 @@ std::string PageTitles::Joined(std::string_view chapter, const std::string& vers
   return text;
 }
 
-std::optional<std::string> PageTitles::Build(std::string_view book, std::string_view chapter, const VerseCounts& counts,
-                                             UserInterface& ui) {
+std::optional<std::string> PageTemplate::Build(std::string_view book, std::string_view chapter,
+                                               const VerseCounts& counts, UserInterface& ui) {
   try {
     if (!m_withBible) {
       CheckTextLength(m_pattern.size());
@@ -155,7 +155,7 @@ std::string_view FindUnknownWord(std::string_view text) {
 
 std::optional<std::string> BuildTitles(std::string_view pattern, const TitleWords& words, const VerseCounts& counts,
                                        UserInterface& ui) {
-  return PageTitles(pattern, words.bible).Build(words.book, words.chapter, counts, ui);
+  return PageTemplate(pattern, words.bible).Build(words.book, words.chapter, counts, ui);
 }
 
 }  // namespace folionet

@@ -32,10 +32,10 @@ std::string_view FindWord(std::string_view text);
 
 // BuildTitles for the many pages of one translation: what pages, or the pages of a book, have in common is put in once.
 // (A plain number cannot bring a word with it: for chapters that are one, what is left is cut up once a book.)
-class PageTitles {
+class PageTemplate {
  public:
   // `pattern` and `bible` must outlive this.
-  PageTitles(std::string_view pattern, std::string_view bible) : m_pattern(pattern), m_bible(bible) {}
+  PageTemplate(std::string_view pattern, std::string_view bible) : m_pattern(pattern), m_bible(bible) {}
 
   // As BuildTitles with this pattern and translation.
   std::optional<std::string> Build(std::string_view book, std::string_view chapter, const VerseCounts& counts,

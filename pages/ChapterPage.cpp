@@ -34,8 +34,8 @@ void WriteChapterHead(const ChapterHead& head, const PageInputs& inputs, Compile
   PageFile& page = context.PageFile;
   page.Open(context.OutputFolder, inputs.names.OnDisk(head.bookNumber, head.chapterNumber));
 
-  const std::string title =
-      PageText(inputs, inputs.titles.title, BookName(inputs, head.bookNumber), std::to_string(head.chapterNumber));
+  const std::string title = FillTemplate(inputs, inputs.templates.title, BookName(inputs, head.bookNumber),
+                                         std::to_string(head.chapterNumber));
   PrintDocumentHead({kShortVersion, title, head.values}, options, context);
   if (!context.CustomHeader.empty()) page.Print(context.CustomHeader);
   page.Print(inputs.linkToMain);

@@ -38,7 +38,7 @@ void WriteIndexPage(const IndexPage& index, const PageInputs& inputs, const Code
   PageFile& page = context.PageFile;
   page.Open(context.OutputFolder, inputs.indexFileName);
 
-  const std::string title = IndexText(inputs, options.frmPAgeTitles.txtIndex_html);
+  const std::string title = FillIndexTemplate(inputs, options.frmPAgeTitles.txtIndex_html);
   PrintDocumentHead({kVersion, title, index.values}, options, context);
   page.Print(context.CustomHeader);  // also when empty, unlike on chapter pages
   page.Print("<p>&nbsp;</p>");

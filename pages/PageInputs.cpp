@@ -4,15 +4,16 @@
 
 namespace folionet {
 
-std::string PageText(const PageInputs& inputs, PageTitles& titles, std::string_view book, std::string_view chapter) {
-  auto text = titles.Build(book, chapter, inputs.counts, inputs.ui);
+std::string FillTemplate(const PageInputs& inputs, PageTemplate& pattern, std::string_view book,
+                         std::string_view chapter) {
+  auto text = pattern.Build(book, chapter, inputs.counts, inputs.ui);
   if (!text) throw AlreadyReported();
   return *std::move(text);
 }
 
-std::string IndexText(const PageInputs& inputs, std::string_view pattern) {
-  PageTitles titles(pattern, inputs.options.txtBibleSel);
-  return PageText(inputs, titles, "", "");
+std::string FillIndexTemplate(const PageInputs& inputs, std::string_view pattern) {
+  PageTemplate index(pattern, inputs.options.txtBibleSel);
+  return FillTemplate(inputs, index, "", "");
 }
 
 const std::string& BookName(const PageInputs& inputs, int book) {

@@ -12,15 +12,15 @@
 namespace folionet {
 
 // The templates of chapter pages, being built for one page after the other.
-struct ChapterTitles {
-  explicit ChapterTitles(const PageOptions& options)
+struct ChapterTemplates {
+  explicit ChapterTemplates(const PageOptions& options)
       : title(options.frmPAgeTitles.txtPageTitles, options.txtBibleSel),
         description(options.frmKeywords.txtDescription, options.txtBibleSel),
         keywords(options.frmKeywords.txtKeyWords, options.txtBibleSel) {}
 
-  PageTitles title;
-  PageTitles description;
-  PageTitles keywords;
+  PageTemplate title;
+  PageTemplate description;
+  PageTemplate keywords;
 };
 
 // What the page writers read beside the CompileContext; the same for all pages of a run.
@@ -31,15 +31,16 @@ struct PageInputs {
   const VerseCounts& counts;
   const std::string& linkToMain;     // of BuildLinkToMain
   const std::string& indexFileName;  // UTF-8
-  ChapterTitles& titles;
+  ChapterTemplates& templates;
   UserInterface& ui;
 };
 
 // The text of a template for a page of the run. Throws AlreadyReported where BuildTitles reported a failure.
-std::string PageText(const PageInputs& inputs, PageTitles& titles, std::string_view book, std::string_view chapter);
+std::string FillTemplate(const PageInputs& inputs, PageTemplate& pattern, std::string_view book,
+                         std::string_view chapter);
 
 // The text of a template of the index page, which has no book and no chapter.
-std::string IndexText(const PageInputs& inputs, std::string_view pattern);
+std::string FillIndexTemplate(const PageInputs& inputs, std::string_view pattern);
 
 // The title of a book, by its number from 1; throws RunTimeError (kSubscriptOutOfRange) for a book without one.
 const std::string& BookName(const PageInputs& inputs, int book);

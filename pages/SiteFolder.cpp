@@ -11,8 +11,8 @@
 #include <utility>
 
 #include "FileLock.h"
-#include "FileMaker.h"
 #include "FilePlan.h"
+#include "FileWriter.h"
 #include "GeneratorLine.h"
 #include "OpenBeneath.h"
 #include "Paths.h"
@@ -46,7 +46,7 @@ void SiteFolder::Check(int systemError, const std::string& name) const {
 void SiteFolder::Open(const std::string& path, Doing doing) {
   m_path = path;
   m_isPlan = doing == Doing::kPlan;
-  m_changes = m_isPlan ? std::unique_ptr<FileChanges>(new FilePlan) : std::make_unique<FileMaker>();
+  m_changes = m_isPlan ? std::unique_ptr<FileChanges>(new FilePlan) : std::make_unique<FileWriter>();
   m_folder = FileHandle::Open(m_path.c_str(), O_RDONLY | O_DIRECTORY);
   if (!m_folder.IsOpen() && !(m_isPlan && errno == ENOENT)) {
     throw RunTimeError::FromErrno(errno, m_path).About(Subject::kOutputFolder);

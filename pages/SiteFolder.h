@@ -125,7 +125,7 @@ class SiteFolder {
 
   std::string m_path;
   FileHandle m_folder;
-  std::unique_ptr<FileChanges> m_changes;  // a FileMaker, or a FilePlan
+  std::unique_ptr<FileChanges> m_changes;  // a FileWriter, or a FilePlan
   bool m_isOpen = false;
   bool m_isPlan = false;
   std::function<bool(const std::string& name)> m_isOfRun;

@@ -136,6 +136,15 @@ void Insert(std::vector<IniLine>& lines, IniLine line) {
 
 }  // namespace
 
+std::string IniName(std::string_view section, std::string_view key) {
+  return std::string(section).append("/").append(key);
+}
+
+std::optional<std::string> FindIni(const IniValues& values, std::string_view name) {
+  const auto found = values.find(name);
+  return found == values.end() ? std::nullopt : std::optional(found->second);
+}
+
 IniValues ParseIni(std::string_view text, const std::string& path) {
   IniValues values;
   ForEachLine(FromUtf16(text, path), [&](IniLine line) {

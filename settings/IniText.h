@@ -11,6 +11,9 @@ namespace folionet {
 // The values of an INI text by "section/key"; those before the first section have the key only.
 using IniValues = std::map<std::string, std::string, std::less<>>;
 
+std::string IniName(std::string_view section, std::string_view key);
+std::optional<std::string> FindIni(const IniValues& values, std::string_view name);
+
 // Reads an INI text whose values stand as they are, commas and backslashes included:
 //
 //   [Keys]

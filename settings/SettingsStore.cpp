@@ -72,7 +72,7 @@ std::optional<std::string> SettingsStore::Stored(std::string_view application, c
 
 void SettingsStore::SaveSetting(std::string_view application, std::string_view section, std::string_view key,
                                 std::string_view value) {
-  m_unsaved[std::string(application)].insert_or_assign(NameOf(section, key), std::string(value));
+  m_unsaved[std::string(application)].insert_or_assign(IniName(section, key), std::string(value));
   if (!m_savesTogether || application != kApplicationTitle) Sync(application);
 }
 
@@ -159,7 +159,7 @@ void SettingsStore::DeleteSettings(JointChange& change) {
 // one that a text brings.
 void SettingsStore::RestoreSite() {
   std::string edited;
-  const std::string prefix = NameOf(kSettingsSection, "");
+  const std::string prefix = IniName(kSettingsSection, "");
   WorkAbout(Subject::kSettingsFile, [&] {
     EditWholeFile(SitePath(), kLongestFile, [&](const std::string& content) {
       ReplaceWholeFile(KeptPath(SitePath()), content);
@@ -185,7 +185,7 @@ void SettingsStore::SaveText(std::string_view key, std::string_view value) {
 }
 
 void SettingsStore::RemoveText(std::string_view key) {
-  m_unsaved[std::string(kApplicationTitle)].insert_or_assign(NameOf(kSettingsSection, key), std::nullopt);
+  m_unsaved[std::string(kApplicationTitle)].insert_or_assign(IniName(kSettingsSection, key), std::nullopt);
   if (!m_savesTogether) Sync(kApplicationTitle);
 }
 

@@ -10,7 +10,7 @@
 #include "OptionTable.h"
 #include "Paths.h"
 #include "RunTimeError.h"
-#include "SiteFile.h"
+#include "SiteSettings.h"
 #include "WholeFile.h"
 
 namespace folionet {
@@ -28,7 +28,7 @@ std::string StoredSettings::FilePath(std::string_view application) const {
 }
 
 std::string StoredSettings::FileOf(std::string_view key) const {
-  const bool isOwn = !m_sitePath.empty() && !Area(m_sitePath).contains(NameOf(kSettingsSection, key)) && UserText(key);
+  const bool isOwn = !m_sitePath.empty() && !Area(m_sitePath).contains(IniName(kSettingsSection, key)) && UserText(key);
   return isOwn ? OwnPath(kApplicationTitle) : FilePath(kApplicationTitle);
 }
 
@@ -41,10 +41,7 @@ void StoredSettings::UseSite(const std::string& path) {
 }
 
 std::string StoredSettings::SiteText(std::string_view key) const {
-  if (m_sitePath.empty()) return {};
-  const IniValues& values = Area(m_sitePath);
-  const auto found = values.find(NameOf(kSiteSection, key));
-  return found == values.end() ? std::string() : found->second;
+  return m_sitePath.empty() ? std::string() : FindIni(Area(m_sitePath), IniName(kSiteSection, key)).value_or("");
 }
 
 std::string StoredSettings::UnfinishedNote() const { return m_folder + "." + kApplicationTitle + ".unfinished"; }
@@ -107,11 +104,7 @@ std::string StoredSettings::GetSetting(std::string_view application, std::string
   if (application == kApplicationTitle && section == kSettingsSection) {
     if (const auto found = m_overrides.find(key); found != m_overrides.end()) return found->second;
   }
-  return Stored(application, NameOf(section, key)).value_or(std::string(defaultText));
-}
-
-std::string StoredSettings::NameOf(std::string_view section, std::string_view key) {
-  return std::string(section).append("/").append(key);
+  return Stored(application, IniName(section, key)).value_or(std::string(defaultText));
 }
 
 const IniValues& StoredSettings::Area(const std::string& path) const {
@@ -120,19 +113,14 @@ const IniValues& StoredSettings::Area(const std::string& path) const {
 }
 
 std::optional<std::string> StoredSettings::Stored(std::string_view application, const std::string& name) const {
-  const auto find = [&](const std::string& path, const std::string& wanted) {
-    const IniValues& values = Area(path);
-    const auto found = values.find(wanted);
-    return found == values.end() ? std::nullopt : std::optional(found->second);
-  };
   const std::string path = FilePath(application);
-  if (path != m_sitePath) return find(path, name);
-  const std::string folder = NameOf(kSettingsSection, "Dir1");
+  if (path != m_sitePath) return FindIni(Area(path), name);
+  const std::string folder = IniName(kSettingsSection, "Dir1");
   // A site's folder is on the drive that it is on.
-  if (name == NameOf(kSettingsSection, "Drive1") && find(path, folder)) return std::nullopt;
-  const std::optional<std::string> value = find(path, name);
+  if (name == IniName(kSettingsSection, "Drive1") && FindIni(Area(path), folder)) return std::nullopt;
+  const std::optional<std::string> value = FindIni(Area(path), name);
   if (value) return name == folder ? FolderOfSite(*value, path) : value;
-  return find(OwnPath(application), name);
+  return FindIni(Area(OwnPath(application)), name);
 }
 
 void StoredSettings::Take(std::string_view application, IniValues values) const {
@@ -144,21 +132,17 @@ void StoredSettings::Override(std::string_view key, std::string value) {
 }
 
 std::optional<std::string> StoredSettings::UserText(std::string_view key) const {
-  const IniValues& values = Area(OwnPath(kApplicationTitle));
-  const auto found = values.find(NameOf(kSettingsSection, key));
-  return found == values.end() ? std::nullopt : std::optional(found->second);
+  return FindIni(Area(OwnPath(kApplicationTitle)), IniName(kSettingsSection, key));
 }
 
 bool StoredSettings::Has(std::string_view key) const {
-  return m_overrides.contains(key) || Stored(kApplicationTitle, NameOf(kSettingsSection, key)).has_value();
+  return m_overrides.contains(key) || Stored(kApplicationTitle, IniName(kSettingsSection, key)).has_value();
 }
 
 bool StoredSettings::NamesStoredFolder(std::string_view folder) const {
   const std::string path = FilePath(kApplicationTitle);
-  const IniValues& values = Area(path);
-  const auto stored = values.find(NameOf(kSettingsSection, "Dir1"));
-  if (stored == values.end()) return false;
-  return IsSameFolder(path == m_sitePath ? FolderOfSite(stored->second, path) : stored->second, folder);
+  const std::optional<std::string> stored = FindIni(Area(path), IniName(kSettingsSection, "Dir1"));
+  return stored && IsSameFolder(path == m_sitePath ? FolderOfSite(*stored, path) : *stored, folder);
 }
 
 std::string StoredSettings::Text(std::string_view key) const {

@@ -34,8 +34,8 @@ class StoredSettings {
   std::string GetSetting(std::string_view application, std::string_view section, std::string_view key,
                          std::string_view defaultText) const;
 
-  // Takes a site's file (SiteFile.h) for what our own keys are read from where it holds them, before the person's own
-  // settings, and for what they are saved in. Throws RunTimeError when it cannot be read.
+  // Takes a site's file (SiteSettings.h) for what our own keys are read from where it holds them, before the person's
+  // own settings, and for what they are saved in. Throws RunTimeError when it cannot be read.
   void UseSite(const std::string& path);
 
   // Its whole path; empty for none.
@@ -85,10 +85,7 @@ class StoredSettings {
   std::string Text(std::string_view key) const;
 
  protected:
-  // "section/key"
-  static std::string NameOf(std::string_view section, std::string_view key);
-
-  // The value stored under NameOf's name; nothing when there is none. The file is read once.
+  // The value stored under IniName's name; nothing when there is none. The file is read once.
   virtual std::optional<std::string> Stored(std::string_view application, const std::string& name) const;
 
   // Takes what a file holds now in the place of what was read.

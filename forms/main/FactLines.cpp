@@ -168,7 +168,7 @@ void FactLines::AskOfFolder() {
   if (glob.OutputFolder.empty()) return;
   const CompileRequest request = m_gather();
   FolderQuestion question{glob.OutputFolder, {}, {}};
-  if (HasAllBooks(glob)) question.written = FilesOfSite(request, glob, CodePage(request.texts.PageCharset));
+  if (HasAllBooks(glob)) question.written = FilesOfSite(request, glob);
   const QString typed = m_controls.txthttpRoot->text();
   question.index = IndexFileName(FromQt(typed.isEmpty() ? m_controls.txthttpRoot->Offered().value(0) : typed));
   if (!(question == m_scan.Question())) m_scan.Start(std::move(question));

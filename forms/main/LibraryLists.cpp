@@ -15,7 +15,7 @@
 #include "Paths.h"
 #include "QtText.h"
 #include "RunTimeError.h"
-#include "SiteFile.h"
+#include "SiteSettings.h"
 #include "TranslationNames.h"
 #include "TrySave.h"
 #include "Utf8.h"

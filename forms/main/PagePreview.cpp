@@ -125,7 +125,7 @@ void PagePreview::Show(CompileRequest request, const ModGlob& glob, UserInterfac
   ModGlob own = glob;  // a compile counts chapters anew
   OnlyFailures quiet(ui);
   if (cmdCompile_Click(request, own, quiet) != CompileOutcome::kDone) return;
-  const PageNames names(own.cboStartBook, request.options.chkUse83, CodePage(request.texts.PageCharset));
+  const PageNames names = PageNamesOf(request, own);
   ui.ShowPage(folder + names.OnDisk(book, 1));
 }
 

@@ -6,7 +6,7 @@
 #include "LibraryLists.h"
 #include "PageNames.h"
 #include "QtText.h"
-#include "SiteFile.h"
+#include "SiteSettings.h"
 #include "Sitemap.h"
 #include "ui_frmMain.h"
 

@@ -10,7 +10,7 @@
 #include "CompileRequest.h"
 #include "FormMemory.h"
 #include "Sentence.h"
-#include "SiteFile.h"
+#include "SiteSettings.h"
 
 class QPushButton;
 

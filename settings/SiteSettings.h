@@ -4,7 +4,6 @@
 #include <string>
 #include <string_view>
 
-#include "IniText.h"
 #include "PageOptions.h"
 #include "Sentence.h"
 
@@ -58,8 +57,5 @@ SiteChoices ChoicesOfSite(const StoredSettings& store);
 // what was in the file stands; so does what is no site's file, which is kBadFileName.
 void SaveSite(const std::string& path, const SiteChoices& choices, const PageOptions& options,
               const StoredSettings& store);
-
-// The choices as the file holds them.
-IniValues SiteValues(const SiteChoices& choices);
 
 }  // namespace folionet

@@ -1,4 +1,4 @@
-#include "PageText.h"
+#include "PageCharset.h"
 
 #include <unicode/utf8.h>
 

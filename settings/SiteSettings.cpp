@@ -1,4 +1,4 @@
-#include "SiteFile.h"
+#include "SiteSettings.h"
 
 #include <algorithm>
 #include <array>
@@ -15,10 +15,6 @@ namespace {
 
 constexpr std::array kChoices{kSiteTranslation, kSiteBooks, kSiteIndexAddress, kSiteSitemap, kSiteOnlyChosen};
 
-std::string NameOf(std::string_view section, std::string_view key) {
-  return std::string(section).append("/").append(key);
-}
-
 bool IsKnown(const std::string& name) {
   const std::size_t slash = name.find('/');
   if (slash == std::string::npos) return false;
@@ -29,7 +25,7 @@ bool IsKnown(const std::string& name) {
 }
 
 bool IsOfSections(const std::string& name) {
-  return name.starts_with(NameOf(kSiteSection, "")) || name.starts_with(NameOf(kSettingsSection, ""));
+  return name.starts_with(IniName(kSiteSection, "")) || name.starts_with(IniName(kSettingsSection, ""));
 }
 
 // "[Site] Books"; a name that stands before the first section is that alone.
@@ -40,11 +36,23 @@ std::string ShownName(const std::string& name) {
 
 // The folder as it is written in the site's file, where it is still that one.
 void KeepFolder(const IniValues& before, const std::string& path, IniValues& values) {
-  const std::string name = NameOf(kSettingsSection, "Dir1");
-  const auto written = before.find(name);
+  const std::string name = IniName(kSettingsSection, "Dir1");
+  const std::optional<std::string> written = FindIni(before, name);
   const auto wanted = values.find(name);
-  if (written == before.end() || wanted == values.end()) return;
-  if (IsSameFolder(FolderOfSite(written->second, path), wanted->second)) wanted->second = written->second;
+  if (!written || wanted == values.end()) return;
+  if (IsSameFolder(FolderOfSite(*written, path), wanted->second)) wanted->second = *written;
+}
+
+// The choices as the file holds them.
+IniValues SiteValues(const SiteChoices& choices) {
+  IniValues values;
+  for (const auto& [key, text] :
+       {std::pair{kSiteTranslation, choices.translation}, std::pair{kSiteBooks, choices.books},
+        std::pair{kSiteIndexAddress, choices.indexAddress}, std::pair{kSiteSitemap, choices.sitemap},
+        std::pair{kSiteOnlyChosen, std::string(choices.onlyChosen ? "1" : "")}}) {
+    if (!text.empty()) values.emplace(IniName(kSiteSection, key), text);
+  }
+  return values;
 }
 
 }  // namespace
@@ -66,7 +74,7 @@ std::optional<Sentence> WhyNoSite(const std::string& path) {
       return Sentence{Words("QObject", "%1 holds a setting that no site has: %2"), {path, ShownName(name)}};
     }
   }
-  const auto only = values.find(NameOf(kSiteSection, kSiteOnlyChosen));
+  const auto only = values.find(IniName(kSiteSection, kSiteOnlyChosen));
   if (only == values.end() || only->second == "0" || only->second == "1") return std::nullopt;
   return Sentence{Words("QObject", "%1: %2 must be 0 or 1: \"%3\""), {path, ShownName(only->first), only->second}};
 }
@@ -87,17 +95,6 @@ SiteChoices ChoicesOfSite(const StoredSettings& store) {
           store.SiteText(kSiteOnlyChosen) == "1", false};
 }
 
-IniValues SiteValues(const SiteChoices& choices) {
-  IniValues values;
-  for (const auto& [key, text] :
-       {std::pair{kSiteTranslation, choices.translation}, std::pair{kSiteBooks, choices.books},
-        std::pair{kSiteIndexAddress, choices.indexAddress}, std::pair{kSiteSitemap, choices.sitemap},
-        std::pair{kSiteOnlyChosen, std::string(choices.onlyChosen ? "1" : "")}}) {
-    if (!text.empty()) values.emplace(NameOf(kSiteSection, key), text);
-  }
-  return values;
-}
-
 void SaveSite(const std::string& path, const SiteChoices& choices, const PageOptions& options,
               const StoredSettings& store) {
   IniValues values = SiteValues(choices);
@@ -107,7 +104,7 @@ void SaveSite(const std::string& path, const SiteChoices& choices, const PageOpt
     const bool isLeftToText = choices.bringsEncoding && option.part == OptionPart::kEncoding && !store.Has(option.key);
     const bool isNoFolder = option.key == "Drive1" || (option.key == "Dir1" && !IsChosenFolder(text));
     if (isNoFolder || isLeftToText) continue;
-    values.emplace(NameOf(kSettingsSection, option.key), text);
+    values.emplace(IniName(kSettingsSection, option.key), text);
   }
   WorkAbout(Subject::kSettingsFile, [&] {
     EditWholeFile(path, StoredSettings::kLongestFile, [&](const std::string& content) {

@@ -1,4 +1,4 @@
-#include "TextCheck.h"
+#include "IndexAndVersesCheck.h"
 
 #include <array>
 
@@ -174,7 +174,7 @@ void Compare(const ChapterTable& index, const ChapterTable& text, const Translat
 
 }  // namespace
 
-void CheckText(CheckedLibrary& library, const TranslationFiles& files) {
+void CheckIndexAndVerses(CheckedLibrary& library, const TranslationFiles& files) {
   // One that is there and cannot be read is told by its reader.
   const bool hasIndex = IsThere(files.index);
   if (!hasIndex) {

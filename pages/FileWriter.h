@@ -9,7 +9,7 @@ namespace folionet {
 
 // Changes files so that nobody sees a part of a new one: it gets its name when it is whole, and a program that is
 // killed before leaves nothing. Where the file system knows no files without a name, it has it from the start.
-class FileMaker : public FileChanges {
+class FileWriter : public FileChanges {
  public:
   int Make(int folder, const std::string& name, std::string_view bytes, const struct stat* like) override;
   int Replace(int folder, const std::string& name, std::string_view bytes, const struct stat& old) override;

@@ -1,4 +1,4 @@
-#include "FileMaker.h"
+#include "FileWriter.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -21,7 +21,7 @@ bool Fill(const FileHandle& file, std::string_view bytes, const struct stat* lik
 
 }  // namespace
 
-FileHandle FileMaker::OpenNameless(int folder) {
+FileHandle FileWriter::OpenNameless(int folder) {
   FileHandle file;
   if (!m_makesNameless) return file;
   file = FileHandle::OpenAt(folder, ".", O_WRONLY | O_TMPFILE, kUsualMode);
@@ -30,7 +30,7 @@ FileHandle FileMaker::OpenNameless(int folder) {
   return file;
 }
 
-bool FileMaker::GiveName(const FileHandle& file, int folder, const std::string& name) {
+bool FileWriter::GiveName(const FileHandle& file, int folder, const std::string& name) {
   if (m_linksDescriptors) {
     if (linkat(file.Get(), "", folder, name.c_str(), AT_EMPTY_PATH) == 0) return true;
     if (errno != ENOENT) return false;
@@ -40,7 +40,7 @@ bool FileMaker::GiveName(const FileHandle& file, int folder, const std::string& 
   return linkat(AT_FDCWD, path.c_str(), folder, name.c_str(), AT_SYMLINK_FOLLOW) == 0;
 }
 
-int FileMaker::Make(int folder, const std::string& name, std::string_view bytes, const struct stat* like) {
+int FileWriter::Make(int folder, const std::string& name, std::string_view bytes, const struct stat* like) {
   FileHandle file = OpenNameless(folder);
   const bool isNameless = file.IsOpen();
   if (!isNameless && m_makesNameless) return errno;
@@ -60,7 +60,7 @@ int FileMaker::Make(int folder, const std::string& name, std::string_view bytes,
   return systemError;
 }
 
-int FileMaker::Replace(int folder, const std::string& name, std::string_view bytes, const struct stat& old) {
+int FileWriter::Replace(int folder, const std::string& name, std::string_view bytes, const struct stat& old) {
   unlinkat(folder, kOnItsWay, 0);
   FileHandle file = FileHandle::OpenAt(folder, kOnItsWay, O_WRONLY | O_CREAT | O_EXCL, kUsualMode);
   if (!file.IsOpen()) return errno;
@@ -70,16 +70,16 @@ int FileMaker::Replace(int folder, const std::string& name, std::string_view byt
   return systemError;
 }
 
-int FileMaker::Overwrite(const FileHandle& file, std::string_view bytes, const struct stat& old) {
+int FileWriter::Overwrite(const FileHandle& file, std::string_view bytes, const struct stat& old) {
   const bool isLonger = old.st_size > static_cast<off_t>(bytes.size());
   return WriteAll(file.Get(), bytes, 0) && (!isLonger || CutToLength(file.Get(), bytes.size())) ? 0 : errno;
 }
 
-int FileMaker::Remove(int folder, const std::string& name, const struct stat& /*old*/) {
+int FileWriter::Remove(int folder, const std::string& name, const struct stat& /*old*/) {
   return unlinkat(folder, name.c_str(), 0) == 0 ? 0 : errno;
 }
 
-int FileMaker::Rename(int folder, const std::string& name, const struct stat& /*old*/, const std::string& newName) {
+int FileWriter::Rename(int folder, const std::string& name, const struct stat& /*old*/, const std::string& newName) {
   return renameat(folder, name.c_str(), folder, newName.c_str()) == 0 ? 0 : errno;
 }
 

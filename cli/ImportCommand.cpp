@@ -134,21 +134,22 @@ ExitStatus RunImport(const CommonOptions& common, const ImportArguments& argumen
   request.fallbackName = NameOfPath(arguments.paths.front());
   request.replace = arguments.replace;
   RefuseWrongArguments(arguments, request);
+  LibraryPlan plan;
   try {
     const StoredSettings settings(StoredSettings::DefaultFolder());
     settings.FinishChange();
     request.pageLanguage = StoredLanguage(settings);
     const ImportedBible bible = ReadBible({arguments.paths, arguments.charset});
-    const LibraryPlan plan = ImportLibrary(bible, request, arguments.dryRun ? Doing::kPlan : Doing::kChange);
+    plan = ImportLibrary(bible, request, arguments.dryRun ? Doing::kPlan : Doing::kChange);
     TellFindings(plan, ui);
     if (common.json) ShowPlan(bible, plan, ui);
     ui.Sum(ResultLine(plan), Severity::kNote);
     if (arguments.dryRun) ui.Sum("Nothing was written.", Severity::kNote);
-    if (!arguments.dryRun && !common.quiet) TellHowToChoose(common, plan, ui);
-    return ui.Done();
   } catch (const RunTimeError& error) {
     return TellError(error, ui);
   }
+  if (!arguments.dryRun && !common.quiet) TellHowToChoose(common, plan, ui);
+  return ui.Done();
 }
 
 }  // namespace folionet

@@ -22,14 +22,9 @@ constexpr char kShowSettings[] = " \"folionet-cli list settings\" shows all of t
 
 Session::Session(const CommonOptions& common, ConsoleUi& console)
     : store(StoredSettings::DefaultFolder()), ui(console), chosenProgramFolder(common.programFolder) {
-  try {
-    store.FinishChange();
-    if (!common.site.empty()) store.UseSite(common.site);
-    LocateInstallation(store, common.folders, glob);
-  } catch (const RunTimeError& error) {
-    ui.ShowErrorReport({Procedure::kFormLoad, error});
-    throw ExitWith(kExitFailed);
-  }
+  store.FinishChange();
+  if (!common.site.empty()) store.UseSite(common.site);
+  LocateInstallation(store, common.folders, glob);
 }
 
 void Session::Override(const std::vector<std::string>& assignments) {
@@ -58,26 +53,16 @@ void Session::Override(const std::vector<std::string>& assignments) {
 }
 
 void Session::LoadOptions() {
-  try {
-    LoadAllOptions(store, options);
-    texts.LinkAlignment = options.main.alignment;
-  } catch (const RunTimeError& error) {
-    ui.ShowErrorReport({Procedure::kFormLoad, error});
-    throw ExitWith(kExitFailed);
-  }
+  LoadAllOptions(store, options);
+  texts.LinkAlignment = options.main.alignment;
   LoadCodePage();
 }
 
 void Session::LoadCodePage() {
-  try {
-    const PageEncoding encoding = ReadPageEncoding(store, options, glob.Imported, ui);
-    texts.PageCharset = encoding.PageCharset;
-    texts.PageLanguage = encoding.PageLanguage;
-    codePage = CodePage(encoding.PageCharset);
-  } catch (const RunTimeError& error) {
-    ui.ShowErrorReport({Procedure::kFormLoad, error});
-    throw ExitWith(kExitFailed);
-  }
+  const PageEncoding encoding = ReadPageEncoding(store, options, glob.Imported, ui);
+  texts.PageCharset = encoding.PageCharset;
+  texts.PageLanguage = encoding.PageLanguage;
+  codePage = CodePage(encoding.PageCharset);
 }
 
 void Session::LoadOwnHtml(const std::string& programFolder) {

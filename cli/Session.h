@@ -17,7 +17,8 @@
 
 namespace folionet {
 
-// One run of the command line: the records that a form would hold, read as it reads them.
+// One run of the command line: the records that a form would hold, read as it reads them. Each routine may throw
+// RunTimeError, for what cannot be read; that ends the command with a report.
 class Session {
  public:
   Session(const CommonOptions& common, ConsoleUi& ui);
@@ -26,8 +27,7 @@ class Session {
   // form or a file of book titles that is not there.
   void Override(const std::vector<std::string>& assignments);
 
-  // Reads every page option, the page's language and charset, and with them the code page. Ends the command after
-  // reporting a value that does not convert.
+  // Reads every page option, the page's language and charset, and with them the code page.
   void LoadOptions();
 
   // As LoadOptions, but the charset only.

@@ -46,13 +46,6 @@ std::string UnderscoreSpaces(std::string_view text) {
   return result;
 }
 
-std::string ChapterPageName(std::string_view bookName, int bookNumber, int chapter, bool use83,
-                            const CodePage& codePage) {
-  std::string name;
-  AddWithChapter(name, BookPart(bookName, bookNumber, use83, codePage), chapter, use83);
-  return name;
-}
-
 std::string IndexFileName(std::string_view httpRoot) {
   const std::size_t slash = httpRoot.rfind('/');
   const std::string name =

@@ -11,11 +11,6 @@ namespace folionet {
 // Every blank replaced by "_".
 std::string UnderscoreSpaces(std::string_view text);
 
-// The one naming rule of chapter pages, in the bytes of the code page: "genesis_1.html", or "01_001.htm" for an 8.3
-// name. A book's part and a chapter's part, joined.
-std::string ChapterPageName(std::string_view bookName, int bookNumber, int chapter, bool use83,
-                            const CodePage& codePage);
-
 // The file name in the address of the index page (UTF-8): what follows its last "/", as a browser asks for it: without
 // blanks around it, and with what character references and percent-encoding stand for.
 std::string IndexFileName(std::string_view httpRoot);
@@ -23,7 +18,8 @@ std::string IndexFileName(std::string_view httpRoot);
 // Whether a page may have this name (UTF-8): not empty, no folder separator, no control character, not "." or "..".
 bool IsPageName(std::string_view name);
 
-// The page names of one compile run, with what depends on the book only worked out once.
+// The page names of one compile run by the one rule, a book's part and a chapter's part joined: "genesis_1.html" in the
+// bytes of the code page, or "01_001.htm" for an 8.3 name; with what depends on the book only worked out once.
 class PageNames {
  public:
   // `titles` are those of the start-book list: the first is book 1.

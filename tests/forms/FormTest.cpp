@@ -99,6 +99,13 @@ void FormTest::Exit() {
   EXPECT_TRUE(m_hasEnded);
 }
 
+QList<QWidget*> FormTest::AllForms() const {
+  for (const char* button : {"cmdPageEncoding", "frmEncoding.cmdAddNew", "cmdImport", "cmdHelp"}) Click(button);
+  QList<QWidget*> forms{m_form.get()};
+  for (QDialog* dialog : m_form->findChildren<QDialog*>()) forms << dialog;
+  return forms;
+}
+
 QWidget& FormTest::Find(const std::string& name) const {
   const std::size_t dot = name.find('.');
   const QString formName = ToQt(name.substr(0, dot == std::string::npos ? 0 : dot));

@@ -6,6 +6,7 @@
 #include <QEvent>
 #include <QFont>
 #include <QFontDatabase>
+#include <QList>
 #include <QWidget>
 #include <filesystem>
 #include <functional>
@@ -39,6 +40,8 @@ class FormTest : public testing::Test {
   // A start of the program up to the shown form; what the run before had is dropped. False when it must end.
   bool Start();
   void Exit();  // by the button, with everything saved
+  // The form and its dialogs, also those that are made when they are opened.
+  QList<QWidget*> AllForms() const;
 
   template <typename Widget = QWidget>
   Widget& Get(const std::string& name) const {

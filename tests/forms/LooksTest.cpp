@@ -241,9 +241,7 @@ TEST_F(Looks, MarksAndFocusCanBeSeen) {
   constexpr int kMostNeeded = 80;  // a ring around the text of a mark
   const QPalette before = QApplication::palette();
   ASSERT_TRUE(Start());
-  for (const char* button : {"cmdPageEncoding", "frmEncoding.cmdAddNew", "cmdImport"}) Click(button);
-  QList<QWidget*> forms{m_form.get()};
-  for (QDialog* dialog : m_form->findChildren<QDialog*>()) forms << dialog;
+  const QList<QWidget*> forms = AllForms();
   for (const Colour window : {kLight, kDark}) {
     QApplication::setPalette(QPalette(ToQt(window)));
     for (QWidget* form : forms) {

@@ -54,36 +54,28 @@ TEST_F(MainForm, ABadSettingEndsAStartWhereItIsRead) {
   }
 }
 
-TEST_F(MainForm, ARetryThatListsTranslationsTwiceStillCompilesTheRightOne) {
+// What is entered lists the translations a second time, or, without the last separator, takes them away.
+TEST_F(MainForm, AfterARetryTheRightTranslationIsCompiledOrToldToBeGone) {
   const std::string good = m_home.Read("library/Sysdefs/BOOKS.TXT");
-  m_home.Write("library/Sysdefs/BOOKS.TXT", "1\tGen\tGenesis\r\n");
-  m_ui.texts = {m_home.Path() + "library/", m_home.Path() + "library/Modules/"};
-  m_ui.onMessage = [&] { m_home.Write("library/Sysdefs/BOOKS.TXT", good); };
-  ASSERT_TRUE(Start());
-  auto& list = Get<QComboBox>("cboBibleName");
-  ASSERT_EQ(list.count(), 4);
-  list.setCurrentIndex(3);
-  emit list.activated(3);
-  EXPECT_EQ(Shown("txtFilename"), m_home.Path() + "library/Modules/Bible/OTHER.TXT");
-}
-
-// The module folder is entered without its last separator, so that the second reading finds nothing.
-TEST_F(MainForm, ATranslationThatIsNoLongerThereIsTold) {
-  const std::string good = m_home.Read("library/Sysdefs/BOOKS.TXT");
-  m_home.Write("library/Sysdefs/BOOKS.TXT", "1\tGen\tGenesis\r\n");
-  m_ui.texts = {m_home.Path() + "library/", m_home.Path() + "library/Modules"};
-  m_ui.onMessage = [&] { m_home.Write("library/Sysdefs/BOOKS.TXT", good); };
-  ASSERT_TRUE(Start());
-  auto& list = Get<QComboBox>("cboBibleName");
-  ASSERT_EQ(list.count(), 2);
-  EXPECT_EQ(list.currentIndex(), -1);
-  const std::size_t boxes = m_ui.log.size();
-  Give("cboBibleName", "Other Bible");
-  ASSERT_EQ(m_ui.log.size(), boxes + 1);
-  EXPECT_EQ(m_ui.Boxes().back(),
-            "Translation not found: \"Other Bible\" can no longer be read. Its text would be:\r\n" + m_home.Path() +
-                "library/ModulesBible/OTHER.TXT");
-  EXPECT_EQ(list.currentIndex(), -1);
+  for (const std::string modules : {"library/Modules/", "library/Modules"}) {
+    SCOPED_TRACE(modules);
+    m_home.Write("library/Sysdefs/BOOKS.TXT", "1\tGen\tGenesis\r\n");
+    m_ui.texts = {m_home.Path() + "library/", m_home.Path() + modules};
+    m_ui.onMessage = [&] { m_home.Write("library/Sysdefs/BOOKS.TXT", good); };
+    ASSERT_TRUE(Start());
+    auto& list = Get<QComboBox>("cboBibleName");
+    const bool isThere = modules.ends_with('/');
+    ASSERT_EQ(list.count(), isThere ? 4 : 2);
+    const std::size_t boxes = m_ui.log.size();
+    list.setCurrentIndex(list.count() - 1);
+    emit list.activated(list.count() - 1);
+    EXPECT_EQ(list.currentIndex() == -1, !isThere);
+    const std::string file = m_home.Path() + modules + "Bible/OTHER.TXT";
+    EXPECT_EQ(Shown("txtFilename"), file);
+    EXPECT_EQ(m_ui.log.size(), isThere ? boxes : boxes + 1);
+    const std::string gone = "Translation not found: \"Other Bible\" can no longer be read. Its text would be:\r\n";
+    EXPECT_TRUE(isThere || m_ui.Boxes().back() == gone + file) << m_ui.Boxes().back();
+  }
 }
 
 TEST_F(MainForm, DrivesAreListedAnewWhenTheirListIsOpened) {

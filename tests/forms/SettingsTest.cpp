@@ -244,25 +244,6 @@ TEST_F(Settings, AFailureToSaveIsToldOnce) {
   EXPECT_FALSE(m_hasEnded) << "an exit that cannot save leaves the form open";
 }
 
-// After a save that went well a failure is told again; at exit it always is, and the second time a person can leave.
-TEST_F(Settings, AFailureToSaveIsToldAgain) {
-  ASSERT_TRUE(Start());
-  BlockSettings();
-  Click("chkUseNames");
-  Click("chkUseNames");
-  EXPECT_EQ(m_ui.log, Log{"76 chkUseNames_Click"});
-  Remove("config");
-  Click("chkUseNames");
-  BlockSettings();
-  Click("chkUseNames");
-  m_ui.yesNo = {true, true, false, true, true};
-  for (int i = 0; i < 3; ++i) Click("cmdClose");
-  EXPECT_EQ(m_ui.log,
-            (Log{"76 chkUseNames_Click", "76 chkUseNames_Click", "Confirm Exit?", "76 SaveDefaults", "Confirm Exit?",
-                 "76 SaveDefaults", "Settings not saved?", "Confirm Exit?", "76 SaveDefaults", "Settings not saved?"}));
-  EXPECT_TRUE(m_hasEnded);
-}
-
 // Else the exit would store again what was removed.
 TEST_F(Settings, ARestoreThatFailsBehindTheRemovalEndsTheProgramToo) {
   Store("PageTitles", "mine");

@@ -46,8 +46,7 @@ const QStringList kKeyless{"cmdRestoreAll", "cmdBrowse", "cmdHelp", "cmdClose", 
 // traits, with "=" before a text that is fixed and "~" before one that is translated.
 TEST_F(Texts, AndControlsAreThoseOfTheFile) {
   ASSERT_TRUE(Start());
-  for (const char* button : {"cmdPageEncoding", "frmEncoding.cmdAddNew", "cmdImport", "cmdHelp"}) Click(button);
-  for (QDialog* dialog : m_form->findChildren<QDialog*>()) dialog->show();
+  for (QWidget* form : AllForms()) form->show();
   const SeenControls controls = ControlsOf(*m_form);
   std::ifstream file(FORM_CONTROLS);
   std::size_t at = 0;
@@ -76,10 +75,9 @@ TEST_F(Texts, AndControlsAreThoseOfTheFile) {
 // opens the desktop's own window.
 TEST_F(Texts, NameEveryControlAndGiveItsOwnKey) {
   ASSERT_TRUE(Start());
-  for (const char* button : {"cmdPageEncoding", "frmEncoding.cmdAddNew", "cmdImport"}) Click(button);
-  QList<QWidget*> forms{m_form->centralWidget()};
-  for (QDialog* dialog : m_form->findChildren<QDialog*>()) forms << dialog;
-  EXPECT_EQ(forms.size(), 11);
+  QList<QWidget*> forms = AllForms();
+  EXPECT_EQ(forms.size(), 12);
+  forms[0] = m_form->centralWidget();
   for (const QWidget* form : forms) {
     SCOPED_TRACE(FromQt(form->objectName()));
     std::set<const QWidget*> named;
@@ -174,9 +172,7 @@ TEST_P(TextsIn, HaveTheirRoom) {
   const auto use = [](int points) { QApplication::setFont(QFont(QString::fromLatin1(GetParam()), points)); };
   use(9);
   ASSERT_TRUE(Start());
-  for (const char* button : {"cmdPageEncoding", "frmEncoding.cmdAddNew", "cmdImport", "cmdHelp"}) Click(button);
-  QList<QWidget*> forms{m_form.get()};
-  for (QDialog* dialog : m_form->findChildren<QDialog*>()) forms << dialog;
+  const QList<QWidget*> forms = AllForms();
   for (const int points : {9, 11, 13}) {  // the desktop's grows while the forms are open
     use(points);
     for (QWidget* form : forms) {

@@ -13,31 +13,6 @@ ModGlob GenesisOnly() {
   return glob;
 }
 
-TEST(BuildTitlesTest, ReplacesEveryWordInTheirOrder) {
-  const struct {
-    const char* pattern;
-    TitleWords words;
-    const char* text;
-  } cases[] = {
-      {"FREE Online %bible%. %bk% Chapter %ch%:%vs%.",
-       {"KJV", "Genesis", "1"},
-       "FREE Online KJV. Genesis Chapter 1:1-31."},
-      {"%bible%%bible% %BK% %", {"KJV", "Genesis", "1"}, "KJVKJV %BK% %"},
-      {"", {"KJV", "Genesis", "1"}, ""},
-      {"%vs%", {"KJV", "Exodus", "1"}, "1-"},
-      {"%bible%", {"%bk% %ch%", "Genesis", "1"}, "Genesis 1"},  // a later word sees earlier values
-      {"%ch%", {"KJV", "Genesis", "%bible%"}, "%bible%"},       // an earlier word does not see later ones
-      {"%b%bk%", {"KJV", "k%", "1"}, "k%"},                     // and what it brings half of
-      {"%b%bk%k%", {"KJV", "", "1"}, ""},                       // what a value joins is a word too
-      {"%%bible%bible%", {"bible", "", ""}, "%biblebible%"},
-      {"%%ch%ch%%vs%vs%%v%ch%s%", {"", "Genesis", "1"}, "%1ch%1-31vs%%v1s%"},  // a number joins nothing
-  };
-  const VerseCounts counts(GenesisOnly());
-  test::ScriptedUi ui;
-  for (const auto& c : cases) EXPECT_EQ(BuildTitles(c.pattern, c.words, counts, ui), c.text) << c.pattern;
-  EXPECT_TRUE(ui.said.empty());
-}
-
 TEST(BuildTitlesTest, EndsAReplacementThatFeedsItself) {
   const std::string large(600000, 'x');
   const struct {

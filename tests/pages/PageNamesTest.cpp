@@ -5,29 +5,6 @@
 namespace folionet {
 namespace {
 
-TEST(PageNamesTest, FormsBothKindsOfNames) {
-  const struct {
-    const char* book;
-    int number;
-    int chapter;
-    const char* longName;
-    const char* shortName;
-  } cases[] = {
-      {"Genesis", 1, 1, "genesis_1.html", "01_001.htm"},
-      {"Psalms", 19, 119, "psalms_119.html", "19_119.htm"},
-      {"1 Samuel", 9, 3, "1_samuel_3.html", "09_003.htm"},
-      {"Song  of Solomon", 22, 8, "song__of_solomon_8.html", "22_008.htm"},
-      {"\xC9xodo", 2, 1000, "\xE9xodo_1000.html", "02_1000.htm"},
-      {"I. Mose", 1, 0, "i._mose_0.html", "01_000.htm"},
-      {"Jude", 65, -1, "jude_-1.html", "65_-001.htm"},
-  };
-  const CodePage codePage;
-  for (const auto& c : cases) {
-    EXPECT_EQ(ChapterPageName(c.book, c.number, c.chapter, false, codePage), c.longName);
-    EXPECT_EQ(ChapterPageName(c.book, c.number, c.chapter, true, codePage), c.shortName);
-  }
-}
-
 // A browser asks for the letters that the references in a link stand for.
 TEST(PageNamesTest, ReferencesNameTheirLettersOnDisk) {
   const struct {

@@ -87,25 +87,5 @@ TEST(CodePageTest, DecodesAndKeepsWhatDoesNotDecode) {
   }
 }
 
-TEST(CodePageTest, MapsCaseCharacterByCharacter) {
-  const struct {
-    const char* charset;
-    std::string bytes;
-    std::string lower;
-    std::string upper;
-  } cases[] = {
-      {"windows-1252", "\xC9xodo 1", "\xE9xodo 1", "\xC9XODO 1"},
-      {"windows-1252", "\xFF\xDF\xB5", "\xFF\xDF\xB5", "\x9F\xDF\xB5"},  // ß has no single capital; µ's is not there
-      {"iso-8859-7", "\xC1\xE1", "\xE1\xE1", "\xC1\xC1"},
-      {"utf-8", "Ii İı", "ii iı", "II İI"},  // in no language's manner
-      {"utf-8", "\xC3(", "\xC3(", "\xC3("},
-      {"shift_jis", "\x83\x61 b", "\x83\x61 b", "\x83\x61 B"},  // a trail byte that looks like a letter
-  };
-  for (const auto& c : cases) {
-    EXPECT_EQ(CodePage(c.charset).ToLower(c.bytes), c.lower) << c.charset << " " << c.bytes;
-    EXPECT_EQ(CodePage(c.charset).ToUpper(c.bytes), c.upper) << c.charset << " " << c.bytes;
-  }
-}
-
 }  // namespace
 }  // namespace folionet

@@ -19,28 +19,6 @@
 namespace folionet {
 namespace {
 
-TEST(PathsTest, FindsNamesInAnyLetterCaseAndTheExactOneFirst) {
-  const test::TemporaryFolder folder;
-  folder.Write("SysDefs/TRANSLATIONS.TXT", "");
-  folder.Write("Bible/kjv.txt", "");
-  folder.Write("Bible/KJV.TXT", "");
-  folder.Write("Bible/ÉX.txt", "");
-  const struct {
-    const char* name;
-    const char* found;
-  } cases[] = {
-      {"Sysdefs/Translations.txt", "SysDefs/TRANSLATIONS.TXT"},
-      {"Sysdefs\\Translations.txt", "SysDefs/TRANSLATIONS.TXT"},
-      {"Bible/KJV.TXT", "Bible/KJV.TXT"},
-      {"Bible/kjv.txt", "Bible/kjv.txt"},
-      {"bible/Éx.TXT", "Bible/ÉX.txt"},
-      {"Bible/none.txt", "Bible/none.txt"},
-      {"None/none.txt", "None/none.txt"},
-      {"Sysdefs/", "SysDefs/"},
-  };
-  for (const auto& c : cases) EXPECT_EQ(LocateIgnoringCase(folder.Path(), c.name), folder.Path() + c.found) << c.name;
-}
-
 TEST(PathsTest, SeparatorsOfEitherKindAreTaken) {
   EXPECT_EQ(WithSeparator("/a"), "/a/");
   EXPECT_EQ(WithSeparator("/a/"), "/a/");

@@ -1,11 +1,7 @@
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <array>
-
 #include "ChapterIndex.h"
 #include "ScriptedUi.h"
-#include "TemporaryFolder.h"
 
 // What runs of the command line do not reach; those are in tests/runs.
 
@@ -13,31 +9,6 @@ namespace folionet {
 namespace {
 
 using test::ScriptedUi;
-
-// The counts go by the order in which books appear, and nothing is left of the counts before.
-TEST(BooksInChaptersTest, CountsByOrderOfAppearance) {
-  const struct {
-    std::vector<int> books;              // of the chapters in the index
-    std::array<std::int16_t, 4> counts;  // of books 1 to 4
-  } cases[] = {{{1, 1, 2, 2, 2, 3}, {2, 3, 1, 0}},
-               {{1, 2, 1}, {1, 1, 1, 0}},
-               {{40, 40}, {2, 0, 0, 0}},
-               {{0}, {1, 0, 0, 0}},
-               {{}, {0, 0, 0, 0}}};
-  for (const auto& c : cases) {
-    const test::TemporaryFolder folder;
-    std::string records;
-    for (const int book : c.books) records += "1,0," + std::to_string(book) + ",1,9,9,\"Gen\"\r\n";
-    folder.Write("Index/STEM.TXT.INDEX", records);
-    ModGlob glob;
-    glob.InstallPath = folder.Path();
-    glob.BibleFiles = {"STEM"};
-    glob.ChaptersInBook.fill(77);
-    ScriptedUi ui;
-    EXPECT_EQ(BooksInChapters(glob, 0, CodePage(), ui), Outcome::kDone);
-    EXPECT_TRUE(std::equal(c.counts.begin(), c.counts.end(), glob.ChaptersInBook.begin() + 1)) << records;
-  }
-}
 
 TEST(GetVSCntTest, FindsByTitleAndLeadingNumber) {
   ModGlob glob;

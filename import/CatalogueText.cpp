@@ -10,14 +10,9 @@
 #include "WholeFile.h"
 
 namespace folionet {
-CatalogueText::CatalogueText(const std::string& path) : m_path(path) {
-  const auto content = ReadIfThere(path);
-  if (!content) return;
-  m_content = *content;
-  RecordReader records(path, Subject::kCatalogue);
-  while (true) {
-    std::optional<CatalogueRecord> record = ReadCatalogueRecord(records);
-    if (!record) return;
+CatalogueText::CatalogueText(const std::string& path) : m_path(path), m_content(ReadIfThere(path).value_or("")) {
+  RecordReader records(path, m_content, Subject::kCatalogue);
+  while (std::optional<CatalogueRecord> record = ReadCatalogueRecord(records)) {
     m_records.push_back(*std::move(record));
     m_ends.push_back(std::min(records.Lines().NextStart(), m_content.size()));
   }

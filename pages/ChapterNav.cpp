@@ -4,6 +4,16 @@
 #include "RunTimeError.h"
 
 namespace folionet {
+namespace {
+
+// Throws RunTimeError (kOutOfMemory) when a text that is put together for a page gets longer than a page may be.
+void CheckLength(const std::string& text, const char* what) {
+  if (text.size() <= PageFile::kLongest) return;
+  throw RunTimeError(kOutOfMemory, what, "They are longer than " + std::to_string(PageFile::kLongest) + " bytes.")
+      .About(Subject::kPage);
+}
+
+}  // namespace
 
 int ChaptersOf(const PageInputs& inputs, int book) {
   if (book < 0 || book > kBooks) {
@@ -17,12 +27,6 @@ void AddChapterLink(std::string& text, const PageInputs& inputs, int book, int c
   text += "[<a href=\"";
   inputs.names.AddInLink(text, book, chapter);
   text.append("\">").append(std::to_string(chapter)).append("</a>] ");
-}
-
-void CheckLength(const std::string& text, const char* what) {
-  if (text.size() <= PageFile::kLongest) return;
-  throw RunTimeError(kOutOfMemory, what, "They are longer than " + std::to_string(PageFile::kLongest) + " bytes.")
-      .About(Subject::kPage);
 }
 
 std::string BuildChapterNav(const PageInputs& inputs, const CompileContext& context, int book) {

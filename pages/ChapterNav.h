@@ -13,9 +13,6 @@ int ChaptersOf(const PageInputs& inputs, int book);
 // Adds one link to a chapter's page, with the blank behind it: [<a href="genesis_1.html">1</a>]
 void AddChapterLink(std::string& text, const PageInputs& inputs, int book, int chapter);
 
-// Throws RunTimeError (kOutOfMemory) when a text that is put together for a page gets longer than a page may be.
-void CheckLength(const std::string& text, const char* what);
-
 // The block of links to every chapter of a book. Without a style sheet its end closes the font and the paragraph that
 // the page's heading opened.
 std::string BuildChapterNav(const PageInputs& inputs, const CompileContext& context, int book);

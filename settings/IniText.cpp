@@ -181,8 +181,6 @@ std::string EditIni(std::string_view text, const IniChanges& changes, const std:
   return edited;
 }
 
-std::string BuildIni(const IniValues& values) { return EditIni({}, {values.begin(), values.end()}); }
-
 IniChanges ChangesBetween(const IniValues& from, const IniValues& to) {
   IniChanges changes;
   for (const auto& [name, value] : from) {

@@ -35,9 +35,6 @@ using IniChanges = std::map<std::string, std::optional<std::string>, std::less<>
 // ParseIni.
 std::string EditIni(std::string_view text, const IniChanges& changes, const std::string& path = {});
 
-// The text of these values alone, section by section.
-std::string BuildIni(const IniValues& values);
-
 // The changes that lead from some values to others.
 IniChanges ChangesBetween(const IniValues& from, const IniValues& to);
 

@@ -37,13 +37,7 @@ LineReader::LineReader(const std::string& path, Subject subject, std::size_t lon
   // One byte more than the file has shows its end in the first fill.
   m_buffer.resize(std::min(kChunk, static_cast<std::size_t>(status.st_size) + 1));
   Fill();
-  const std::string_view head(m_buffer.data(), m_end);
-  if (LooksUtf16(head)) {
-    throw RunTimeError(kTypeMismatch, path, "It is UTF-16, which editors call Unicode. Save it as UTF-8.")
-        .About(subject);
-  }
-  if (head.starts_with(kByteOrderMark)) m_begin = kByteOrderMark.size();
-  FindLineEnd();
+  Begin();
 }
 
 LineReader::LineReader(std::string path, std::string text, Subject subject, std::size_t longest)
@@ -55,6 +49,16 @@ LineReader::LineReader(std::string path, std::string text, Subject subject, std:
       m_bytesRead(m_end),
       m_atEnd(true) {
   CutEnd();
+  Begin();
+}
+
+void LineReader::Begin() {
+  const std::string_view head(m_buffer.data(), m_end);
+  if (LooksUtf16(head)) {
+    throw RunTimeError(kTypeMismatch, m_path, "It is UTF-16, which editors call Unicode. Save it as UTF-8.")
+        .About(m_subject);
+  }
+  if (head.starts_with(kByteOrderMark)) m_begin = kByteOrderMark.size();
   FindLineEnd();
 }
 

@@ -69,6 +69,7 @@ class LineReader {
     if (m_lineEnd == '\r' && line.starts_with('\n')) line.remove_prefix(1);
   }
 
+  void Begin();
   void Fill();
   void CutEnd();
   void FindLineEnd();

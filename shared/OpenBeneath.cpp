@@ -40,8 +40,7 @@ void PutBefore(std::deque<std::string>& parts, std::string_view path) {
   parts.insert(parts.begin(), first.begin(), first.end());
 }
 
-}  // namespace
-
+// As OpenBeneath, step by step, where the kernel has no call for it.
 FileHandle WalkBeneath(int folder, const std::string& path, int flags) {
   std::deque<std::string> parts;
   PutBefore(parts, path);
@@ -71,6 +70,8 @@ FileHandle WalkBeneath(int folder, const std::string& path, int flags) {
   }
   return FileHandle::OpenAt(way.empty() ? folder : way.back().Get(), ".", flags);
 }
+
+}  // namespace
 
 FileHandle OpenBeneath(int folder, const std::string& path, int flags) {
   constexpr int kTries = 100;  // the kernel gives up where something is moved meanwhile

@@ -10,7 +10,4 @@ namespace folionet {
 // Nothing that another program moves or swaps meanwhile can lead out. Not open, with errno set, when that fails.
 FileHandle OpenBeneath(int folder, const std::string& path, int flags);
 
-// The same, step by step, where the kernel has no call for it.
-FileHandle WalkBeneath(int folder, const std::string& path, int flags);
-
 }  // namespace folionet

@@ -27,6 +27,11 @@ std::size_t EndOfName(const std::string& path, std::size_t name, std::size_t at)
   return std::max(end, at);
 }
 
+// Whether the path ends in a separator of either kind.
+bool EndsInSeparator(std::string_view path) {
+  return path.ends_with('/') || (path.ends_with('\\') && !IsThere(std::string(path)));
+}
+
 }  // namespace
 
 std::string NativePath(std::string_view path) {
@@ -43,10 +48,6 @@ std::string NativePath(std::string_view path) {
     }
   }
   return native;
-}
-
-bool EndsInSeparator(std::string_view path) {
-  return path.ends_with('/') || (path.ends_with('\\') && !IsThere(std::string(path)));
 }
 
 std::string WithSeparator(std::string_view path) {

@@ -16,9 +16,6 @@ inline constexpr char kFolderSeparator = '/';
 // The path with the platform's separators: a "\" is one, unless a file or folder is there with it in its name.
 std::string NativePath(std::string_view path);
 
-// Whether the path ends in a separator of either kind.
-bool EndsInSeparator(std::string_view path);
-
 // The path with a separator at its end; one that is there already is not doubled.
 std::string WithSeparator(std::string_view path);
 

@@ -16,13 +16,13 @@ constexpr NamedBooks kParts[] = {{"OT", {0, 38}},       {"NT", {39, 65}},     {"
                                  {"History", {5, 16}},  {"Poetry", {17, 21}}, {"Prophets", {22, 38}},
                                  {"Gospels", {39, 42}}, {"Letters", {44, 64}}};
 
-// The place of the one text that is `wanted`, exactly or else in any letter case.
-template <typename Texts>
-std::optional<int> FindText(const Texts& texts, std::size_t first, const CodePage& codePage, std::string_view wanted) {
+// The place of the one of so many texts that is `wanted`, exactly or else in any letter case.
+template <typename TextAt>
+std::optional<std::size_t> FindText(std::size_t count, const TextAt& textAt, std::string_view wanted) {
   for (const bool ignoringCase : {false, true}) {
-    for (std::size_t i = first; i < texts.size(); ++i) {
-      const std::string text = codePage.Decode(texts[i]);
-      if (text == wanted || (ignoringCase && EqualIgnoringCase(text, wanted))) return static_cast<int>(i - first);
+    for (std::size_t i = 0; i < count; ++i) {
+      const std::string text = textAt(i);
+      if (text == wanted || (ignoringCase && EqualIgnoringCase(text, wanted))) return i;
     }
   }
   return std::nullopt;
@@ -35,8 +35,11 @@ std::optional<int> ChooseBook(const ModGlob& glob, const CodePage& codePage, std
   if (wanted.empty()) return std::nullopt;
   const IntegerReading number = ReadInteger(wanted, 1, kBooks);
   if (number.error == 0) return static_cast<int>(number.value) - 1;
-  if (const auto place = FindText(glob.cboStartBook, 0, codePage, wanted)) return place;
-  return FindText(glob.BookCodes, 1, codePage, wanted);
+  const auto title = [&](std::size_t i) { return codePage.Decode(glob.cboStartBook[i]); };
+  const auto code = [&](std::size_t i) { return codePage.Decode(glob.BookCodes[i + 1]); };
+  auto place = FindText(glob.cboStartBook.size(), title, wanted);
+  if (!place) place = FindText(kBooks, code, wanted);
+  return place ? std::optional(static_cast<int>(*place)) : std::nullopt;
 }
 
 std::optional<BookRange> ChooseBooks(const ModGlob& glob, const CodePage& codePage, std::string_view text) {
@@ -55,18 +58,13 @@ std::optional<BookRange> ChooseBooks(const ModGlob& glob, const CodePage& codePa
 
 std::optional<std::size_t> FindTranslation(const ModGlob& glob, const CodePage& codePage, std::string_view nameOrStem) {
   const std::size_t count = glob.cboBibleName.size();
-  enum class Kind { kName, kStem, kStemOfDefault };  // the last as pages of the default charset have shown it
-  for (const Kind kind : {Kind::kName, Kind::kStem, Kind::kStemOfDefault}) {
-    for (const bool ignoringCase : {false, true}) {
-      for (std::size_t i = 0; i < count; ++i) {
-        const std::string text = kind == Kind::kName
-                                     ? ShownName(glob, i, codePage)
-                                     : ShownStem(glob.BibleFiles[i], kind == Kind::kStem ? codePage : CodePage());
-        if (text == nameOrStem || (ignoringCase && EqualIgnoringCase(text, nameOrStem))) return i;
-      }
-    }
-  }
-  return std::nullopt;
+  const auto name = [&](std::size_t i) { return ShownName(glob, i, codePage); };
+  const auto stem = [&](std::size_t i) { return ShownStem(glob.BibleFiles[i], codePage); };
+  // As pages of the default charset have shown it.
+  const auto plainStem = [&](std::size_t i) { return ShownStem(glob.BibleFiles[i], CodePage()); };
+  auto place = FindText(count, name, nameOrStem);
+  if (!place) place = FindText(count, stem, nameOrStem);
+  return place ? place : FindText(count, plainStem, nameOrStem);
 }
 
 std::vector<std::string> BookParts() {

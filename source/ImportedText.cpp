@@ -30,10 +30,7 @@ std::optional<ImportedText> ReadImportedText(const std::string& verseFile) {
   ImportedText text;
   std::string_view rest = *content;
   if (rest.starts_with(kByteOrderMark)) rest.remove_prefix(kByteOrderMark.size());
-  while (!rest.empty()) {
-    const std::size_t end = rest.find('\n');
-    std::string_view line = rest.substr(0, end);
-    rest = end == std::string_view::npos ? std::string_view() : rest.substr(end + 1);
+  for (std::string_view line : SplitAt(rest, "\n")) {
     if (line.ends_with('\r')) line.remove_suffix(1);
     const std::size_t equals = line.find('=');
     for (const auto& [key, field] : kFields) {

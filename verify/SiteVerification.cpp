@@ -20,6 +20,7 @@
 #include "SiteFindings.h"
 #include "SiteHandle.h"
 #include "StyleLinks.h"
+#include "Text.h"
 #include "Utf8.h"
 
 namespace folionet {
@@ -42,9 +43,7 @@ std::optional<std::string> PathInFolder(std::string_view target) {
   if (target.starts_with('/')) return std::nullopt;
   std::vector<std::string_view> parts;
   bool isFolder = false;
-  for (std::size_t start = 0; start <= target.size();) {
-    const std::size_t end = std::min(target.find('/', start), target.size());
-    const std::string_view part = target.substr(start, end - start);
+  for (const std::string_view part : SplitAt(target, "/")) {
     isFolder = part.empty() || part == "." || part == "..";
     if (part == "..") {
       if (parts.empty()) return std::nullopt;
@@ -52,7 +51,6 @@ std::optional<std::string> PathInFolder(std::string_view target) {
     } else if (!isFolder) {
       parts.push_back(part);
     }
-    start = end + 1;
   }
   std::string path;
   for (const std::string_view part : parts) path.append(path.empty() ? "" : "/").append(part);

@@ -21,9 +21,6 @@ class frmAddnew : public QDialog {
   explicit frmAddnew(AppState& state, QWidget* parent = nullptr);
   ~frmAddnew() override;
 
-  // There is nothing to load; for likeness with the other dialogs.
-  void LoadForm() {}
-
   // Leaves everything in the dialog as it is.
   void reject() override;
 

@@ -21,6 +21,20 @@ constexpr qsizetype kMostSites = 20;
 
 qsizetype Most(const char* kind) { return kind == std::string_view(FormMemory::kSites) ? kMostSites : kMostRecent; }
 
+// Makes a window no larger than the screen has room for, and moves it there.
+void FitToScreen(QWidget& window) {
+  if ((window.windowState() & (Qt::WindowMaximized | Qt::WindowFullScreen)) != 0) return;
+  const int title = window.style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, &window);
+  constexpr int kFrame = 4;
+  const QRect room = window.screen()->availableGeometry().adjusted(kFrame, title + kFrame, -kFrame, -kFrame);
+  const QSize wanted = window.testAttribute(Qt::WA_Resized) ? window.size() : window.sizeHint();
+  if (wanted.boundedTo(room.size()) != window.size()) window.resize(wanted.boundedTo(room.size()));
+  if (!window.testAttribute(Qt::WA_Moved)) return;
+  const QPoint place(std::clamp(window.x(), room.left(), std::max(room.left(), room.right() - window.width())),
+                     std::clamp(window.y(), room.top(), std::max(room.top(), room.bottom() - window.height())));
+  if (place != window.pos()) window.move(place);
+}
+
 }  // namespace
 
 QStringList FormMemory::Recent(const char* kind) const {
@@ -90,19 +104,6 @@ void FormMemory::Place(QWidget& window) {
     window.resize(wanted.boundedTo(owner->size()));  // at first no larger than the form that it belongs to
   }
   FitToScreen(window);
-}
-
-void FitToScreen(QWidget& window) {
-  if ((window.windowState() & (Qt::WindowMaximized | Qt::WindowFullScreen)) != 0) return;
-  const int title = window.style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, &window);
-  constexpr int kFrame = 4;
-  const QRect room = window.screen()->availableGeometry().adjusted(kFrame, title + kFrame, -kFrame, -kFrame);
-  const QSize wanted = window.testAttribute(Qt::WA_Resized) ? window.size() : window.sizeHint();
-  if (wanted.boundedTo(room.size()) != window.size()) window.resize(wanted.boundedTo(room.size()));
-  if (!window.testAttribute(Qt::WA_Moved)) return;
-  const QPoint place(std::clamp(window.x(), room.left(), std::max(room.left(), room.right() - window.width())),
-                     std::clamp(window.y(), room.top(), std::max(room.top(), room.bottom() - window.height())));
-  if (place != window.pos()) window.move(place);
 }
 
 }  // namespace folionet

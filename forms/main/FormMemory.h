@@ -47,7 +47,4 @@ class FormMemory : public QObject {
   std::map<QString, QString> m_changed;  // since the last saving, by key
 };
 
-// Makes a window no larger than the screen has room for, and moves it there.
-void FitToScreen(QWidget& window);
-
 }  // namespace folionet

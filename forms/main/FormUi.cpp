@@ -125,9 +125,9 @@ QString PictureStart(const QString& previous) {
   return QFileInfo(pictures).isDir() ? pictures : QDir::homePath();
 }
 
-}  // namespace
-
-std::string FileDialogFilter(const std::string& filter) {
+// The filters of an open-file dialog from "description|pattern|description|pattern". Blanks around a pattern do not
+// count.
+QString FileDialogFilter(const std::string& filter) {
   const QStringList parts = ToQt(filter).split(QLatin1Char('|'));
   QStringList filters;
   for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
@@ -135,8 +135,10 @@ std::string FileDialogFilter(const std::string& filter) {
     // Qt takes what stands in the last brackets as the patterns.
     filters << parts[i].trimmed() + QStringLiteral(" (") + pattern + QStringLiteral(")");
   }
-  return FromQt(filters.join(QStringLiteral(";;")));
+  return filters.join(QStringLiteral(";;"));
 }
+
+}  // namespace
 
 FormUi::FormUi() : m_libraryBoxes(*this) {}
 FormUi::~FormUi() = default;
@@ -221,12 +223,12 @@ std::optional<SampleText> FormUi::ChooseFont(const SampleText& initial) {
 
 std::string FormUi::ChooseFile(const std::string& filter, const std::string& previous) {
   const QString chosen =
-      QFileDialog::getOpenFileName(Owner(), {}, PictureStart(ToQt(previous)), ToQt(FileDialogFilter(filter)));
+      QFileDialog::getOpenFileName(Owner(), {}, PictureStart(ToQt(previous)), FileDialogFilter(filter));
   return chosen.isEmpty() ? previous : FromQt(chosen);
 }
 
 std::string FormUi::ChooseFileToSave(const std::string& name, const std::string& suffix, const std::string& initial) {
-  QFileDialog dialog(Owner(), {}, ToQt(initial), ToQt(FileDialogFilter(name + "|*." + suffix)));
+  QFileDialog dialog(Owner(), {}, ToQt(initial), FileDialogFilter(name + "|*." + suffix));
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   dialog.setDefaultSuffix(ToQt(suffix));
   return dialog.exec() == QDialog::Accepted ? FromQt(dialog.selectedFiles().value(0)) : std::string();

@@ -45,8 +45,4 @@ class FormUi : public UserInterface {
   std::unique_ptr<frmErr> m_errorReport;  // made on first use
 };
 
-// The filters of an open-file dialog from "description|pattern|description|pattern". Blanks around a pattern do not
-// count.
-std::string FileDialogFilter(const std::string& filter);
-
 }  // namespace folionet

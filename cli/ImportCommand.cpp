@@ -1,6 +1,8 @@
 #include "ImportCommand.h"
 
+#include <algorithm>
 #include <filesystem>
+#include <iterator>
 #include <string_view>
 #include <system_error>
 
@@ -94,17 +96,13 @@ void ShowPlan(const ImportedBible& bible, const LibraryPlan& plan, ConsoleUi& ui
   const auto show = [&ui](const char* kind, int book, const std::string& text) {
     ui.Show({.kind = kind, .severity = Severity::kNote, .place = {book, 0, {}}, .what = {"%1", {text}}});
   };
-  for (std::size_t i = 0; i < bible.VerseCount();) {
-    const int book = bible.VerseAt(i).book;
-    std::size_t verses = 0;
-    std::size_t chapters = 0;
-    for (int last = -1; i < bible.VerseCount() && bible.VerseAt(i).book == book; ++i, ++verses) {
-      const int chapter = bible.VerseAt(i).chapter;
-      if (chapter != last) ++chapters;
-      last = chapter;
-    }
-    show("book", book,
-         std::string(BookAt(book).title) + ": " + Counted(chapters, "chapter") + ", " + Counted(verses, "verse"));
+  const auto chapters = bible.Chapters();
+  for (auto first = chapters.begin(); first != chapters.end();) {
+    const auto end = std::find_if(first, chapters.end(), [&](const auto& other) { return other.book != first->book; });
+    show("book", first->book,
+         std::string(BookAt(first->book).title) + ": " + Counted(static_cast<std::size_t>(end - first), "chapter") +
+             ", " + Counted(std::prev(end)->end - first->first, "verse"));
+    first = end;
   }
   show("import", 0, ResultLine(plan));
 }

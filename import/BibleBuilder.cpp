@@ -294,35 +294,29 @@ void BibleBuilder::FindMissing() {
     name("missing-book", Words("Import", "Not in the text: %1"),
          first == last ? title(first) : title(first) + " to " + title(last));
   };
-  for (std::size_t i = 0; i < m_bible.VerseCount(); ++i) {
-    const ImportedBible::Verse verse = m_bible.VerseAt(i);
-    if (verse.book != lastBook) {
-      nameBooks(lastBook + 1, verse.book - 1);
-      lastBook = verse.book;
+  for (const auto& [book, chapter, begin, behind] : m_bible.Chapters()) {
+    if (book != lastBook) {
+      nameBooks(lastBook + 1, book - 1);
+      lastBook = book;
       lastChapter = 0;
     }
-    if (verse.chapter > lastChapter + 1) {
+    if (chapter > lastChapter + 1) {
       const int first = lastChapter + 1;
-      const std::string end = verse.chapter - 1 == first ? "" : " to " + std::to_string(verse.chapter - 1);
+      const std::string end = chapter - 1 == first ? "" : " to " + std::to_string(chapter - 1);
       name("missing-chapter", Words("Import", "Not in the text: %1"),
            title(lastBook) + " " + std::to_string(first) + end);
     }
-    lastChapter = verse.chapter;
+    lastChapter = chapter;
   }
   nameBooks(lastBook + 1, kBooks);
 }
 
 void BibleBuilder::CheckCounts() const {
-  constexpr int kMostVerses = 255;  // more do not go into a chapter index
-  int count = 0;
-  ImportedBible::Verse last;
-  for (std::size_t i = 0; i < m_bible.VerseCount(); ++i) {
-    const ImportedBible::Verse verse = m_bible.VerseAt(i);
-    count = verse.book == last.book && verse.chapter == last.chapter ? count + 1 : 1;
-    last = verse;
-    if (count <= kMostVerses) continue;
+  constexpr std::size_t kMostVerses = 255;  // more do not go into a chapter index
+  for (const auto& [book, chapter, first, end] : m_bible.Chapters()) {
+    if (end - first <= kMostVerses) continue;
     throw ImportError(kOverflow, m_file, {Words("Import", "at most 255 verses in a chapter were expected")}, 0,
-                      std::string(BookAt(verse.book).title) + " " + std::to_string(verse.chapter) + ": ");
+                      std::string(BookAt(book).title) + " " + std::to_string(chapter) + ": ");
   }
 }
 

@@ -56,8 +56,8 @@ Sentence WhichNamesLack(const ImportedBible& bible, const LibraryRequest& reques
   if (language.substr(0, language.find('-')) == "en" || &NearestLanguage("en") != &NearestLanguage(language)) return {};
   bool areSomeThere = false;
   bool areSomeMissing = false;
-  for (std::size_t i = 0; i < bible.VerseCount(); ++i) {
-    const bool isMissing = bible.titles[static_cast<std::size_t>(bible.VerseAt(i).book)].empty();
+  for (const ImportedBible::Chapter& chapter : bible.Chapters()) {
+    const bool isMissing = bible.titles[static_cast<std::size_t>(chapter.book)].empty();
     (isMissing ? areSomeMissing : areSomeThere) = true;
   }
   if (!areSomeMissing) return {};

@@ -21,6 +21,17 @@ ImportedBible::Verse ImportedBible::VerseAt(std::size_t i) const {
           block.substr(place.start + place.fieldLength, place.textLength)};
 }
 
+std::vector<ImportedBible::Chapter> ImportedBible::Chapters() const {
+  std::vector<Chapter> chapters;
+  for (std::size_t i = 0; i < m_places.size(); ++i) {
+    const Place& place = m_places[i];
+    const bool isSame = i > 0 && chapters.back().book == place.book && chapters.back().chapter == place.chapter;
+    if (!isSame) chapters.push_back({place.book, place.chapter, i});
+    chapters.back().end = i + 1;
+  }
+  return chapters;
+}
+
 void ImportedBible::Add(const Verse& verse) {
   const std::size_t length = verse.field.size() + verse.text.size();
   m_length += length;

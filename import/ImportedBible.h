@@ -37,6 +37,15 @@ class ImportedBible {
   std::size_t VerseCount() const { return m_places.size(); }
   Verse VerseAt(std::size_t i) const;
 
+  // The chapters of the sorted text: the places of the first verse of each and of the one behind its last.
+  struct Chapter {
+    int book = 0;
+    int chapter = 0;
+    std::size_t first = 0;
+    std::size_t end = 0;
+  };
+  std::vector<Chapter> Chapters() const;
+
   // Adds a verse behind the others. Throws RunTimeError (kOutOfMemory) for a text beyond all measure.
   void Add(const Verse& verse);
 

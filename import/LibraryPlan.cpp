@@ -150,14 +150,13 @@ void ChooseLanguage(const ImportedBible& bible, const LibraryRequest& request, L
 }
 
 void CountBooks(const ImportedBible& bible, LibraryPlan& plan) {
-  plan.verses = bible.VerseCount();
-  ImportedBible::Verse last;
-  for (std::size_t i = 0; i < plan.verses; ++i) {
-    const ImportedBible::Verse verse = bible.VerseAt(i);
-    if (verse.book != last.book) ++plan.books;
-    if (verse.book != last.book || verse.chapter != last.chapter) ++plan.chapters;
-    last = verse;
+  int last = 0;
+  for (const ImportedBible::Chapter& chapter : bible.Chapters()) {
+    if (chapter.book != last) ++plan.books;
+    ++plan.chapters;
+    last = chapter.book;
   }
+  plan.verses = bible.VerseCount();
 }
 
 // The titles of pages, and which books have had other ones.

@@ -87,8 +87,8 @@ std::vector<std::pair<std::string, std::string>> RenamedBooks(const ImportedBibl
                                                               const BookTitleList& titles) {
   std::vector<std::pair<std::string, std::string>> renamed;
   std::size_t last = 0;
-  for (std::size_t i = 0; i < bible.VerseCount(); ++i) {
-    const auto book = static_cast<std::size_t>(bible.VerseAt(i).book);
+  for (const ImportedBible::Chapter& chapter : bible.Chapters()) {
+    const auto book = static_cast<std::size_t>(chapter.book);
     if (book != last && titles[book] != before[book]) renamed.emplace_back(before[book], titles[book]);
     last = book;
   }

@@ -21,14 +21,11 @@ std::string WriteVerses(const ImportedBible& bible, const LibraryPlan& plan,
   std::string lines;  // of a chapter, in UTF-8
   std::size_t offset = 0;
   int chapters = 0;
-  for (std::size_t i = 0; i < bible.VerseCount();) {
-    const auto [book, chapter, firstField, firstText] = bible.VerseAt(i);
-    const std::size_t first = i;
+  for (const auto& [book, chapter, first, end] : bible.Chapters()) {
     lines.clear();
     const std::string place = "\t" + std::to_string(book) + "\t" + std::to_string(chapter) + "\t";
-    for (; i < bible.VerseCount(); ++i) {
+    for (std::size_t i = first; i < end; ++i) {
       const ImportedBible::Verse verse = bible.VerseAt(i);
-      if (verse.book != book || verse.chapter != chapter) break;
       lines.append(std::to_string(i + 1)).append(place).append(verse.field).append("\t");
       lines.append(verse.text).append("\r\n");
     }
@@ -36,7 +33,7 @@ std::string WriteVerses(const ImportedBible& bible, const LibraryPlan& plan,
     take(lines);
     index.append(std::to_string(++chapters)).append(",").append(std::to_string(offset)).append(",");
     index.append(std::to_string(book)).append(",").append(std::to_string(chapter)).append(",");
-    index.append(std::to_string(i - first)).append(",").append(std::to_string(lines.size()));
+    index.append(std::to_string(end - first)).append(",").append(std::to_string(lines.size()));
     index.append(",\"").append(BookLabel(book)).append("\"\r\n");
     offset += lines.size();
   }

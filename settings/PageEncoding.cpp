@@ -33,29 +33,23 @@ std::string CodeOfText(const ImportedText& text, const StoredSettings& store, st
 
 PageEncoding ReadPageEncoding(const StoredSettings& store, PageOptions& options, const ImportedText& imported,
                               UserInterface& ui) {
-  PageEncoding encoding;
   std::optional<RunTimeError> failure;
   try {
     LoadOptions(store, OptionPart::kEncoding, options);
   } catch (const RunTimeError& error) {
     failure = error;
   }
-  const auto show = [&](std::string_view key, const std::string& entry, std::string& code) {
+  const auto show = [&](std::string_view key, const std::string& entry, int panel, const char* caption) {
     if (!options.maySave.test(PlaceOf(*FindOption(key)))) throw RunTimeError(*failure);
-    code = EncodingCode(entry, key);
+    const std::string stored = EncodingCode(entry, key);
+    const std::string ofText = CodeOfText(imported, store, key);
+    const std::string code = ofText.empty() ? stored : ofText;
+    ui.SetPanel(panel, caption + code);
+    return code;
   };
-  show("Charset", options.frmEncoding.cboCharset, encoding.PageCharset);
-  ui.SetPanel(3, "Charset: " + encoding.PageCharset);
-  show("Lang", options.frmEncoding.cboLang, encoding.PageLanguage);
-  ui.SetPanel(2, "Language: " + encoding.PageLanguage);
-  if (const std::string code = CodeOfText(imported, store, "Charset"); !code.empty()) {
-    encoding.PageCharset = code;
-    ui.SetPanel(3, "Charset: " + code);
-  }
-  if (const std::string code = CodeOfText(imported, store, "Lang"); !code.empty()) {
-    encoding.PageLanguage = code;
-    ui.SetPanel(2, "Language: " + code);
-  }
+  PageEncoding encoding;
+  encoding.PageCharset = show("Charset", options.frmEncoding.cboCharset, 3, "Charset: ");
+  encoding.PageLanguage = show("Lang", options.frmEncoding.cboLang, 2, "Language: ");
   return encoding;
 }
 

@@ -5,6 +5,7 @@
 #include <utility>
 #include <vector>
 
+#include "CharsetFindings.h"
 #include "ImportedText.h"
 #include "Installation.h"
 #include "Paths.h"
@@ -15,35 +16,19 @@
 namespace folionet {
 namespace {
 
-// `isUtf8`, `isNotUtf8` and `isOther` tell what is in another charset than the pages.
-struct MismatchWords {
-  const char* isUtf8;
-  const char* isNotUtf8;
-  const char* isOther;
-};
-constexpr MismatchWords kOfFile{"The file is in UTF-8, and the pages are in %1.",
-                                "The file is not in UTF-8, and the pages are.",
-                                "The file is not in %1, the charset of the pages."};
-constexpr MismatchWords kOfName{"The name is in UTF-8, and the pages are in %1.",
-                                "The name is not in UTF-8, and the pages are.",
-                                "The name is not in %1, the charset of the pages."};
+constexpr char kGiveCharset[] = "Give the charset that it is in: --set \"%1\".";
+constexpr CharsetWords kOfFile{"other-charset", "The file is in UTF-8, and the pages are in %1.",
+                               "The file is not in UTF-8, and the pages are.",
+                               "The file is not in %1, the charset of the pages.", kGiveCharset};
+constexpr CharsetWords kOfName{"other-charset", "The name is in UTF-8, and the pages are in %1.",
+                               "The name is not in UTF-8, and the pages are.",
+                               "The name is not in %1, the charset of the pages.", kGiveCharset};
 
 // Nothing where the sample fits the pages.
 std::optional<Finding> FindOtherCharset(const CheckedLibrary& library, const TextSample& sample,
-                                        const MismatchWords& words) {
+                                        const CharsetWords& words) {
   const auto mismatch = FindMismatch(sample, library.codePage, library.typed.texts.PageLanguage);
-  if (!mismatch) return std::nullopt;
-  Finding finding{.kind = "other-charset"};
-  const std::string& charset = library.codePage.Name();
-  if (mismatch->kind == TextKind::kUtf8) {
-    finding.what = {words.isUtf8, {charset}};
-  } else if (charset == "utf-8") {
-    finding.what = {words.isNotUtf8};
-  } else {
-    finding.what = {words.isOther, {charset}};
-  }
-  finding.remedy = CharsetRemedy("Give the charset that it is in: --set \"%1\".", mismatch->charsetEntry);
-  return finding;
+  return mismatch ? std::optional(OtherCharset(words, *mismatch, library.codePage)) : std::nullopt;
 }
 
 void CheckCharset(CheckedLibrary& library, const std::string& path, const TextSample& sample) {

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "CharsetFindings.h"
 #include "ImportedText.h"
 #include "Installation.h"
 #include "Paths.h"

@@ -5,57 +5,35 @@
 #include <string_view>
 #include <utility>
 
+#include "CharsetFindings.h"
 #include "CodePage.h"
 #include "ImportedText.h"
 #include "TextCharset.h"
-#include "TypedFindings.h"
 
 namespace folionet {
 namespace {
 
-// The words of a text whose charset is not that of the pages.
-struct MismatchWords {
-  const char* kind;
-  const char* isUtf8;
-  const char* isNotUtf8;
-  const char* isOther;
-  const char* remedy;
-};
-
-constexpr MismatchWords kOfText{
+constexpr CharsetWords kOfText{
     .kind = "text-charset",
     .isUtf8 = Words("QObject", "The text of the translation is UTF-8, the pages %1."),
     .isNotUtf8 = Words("QObject", "The text of the translation is not UTF-8, the pages are."),
     .isOther = Words("QObject", "The text of the translation is not in %1, the charset of the pages."),
     .remedy = "Give the charset that it is in: --set \"%1\".",
 };
-constexpr MismatchWords kOfTitles{
+constexpr CharsetWords kOfTitles{
     .kind = "titles-charset",
     .isUtf8 = Words("QObject", "The book titles are UTF-8, the pages %1."),
     .isNotUtf8 = Words("QObject", "The book titles are not UTF-8, the pages are."),
     .isOther = Words("QObject", "The book titles are not in %1, the charset of the pages."),
     .remedy = "Give the charset that they are in: --set \"%1\".",
 };
-constexpr MismatchWords kOfName{
+constexpr CharsetWords kOfName{
     .kind = "name-charset",
     .isUtf8 = Words("QObject", "The name of the translation is UTF-8, the pages %1."),
     .isNotUtf8 = Words("QObject", "The name of the translation is not UTF-8, the pages are."),
     .isOther = Words("QObject", "The name of the translation is not in %1, the charset of the pages."),
     .remedy = "Give the charset that it is in: --set \"%1\".",
 };
-
-Finding Mismatch(const MismatchWords& words, const CharsetMismatch& mismatch, const CodePage& codePage) {
-  Finding fact{.kind = words.kind, .severity = Severity::kWarning};
-  if (mismatch.kind == TextKind::kUtf8) {
-    fact.what = {words.isUtf8, {codePage.Name()}};
-  } else if (codePage.Name() == "utf-8") {
-    fact.what = {words.isNotUtf8, {}};
-  } else {
-    fact.what = {words.isOther, {codePage.Name()}};
-  }
-  fact.remedy = CharsetRemedy(words.remedy, mismatch.charsetEntry);
-  return fact;
-}
 
 // As FindMismatch, of what becomes names of pages or stands in each of them: a damaged byte counts too.
 std::optional<CharsetMismatch> FindAnyMismatch(const std::string& text, const CodePage& codePage,
@@ -106,8 +84,10 @@ std::vector<Finding> FindCharsetFacts(const CompileRequest& request, const ModGl
     }
     ofVerses = {};
   }
-  const auto add = [&](const MismatchWords& words, const std::optional<CharsetMismatch>& wrong) {
-    if (wrong) facts.push_back(Mismatch(words, *wrong, codePage));
+  const auto add = [&](const CharsetWords& words, const std::optional<CharsetMismatch>& wrong) {
+    if (!wrong) return;
+    facts.push_back(OtherCharset(words, *wrong, codePage));
+    facts.back().severity = Severity::kWarning;
   };
   if (auto fact = FindInCharset(request.texts.PageCharset, EntryOf(ofVerses, language))) {
     facts.push_back(*std::move(fact));

@@ -20,9 +20,6 @@
 namespace folionet {
 namespace {
 
-constexpr std::string_view kCharsetKey = "Charset=";
-constexpr char kAnyEntry[] = "NAME DESCRIPTION";
-
 bool IsPlainCode(std::string_view code) {
   return !code.empty() && std::all_of(code.begin(), code.end(), [](char c) { return IsLetterOrDigit(c) || c == '-'; });
 }
@@ -119,36 +116,6 @@ std::vector<Finding> FindInTypedTexts(const TypedTexts& typed) {
   AddCharset("CustomHeader.txt", typed, typed.texts.CustomHeader, findings);
   AddCharset("CustomFooter.txt", typed, typed.texts.CustomFooter, findings);
   return findings;
-}
-
-std::optional<Finding> FindInCharset(const std::string& charset, const std::string& entry) {
-  const CodePage codePage(charset);
-  const Sentence remedy = CharsetRemedy("Give another: --set \"%1\".", entry);
-  switch (codePage.Use()) {
-    case CharsetUse::kNotKnown:
-      return Warning("charset-not-known",
-                     {Words("QObject", "No browser knows the charset %1; the pages are written in %2."),
-                      {charset, codePage.Name()}},
-                     remedy);
-    case CharsetUse::kNotFit:
-      return Warning("charset-not-fit",
-                     {Words("QObject", "Pages cannot be in the charset %1; they are written in %2 all the same."),
-                      {charset, codePage.Name()}},
-                     remedy);
-    case CharsetUse::kAsDeclared:
-      break;
-  }
-  return std::nullopt;
-}
-
-Sentence CharsetRemedy(const char* step, const std::string& entry) {
-  return {step, {std::string(kCharsetKey) + (entry.empty() ? kAnyEntry : entry)}};
-}
-
-std::optional<std::string> EntryOfRemedy(const Sentence& remedy) {
-  if (remedy.arguments.size() != 1 || !remedy.arguments[0].starts_with(kCharsetKey)) return std::nullopt;
-  const std::string entry = remedy.arguments[0].substr(kCharsetKey.size());
-  return entry == kAnyEntry ? std::string() : entry;
 }
 
 }  // namespace folionet

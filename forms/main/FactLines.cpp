@@ -6,11 +6,11 @@
 #include <utility>
 
 #include "Catalogue.h"
+#include "CharsetFindings.h"
 #include "FolderFacts.h"
 #include "PageNames.h"
 #include "QtText.h"
 #include "RunFacts.h"
-#include "TypedFindings.h"
 #include "ui_frmMain.h"
 
 namespace folionet {

@@ -28,13 +28,6 @@ bool MayNotWrite(int systemError) {
   return systemError == EACCES || systemError == EPERM || systemError == EROFS || systemError == ETXTBSY;
 }
 
-struct stat StatusOf(const FileHandle& file, const std::string& path) {
-  struct stat status {};
-  if (fstat(file.Get(), &status) != 0) throw RunTimeError::FromErrno(errno, path);
-  if (!S_ISREG(status.st_mode)) throw RunTimeError(kPathFileAccessError, path, "It is not a regular file.");
-  return status;
-}
-
 }  // namespace
 
 std::string KeptName(const std::string& name) { return name + ".before-folionet"; }
@@ -116,7 +109,7 @@ void SiteFolder::RefuseShared(const std::string& name, const FileHandle& file) {
   const std::string target = folionet::RealPath("/proc/self/fd/" + std::to_string(file.Get()));
   std::string other = target.starts_with(folder) ? target.substr(folder.size()) : std::string();
   if (other == name || !m_isOfRun || !m_isOfRun(other)) {
-    const struct stat status = StatusOf(file, m_path + name);
+    const struct stat status = RegularStatus(file, m_path + name);
     other = m_linked.try_emplace({status.st_dev, status.st_ino}, name).first->second;
   }
   if (other == name) return;
@@ -172,7 +165,7 @@ bool SiteFolder::IsOurs(const std::string& name, const FileHandle& file, std::st
 PageChange SiteFolder::WriteOld(const std::string& name, OldFile old, std::string_view text) {
   if (HasText(name, old.file, text)) return PageChange::kSame;
   Check(old.denied, name);
-  const struct stat status = StatusOf(old.file, m_path + name);
+  const struct stat status = RegularStatus(old.file, m_path + name);
   if (!IsOurs(name, old.file, text)) Keep(name, old.file, status);
   WillChange(name);
   if (status.st_nlink > 1) {

@@ -33,7 +33,8 @@ std::size_t AddNumbered(std::string_view rest, std::string& text) {
   const auto [last, error] = std::from_chars(rest.data() + prefix, rest.data() + length, number, prefix == 1 ? 16 : 10);
   if (error != std::errc() || number == 0) number = 0xFFFD;
   if (number >= 0x80 && number < 0xA0) {
-    text += CodePage().Decode(std::string(1, static_cast<char>(number)));
+    thread_local const CodePage windows1252;
+    text += windows1252.Decode(std::string(1, static_cast<char>(number)));
   } else {
     AppendUtf8(text, number);
   }

@@ -1,7 +1,5 @@
 #include "LineReader.h"
 
-#include <sys/stat.h>
-
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
@@ -11,6 +9,7 @@
 #include "RunTimeError.h"
 #include "Text.h"
 #include "Utf16.h"
+#include "WholeFile.h"
 
 namespace folionet {
 namespace {
@@ -29,11 +28,7 @@ LineReader::LineReader(const std::string& path, Subject subject, std::size_t lon
       m_subject(subject),
       m_longest(longest),
       m_file(FileHandle::Open(path.c_str(), O_RDONLY | O_NONBLOCK)) {
-  if (!m_file.IsOpen()) throw RunTimeError::FromErrno(errno, path).About(subject);
-  struct stat status {};
-  if (fstat(m_file.Get(), &status) != 0) throw RunTimeError::FromErrno(errno, path).About(subject);
-  if (!S_ISREG(status.st_mode))
-    throw RunTimeError(kPathFileAccessError, path, "It is not a regular file.").About(subject);
+  const struct stat status = WorkAbout(subject, [&] { return RegularStatus(m_file, path); });
   // One byte more than the file has shows its end in the first fill.
   m_buffer.resize(std::min(kChunk, static_cast<std::size_t>(status.st_size) + 1));
   Fill();

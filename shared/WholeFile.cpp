@@ -1,7 +1,6 @@
 #include "WholeFile.h"
 
 #include <fcntl.h>
-#include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -63,11 +62,15 @@ bool SyncToDisk(int descriptor) {
   return Succeeds([&] { return fsync(descriptor); });
 }
 
-std::string ReadOpenFile(const FileHandle& file, const std::string& path, std::size_t longest) {
+struct stat RegularStatus(const FileHandle& file, const std::string& path) {
   struct stat status {};
   if (!file.IsOpen() || fstat(file.Get(), &status) != 0) throw RunTimeError::FromErrno(errno, path);
   if (!S_ISREG(status.st_mode)) throw RunTimeError(kPathFileAccessError, path, "It is not a regular file.");
-  const auto size = static_cast<std::size_t>(status.st_size);
+  return status;
+}
+
+std::string ReadOpenFile(const FileHandle& file, const std::string& path, std::size_t longest) {
+  const auto size = static_cast<std::size_t>(RegularStatus(file, path).st_size);
   if (size > longest) {
     throw RunTimeError(kOutOfMemory, path, "The file is longer than " + std::to_string(longest) + " bytes.");
   }

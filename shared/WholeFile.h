@@ -1,5 +1,7 @@
 #pragma once
 
+#include <sys/stat.h>
+
 #include <functional>
 #include <optional>
 #include <string>
@@ -8,6 +10,10 @@
 #include "FileHandle.h"
 
 namespace folionet {
+
+// What the system tells of an open file that is a regular one. Throws RunTimeError for another, and for one that is not
+// open, with errno set; `path` is for the error.
+struct stat RegularStatus(const FileHandle& file, const std::string& path);
 
 // Reads a whole regular file as it is. Throws RunTimeError; a file over `longest` bytes is kOutOfMemory.
 std::string ReadWholeFile(const std::string& path, std::size_t longest = std::size_t{64} << 20);

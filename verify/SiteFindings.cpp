@@ -9,51 +9,42 @@
 namespace folionet {
 namespace {
 
-constexpr FaultWords kMissing{"missing", Words("QObject", "\"%1\" is not there."),
-                              Words("QObject", "\"%1\" is not there (%2 pages, this one first).")};
-constexpr FaultWords kOtherCase{
-    "other-case", Words("QObject", "\"%1\" is there in another letter case only, %3."),
-    Words("QObject", "\"%1\" is there in another letter case only, %3 (%2 pages, this one first).")};
-constexpr FaultWords kBackslash{
-    "backslash", Words("QObject", "\"%1\" holds \"\\\", which no address does."),
-    Words("QObject", "\"%1\" holds \"\\\", which no address does (%2 pages, this one first).")};
-constexpr FaultWords kUnreadable{"unreadable", Words("QObject", "\"%1\" cannot be read."),
-                                 Words("QObject", "\"%1\" cannot be read (%2 pages, this one first).")};
-constexpr FaultWords kFolder{"folder", Words("QObject", "\"%1\" is a folder without an index.html."),
-                             Words("QObject", "\"%1\" is a folder without an index.html (%2 pages, this one first).")};
-constexpr FaultWords kNoFile{
-    "folder-for-file", Words("QObject", "\"%1\" is a folder, and a file was expected."),
-    Words("QObject", "\"%1\" is a folder, and a file was expected (%2 pages, this one first).")};
-constexpr FaultWords kCharset{
-    "charset", Words("QObject", "\"%1\" is not in the page's charset, so that browsers look for another name."),
-    Words("QObject",
-          "\"%1\" is not in the page's charset, so that browsers look for another name (%2 pages, this one first).")};
-constexpr FaultWords kSign{
-    "sign", Words("QObject", "\"%1\" is a file, but \"#\", \"?\", \"%\" and \":\" have another meaning in an address."),
-    Words("QObject",
-          "\"%1\" is a file, but \"#\", \"?\", \"%\" and \":\" have another meaning in an address (%2 pages, this one "
-          "first).")};
-
-const FaultWords& WordsFor(LinkFault fault) {
+FaultWords WordsFor(LinkFault fault) {
   switch (fault) {
     case LinkFault::kOtherCase:
-      return kOtherCase;
+      return {"other-case", Words("QObject", "\"%1\" is there in another letter case only, %3."),
+              Words("QObject", "\"%1\" is there in another letter case only, %3 (%2 pages, this one first).")};
     case LinkFault::kBackslash:
-      return kBackslash;
+      return {"backslash", Words("QObject", "\"%1\" holds \"\\\", which no address does."),
+              Words("QObject", "\"%1\" holds \"\\\", which no address does (%2 pages, this one first).")};
     case LinkFault::kUnreadable:
-      return kUnreadable;
+      return {"unreadable", Words("QObject", "\"%1\" cannot be read."),
+              Words("QObject", "\"%1\" cannot be read (%2 pages, this one first).")};
     case LinkFault::kFolder:
-      return kFolder;
+      return {"folder", Words("QObject", "\"%1\" is a folder without an index.html."),
+              Words("QObject", "\"%1\" is a folder without an index.html (%2 pages, this one first).")};
     case LinkFault::kNoFile:
-      return kNoFile;
+      return {"folder-for-file", Words("QObject", "\"%1\" is a folder, and a file was expected."),
+              Words("QObject", "\"%1\" is a folder, and a file was expected (%2 pages, this one first).")};
     case LinkFault::kCharset:
-      return kCharset;
+      return {"charset",
+              Words("QObject", "\"%1\" is not in the page's charset, so that browsers look for another name."),
+              Words("QObject",
+                    "\"%1\" is not in the page's charset, so that browsers look for another name (%2 pages, this one "
+                    "first).")};
     case LinkFault::kSign:
-      return kSign;
+      return {
+          "sign",
+          Words("QObject", "\"%1\" is a file, but \"#\", \"?\", \"%\" and \":\" have another meaning in an address."),
+          Words("QObject",
+                "\"%1\" is a file, but \"#\", \"?\", \"%\" and \":\" have another meaning in an address (%2 pages, "
+                "this one "
+                "first).")};
     case LinkFault::kMissing:
       break;
   }
-  return kMissing;
+  return {"missing", Words("QObject", "\"%1\" is not there."),
+          Words("QObject", "\"%1\" is not there (%2 pages, this one first).")};
 }
 
 // The name of a chapter's page without its chapter, and the chapter: "genesis" and "12" of "genesis_12.html".
@@ -90,7 +81,7 @@ void SiteFindings::Add(Finding finding, Step step) {
 }
 
 void SiteFindings::AddBroken(const BrokenTarget& broken) {
-  const FaultWords& words = WordsFor(broken.fault);
+  const FaultWords words = WordsFor(broken.fault);
   Add({.kind = words.kind,
        .file = broken.page,
        .line = broken.line,

@@ -7,6 +7,7 @@
 #include <algorithm>
 
 #include "OneLine.h"
+#include "QtText.h"
 #include "Utf8.h"
 
 namespace folionet {
@@ -18,23 +19,15 @@ constexpr char16_t kFirstByteMark = 0xDC00;
 bool IsByteMark(QChar c) { return c.unicode() >= kFirstByteMark + 0x80 && c.unicode() <= kFirstByteMark + 0xFF; }
 
 QString ToBox(std::string_view text) {
-  const auto decoded = [](std::string_view part) {
-    return QString::fromUtf8(part.data(), static_cast<qsizetype>(part.size()));
-  };
-  if (IsUtf8(text)) return decoded(text);
-  constexpr std::size_t kLongestCharacter = 4;
+  if (IsUtf8(text)) return ToQt(text);
   QString shown;
-  for (std::size_t at = 0; at < text.size();) {
-    std::size_t length = 1;
-    while (length <= kLongestCharacter && !IsUtf8(text.substr(at, length))) ++length;
-    if (length <= kLongestCharacter) {
-      shown += decoded(text.substr(at, length));
+  ForEachUtf8(text, [&](const Piece& piece) {
+    if (piece.character != kUndecodable) {
+      shown += ToQt(piece.bytes);
     } else {
-      length = 1;
-      shown += QChar(static_cast<char16_t>(kFirstByteMark + static_cast<unsigned char>(text[at])));
+      shown += QChar(static_cast<char16_t>(kFirstByteMark + static_cast<unsigned char>(piece.bytes[0])));
     }
-    at += length;
-  }
+  });
   return shown;
 }
 

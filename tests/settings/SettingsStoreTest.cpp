@@ -109,6 +109,9 @@ TEST(SettingsStoreTest, SavingTogetherHoldsBackOurOwnKeysAlone) {
     EXPECT_EQ(stored(), "Other");
   });
   EXPECT_EQ(SettingsStore(folder.Path()).Text("Font"), "Arial");
+  EXPECT_THROW(store.SaveTogether([] { throw RunTimeError(kOutOfMemory, "x"); }), RunTimeError);
+  store.SaveText("Font", "Serif");
+  EXPECT_EQ(SettingsStore(folder.Path()).Text("Font"), "Serif") << "at once again";
 }
 
 TEST(OptionsTest, ThatDoNotConvertAreFailuresAndStayAsTheyAreStored) {

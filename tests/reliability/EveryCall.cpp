@@ -117,6 +117,7 @@ void EveryCall::StrikeEach(const Job& job, const std::vector<std::string>& kinds
   for (std::size_t at = 1; at <= whole.calls.size(); ++at) {
     const Call& call = whole.calls[at - 1];
     if (!names.empty() && !names.contains(call.name)) continue;
+    m_struck = call;
     for (const std::string& kind : kinds) {
       SCOPED_TRACE("call " + std::to_string(at) + ", " + call.name + " " + call.path + ", " + kind);
       const TemporaryFolder home;

@@ -62,7 +62,8 @@ class EveryCall : public testing::Test {
   FolderContent m_before;  // what the folder holds before the job and after it
   FolderContent m_after;
   FolderContent m_notes;  // of the program's own, before a run in which a call is struck
-  std::string m_told;     // on standard output, where nothing goes wrong
+  Call m_struck;
+  std::string m_told;  // on standard output, where nothing goes wrong
   bool m_isKilled = false;
 
  private:

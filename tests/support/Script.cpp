@@ -31,8 +31,8 @@ using Lines = std::vector<std::string>;
 
 constexpr std::string_view kAndSoOn = "...";
 constexpr std::string_view kMarks = "|!+~->";
-constexpr std::string_view kThen = " // ";  // between what stands on one line
-constexpr std::string_view kFinds = " | ";  // and before the one line that a look at a file finds
+constexpr std::string_view kThen = " // ";        // between what stands on one line
+constexpr std::string_view kMarksBehind = "|!>";  // of the one line that comes of a step, on its line
 
 Lines SplitLine(const std::string& line) {
   Lines parts;
@@ -45,14 +45,12 @@ Lines SplitLine(const std::string& line) {
   return parts;
 }
 
-bool LooksAtFiles(const std::string& step) {
-  return step.starts_with("find ") || step.starts_with("show ") || step.starts_with("list ");
-}
-
 ScriptStep StepOf(const std::string& part, int number, bool isBehind) {
-  const std::size_t at = LooksAtFiles(part) ? part.find(kFinds) : std::string::npos;
-  if (at == std::string::npos) return {number, isBehind, part, {}};
-  return {number, isBehind, part.substr(0, at), {part.substr(at + 1)}};
+  for (std::size_t at = part.find(' '); at != std::string::npos; at = part.find(' ', at + 1)) {
+    const bool isMark = at + 2 < part.size() && kMarksBehind.find(part[at + 1]) != std::string_view::npos;
+    if (isMark && part[at + 2] == ' ') return {number, isBehind, part.substr(0, at), {part.substr(at + 1)}};
+  }
+  return {number, isBehind, part, {}};
 }
 
 std::vector<ScriptCase> ReadScript(const fs::path& path) {
@@ -119,7 +117,7 @@ std::string Joined(const Lines& lines) {
 std::string Written(const ScriptStep& step) {
   constexpr std::size_t kWidest = 120;
   std::string text = step.line;
-  const bool isOne = LooksAtFiles(text) && step.outcome.size() == 1;
+  const bool isOne = step.outcome.size() == 1 && kMarksBehind.find(step.outcome[0][0]) != std::string_view::npos;
   if (isOne && text.size() + 1 + step.outcome[0].size() <= kWidest) return text + " " + step.outcome[0];
   char last = '\0';
   for (const std::string& line : step.outcome) {

@@ -49,6 +49,7 @@ void AddContent(const QWidget& control, Traits& traits) {
     Add("text", box->toPlainText(), traits);
   } else if (const auto* tree = qobject_cast<const QTreeWidget*>(&control)) {
     Add("column", tree->headerItem()->text(0), traits);
+    Add("icons", tree->topLevelItem(0) != nullptr && !tree->topLevelItem(0)->icon(0).isNull(), traits);
     Add("current", tree->currentItem() == nullptr ? QString() : tree->currentItem()->text(0), traits);
   } else if (const auto* bar = qobject_cast<const QProgressBar*>(&control)) {
     Add("value", QStringLiteral("%1 of %2").arg(bar->value()).arg(bar->maximum()), traits);

@@ -99,7 +99,9 @@ TEST(Lines, OfSixtySixNamesStandForTheBooksInOrder) {
 }
 
 TEST(Lines, AreReadOrToldWithTheirNumber) {
+  const std::string large(70000, 'a');
   const std::pair<std::string, std::string> cases[] = {
+      {"Ge1:1 " + large + "\nGe1:2 b", "1 1:1 " + large + "|1 1:2 b|"},
       {"\xEF\xBB\xBFGe1:1 In the beginning\r\n\r\n \t\r\nGEN 1:2 And\n1 Samuel 3:4 And\nII Kings 2:1: came: to\nMat "
        "2:22: \n"
        "Psalm\t3:6\t I\thave  \nMat 2:21\nGe1:3 12:30 o'clock\nJude1:255 x\nGe1:1-2a y\n",
@@ -205,7 +207,7 @@ TEST(Forms, GiveTheTextOfEachVerse) {
       {"id\tb\tc\tv\tt\n1001001\t1\t1\t1\ta\n", "1 1:1 a|"},
       {"<usx><book code='GEN'/><para style='p'><verse number='1'/>a</para></usx>",
        "1: Genesis: a chapter was expected before verse \"1\""},
-      {"A licence: free.\r\n\r\n\\id JUD\r\n\\v 1 a", "65 1:1 a|"},
+      {"A licence: free.\r\n\r\n\\id JUD\r\n\\v 1 a\r\n\\v 2", "65 1:1 a|65 1:2 |"},
       {"\\id JUD\n\\v 1 a\n\\v x b", "3: Jude 1: the number of a verse was expected: \"x\""}};
   for (const auto& [content, expected] : cases) EXPECT_EQ(Outcome(content), expected) << content;
 }

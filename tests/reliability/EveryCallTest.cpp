@@ -136,6 +136,9 @@ TEST_F(Compiles, EndBetweenTwoPagesOnceTheyAreStopped) {
     // Behind the last page there is nothing to end.
     const bool isLast = isRemoval && m_struck.path.ends_with("genesis_3.html");
     EXPECT_EQ(run.result.status, isLast ? 0 : 128 + (kind == "stop2" ? SIGINT : SIGTERM));
+    EXPECT_TRUE(isLast || run.result.errors.ends_with("Stopped: the page at hand was finished, the others are as they "
+                                                      "were. Compile again.\n"))
+        << run.result.errors;
     const bool isToldGone = run.result.errors.find("Removed: genesis_1.html\n") != std::string::npos;
     EXPECT_EQ(isToldGone, !home.Has("site/genesis_1.html"));
     EXPECT_TRUE(isRemoval || !isToldGone);

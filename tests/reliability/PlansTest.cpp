@@ -109,6 +109,19 @@ std::string Report(const std::string& errors) {
 
 class Plans : public testing::TestWithParam<Row> {};
 
+TEST(OtherWorlds, AnUnchangedSiteNeedsNoRightToWrite) {
+  const TemporaryFolder home;
+  MakeSmallLibrary(home);
+  ASSERT_EQ(RunProgram(CompileSmall({"--quiet"}), home.Path()).status, 0);
+  const Command readOnly{"/bin/sh", "-c",
+                         "chmod 755 .; chmod -R a-w out; "
+                         "[ $(id -u) != 0 ] || set -- setpriv --reuid=65534 --clear-groups \"$@\"; "
+                         "\"$@\"; status=$?; chmod -R u+w out; exit $status",
+                         "sh"};
+  const ProgramResult run = RunProgram(With(readOnly, CompileSmall({"--quiet"})), home.Path());
+  EXPECT_EQ(run.status, 0) << run.errors;
+}
+
 TEST_P(Plans, SayWhatTheRunDoes) {
   const Row& row = GetParam();
   const bool isRoot = geteuid() == 0;

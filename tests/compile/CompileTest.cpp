@@ -1,13 +1,10 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
-#include <algorithm>
 #include <filesystem>
 
 #include "ChangeJournal.h"
-#include "FolderFacts.h"
 #include "RunTimeError.h"
-#include "SiteChanges.h"
 #include "Sitemap.h"
 #include "TemporaryFolder.h"
 
@@ -17,30 +14,6 @@ namespace folionet {
 namespace {
 
 using Texts = std::vector<std::string>;
-
-TEST(SiteChangesTest, TellsEachFileOnceAsItWasBeforeTheRun) {
-  SiteChanges changes;
-  changes.Written("new then same", PageChange::kNew, 1);
-  changes.Written("new then same", PageChange::kSame, 1);
-  changes.Written("changed then changed", PageChange::kChanged, 1);
-  changes.Written("changed then changed", PageChange::kChanged, 1);
-  changes.Written("same then changed", PageChange::kSame, 1);
-  changes.Written("same then changed", PageChange::kChanged, 1);
-  changes.Written("same", PageChange::kSame, 1);
-  changes.Written("new then removed", PageChange::kNew, 1);
-  changes.Removed("new then removed", Removal::kRemoved);
-  changes.Written("new then kept", PageChange::kNew, 1);
-  changes.Removed("new then kept", Removal::kFailed);
-  changes.Written("same then removed", PageChange::kSame, 1);
-  changes.Removed("same then removed", Removal::kRemoved);
-  changes.Removed("never there", Removal::kNotThere);
-  changes.Removed("cannot be removed", Removal::kFailed);
-  changes.Removed("removed", Removal::kRemoved);
-  EXPECT_EQ(changes.New(), (Texts{"new then same", "new then kept"}));
-  EXPECT_EQ(changes.Changed(), (Texts{"changed then changed", "same then changed"}));
-  EXPECT_EQ(changes.Same(), Texts{"same"});
-  EXPECT_EQ(changes.Removed(), (Texts{"same then removed", "removed"}));
-}
 
 // As when the folder of a run was moved away, and another one is in its place.
 TEST(ChangeJournalTest, TellsWhoHasItAndThatItWasCut) {
@@ -83,55 +56,6 @@ TEST(SitemapTest, OnlyAddressesOfTheWebWillDo) {
   for (const char* address : {"https://a.htm", "https://a.htm/b", "https://a.b/x.html/"}) {
     EXPECT_FALSE(NamesAPage(address)) << address;
   }
-}
-
-std::size_t PagesOf(const std::string& folder) {
-  const std::filesystem::directory_iterator files(folder);
-  return static_cast<std::size_t>(
-      std::count_if(begin(files), end(files), [](const auto& file) { return file.path().extension() == ".html"; }));
-}
-
-// Sites that compiles made, put one over the other, with a person's files.
-TEST(FolderFactsTest, TellWhatLiesInAFolder) {
-  const struct {
-    std::vector<const char*> sites;
-    Texts more;
-    Texts replaced;
-    std::size_t others;
-    std::map<std::string, std::size_t> translations;
-  } cases[] = {
-      {{}, {}, {}, 0, {}},
-      {{}, {"index.html", "genesis_1.html", "own.html"}, {"genesis_1.html", "index.html"}, 1, {}},
-      {{"defaults"}, {}, {}, 0, {{"King James Version", 8}}},
-      {{"style-sheet"}, {}, {}, 2, {{"King James Version", 8}}},
-      {{"russian"}, {"picture.png"}, {}, 1, {{"Синодальный перевод", 4}}},
-      {{"defaults", "russian"}, {}, {}, 0, {{"King James Version", 7}, {"Синодальный перевод", 4}}},
-      {{"defaults"}, {"index.html"}, {"index.html"}, 0, {{"King James Version", 7}}},
-  };
-  for (const auto& c : cases) {
-    const test::TemporaryFolder folder;
-    for (const std::string site : c.sites) {
-      using std::filesystem::copy_options;
-      std::filesystem::copy(SITE_CASES "/" + site + "/expected", folder.Path(),
-                            copy_options::recursive | copy_options::overwrite_existing);
-    }
-    for (const std::string& name : c.more) folder.Write(name, "<html>a person's</html>");
-    const std::size_t ownPages = c.more.empty() || c.more[0] == "picture.png" ? 0 : c.more.size();
-    const std::size_t pages = PagesOf(folder.Path()) - ownPages;
-    std::filesystem::create_directory(folder.Path() + "pictures.html");
-    SCOPED_TRACE(testing::PrintToString(c.sites) + testing::PrintToString(c.more));
-    auto facts = LookIntoFolder(folder.Path(), {{"index.html", ""}, {"genesis_1.html", ""}, {"default.css", "body {"}},
-                                [] { return true; });
-    ASSERT_TRUE(facts && facts->isThere);
-    EXPECT_EQ(facts->pages, pages);
-    EXPECT_EQ(facts->others, c.others);
-    EXPECT_EQ(facts->translations, c.translations);
-    std::sort(facts->replaced.begin(), facts->replaced.end());
-    EXPECT_EQ(facts->replaced, c.replaced);
-    EXPECT_FALSE(LookIntoFolder(folder.Path(), {}, [] { return false; }));
-  }
-  const auto none = LookIntoFolder("/nowhere/", {}, [] { return true; });
-  EXPECT_TRUE(none && !none->isThere);
 }
 
 }  // namespace

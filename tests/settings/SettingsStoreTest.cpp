@@ -31,26 +31,6 @@ TEST(SettingsStoreTest, ReadsBackEveryTextAsItWasStored) {
   }
 }
 
-TEST(SettingsStoreTest, ReadsWhatAPersonEdited) {
-  const struct {
-    std::string line;
-    const char* text;
-  } cases[] = {
-      {"Keywords=one, two,three", "one, two,three"},
-      {"Keywords = spaced out  ", "spaced out"},
-      {"Keywords=\"in quotes, with \\\"more\\\"\"", "in quotes, with \"more\""},
-      {"Keywords=\"a\", \"b\"", "\"a\", \"b\""},
-      {"Keywords=C:\\new\\", "C:\\new\\"},
-      {"; Keywords=comment\nKeywords=x;y", "x;y"},
-      {"Keywords=", ""},
-  };
-  for (const auto& c : cases) {
-    const TemporaryFolder folder;
-    folder.Write("Folionet.ini", "\xEF\xBB\xBF[Keys]\r\n" + c.line + "\r\n");
-    EXPECT_EQ(SettingsStore(folder.Path()).Text("Keywords"), c.text) << c.line;
-  }
-}
-
 TEST(SettingsStoreTest, ChangesWhatIsSavedAndNothingElse) {
   const struct {
     std::string before, after;

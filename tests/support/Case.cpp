@@ -64,7 +64,8 @@ std::string WithShortReports(std::string text) {
           "--output FOLDER.",
           "PLACE");
   Replace(text,
-          "\nPlease correct and try again.\nGive an address such as --index-address index.html, or short names with "
+          " is not a valid long filename extension. It must be \"html\"\nPlease correct and try again.\nGive an "
+          "address such as --index-address index.html, or short names with "
           "--set Use83=1.",
           " => LONG");
   Replace(text, "\nGive an address such as --index-address index.htm, or long names with --set Use83=0.", " => SHORT");

@@ -89,7 +89,13 @@ TEST(SettingsStoreTest, SavingTogetherHoldsBackOurOwnKeysAlone) {
     EXPECT_EQ(stored(), "Other");
   });
   EXPECT_EQ(SettingsStore(folder.Path()).Text("Font"), "Arial");
-  EXPECT_THROW(store.SaveTogether([] { throw RunTimeError(kOutOfMemory, "x"); }), RunTimeError);
+  const auto failing = [&] {
+    store.SaveText("Font", "Lost");
+    throw RunTimeError(kOutOfMemory, "x");
+  };
+  EXPECT_THROW(store.SaveTogether(failing), RunTimeError);
+  store.SaveTogether([] {});
+  EXPECT_EQ(SettingsStore(folder.Path()).Text("Font"), "Arial");
   store.SaveText("Font", "Serif");
   EXPECT_EQ(SettingsStore(folder.Path()).Text("Font"), "Serif") << "at once again";
 }

@@ -37,12 +37,12 @@ TEST(WholeFileTest, FollowsALinkAndKeepsTheMode) {
   EXPECT_EQ(static_cast<int>(std::filesystem::status(target).permissions()), 0640);
 }
 
-// Writers refuse what readers refuse, and leave it there.
+// Writers refuse what readers refuse, and leave it there. No name in the folder of the device can be changed.
 TEST(WholeFileTest, NothingButARegularFileIsReplaced) {
   const test::TemporaryFolder folder;
   std::filesystem::create_directory(folder.Path() + "folder");
   ASSERT_EQ(mkfifo((folder.Path() + "pipe").c_str(), 0600), 0);
-  for (const std::string target : {"folder", "pipe", "none", "/dev/full"}) {
+  for (const std::string target : {"folder", "pipe", "none", "/dev/pts/ptmx"}) {
     std::filesystem::create_symlink(target, folder.Path() + "link to " + (target[0] == '/' ? "device" : target));
   }
   std::filesystem::create_symlink("link to itself", folder.Path() + "link to itself");
@@ -54,7 +54,7 @@ TEST(WholeFileTest, NothingButARegularFileIsReplaced) {
       {"pipe", "Path/File access error: %: It is not a regular file."},
       {"link to folder", "Path/File access error: %folder: It is not a regular file."},
       {"link to pipe", "Path/File access error: %pipe: It is not a regular file."},
-      {"link to device", "Path/File access error: /dev/full: It is not a regular file."},
+      {"link to device", "Path/File access error: /dev/pts/ptmx: It is not a regular file."},
       {"link to none", "Path/File access error: %: It is a link to a file that is not there. Remove it."},
       {"link to itself", "Path/File access error: %: Too many levels of symbolic links"},
   };

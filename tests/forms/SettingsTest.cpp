@@ -127,19 +127,13 @@ TEST_F(Settings, EveryKeySurvivesARestartByItself) {
 // for those that choose what to compile, where a chooser is opened or what is only added to a list.
 TEST_F(Settings, EveryKeyHasItsControlAndEveryControlItsKey) {
   std::set<std::string> keys;
-  std::set<std::string> controls{"cboBibleName",
-                                 "cboStartBook",
-                                 "cboEndBook",
-                                 "txthttpRoot",
-                                 "optAlignLeft",
-                                 "OptAlignCenter",
-                                 "Drive1",
-                                 "frmLinkToMAin.OLeft",
-                                 "frmLinkToMAin.OCenter",
-                                 "frmEncoding.txtLang",
-                                 "frmEncoding.txtCharset",
-                                 "frmCustomHeader.Text1",
-                                 "frmCustomizeFooter.Text1"};
+  std::set<std::string> controls;
+  for (const char* other :
+       {"cboBibleName", "cboStartBook", "cboEndBook", "txthttpRoot", "optAlignLeft", "OptAlignCenter", "Drive1",
+        "frmLinkToMAin.OLeft", "frmLinkToMAin.OCenter", "frmEncoding.txtLang", "frmEncoding.txtCharset",
+        "frmCustomHeader.Text1", "frmCustomizeFooter.Text1"}) {
+    controls.insert(other);
+  }
   for (const Row& row : kRows) {
     EXPECT_NE(FindOption(row.key), nullptr) << row.key;
     EXPECT_TRUE(keys.insert(row.key).second) << row.key;

@@ -107,7 +107,8 @@ SiteReport AwaitLook(const std::string& indexPage, QWidget& form) {
   loop.exec();
   look->isStopped = true;  // the program may end, and nothing waits for the rest
   while (work.IsRunning()) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-  if (look->failure) throw RunTimeError(*look->failure);
+  const std::optional<RunTimeError>& failure = look->failure;
+  if (failure) throw RunTimeError(*failure);
   return std::move(look->report);
 }
 

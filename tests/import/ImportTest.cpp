@@ -208,6 +208,7 @@ TEST(Forms, GiveTheTextOfEachVerse) {
       {"<usx><book code='GEN'/><para style='p'><verse number='1'/>a</para></usx>",
        "1: Genesis: a chapter was expected before verse \"1\""},
       {"\\id JUD\n\\v 1 a\n\\id\n", "4: Jude 1:1: the code or the name of a book was expected"},
+      {"\\id JUD\n\\v 1\u200F-2 a", "65 1:1-2 a|"},
       {"A licence: free.\r\n\r\n\\id JUD\r\n\\v 1 a\r\n\\v 2", "65 1:1 a|65 1:2 |"},
       {"\\id JUD\n\\v 1 a\n\\v x b", "3: Jude 1: the number of a verse was expected: \"x\""}};
   for (const auto& [content, expected] : cases) EXPECT_EQ(Outcome(content), expected) << content;

@@ -12,8 +12,10 @@
 namespace folionet {
 CatalogueText::CatalogueText(const std::string& path) : m_path(path), m_content(ReadIfThere(path).value_or("")) {
   RecordReader records(path, m_content, Subject::kCatalogue);
-  while (std::optional<CatalogueRecord> record = ReadCatalogueRecord(records)) {
-    m_records.push_back(std::move(*record));
+  while (true) {
+    std::optional<CatalogueRecord> record = ReadCatalogueRecord(records);
+    if (!record) return;
+    m_records.push_back(*std::move(record));
     m_ends.push_back(std::min(records.Lines().NextStart(), m_content.size()));
   }
 }

@@ -16,7 +16,6 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <regex>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -91,7 +90,9 @@ TEST_P(Site, IsTheExpectedOne) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Case, Site, testing::ValuesIn(CaseNames()), [](const auto& parameter) {
-  return std::regex_replace(parameter.param, std::regex("-"), "_");
+  std::string name = parameter.param;
+  std::replace(name.begin(), name.end(), '-', '_');
+  return name;
 });
 
 }  // namespace

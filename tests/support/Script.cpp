@@ -12,7 +12,6 @@
 #include <filesystem>
 #include <fstream>
 #include <iomanip>
-#include <regex>
 #include <sstream>
 #include <stdexcept>
 #include <string_view>
@@ -88,9 +87,8 @@ bool UsesForms(const ScriptCase& script) {
 
 // How many lines a line such as "> (16 lines more)" stands for; 0 for any other line.
 std::size_t LinesMeant(const std::string& line) {
-  std::smatch parts;
-  static const std::regex more(R"(. \((\d+) lines more\))");
-  return std::regex_match(line, parts, more) ? std::stoul(parts[1]) : 0;
+  const bool isShort = line.find(" (") == 1 && line.ends_with(" lines more)");
+  return isShort ? std::strtoul(line.c_str() + 3, nullptr, 10) : 0;
 }
 
 // What came, with each line that the expected one shortens in its form.

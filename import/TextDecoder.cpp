@@ -17,8 +17,11 @@ namespace {
 constexpr std::size_t kPiece = std::size_t{64} << 10;
 constexpr std::size_t kPivot = std::size_t{16} << 10;
 
+// By find(), which looks at many bytes at a time: all of a text passes here.
 std::size_t LinesIn(std::string_view text) {
-  return static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n'));
+  std::size_t lines = 0;
+  for (std::size_t at = text.find('\n'); at != std::string_view::npos; at = text.find('\n', at + 1)) ++lines;
+  return lines;
 }
 
 // How many bytes at the end of a text begin a character of UTF-8 that goes on behind it.

@@ -14,6 +14,7 @@
 #include <QGroupBox>
 #include <QInputDialog>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QScreen>
 #include <QScrollArea>
@@ -138,6 +139,21 @@ QString FileDialogFilter(const std::string& filter) {
   return filters.join(QStringLiteral(";;"));
 }
 
+// Qt gives a typed name no suffix when the folder in which the program was started has a folder of that name.
+class SaveDialog : public QFileDialog {
+ public:
+  using QFileDialog::QFileDialog;
+
+ protected:
+  void accept() override {
+    auto* const typed = findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));  // none in a dialog of the desktop's
+    if (typed != nullptr && !typed->text().isEmpty() && QFileInfo(typed->text()).isDir()) {
+      typed->setText(directory().absoluteFilePath(typed->text()));
+    }
+    QFileDialog::accept();
+  }
+};
+
 }  // namespace
 
 FormUi::FormUi() : m_libraryBoxes(*this) {}
@@ -228,7 +244,7 @@ std::string FormUi::ChooseFile(const std::string& filter, const std::string& pre
 }
 
 std::string FormUi::ChooseFileToSave(const std::string& name, const std::string& suffix, const std::string& initial) {
-  QFileDialog dialog(Owner(), {}, ToQt(initial), FileDialogFilter(name + "|*." + suffix));
+  SaveDialog dialog(Owner(), {}, ToQt(initial), FileDialogFilter(name + "|*." + suffix));
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   dialog.setDefaultSuffix(ToQt(suffix));
   return dialog.exec() == QDialog::Accepted ? FromQt(dialog.selectedFiles().value(0)) : std::string();

@@ -155,6 +155,10 @@ TEST(FormUiTest, AChooserThatIsCancelledKeepsWhatThereIs) {
   const test::TemporaryFolder folder;
   const std::string old = folder.Write("old.gif", "");
   const std::string other = folder.Write("other.gif", "");
+  // What is in the current folder is nothing to a file that is saved elsewhere.
+  const std::filesystem::path before = std::filesystem::current_path();
+  std::filesystem::create_directories(folder.Path() + "here/new");
+  std::filesystem::current_path(folder.Path() + "here");
   FormUi ui;
   for (const bool isAccepted : {true, false}) {
     WhenShown<QColorDialog>([isAccepted](QColorDialog& box) {
@@ -186,6 +190,7 @@ TEST(FormUiTest, AChooserThatIsCancelledKeepsWhatThereIs) {
     });
     EXPECT_EQ(ui.ChooseFolder(folder.Path(), "title"), isAccepted ? "/usr" : folder.Path());
   }
+  std::filesystem::current_path(before);
 }
 
 // Each 40 milliseconds at most, however fast the steps come.

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
+#include <cstddef>
 #include <filesystem>
 
 #include "ChangeJournal.h"
@@ -15,8 +16,8 @@ namespace {
 
 using Texts = std::vector<std::string>;
 
-// As when the folder of a run was moved away, and another one is in its place.
-TEST(ChangeJournalTest, TellsWhoHasItAndThatItWasCut) {
+// Its folder, too, may have been moved away, and another one be in its place.
+TEST(ChangeJournalTest, TellsWhoHasItAndWhatIsLost) {
   const test::TemporaryFolder home;
   std::filesystem::create_directory(home.Path() + "site");
   ChangeJournal journal(home.Path(), home.Path() + "site/");
@@ -41,6 +42,13 @@ TEST(ChangeJournalTest, TellsWhoHasItAndThatItWasCut) {
   EXPECT_TRUE(std::filesystem::exists(file));
   journal.ForgetAll();
   EXPECT_FALSE(std::filesystem::exists(file));
+  // One that cannot be read stays as it is.
+  constexpr std::size_t kTooLong = (std::size_t{16} << 20) + 1;
+  std::filesystem::resize_file(home.Write(file.filename().string(), ""), kTooLong);
+  ChangeJournal unread(home.Path(), home.Path() + "site/");
+  unread.WillChange("d.html");
+  EXPECT_EQ(unread.Trouble(), "Out of memory: " + file.string() + ": The file is longer than 16777216 bytes.");
+  EXPECT_EQ(std::filesystem::file_size(file), kTooLong);
 }
 
 TEST(SitemapTest, OnlyAddressesOfTheWebWillDo) {

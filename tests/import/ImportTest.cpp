@@ -162,6 +162,7 @@ TEST(Text, IsInTheCharsetThatTheFileTells) {
 TEST(Forms, GiveTheTextOfEachVerse) {
   const std::string usx = "<usx version='3.0'><book code='PSA' style='id'/><chapter number='3' style='c'/>";
   const std::string osis = "<osis><osisText><div type='book' osisID='Ps'><chapter osisID='Ps.3'>";
+  const std::string sixty(60, 'x');
   const std::string usfx = "<usfx><book id='PSA'><c id='3'/>";
   const std::string zefania = "<XMLBIBLE><BIBLEBOOK bnumber='19'><CHAPTER cnumber='3'><VERS vnumber='1'>";
   const std::pair<std::string, std::string> cases[] = {
@@ -189,7 +190,8 @@ TEST(Forms, GiveTheTextOfEachVerse) {
       {osis + "<verse osisID='Ps.3.1'/>a <divineName>b</divineName><title>no</title><verse osisID='Ps.3.2'></verse>c"
               "</chapter></div></osisText></osis>",
        "19 3:1 a b|19 3:2 c|"},
-      {osis + "<verse osisID='Ps.3.1'>a</verse>no<verse osisID='Ps.3.2'/>no<verse osisID='Jude.5 Jude.6'>b</verse>"
+      {osis + "<verse osisID='Ps.3.1'><seg>a</seg></verse>no<verse osisID='Ps.3.2'/>no<verse osisID='Jude.5 "
+              "Jude.6'>b</verse>"
               "</chapter></div></osisText></osis>",
        "19 3:1 a|19 3:2 |65 1:5-6 b|"},
       {usfx +
@@ -210,7 +212,13 @@ TEST(Forms, GiveTheTextOfEachVerse) {
       {"\\id JUD\n\\v 1 a\n\\id\n", "4: Jude 1:1: the code or the name of a book was expected"},
       {"\\id JUD\n\\v 1\u200F-2 a", "65 1:1-2 a|"},
       {"A licence: free.\r\n\r\n\\id JUD\r\n\\v 1 a\r\n\\v 2", "65 1:1 a|65 1:2 |"},
-      {"\\id JUD\n\\v 1 a\n\\v x b", "3: Jude 1: the number of a verse was expected: \"x\""}};
+      {"\\id JUD\n\\v 1 a \\xx b|c \\nd* d\n\\v 2 \\xx e|f \\xx* g", "65 1:1 a b|c d|65 1:2 e g|"},
+      {"<usx>\n<book code='JUD'/>", "2: Jude: well-formed XML was expected: the end of usx (line 1), not of the file"},
+      {"<usx>\n<book code=JUD/></usx>", "2: well-formed XML was expected: AttValue: \" or ' expected"},
+      {"\\h Ruth\n\\v 1 a", "2: \\id and the code of a book were expected before \\v \"1\""},
+      // What is shown of a text ends behind 60 bytes.
+      {"\\id JUD\n\\v " + sixty, "2: Jude 1: the number of a verse was expected: \"" + sixty + "\""},
+      {"\\id JUD\n\\v " + sixty + "x", "2: Jude 1: the number of a verse was expected: \"" + sixty + "...\""}};
   for (const auto& [content, expected] : cases) EXPECT_EQ(Outcome(content), expected) << content;
 }
 

@@ -74,6 +74,8 @@ TEST(CodePageTest, DecodesAndKeepsWhatDoesNotDecode) {
       {"big5", "\x87\x40", "䏰", "䏰", std::string::npos},
       {"utf-8", "a\xE9o", "a\xE9o", "a\uFFFDo", 1},
       {"big5", "\xA4", "\xA4", "\uFFFD", 0},
+      {"shift_jis", "\x85\x41", "\x85\x41", "\uFFFDA", 0},
+      {"euc-kr", "\xC9\x41", "\xC9\x41", "\uFFFDA", 0},
       {"koi8-u", "\xBE\xC1", "Ўа", "Ўа", std::string::npos},
       {"gb2312", "\xA2\xE3", "€", "€", std::string::npos},
       {"iso-8859-16", "\xA4\xFE\x85", "€ț\u0085", "€ț\u0085", 2},

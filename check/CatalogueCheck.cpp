@@ -105,6 +105,9 @@ void CheckCatalogue(CheckedLibrary& library) {
     library.findings.Add(FindingOf(error));
   }
   glob.cboBibleName = glob.BibleNames;
+  glob.BibleNames.emplace_back();
+  glob.BibleFiles.emplace_back();
+  glob.BibleImports.emplace_back();
 }
 
 }  // namespace folionet

@@ -13,8 +13,8 @@ class LibraryCheck {
  public:
   explicit LibraryCheck(CheckedLibrary library) : m_library(std::move(library)) {}
 
-  // The catalogue and the book titles. Fills BibleNames, BibleFiles and cboBibleName with the translations whose text
-  // is there, whatever else is wrong.
+  // The catalogue and the book titles. Fills the lists of translations with those whose text is there, whatever else is
+  // wrong.
   void ExamineLists();
 
   // A translation's chapter index and text. `stem` is in the bytes of the catalogue.

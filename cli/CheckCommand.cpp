@@ -25,7 +25,10 @@ void ShowAll(const Findings& findings, ConsoleUi& ui) {
     ui.Show(finding);
   }
   const std::size_t unlisted = findings.Count() - findings.Kept().size();
-  if (unlisted > 0) ui.Sum(std::to_string(unlisted) + " more are not listed.", Severity::kFault);
+  if (unlisted > 0) {
+    ui.Show(
+        {.kind = "more", .severity = Severity::kNote, .what = {"%1 more are not listed.", {std::to_string(unlisted)}}});
+  }
   const std::size_t warnings = findings.Count(Severity::kWarning);
   ui.Sum(Counted(findings.Count(Severity::kFault), "fault") +
              (warnings > 0 ? ", " + Counted(warnings, "warning") : "") + " found.",

@@ -11,6 +11,7 @@
 #include "FileNames.h"
 #include "FolderReader.h"
 #include "GeneratorLine.h"
+#include "OptionTable.h"
 #include "OutputFolder.h"
 #include "PageNames.h"
 #include "SiteFolder.h"
@@ -37,8 +38,14 @@ struct FileFacts {
   std::string head;
 };
 
-// The pages of chapters have this version whatever the program has; index pages have the program's.
-constexpr std::string_view kChapterVersion = "1.0";
+// Its GENERATOR line has three parts of the version, that of a chapter's page two, whatever the program's version is.
+bool IsIndexPage(std::string_view page) { return std::ranges::count(Between(page, kGenerator, "\""), '.') > 1; }
+
+// A chapter's page tells the name in its link back to the index page, where that has the words of its default.
+std::string_view NameInChapter(std::string_view page) {
+  const std::string_view link = FindOption("LinkToMain")->defaultText;
+  return Between(page, link.substr(0, link.find('%')), "<");
+}
 
 // An index page has the name as its heading.
 std::string_view NameInIndex(std::string_view page) {
@@ -59,10 +66,8 @@ FileFacts LookAtFile(int folder, const char* name) {
   old.isOurs = IsOurPage(head);
   const std::size_t length = std::min(kLongestHead, static_cast<std::size_t>(status.st_size));
   if (!old.isOurs || (length > head.size() && !ReadAll(file.Get(), head, length, 0))) return old;
-  const bool isIndex = Between(head, kGenerator, "\"") != kChapterVersion;
   const CodePage codePage{std::string(Between(head, "charset=", "\""))};
-  // The link of another page back to the index page tells it, in its first form.
-  old.translation = codePage.DecodeForDisplay(isIndex ? NameInIndex(head) : Between(head, "Main Index: ", "<"));
+  old.translation = codePage.DecodeForDisplay(IsIndexPage(head) ? NameInIndex(head) : NameInChapter(head));
   return old;
 }
 

@@ -42,9 +42,10 @@ struct ModGlob {
   std::string ModulesPath;  // holds "Bible"
   std::string SysdefsPath;  // holds the catalogue and the book titles
 
-  std::vector<std::string> BibleNames;     // display names; one spare element at the end
-  std::vector<std::string> BibleFiles;     // file stems, parallel to BibleNames
-  std::vector<ImportedText> BibleImports;  // parallel to BibleNames
+  // Parallel, with one spare element at their end, whoever fills them; empty before.
+  std::vector<std::string> BibleNames;  // display names
+  std::vector<std::string> BibleFiles;  // file stems
+  std::vector<ImportedText> BibleImports;
 
   std::array<std::string, kBooks + 1> BookCodes;              // element 0 is unused
   std::array<std::int16_t, kBooks + 1> ChaptersInBook{};      // by order of appearance; element 0 is unused

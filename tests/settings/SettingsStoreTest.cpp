@@ -26,8 +26,8 @@ TEST(SettingsStoreTest, ReadsBackEveryTextAsItWasStored) {
       "@Bytes",     "100%",    "@Invalid()",
   };
   for (const std::string& text : texts) {
-    SettingsStore(folder.Path()).SaveText("Keywords", text);
-    EXPECT_EQ(SettingsStore(folder.Path()).Text("Keywords"), text);
+    SettingsStore(folder.Path() + "a/b/").SaveText("Keywords", text);
+    EXPECT_EQ(SettingsStore(folder.Path() + "a/b/").Text("Keywords"), text);
   }
 }
 

@@ -49,7 +49,7 @@ TEST(NumbersTest, TakesTheNumberThatATextBeginsWith) {
     std::optional<std::int16_t> value;
   } cases[] = {{"12abc", 12},       {"", 0},    {"x", 0},         {"  5", 5},
                {"12.5", 12},        {"-4", -4}, {"32767", 32767}, {"32768", {}},
-               {"99999999999", {}}, {"nan", 0}, {"info", 0}};
+               {"99999999999", {}}, {"nan", 0}, {"info", 0},      {".", 0}};
   for (const auto& c : cases) EXPECT_EQ(LeadingInteger(c.text), c.value) << c.text;
 }
 

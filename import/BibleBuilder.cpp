@@ -38,7 +38,7 @@ bool IsVerseField(std::string_view field) {
 
 void BibleBuilder::SetFile(const std::string& file) {
   m_file = file;
-  m_line = 0;
+  m_line = 1;
 }
 
 void BibleBuilder::SetName(std::string_view name) {
@@ -100,7 +100,7 @@ void BibleBuilder::BeginBook(std::string_view name) {
 }
 
 void BibleBuilder::BeginBookNumber(int number, std::string_view name) {
-  const bool isKnown = number >= 1 && number <= kBooks;
+  const bool isKnown = number <= kBooks;
   const std::string clean = WithSingleBlanks(name);
   OpenBook(isKnown ? number : OutsideBook(clean.empty() ? "book " + std::to_string(number) : clean));
 }
@@ -125,7 +125,7 @@ void BibleBuilder::OpenBook(int number) {
 }
 
 void BibleBuilder::AddTitle(TitleKind kind, std::string_view title) {
-  if (m_book < 1 || m_book > kBooks) return;
+  if (m_book > kBooks) return;
   const int rank = 3 - static_cast<int>(kind);
   const auto book = static_cast<std::size_t>(m_book);
   std::string clean = WithSingleBlanks(title);
@@ -189,7 +189,6 @@ void BibleBuilder::AddBreak() {
 }
 
 void BibleBuilder::BeginCanonicalTitle() {
-  AddBreak();
   if (m_isInVerse && m_verse.IsEmpty()) return;  // it stands where it belongs
   m_isInTitle = true;
   m_title.Break();
@@ -210,7 +209,6 @@ void BibleBuilder::CloseVerse() {
   }
   m_hasVerse = false;
   m_isInVerse = false;
-  m_verse.Clear();
 }
 
 void BibleBuilder::CloseChapter() {
@@ -256,7 +254,6 @@ void BibleBuilder::EndFile() {
   CloseChapter();
   TellMisfits();
   m_book = 0;
-  m_chapter = 0;
 }
 
 void BibleBuilder::UseNamesInOrder() {
@@ -321,7 +318,6 @@ void BibleBuilder::CheckCounts() const {
 }
 
 ImportedBible BibleBuilder::Finish() {
-  CloseChapter();
   UseNamesInOrder();
   if (m_bible.VerseCount() == 0) {
     Sentence what{Words("Import", "a text with verses was expected; there is none")};

@@ -93,7 +93,6 @@ std::map<std::string, int> MakeKeys() {
   for (int number = 1; number <= kBooks; ++number) {
     const Book& book = BookAt(number);
     keys.emplace(BookKey(book.code), number);
-    keys.emplace(BookKey(book.title), number);
     for (const std::string_view synonym : SplitAt(book.synonyms, " ")) keys.emplace(synonym, number);
   }
   // A name that two languages give to two books stays with the first.

@@ -52,7 +52,7 @@ class BibleReader {
       return;
     }
     if (kind != m_kind && !BelongsHere(kind, file)) return;
-    m_isFormSure = m_isFormSure || kind != FormKind::kLines || file.isGiven;
+    m_isFormSure = m_isFormSure || file.isGiven;
     m_builder.SetFile(file.name);
     if (kind == FormKind::kLines && !file.isGiven) {
       TakeLines(file.name, text);
@@ -72,7 +72,6 @@ class BibleReader {
       m_builder = BibleBuilder();
       m_lineFault.reset();
       for (const std::string& name : m_lineFiles) NoteLeftOut(name);
-      m_lineFiles.clear();
     } else if (m_kind != FormKind::kNone) {
       throw ImportError(kInvalidProcedureCall, file.name,
                         {Words("Import", "Files of one form were expected: this one is %1, %2 is %3."),
@@ -122,7 +121,7 @@ class BibleReader {
   BibleBuilder m_builder;
   FormKind m_kind = FormKind::kNone;
   std::string m_first;                   // the file that told the form
-  bool m_isFormSure = false;             // files of another form than m_kind are a fault
+  bool m_isFormSure = false;             // one of one verse a line was named itself: files of another form are a fault
   std::vector<std::string> m_lineFiles;  // those of one verse a line that were not named themselves
   std::optional<ImportError> m_lineFault;
 };

@@ -56,7 +56,6 @@ std::string NotePath(const std::string& sysdefs, Doing doing) {
 void MakeFoldersOf(const LibraryPlan& plan, Doing doing) {
   MakeFolders(fs::path(plan.library.IndexFile(plan.stem)).parent_path().string(), doing);
   for (const auto& [path, content] : plan.files) MakeFolders(fs::path(path).parent_path().string(), doing);
-  MakeFolders(fs::path(plan.verseFile).parent_path().string(), doing);
 }
 
 // Keeps the library for this import alone, or asks whether that could be done.

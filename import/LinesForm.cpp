@@ -122,8 +122,7 @@ std::optional<LinesForm::Columns> LinesForm::ColumnsOfHeader(std::string_view li
     std::array<bool, kNames.size()> found{};
     const std::vector<std::string> fields = Split(line, separator);
     for (std::size_t i = 0; i < fields.size(); ++i) {
-      std::string name = BookKey(fields[i]);
-      std::erase(name, '_');
+      const std::string name = BookKey(fields[i]);
       for (std::size_t column = 0; column < kNames.size(); ++column) {
         if (std::find(kNames[column].begin(), kNames[column].end(), name) == kNames[column].end()) continue;
         places[column] = i;
@@ -255,7 +254,6 @@ void LinesForm::Read(std::string_view piece) {
 
 void LinesForm::Finish() {
   if (!m_rest.empty()) TakeLine(m_rest);
-  m_rest.clear();
   if (!m_record.empty()) FailQuote();
 }
 
@@ -268,8 +266,7 @@ void LinesForm::TakeLine(std::string_view line) {
     m_columns = ColumnsOfHeader(line);
     if (m_columns) return;
     m_columns = ColumnsOf(line);
-    if (!m_columns && m_before < kMostBefore && MayStandBefore(line)) {
-      ++m_before;
+    if (!m_columns) {
       m_builder.SetLine(m_line);
       return m_builder.Note("left-out-line", Words("Import", "Left out, as it is no verse: %1"), Quoted(line));
     }
@@ -292,12 +289,10 @@ void LinesForm::TakeMore(std::string_view line) {
   const Quotes quotes = QuotesOf(m_record, Separator());
   if (quotes == Quotes::kOpen) return;
   if (quotes == Quotes::kOdd) FailQuote();
-  m_builder.SetLine(m_recordLine);
   TakeRecord(std::exchange(m_record, {}));
 }
 
 void LinesForm::FailQuote() {
-  m_builder.SetLine(m_recordLine);
   m_builder.Fail({Words("Import", "a closing quote was expected: %1"), {Quoted(m_record)}});
 }
 

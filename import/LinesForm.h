@@ -29,7 +29,7 @@ class LinesForm : public TextForm {
  public:
   explicit LinesForm(BibleBuilder& builder);
 
-  // Lines that may come before the first verse, such as the name of the text.
+  // How many lines may come before the first verse, such as the name of the text.
   static constexpr int kMostBefore = 10;
 
   // Whether a line has this form, a line with the names of columns included.
@@ -80,7 +80,6 @@ class LinesForm : public TextForm {
   std::string m_record;  // one that goes on in the next line; empty for none
   std::size_t m_recordLine = 0;
   std::optional<Columns> m_columns;
-  int m_before = 0;  // lines before the first verse, so far
   std::vector<std::string> m_fields;
   std::string m_book;
   std::string m_chapter;

@@ -95,10 +95,7 @@ XmlForm::Part OsisForm::Begin(const XmlElement& element) {
     if (element.Get("type") == "x-usfm-toc2") Builder().AddTitle(TitleKind::kMiddle, element.Get("n"));
   }
   if (name == "work") m_isInWork = true;
-  if (name == "osisText") {
-    m_isInWork = false;
-    Builder().SetLanguage(element.Get("lang"));
-  }
+  if (name == "osisText") Builder().SetLanguage(element.Get("lang"));
   return Part::kPass;
 }
 

@@ -38,11 +38,9 @@ class ScriptCounts {
 
  private:
   void AddCharacter(UChar32 character) {
-    if (character < 0 || u_isalpha(character) == 0) return;
+    if (u_isalpha(character) == 0) return;
     UErrorCode status = U_ZERO_ERROR;
-    const UScriptCode script = uscript_getScript(character, &status);
-    if (U_FAILURE(status) || script == USCRIPT_COMMON || script == USCRIPT_INHERITED) return;
-    ++m_counts[script];
+    ++m_counts[uscript_getScript(character, &status)];
     const auto code = static_cast<char32_t>(character);
     m_isPolytonic = m_isPolytonic || (code >= kPolytonicFirst && code <= kPolytonicLast);
   }

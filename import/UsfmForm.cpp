@@ -45,6 +45,9 @@ void UsfmForm::ReadRest(Piece piece) {
   std::string_view rest = m_rest;
   while (!rest.empty()) {
     const std::size_t slash = std::min(rest.find('\\'), rest.size());
+    // What stands behind a "|" depends on the marker that follows.
+    const std::size_t longestEnd = m_unknown.size() + std::string_view("\\+*").size();
+    if (!isLast && !m_unknown.empty() && rest.size() - slash < longestEnd && slash < kLongestArgument) break;
     if (slash > 0) {
       const std::size_t length = slash == rest.size() && !isLast ? slash - HalfBreak(rest) : slash;
       const std::size_t kept = EndsUnknown(rest.substr(slash)) ? std::min(rest.find('|'), length) : length;
@@ -235,7 +238,6 @@ void UsfmForm::BeginLine(MarkerKind kind, std::string_view name) {
   switch (kind) {
     case MarkerKind::kBook:
       m_role = Role::kBook;
-      m_isInSidebar = false;
       return;
     case MarkerKind::kHeader:
     case MarkerKind::kToc2:

@@ -126,13 +126,8 @@ void XmlReader::EndElement(std::string_view name) {
     return;
   }
   if (!m_handler.PutsUpWithEnd(name)) {
-    const std::string found(name);
-    if (m_depth == 0) {
-      throw TextFault({Words("Import", "well-formed XML was expected: the end of the file, not of %1"), {found}},
-                      Line());
-    }
     throw TextFault({Words("Import", "well-formed XML was expected: the end of %1, not of %2"),
-                     {m_opened[m_depth - 1].name, found}},
+                     {m_opened[m_depth - 1].name, std::string(name)}},
                     Line());
   }
   m_hasMisfits = true;

@@ -31,7 +31,6 @@ XmlForm::Part ZefaniaForm::Begin(const XmlElement& element) {
     return Part::kPass;
   }
   if (name == "biblebook") {
-    m_isInInformation = false;
     const std::string_view title = element.Get("bname");
     const IntegerReading number = ReadInteger(element.Get("bnumber"), 1, kInt16Max);
     if (number.error == 0) {
@@ -44,9 +43,8 @@ XmlForm::Part ZefaniaForm::Begin(const XmlElement& element) {
     return Part::kPass;
   }
   if (name == "xmlbible") Builder().SetName(element.Get("biblename"));
-  if (name == "information") m_isInInformation = true;
-  if (m_isInInformation && name == "title") return Capture(Told::kName);
-  if (m_isInInformation && name == "language") return Capture(Told::kLanguage);
+  if (name == "title") return Capture(Told::kName);
+  if (name == "language") return Capture(Told::kLanguage);
   if (IsOneOf(name, {"note", "remark", "xref", "media"})) return Part::kLeftOut;
   if (IsOneOf(name, {"caption", "prolog"})) return Part::kHeading;
   return name == "br" ? Part::kBlock : Part::kPass;

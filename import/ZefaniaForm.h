@@ -15,8 +15,6 @@ class ZefaniaForm : public XmlForm {
 
  private:
   Part Begin(const XmlElement& element) override;
-
-  bool m_isInInformation = false;
 };
 
 }  // namespace folionet

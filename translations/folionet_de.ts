@@ -240,10 +240,6 @@
         <translation>höchstens %1 ineinander liegende Elemente wurden erwartet</translation>
     </message>
     <message>
-        <source>well-formed XML was expected: the end of the file, not of %1</source>
-        <translation>wohlgeformtes XML wurde erwartet: das Ende der Datei, nicht von %1</translation>
-    </message>
-    <message>
         <source>well-formed XML was expected: the end of %1, not of %2</source>
         <translation>wohlgeformtes XML wurde erwartet: das Ende von %1, nicht von %2</translation>
     </message>

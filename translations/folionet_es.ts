@@ -240,10 +240,6 @@
         <translation>se esperaban como máximo %1 elementos anidados</translation>
     </message>
     <message>
-        <source>well-formed XML was expected: the end of the file, not of %1</source>
-        <translation>se esperaba XML bien formado: el final del archivo, no el de %1</translation>
-    </message>
-    <message>
         <source>well-formed XML was expected: the end of %1, not of %2</source>
         <translation>se esperaba XML bien formado: el final de %1, no el de %2</translation>
     </message>

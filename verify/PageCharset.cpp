@@ -21,7 +21,8 @@ constexpr std::array<std::string_view, 10> kHeadElements{"html", "head",  "title
 
 constexpr std::size_t kAlwaysSearched = 1024;
 
-// The character for the byte 0 that does not decode; the others follow it. Nobody else has a use for them.
+// The character for the byte 0 that does not decode; the others follow it. Where a page holds one of them itself, its
+// bytes are taken so too, for what is written to be had back always.
 constexpr UChar32 kFirstByte = 0x10FE00;
 bool IsByte(UChar32 character) { return character >= kFirstByte && character < kFirstByte + 0x100; }
 
@@ -74,7 +75,7 @@ std::string FindPageCharset(std::string_view page) {
 std::string DecodePage(std::string_view page, const CodePage& codePage) {
   std::string text;
   ForEachUtf8(codePage.Decode(page), [&](const Piece& piece) {
-    if (piece.character >= 0) {
+    if (piece.character >= 0 && !IsByte(piece.character)) {
       text += piece.bytes;
     } else {
       for (const char byte : piece.bytes)
@@ -82,12 +83,6 @@ std::string DecodePage(std::string_view page, const CodePage& codePage) {
     }
   });
   return text;
-}
-
-std::string AsBrowsersRead(std::string_view text) {
-  std::string read;
-  ForEachUtf8(text, [&](const Piece& piece) { read += IsByte(piece.character) ? "\uFFFD" : piece.bytes; });
-  return read;
 }
 
 std::string AsItIsWritten(std::string_view text) {
@@ -100,6 +95,12 @@ std::string AsItIsWritten(std::string_view text) {
     }
   });
   return written;
+}
+
+std::string AsBrowsersRead(std::string_view text) {
+  std::string read;
+  ForEachUtf8(AsItIsWritten(text), [&](const Piece& piece) { read += piece.character < 0 ? "\uFFFD" : piece.bytes; });
+  return read;
 }
 
 }  // namespace folionet

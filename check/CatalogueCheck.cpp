@@ -20,7 +20,7 @@ namespace {
 bool CheckVerseFile(const RecordReader& records, const std::string& name, const std::string& text,
                     CheckedLibrary& library) {
   if (FileExists(text)) return true;
-  const char* kind = "missing-text";
+  FindingKind kind = "missing-text";
   Sentence what{"The text of %1 is missing: %2", {Quoted(name), text}};
   try {
     const LineReader reader(text, Subject::kVerseFile);

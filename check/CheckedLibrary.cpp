@@ -8,7 +8,7 @@
 
 namespace folionet {
 
-void CheckedLibrary::Add(const char* kind, const std::string& path, std::size_t line, Sentence what, BiblePlace place) {
+void CheckedLibrary::Add(FindingKind kind, const std::string& path, std::size_t line, Sentence what, BiblePlace place) {
   findings.Add({.kind = kind, .file = path, .line = line, .place = std::move(place), .what = std::move(what)});
 }
 

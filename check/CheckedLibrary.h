@@ -25,7 +25,7 @@ struct CheckedLibrary {
   bool IsImported() const { return glob.Imported.IsThere(); }
 
   // `line` is counted from 1; 0 is a fault of the file as a whole.
-  void Add(const char* kind, const std::string& path, std::size_t line, Sentence what, BiblePlace place = {});
+  void Add(FindingKind kind, const std::string& path, std::size_t line, Sentence what, BiblePlace place = {});
 
   // Names a file that is there in another letter case than it should be.
   void CheckLetterCase(const std::string& found, const std::string& expected);

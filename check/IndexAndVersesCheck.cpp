@@ -93,7 +93,7 @@ class TextReader {
     const std::string& path = m_reader.Lines().Path();
     const std::size_t line = m_reader.Lines().LineNumber();
     std::vector<std::string> texts{std::to_string(verse.book), std::to_string(verse.chapter)};
-    const auto add = [&](const char* kind, const char* pattern, std::initializer_list<std::string> more) {
+    const auto add = [&](FindingKind kind, const char* pattern, std::initializer_list<std::string> more) {
       texts.insert(texts.end(), more);
       Finding finding{.kind = kind, .file = path, .line = line, .place = place, .what = {pattern, texts}};
       if (m_library.IsImported()) {

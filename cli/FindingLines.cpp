@@ -45,8 +45,8 @@ std::string PlainLine(const Finding& finding) {
 }
 
 std::string JsonLine(const Finding& finding) {
-  std::string line =
-      "{\"kind\":" + JsonText(finding.kind) + ",\"severity\":" + JsonText(SeverityName(finding.severity));
+  std::string line = "{\"kind\":" + JsonText(std::string(finding.kind.Word())) +
+                     ",\"severity\":" + JsonText(SeverityName(finding.severity));
   const auto add = [&](const char* name, const std::string& text) {
     if (!text.empty()) line += std::string(",\"") + name + "\":" + JsonText(text);
   };

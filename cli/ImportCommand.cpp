@@ -93,7 +93,7 @@ std::string ResultLine(const LibraryPlan& plan) {
 
 // What was read, as JSON: each book with its numbers, and the translation that becomes of it.
 void ShowPlan(const ImportedBible& bible, const LibraryPlan& plan, ConsoleUi& ui) {
-  const auto show = [&ui](const char* kind, int book, const std::string& text) {
+  const auto show = [&ui](FindingKind kind, int book, const std::string& text) {
     ui.Show({.kind = kind, .severity = Severity::kNote, .place = {book, 0, {}}, .what = {"%1", {text}}});
   };
   const auto chapters = bible.Chapters();

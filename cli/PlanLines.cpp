@@ -1,7 +1,7 @@
 #include "PlanLines.h"
 
 #include <array>
-#include <cstring>
+#include <string_view>
 
 #include "CodePage.h"
 #include "Counted.h"
@@ -15,11 +15,11 @@ namespace {
 void PrintLine(const Finding& finding, ConsoleUi& ui) {
   if (ui.IsJson()) return ui.Show(finding);
   constexpr std::size_t kColumn = 9;
-  ui.Print(std::string(finding.kind).append(kColumn - std::strlen(finding.kind), ' ') + finding.file +
-           finding.what.InEnglish());
+  const std::string_view kind = finding.kind.Word();
+  ui.Print(std::string(kind).append(kColumn - kind.size(), ' ') + finding.file + finding.what.InEnglish());
 }
 
-void PrintFiles(const char* kind, const std::vector<std::string>& names, ConsoleUi& ui) {
+void PrintFiles(FindingKind kind, const std::vector<std::string>& names, ConsoleUi& ui) {
   for (const std::string& name : names) PrintLine({.kind = kind, .severity = Severity::kNote, .file = name}, ui);
 }
 

@@ -1,16 +1,11 @@
 #include "TellFacts.h"
 
-#include <string_view>
-
 #include "RunFacts.h"
 
 namespace folionet {
 namespace {
 
-bool IsRemoval(const Finding& fact) {
-  const std::string_view kind = fact.kind;
-  return kind == kRemovesPages || kind == kRemovesLaterPages;
-}
+bool IsRemoval(const Finding& fact) { return fact.kind == "removes-pages" || fact.kind == "removes-later-pages"; }
 
 void Tell(const Finding& fact, ConsoleUi& ui) {
   if (fact.severity == Severity::kWarning) {

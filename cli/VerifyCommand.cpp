@@ -39,7 +39,7 @@ void ShowReport(const SiteReport& report, ConsoleUi& ui) {
   for (const Sentence& remedy : report.remedies) ui.Tell(remedy.InEnglish());
 }
 
-void ShowName(const std::string& page, const char* kind, ConsoleUi& ui) {
+void ShowName(const std::string& page, FindingKind kind, ConsoleUi& ui) {
   if (ui.IsJson()) {
     ui.Show({.kind = kind, .severity = Severity::kNote, .file = page});
   } else {
@@ -75,7 +75,7 @@ ExitStatus RemoveStale(const SiteReport& report, ConsoleUi& ui) {
 ExitStatus TellStale(const VerifyArguments& arguments, const SiteReport& report, ConsoleUi& ui) {
   if (!report.isStaleCertain && !report.stale.empty()) {
     for (const Finding& finding : report.findings) {
-      if (finding.kind != std::string_view("unreached")) ui.Warn(finding);
+      if (finding.kind != "unreached") ui.Warn(finding);
     }
     ui.Tell(std::string("Nothing was ") + (arguments.removeStale ? "removed" : "listed") +
             ": what the index leads to is not certain.");

@@ -35,7 +35,7 @@ class FactFinder {
   std::vector<Finding> WarnOfRemoval(std::vector<Finding> facts) const {
     if (m_request.txtOutputPath.empty()) return facts;
     for (Finding& fact : facts) {
-      if (std::string_view(fact.kind) == kRemovesPages && ArePagesThere()) fact.severity = Severity::kWarning;
+      if (fact.kind == "removes-pages" && ArePagesThere()) fact.severity = Severity::kWarning;
     }
     return facts;
   }
@@ -235,7 +235,7 @@ std::vector<Finding> FindRangeFacts(const CompileRequest& request, const ModGlob
   const bool isReversed = request.cboEndBook < request.cboStartBook;
   if (isReversed) {
     facts.push_back(
-        Warning(kEndsBeforeStart,
+        Warning("ends-before-start",
                 {Words("QObject", "The ending book stands before the starting book: the index page has no links."), {}},
                 {"Give the books in their order with --start-book and --end-book."}));
   }
@@ -245,7 +245,7 @@ std::vector<Finding> FindRangeFacts(const CompileRequest& request, const ModGlob
                                        [&](const auto& chapter) { return chapter.first == book; });
     return counts[static_cast<std::size_t>(book)] - static_cast<int>(missing);
   };
-  const auto addRemoval = [&](const char* kind, int pages, const char* one, const char* many) {
+  const auto addRemoval = [&](FindingKind kind, int pages, const char* one, const char* many) {
     if (pages == 0) return;
     facts.push_back({.kind = kind,
                      .severity = isReversed ? Severity::kWarning : Severity::kNote,
@@ -257,19 +257,19 @@ std::vector<Finding> FindRangeFacts(const CompileRequest& request, const ModGlob
   }
   if (chosen == 0 && !isReversed) {
     facts.push_back(Warning(
-        kNoChapters,
+        "no-chapters",
         {Words("QObject", "The chapter index counts no chapter of the chosen books: the index page has no links."), {}},
         {"Choose books that it counts with --books, or with --start-book and --end-book."}));
   }
   int before = 0;
   for (int book = 1; book <= std::min(request.cboStartBook, kBooks); ++book) before += pagesOf(book);
-  addRemoval(kRemovesPages, before, Words("QObject", "1 page is removed, that of a book before the starting book."),
+  addRemoval("removes-pages", before, Words("QObject", "1 page is removed, that of a book before the starting book."),
              Words("QObject", "%1 pages are removed, those of the books before the starting book."));
   if (!request.onlyChosen) return facts;
   int after = 0;
   const PageNames names = PageNamesOf(request, glob);
   for (const int book : BooksRemovedAfter(request, names)) after += pagesOf(book);
-  addRemoval(kRemovesLaterPages, after, Words("QObject", "1 page is removed, that of a book after the ending book."),
+  addRemoval("removes-later-pages", after, Words("QObject", "1 page is removed, that of a book after the ending book."),
              Words("QObject", "%1 pages are removed, those of the books after the ending book."));
   return facts;
 }

@@ -67,13 +67,14 @@ void BibleBuilder::Fail(Sentence what) const {
   throw ImportError(kInvalidProcedureCall, m_file, std::move(what), m_line, Place());
 }
 
-void BibleBuilder::Note(const char* kind, const char* pattern, const std::string& about) {
-  if (!m_noted.insert(kind + about).second) return;
+void BibleBuilder::Note(FindingKind kind, const char* pattern, const std::string& about) {
+  if (!m_noted.insert(std::string(kind.Word()) + about).second) return;
   m_bible.findings.Add({kind, Severity::kNote, m_file, m_line, {}, {pattern, {about}}, {}});
 }
 
 void BibleBuilder::NoteMisfit(const Misfit& misfit, const std::string& about) {
-  const auto [noted, isNew] = m_misfits.try_emplace({misfit.kind, about}, NotedMisfits{misfit, m_line});
+  const auto [noted, isNew] =
+      m_misfits.try_emplace({std::string(misfit.kind.Word()), about}, NotedMisfits{misfit, m_line});
   if (!isNew) ++noted->second.more;
 }
 
@@ -220,7 +221,7 @@ void BibleBuilder::CloseChapter() {
 }
 
 void BibleBuilder::NameOddities() {
-  const auto name = [this](const char* kind, const char* pattern) {
+  const auto name = [this](FindingKind kind, const char* pattern) {
     const std::string place = Place();
     Findings& findings = m_book <= kBooks ? m_bible.findings : m_ofOutside;
     findings.Add({kind,
@@ -280,7 +281,7 @@ void BibleBuilder::UseNamesInOrder() {
 }
 
 void BibleBuilder::FindMissing() {
-  const auto name = [this](const char* kind, const char* pattern, const std::string& what) {
+  const auto name = [this](FindingKind kind, const char* pattern, const std::string& what) {
     m_bible.findings.Add({kind, Severity::kNote, {}, 0, {}, {pattern, {what}}, {}});
   };
   const auto title = [](int book) { return std::string(BookAt(book).title); };

@@ -57,12 +57,12 @@ class BibleBuilder {
   bool IsInVerse() const { return m_isInVerse; }
 
   // Something that was passed over or put up with, told once for each `about`.
-  void Note(const char* kind, const char* pattern, const std::string& about);
+  void Note(FindingKind kind, const char* pattern, const std::string& about);
 
   // What has not quite its form at the line at hand, and is put up with: a warning for each file and `about`, which
   // is %1. Where there are several it has the words `many`, whose %2 is the number of those after the first.
   struct Misfit {
-    const char* kind = "";
+    FindingKind kind;
     const char* one = "";
     const char* many = "";
   };

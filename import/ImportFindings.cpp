@@ -69,7 +69,7 @@ Sentence WhichNamesLack(const ImportedBible& bible, const LibraryRequest& reques
 
 std::vector<Finding> FindingsOf(const ImportedBible& bible, const LibraryRequest& request, const LibraryPlan& plan) {
   std::vector<Finding> told;
-  const auto note = [&](const char* kind, Sentence what, Sentence remedy = {}) {
+  const auto note = [&](FindingKind kind, Sentence what, Sentence remedy = {}) {
     told.push_back({.kind = kind, .severity = Severity::kNote, .what = std::move(what), .remedy = std::move(remedy)});
   };
   if (!plan.renamed.empty()) told.push_back(RenamedBooksOf(request, plan));

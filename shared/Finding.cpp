@@ -3,7 +3,7 @@
 namespace folionet {
 
 Finding FindingOf(const RunTimeError& error) {
-  Finding finding{.kind = error.Line() != 0 ? "malformed" : "unreadable",
+  Finding finding{.kind = error.Line() != 0 ? FindingKind("malformed") : FindingKind("unreadable"),
                   .file = error.Item(),
                   .line = error.Line(),
                   .what = {"%1.", {std::string(StandardMessage(error.Number()))}}};
@@ -14,7 +14,7 @@ Finding FindingOf(const RunTimeError& error) {
   return finding;
 }
 
-Finding Warning(const char* kind, Sentence what, Sentence remedy) {
+Finding Warning(FindingKind kind, Sentence what, Sentence remedy) {
   return {.kind = kind, .severity = Severity::kWarning, .what = std::move(what), .remedy = std::move(remedy)};
 }
 

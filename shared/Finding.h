@@ -1,10 +1,12 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
 
+#include "FindingKind.h"
 #include "RunTimeError.h"
 #include "Sentence.h"
 
@@ -25,13 +27,15 @@ struct BiblePlace {
 
 // Something that a look through files found, as a value: the command line prints it, a form shows it.
 struct Finding {
-  const char* kind = "";  // a fixed word for programs that read it: "missing-chapter"
+  FindingKind kind;
   Severity severity = Severity::kFault;
   std::string file{};    // UTF-8
   std::size_t line = 0;  // from 1; 0 is the file as a whole
   BiblePlace place{};
   Sentence what{};
   Sentence remedy{};  // what a person does about it; empty when the kind of look has one remedy for all
+  // What the setting "Charset" should be, where another one is the remedy; empty where that cannot be told.
+  std::optional<std::string> charsetEntry{};
 };
 
 // What the reader of a file could not read, with the kind "unreadable"; a line that has not the form of its file is of
@@ -39,7 +43,7 @@ struct Finding {
 Finding FindingOf(const RunTimeError& error);
 
 // Something of a warning's weight that is of no one file.
-Finding Warning(const char* kind, Sentence what, Sentence remedy);
+Finding Warning(FindingKind kind, Sentence what, Sentence remedy);
 
 // Collects what is found, in the order in which it is found.
 class Findings {

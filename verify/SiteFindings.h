@@ -33,7 +33,7 @@ struct BrokenTarget {
 };
 
 struct FaultWords {
-  const char* kind;
+  FindingKind kind;
   const char* onOne;   // page: %1 is what is named, %3 the name that is there
   const char* onMany;  // pages: %2 is their number
 };

@@ -38,9 +38,8 @@ class Import {
   // What a person does in the form about a finding of this kind; the remedy of the finding itself is the command
   // line's.
   static QString Step(const Finding& finding) {
-    const std::string_view kind = finding.kind;
-    if (kind == "language") return tr("Another one is chosen in Page Encoding, once the text is imported.");
-    if (kind == "book-names" || kind == "renamed-books") {
+    if (finding.kind == "language") return tr("Another one is chosen in Page Encoding, once the text is imported.");
+    if (finding.kind == "book-names" || finding.kind == "renamed-books") {
       return tr("The help says how to name them: \"Names of the books in your own language\".");
     }
     return {};

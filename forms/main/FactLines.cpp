@@ -6,7 +6,6 @@
 #include <utility>
 
 #include "Catalogue.h"
-#include "CharsetFindings.h"
 #include "FolderFacts.h"
 #include "PageNames.h"
 #include "QtText.h"
@@ -69,19 +68,20 @@ QString FolderText(const FolderFacts& facts) {
 }
 
 // What a person does in the form about a fact of this kind; the remedy of the fact itself is the command line's.
-QString Step(std::string_view kind) {
+QString Step(FindingKind kind) {
   if (kind == "pages-meet" || kind == "pages-not-found")
     return FactLines::tr("Choose another Language File, or Use 8.3 File Names.");
   if (kind == "charsets-differ") return FactLines::tr("Choose another Language File, or convert one of the two files.");
   if (kind == "language-not-listed") return FactLines::tr("Choose another one in Page Encoding.");
-  if (std::string_view(kind).starts_with("index-")) return FactLines::tr("Enter another name for the index page.");
+  if (kind == "index-takes-page" || kind == "index-not-found")
+    return FactLines::tr("Enter another name for the index page.");
   return {};
 }
 
 QString TextOf(const Finding& fact) {
   QString step = Step(fact.kind);
-  if (std::string_view(fact.kind) == "own-text-charset") step = InDesktopLanguage(fact.remedy);
-  if (const auto entry = EntryOfRemedy(fact.remedy)) {
+  if (fact.kind == "own-text-charset") step = InDesktopLanguage(fact.remedy);
+  if (const auto& entry = fact.charsetEntry) {
     step = entry->empty() ? FactLines::tr("Choose the right charset in Page Encoding.")
                           : FactLines::tr("Choose \"%1\" in Page Encoding.").arg(ToQt(*entry));
   }
@@ -131,10 +131,10 @@ void FactLines::ShowRange() {
     request.txtOutputPath.clear();  // what is on the disk is found beside the form
     request.sample = Sample(request.txtFilename);
     for (const Finding& fact : FindRunFacts(request, glob)) {
-      if (std::string_view(fact.kind) == kRemovesPages) {
+      if (fact.kind == "removes-pages") {
         lines << tr("The pages of %1 will be deleted: %2.")
                      .arg(BooksText(0, request.cboStartBook - 1), ToQt(fact.what.arguments.at(0)));
-      } else if (std::string_view(fact.kind) == kEndsBeforeStart) {
+      } else if (fact.kind == "ends-before-start") {
         lines << tr("The ending book stands before the starting book: the index will be empty.");
       } else {
         lines << TextOf(fact);

@@ -29,7 +29,7 @@ class Command {
     const auto isPlain = [](char c) {
       return IsLetterOrDigit(c) || std::string_view("_./:=@%+,-").find(c) != std::string_view::npos;
     };
-    if (!word.empty() && std::all_of(word.begin(), word.end(), isPlain)) {
+    if (std::all_of(word.begin(), word.end(), isPlain)) {
       m_text += word;
       return;
     }

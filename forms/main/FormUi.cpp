@@ -80,7 +80,6 @@ void PrepareBox(QMessageBox& box, const std::string& title, const std::string& t
   auto* grid = qobject_cast<QGridLayout*>(box.layout());
   if (label == nullptr || grid == nullptr) return;
   // Lines of our own stay lines, which Qt would break far earlier; one with a long path in it may wrap.
-  label->setWordWrap(false);
   label->setMinimumWidth(std::min(label->sizeHint().width(), WidestText(box)));
   label->setWordWrap(true);
   KeepToScreen(box, *label, *grid);
@@ -228,7 +227,6 @@ std::optional<SampleText> FormUi::ChooseFont(const SampleText& initial) {
   };
   QObject::connect(&dialog, &QFontDialog::currentFontChanged, &dialog, note);
   if (dialog.exec() != QDialog::Accepted) return std::nullopt;
-  note(dialog.selectedFont());
   SampleText chosen = initial;
   if (isFamilyChosen) chosen.FontName = FromQt(last.family());
   if (isStyleChosen) chosen.FontBold = last.bold();

@@ -76,7 +76,6 @@ void SampleTextBox::ShowSample(const SampleText& sample) {
   constexpr int kMostLines = 6;
   setMaximumHeight(
       std::max(sizeHint().height(), std::min(kMostLines * fontMetrics().lineSpacing(), 2 * sizeHint().height())));
-  updateGeometry();
 }
 
 int SampleTextBox::AroundText() const {

@@ -7,7 +7,7 @@ class QWidget;
 
 namespace folionet {
 
-// Calls `refresh` once for every key release anywhere in a form, before the control gets it. `refresh` gives whether it
+// Calls `refresh` for every key release anywhere in a form, before the control gets it. `refresh` gives whether it
 // succeeded. After a failure, which it told of in a box, releases without a press in the form do not count: the key
 // that closes the box is released in the form and would bring the box up again without end.
 class KeyReleases : public QObject {
@@ -20,12 +20,8 @@ class KeyReleases : public QObject {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
-  bool IsPassedOn(const QWidget* watched, const QEvent* event);
-
   std::function<bool()> m_refresh;
   bool m_needsPress = false;
-  const QEvent* m_lastEvent = nullptr;
-  const QWidget* m_lastWatched = nullptr;
 };
 
 }  // namespace folionet

@@ -88,6 +88,7 @@ TEST_F(CompileFromForm, AStoppedCheckSaysSoAndRemovesNothing) {
     auto* box = m_form->findChild<QProgressDialog*>(QStringLiteral("frmVerify"));
     if (box == nullptr || (!isEnd && box->value() < 1)) return;  // it moves
     EXPECT_TRUE(isEnd || box->maximum() > 400) << box->maximum();
+    EXPECT_LT(box->minimumDuration(), 1000) << "it comes when a person begins to wait";
     m_form->close();  // which must do nothing by now
     isEnd ? QApplication::exit() : box->findChild<QPushButton*>()->click();
   });

@@ -165,8 +165,9 @@ class FormRuns : public FormTest {
     QTextCursor place = page->textCursor();
     place.movePosition(QTextCursor::EndOfBlock, QTextCursor::KeepAnchor);
     const bool isThere = place.selection().toHtml().contains("<a name=\"" + topic + '"');
+    const bool hasKeys = help->focusWidget() == page;
     QTest::keyClick(page, Qt::Key_Tab);
-    const bool goesOn = page->textCursor().selectionStart() >= place.selectionStart();
+    const bool goesOn = hasKeys && page->textCursor().selectionStart() >= place.selectionStart();
     help->hide();
     return isThere && goesOn ? FromQt(topic) : FromQt(topic) + ", and the keys go on from another place";
   }

@@ -254,6 +254,12 @@ TEST_F(Texts, OpenWithinTheScreen) {
     const bool hasRoom = wanted.boundedTo(dialog->screen()->availableSize()) == wanted;
     EXPECT_EQ(hasRoom ? content->verticalScrollBar()->maximum() : 0, 0) << FromQt(dialog->objectName());
   }
+  auto& encoding = Get("frmEncoding.");
+  encoding.resize(encoding.width(), 1);
+  QApplication::processEvents();
+  const auto& scrolled = *encoding.findChild<QScrollArea*>(QStringLiteral("scrContent"));
+  const int bar = scrolled.verticalScrollBar()->isVisible() ? scrolled.verticalScrollBar()->width() : 0;
+  EXPECT_GE(scrolled.width() - scrolled.viewport()->width() - bar, bar > 0 ? 6 : 0) << "the bar stands off the content";
   m_form->resize(m_form->sizeHint());
   for (const char* file : {"index.html", "Book1_1.html", "note.txt"}) m_home.Write(std::string("site/") + file, "");
   ChooseOutput();

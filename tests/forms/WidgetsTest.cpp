@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QColorDialog>
+#include <QDir>
 #include <QElapsedTimer>
 #include <QFileDialog>
 #include <QFontDatabase>
@@ -13,6 +14,7 @@
 #include <QLayout>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QScreen>
@@ -257,15 +259,26 @@ TEST(FormUiTest, AFolderOfALibraryIsEnteredOrThatOfAnImportedText) {
   FormUi ui;
   WhenShown<QInputDialog>([](QInputDialog& box) {
     EXPECT_EQ(FromQt(box.windowTitle() + box.labelText() + box.textValue()), "titlepromptC:\\");
+    WhenShown<QFileDialog>([](QFileDialog& chooser) {
+      chooser.setDirectory(QStringLiteral("/usr"));
+      chooser.selectFile(QStringLiteral("/usr"));
+      static_cast<QDialog&>(chooser).accept();
+    });
+    box.findChild<QPushButton*>("cmdBrowse")->click();
+    EXPECT_EQ(FromQt(box.textValue()), "/usr/");
     box.setTextValue(QStringLiteral("/pasted/\r\n"));
     box.accept();
   });
   EXPECT_EQ(ui.AskText({"prompt", "title", "C:\\", LibraryFolder::kInstallation}), "/pasted/");
   WhenShown<QInputDialog>([&](QInputDialog& box) {
     WhenShown<frmImport>([&](frmImport& form) {
-      form.findChild<QLineEdit*>("txtPath")->setText(ToQt(text));
-      QTest::keyClick(form.findChild<QLineEdit*>("txtPath"), Qt::Key_Return);
-      EXPECT_TRUE(QTest::qWaitFor([&] { return !form.IsBusy(); }));
+      for (const QString& path : {QStringLiteral("~/no text"), ToQt(text)}) {
+        form.findChild<QLineEdit*>("txtPath")->setText(path);
+        QTest::keyClick(form.findChild<QLineEdit*>("txtPath"), Qt::Key_Return);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return !form.IsBusy(); }));
+        const QString found = form.findChild<QPlainTextEdit*>("txtFound")->toPlainText();
+        EXPECT_EQ(found.startsWith(QDir::homePath() + "/no text\n"), path.startsWith('~')) << FromQt(found);
+      }
       EXPECT_EQ(FromQt(form.findChild<QLineEdit*>("txtStem")->placeholderText()), "TEXT");
       form.findChild<QPushButton*>("cmdImport")->click();
     });
@@ -285,6 +298,7 @@ TEST(FormUiTest, TheFontChooserOffersOnlyWhatAPageTakes) {
   for (const bool isAccepted : {true, false}) {
     WhenShown<QFontDialog>([isAccepted](QFontDialog& box) {
       for (const QCheckBox* effect : box.findChildren<QCheckBox*>()) EXPECT_FALSE(effect->isVisible());
+      EXPECT_TRUE(box.testOption(QFontDialog::DontUseNativeDialog)) << "which would offer the effects";
       QFont font = box.currentFont();
       font.setPointSize(20);
       box.setCurrentFont(font);

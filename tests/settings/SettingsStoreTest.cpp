@@ -94,8 +94,8 @@ TEST(SettingsStoreTest, SavingTogetherHoldsBackOurOwnKeysAlone) {
     throw RunTimeError(kOutOfMemory, "x");
   };
   EXPECT_THROW(store.SaveTogether(failing), RunTimeError);
-  store.SaveTogether([] {});
-  EXPECT_EQ(SettingsStore(folder.Path()).Text("Font"), "Arial");
+  store.SaveText("FontSize", "9");
+  EXPECT_EQ(SettingsStore(folder.Path()).Text("FontSize") + SettingsStore(folder.Path()).Text("Font"), "9Arial");
   store.SaveText("Font", "Serif");
   EXPECT_EQ(SettingsStore(folder.Path()).Text("Font"), "Serif") << "at once again";
 }

@@ -1,8 +1,8 @@
 # folionet_component(NAME [PUBLIC dependency...] [PRIVATE dependency...])
 #
 # One static library for the folder it is called in, made of the folder's own .cpp files, with the folder as its only
-# include path. A folder sees the headers of the folders that it names here and of no others: a PRIVATE dependency is
-# not handed on, so the include table of ARCHITECTURE.md holds because anything else does not compile.
+# include path. A folder sees the headers of the folders that it names here, and of those that these hand on as
+# PUBLIC; script/check-includes holds the include table of ARCHITECTURE.md, this and every #include together.
 function(folionet_component name)
   folionet_library(${name} ${ARGN})
   folionet_precompile(folionet_${name} folionet_shared cmake/StandardHeaders.h)

@@ -11,7 +11,7 @@ namespace folionet {
 
 enum class CompileOutcome {
   kDone,        // every page is written and the counts were told
-  kRefused,     // validation told why; nothing was written but, with that option on, the style sheet
+  kRefused,     // validation told why; nothing was written but the style sheet, with chkCSS on
   kFailed,      // a run-time failure was reported; the pages written before it stay
   kStopped,     // the request's isStopped said so; the pages written before it stay
   kEndProgram,  // the chapter index is missing and said so; the program must end

@@ -53,9 +53,9 @@ IndexAddress SplitIndexAddress(const std::string& httpRoot, bool use83) {
 
 std::optional<Refusal> Validate(const CompileRequest& request) {
   if (!IsFolderChosen(request)) return Refuse(Topic::kNoOutputFolder, "No Path", "No Output path Selected.", "Dir1");
-  if (request.options.txtBibleSel == "txtBibleSel")
+  if (request.options.txtBibleSel == kNoBibleSel)
     return Refuse(Topic::kNoTranslation, "No Bible", "No Bible Selected.", "cboBibleName");
-  if (request.options.txthttpRoot == "txthttpRoot") {
+  if (request.options.txthttpRoot == kNoHttpRoot) {
     return Refuse(Topic::kNoIndexAddress, "No HTTP Root", "No HTTP root has been entered.", "txthttpRoot");
   }
   if (request.cboLang == "Default") {

@@ -11,7 +11,7 @@ namespace folionet {
 
 // What is done to the files of an open folder. A run does it, a plan asks whether it could be done: whatever a run may
 // be refused is asked here, so that the two agree. Each routine gives 0, or what failed, or would fail, as a value of
-// errno; the files are then as they were.
+// errno; the files are then as they were, but for Overwrite.
 class FileChanges {
  public:
   virtual ~FileChanges() = default;

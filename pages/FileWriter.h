@@ -7,8 +7,10 @@
 
 namespace folionet {
 
-// Changes files so that nobody sees a part of a new one: it gets its name when it is whole, and a program that is
-// killed before leaves nothing. Where the file system knows no files without a name, it has it from the start.
+// Changes files. Nobody sees a part of a new one: Make gives it its name when it is whole, and a program that is killed
+// before leaves nothing; where the file system knows no files without a name, it has it from the start. Replace is
+// whole or nothing too, but a killed program may leave kOnItsWay. Overwrite is in place: who reads meanwhile may see a
+// part.
 class FileWriter : public FileChanges {
  public:
   int Make(int folder, const std::string& name, std::string_view bytes, const struct stat* like) override;

@@ -62,11 +62,11 @@ class SiteFolder {
   // (kPermissionDenied) naming the program that has it. A file system that knows no locks is let pass.
   void Lock() const;
 
-  // Whether the run writes, or takes away, a file of that name: no link may lead one of its files to another one.
-  void SetFilesOfRun(std::function<bool(const std::string& name)> isOfRun) { m_isOfRun = std::move(isOfRun); }
-
   // Throws that error; `holder` as LockHolder names it.
   [[noreturn]] void RefuseHeld(const std::string& holder) const;
+
+  // Whether the run writes, or takes away, a file of that name: no link may lead one of its files to another one.
+  void SetFilesOfRun(std::function<bool(const std::string& name)> isOfRun) { m_isOfRun = std::move(isOfRun); }
 
   // `watch` outlives this.
   void SetWatch(ChangeWatch* watch) { m_watch = watch; }

@@ -17,7 +17,7 @@ struct PageEncoding {
 };
 
 // The code that an entry begins with: "en-us English USA" gives "en-us"; blanks before it do not count. Throws
-// RunTimeError (kInvalidProcedureCall) when no code and blank is there.
+// RunTimeError (kInvalidProcedureCall), naming the setting `what`, when no code and blank is there.
 std::string EncodingCode(std::string_view entry, std::string_view what);
 
 // The code of the stored language, which pages of a text that names none declare; empty when it cannot be read.

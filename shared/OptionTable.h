@@ -70,7 +70,7 @@ std::span<const Option> OptionTable();
 // The option of that key; nullptr when there is none.
 const Option* FindOption(std::string_view key);
 
-// Its place in the table.
+// Its place in the table, of which it is a row.
 std::size_t PlaceOf(const Option& option);
 
 // What a text of this form looks like, for messages: "0 or 1".
@@ -92,7 +92,7 @@ std::string OptionText(const Option& option, const PageOptions& options);
 // Gives the field the value of a text that has the option's form.
 void SetOption(const Option& option, std::string_view text, PageOptions& options);
 
-// Notes that a person has chosen the option's value, be it its default.
+// Notes that a person has chosen the option's value, be it its default. There is a row of that key.
 void MarkChosen(std::string_view key, PageOptions& options);
 
 // Gives every option of the part its default, chosen.

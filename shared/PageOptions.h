@@ -87,6 +87,10 @@ struct MainOptions {
 
 inline constexpr std::size_t kMostOptions = 64;
 
+// What the two hold before a person has entered or chosen one, as their boxes do.
+inline constexpr char kNoHttpRoot[] = "txthttpRoot";
+inline constexpr char kNoBibleSel[] = "txtBibleSel";
+
 struct PageOptions {
   PageOptions();  // every default
 
@@ -103,8 +107,8 @@ struct PageOptions {
   EffectsOptions frmEffects;
   EncodingOptions frmEncoding;
   MainOptions main;
-  std::string txthttpRoot = "txthttpRoot";  // the address of the index page
-  std::string txtBibleSel = "txtBibleSel";  // the display name of the chosen translation
+  std::string txthttpRoot = kNoHttpRoot;  // the address of the index page
+  std::string txtBibleSel = kNoBibleSel;  // the display name of the chosen translation
 
   // By an option's place in the table, whether its field was read, saved, reset or chosen. What is stored for any other
   // is kept by every saving as long as the field has its default.

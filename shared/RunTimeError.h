@@ -50,8 +50,8 @@ enum class Subject {
   kVerseFile,
 };
 
-// A statement that failed. Only the routines that carry a report label catch it: they hand it to
-// UserInterface::ShowErrorReport and leave.
+// A statement that failed. Where it ends a step, the routine that carries a report label catches it, hands it to
+// UserInterface::ShowErrorReport and leaves; where it does not, whoever can go on without what failed.
 class RunTimeError : public std::exception {
  public:
   // `item` is the path or the thing at hand; `line` counts from 1, 0 meaning that there is none; `detail` is the

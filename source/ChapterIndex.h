@@ -22,9 +22,11 @@ namespace folionet {
 // BooksInChapters and LoadVerseCount share one reading of the file, for as long as it stays as it is.
 
 // Counts the chapters of each book of the translation at place `translation` of BibleFiles into ChaptersInBook, which
-// it clears first. Books are numbered by order of appearance: a change of the third field starts the next book. A
-// missing index is told in a box and gives kEndProgram; a 67th book or a bad record is reported under
-// "BooksInChapters" and gives kReported, with the counts up to there.
+// it clears first. Books are numbered by order of appearance: a change of the third field starts the next book. Of an
+// imported text, as `glob` tells the chosen one, they have the numbers of the third field, the count is the highest
+// chapter, and missingChapters gets those before it that are not there. A missing index is told in a box and gives
+// kEndProgram; a place that is none, a 67th book or a bad record is reported under "BooksInChapters" and gives
+// kReported, with the counts up to there.
 Outcome BooksInChapters(ModGlob& glob, std::size_t translation, const CodePage& codePage, UserInterface& ui);
 
 // Reads the index at `path` into ChapterIndex: its records in order and one more that is all zero. Any failure, which a

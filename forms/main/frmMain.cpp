@@ -107,7 +107,7 @@ void frmMain::ConnectOptions() {
   connect(m_ui->chkDoubleSpace, &QCheckBox::clicked, this, [&options] { MarkChosen("chkDoubleSpace", options); });
   connect(m_ui->txthttpRoot, &QLineEdit::textChanged, this, [&options](const QString& text) {
     // An empty box stands for its initial text: nothing has been entered.
-    options.txthttpRoot = text.isEmpty() ? PageOptions().txthttpRoot : FromQt(text);
+    options.txthttpRoot = text.isEmpty() ? kNoHttpRoot : FromQt(text);
   });
   connect(m_ui->chkBack, &QCheckBox::clicked, this, &frmMain::updateCheck);
   connect(m_ui->chkCSS, &QCheckBox::clicked, this, &frmMain::CSSCheck);

@@ -58,7 +58,7 @@ class frmMain : public QMainWindow {
   // A file was dropped on the form.
   void TextDropped(const QString& path);
 
-  // The same, and the form is to start again with this site's file; empty for the person's own settings.
+  // The form must end now, and start again with this site's file; empty for the person's own settings.
   void SiteChosen(const std::string& path);
 
  protected:

@@ -90,7 +90,7 @@ std::string Unexpected(const QCommandLineParser& parser) {
 
 }  // namespace
 
-std::variant<Arguments, ExitStatus> ParseArguments(int argc, char** argv) {
+std::variant<FormArguments, ExitStatus> ParseFormArguments(int argc, char** argv) {
   for (int i = 1; i < argc; ++i) {
     if (IsUtf8(argv[i])) continue;
     std::fprintf(stderr, "Argument %d is not UTF-8 text: give it in UTF-8.\n", i);
@@ -100,7 +100,7 @@ std::variant<Arguments, ExitStatus> ParseArguments(int argc, char** argv) {
   const QCommandLineOption version(QStringLiteral("version"));
   QCommandLineParser parser;
   parser.addOptions({help, version});
-  Arguments arguments;
+  FormArguments arguments;
   const std::array<std::pair<const char*, std::string*>, 4> texts{{
       {"versalia-path", &arguments.folders.versaliaPath},
       {"module-path", &arguments.folders.modulePath},

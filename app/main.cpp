@@ -74,7 +74,7 @@ struct FormEnd {
 };
 
 // Opens the form with the settings of a site, or with the person's own where `site` is empty.
-FormEnd OpenForm(QApplication& app, const Arguments& arguments, FormUi& ui, const std::string& site) {
+FormEnd OpenForm(QApplication& app, const FormArguments& arguments, FormUi& ui, const std::string& site) {
   SettingsStore store(SettingsStore::DefaultFolder());
   FormEnd end;
   try {
@@ -102,7 +102,7 @@ FormEnd OpenForm(QApplication& app, const Arguments& arguments, FormUi& ui, cons
   return end;
 }
 
-int OpenForms(QApplication& app, const Arguments& arguments) {
+int OpenForms(QApplication& app, const FormArguments& arguments) {
   FormUi ui;
   std::string site = arguments.site;
   for (;;) {
@@ -119,7 +119,7 @@ int OpenForms(QApplication& app, const Arguments& arguments) {
 int RunProgram(int argc, char** argv) {
   // A limit on the size of files is a failure of the write that meets it, like a full disk.
   std::signal(SIGXFSZ, SIG_IGN);
-  const auto arguments = ParseArguments(argc, argv);
+  const auto arguments = ParseFormArguments(argc, argv);
   if (const auto* status = std::get_if<ExitStatus>(&arguments)) return *status;
   const QtMessageHandler handler = qInstallMessageHandler(TellNoDisplay);
   QApplication app(argc, argv);
@@ -133,7 +133,7 @@ int RunProgram(int argc, char** argv) {
   QTranslator ours;
   QTranslator qts;
   SpeakDesktopLanguage(ours, qts);
-  return OpenForms(app, std::get<Arguments>(arguments));
+  return OpenForms(app, std::get<FormArguments>(arguments));
 }
 
 }  // namespace

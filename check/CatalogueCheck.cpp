@@ -63,7 +63,7 @@ void CheckRecord(const RecordReader& records, const CatalogueRecord& record, Che
     library.Add("doubled-stem", path, line, {"The file stem is listed twice: %1", {Quoted(record.stem)}});
     return;
   }
-  library.CheckLetterCase(text, glob.ModulesPath + "Bible/" + library.codePage.Decode(record.stem) + ".TXT");
+  library.CheckLetterCase(text, glob.ModulesPath + kVerseFolder + library.codePage.Decode(record.stem) + kVerseEnding);
   glob.BibleNames.push_back(record.name);
   glob.BibleFiles.push_back(record.stem);
   glob.BibleImports.push_back(*imported);

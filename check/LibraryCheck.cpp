@@ -2,6 +2,7 @@
 
 #include "CatalogueCheck.h"
 #include "CharsetCheck.h"
+#include "FileNames.h"
 #include "IndexAndVersesCheck.h"
 #include "Installation.h"
 #include "TitlesCheck.h"
@@ -23,9 +24,9 @@ void LibraryCheck::ExamineLists() {
 }
 
 void LibraryCheck::ExamineTranslation(const std::string& stem) {
-  const TranslationFiles files{IndexFile(m_library.glob, m_library.codePage, stem),
-                               VerseFile(m_library.glob, m_library.codePage, stem),
-                               m_library.glob.InstallPath + "Index/" + m_library.codePage.Decode(stem) + ".TXT.INDEX"};
+  const TranslationFiles files{
+      IndexFile(m_library.glob, m_library.codePage, stem), VerseFile(m_library.glob, m_library.codePage, stem),
+      m_library.glob.InstallPath + kIndexFolder + m_library.codePage.Decode(stem) + kIndexEnding};
   for (const auto check : kTranslationChecks) check(m_library, files);
 }
 

@@ -22,8 +22,8 @@ void Remove(const CompileRequest& request, RunFolder& folder, const std::string&
   EndIfStopped(request);
   const Removal removal = folder.site.Remove(name);
   if (request.changes == nullptr) return;
-  request.changes->Removed(name, removal);
-  if (folder.site.HasKeptOld()) request.changes->Kept(name);
+  request.changes->NoteRemoved(name, removal);
+  if (folder.site.HasKeptOld()) request.changes->NoteKept(name);
 }
 
 }  // namespace
@@ -83,7 +83,7 @@ void CopyCSS(const CompileRequest& request, RunFolder& folder) {
 void NoteWritten(const CompileRequest& request, const RunFolder& folder, const std::string& name, PageChange change) {
   if (request.changes == nullptr) return;
   request.changes->Written(name, change, folder.site.WrittenBytes());
-  if (folder.site.HasKeptOld()) request.changes->Kept(name);
+  if (folder.site.HasKeptOld()) request.changes->NoteKept(name);
 }
 
 void WriteOtherFile(const CompileRequest& request, RunFolder& folder, const std::string& name, std::string_view bytes) {

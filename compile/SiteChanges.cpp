@@ -13,7 +13,7 @@ void SiteChanges::Written(const std::string& name, PageChange change, std::size_
   entry->second.bytes = bytes;
 }
 
-void SiteChanges::Removed(const std::string& name, Removal removal) {
+void SiteChanges::NoteRemoved(const std::string& name, Removal removal) {
   const auto [entry, isFirst] =
       m_states.emplace(name, File{removal == Removal::kRemoved ? State::kRemoved : State::kNothing});
   if (isFirst) {

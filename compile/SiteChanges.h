@@ -17,10 +17,10 @@ class SiteChanges {
  public:
   void Written(const std::string& name, PageChange change, std::size_t bytes);
 
-  void Removed(const std::string& name, Removal removal);
+  void NoteRemoved(const std::string& name, Removal removal);
 
   // A person's file was in the place of that one, and is kept beside it.
-  void Kept(const std::string& name) { m_kept.push_back(name); }
+  void NoteKept(const std::string& name) { m_kept.push_back(name); }
 
   // Names in the order in which the run came to them.
   std::vector<std::string> New() const { return Names(State::kNew); }

@@ -3,6 +3,8 @@
 #include <string>
 #include <utility>
 
+#include "FileNames.h"
+
 // A translation in the layout of Versalia's installation:
 //
 //   Sysdefs/Translations.txt             the catalogue                     (Catalogue.h)
@@ -25,8 +27,8 @@ class LibraryFiles {
   const std::string& Folder() const { return m_folder; }
 
   std::string Sysdefs(const std::string& name) const { return At("Sysdefs", name); }
-  std::string VerseFile(const std::string& stem) const { return At("Modules/Bible", stem + ".TXT"); }
-  std::string IndexFile(const std::string& stem) const { return At("Index", stem + ".TXT.INDEX"); }
+  std::string VerseFile(const std::string& stem) const { return At("Modules/Bible", stem + kVerseEnding); }
+  std::string IndexFile(const std::string& stem) const { return At("Index", stem + kIndexEnding); }
 
   // The file that a translation of that stem would take the place of; empty when there is none.
   std::string InTheWay(const std::string& stem) const;

@@ -1,6 +1,6 @@
 #include "ChapterNav.h"
 
-#include "Html.h"
+#include "Quotes.h"
 #include "RunTimeError.h"
 
 namespace folionet {

@@ -3,9 +3,9 @@
 #include <cstdint>
 #include <string>
 
-#include "Html.h"
 #include "PageFile.h"
 #include "PageTexts.h"
+#include "Quotes.h"
 
 namespace folionet {
 

@@ -2,7 +2,7 @@
 
 #include "BuildInfo.h"
 #include "ChapterNav.h"
-#include "Html.h"
+#include "Quotes.h"
 
 namespace folionet {
 namespace {

@@ -1,7 +1,7 @@
 #include "LinkBack.h"
 
 #include "BuildTitles.h"
-#include "Html.h"
+#include "Quotes.h"
 
 namespace folionet {
 

@@ -111,10 +111,10 @@ std::vector<Finding> FindInTypedTexts(const TypedTexts& typed) {
   AddWord("Keywords", options.frmKeywords.txtKeyWords, findings);
   AddWord("Description", options.frmKeywords.txtDescription, findings);
   AddWord("LinkToMain", options.frmLinkToMAin.txtLinkToMain, findings);
-  AddHtmlWord("CustomHeader.txt", typed.texts.CustomHeader, findings);
-  AddHtmlWord("CustomFooter.txt", typed.texts.CustomFooter, findings);
-  AddCharset("CustomHeader.txt", typed, typed.texts.CustomHeader, findings);
-  AddCharset("CustomFooter.txt", typed, typed.texts.CustomFooter, findings);
+  AddHtmlWord(kHeaderFile, typed.texts.CustomHeader, findings);
+  AddHtmlWord(kFooterFile, typed.texts.CustomFooter, findings);
+  AddCharset(kHeaderFile, typed, typed.texts.CustomHeader, findings);
+  AddCharset(kFooterFile, typed, typed.texts.CustomFooter, findings);
   return findings;
 }
 

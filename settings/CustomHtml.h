@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 
+#include "FileNames.h"
 #include "OwnText.h"
 #include "RunTimeError.h"
 #include "StoredSettings.h"
@@ -17,8 +18,8 @@ struct CustomHtmlKind {
   Procedure load;
 };
 
-inline constexpr CustomHtmlKind kCustomHeader{"CustomHeader.txt", Procedure::kLoadCustomHeader};
-inline constexpr CustomHtmlKind kCustomFooter{"CustomFooter.txt", Procedure::kLoadCustomFooter};
+inline constexpr CustomHtmlKind kCustomHeader{kHeaderFile, Procedure::kLoadCustomHeader};
+inline constexpr CustomHtmlKind kCustomFooter{kFooterFile, Procedure::kLoadCustomFooter};
 
 // The custom HTML of its file, whole, as UTF-8; `unsaved` where there is no file. A failure is reported by the load,
 // and then there is none.

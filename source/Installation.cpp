@@ -6,6 +6,7 @@
 #include <utility>
 #include <vector>
 
+#include "FileNames.h"
 #include "Paths.h"
 #include "ProgramFolder.h"
 #include "StoredSettings.h"
@@ -88,12 +89,12 @@ std::string VerseFile(const ModGlob& glob, const CodePage& codePage, std::string
 }
 
 std::string VerseFile(const ModGlob& glob, const CodePage& codePage, std::string_view stem, FolderLister& folders) {
-  return FileOfStem(glob.ModulesPath, "Bible/", NamesOf(stem, codePage, ".TXT"), folders);
+  return FileOfStem(glob.ModulesPath, kVerseFolder, NamesOf(stem, codePage, kVerseEnding), folders);
 }
 
 std::string IndexFile(const ModGlob& glob, const CodePage& codePage, std::string_view stem) {
   FolderLister folders;
-  return FileOfStem(glob.InstallPath, "Index/", NamesOf(stem, codePage, ".TXT.INDEX"), folders);
+  return FileOfStem(glob.InstallPath, kIndexFolder, NamesOf(stem, codePage, kIndexEnding), folders);
 }
 
 }  // namespace folionet

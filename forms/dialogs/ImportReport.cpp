@@ -49,17 +49,12 @@ class Import {
 
 }  // namespace
 
-QString OfImport(const Sentence& sentence) {
-  const QByteArray pattern = QCoreApplication::translate("Import", sentence.pattern).toUtf8();
-  return ToQt(Sentence{pattern.constData(), sentence.arguments}.InEnglish());
-}
-
 // What a person can do something about comes first: there may be hundreds of verses that are told.
 QString FoundInText(const LibraryPlan& plan) {
   QStringList lines = Import::Facts(plan);
   QStringList others;
   for (const Finding& finding : plan.findings) {
-    QString text = OfImport(finding.what);
+    QString text = InDesktopLanguage(finding.what, "Import");
     if (finding.severity == Severity::kWarning) text = Import::Warning(text);
     QString where = ToQt(finding.file);
     if (finding.line != 0) where += ", " + Import::Line(finding.line);
@@ -74,7 +69,7 @@ QString WhyNoImport(const ImportError& error) {
   QStringList lines{ToQt(error.Item())};
   if (error.Line() != 0) lines[0] += ", " + Import::Line(error.Line());
   if (!error.What().IsEmpty()) {
-    lines += ToQt(error.Place()) + OfImport(error.What());
+    lines += ToQt(error.Place()) + InDesktopLanguage(error.What(), "Import");
   } else {
     lines += error.Detail().empty() ? ToQt(StandardMessage(error.Number())) : ToQt(error.Detail());
   }

@@ -14,7 +14,4 @@ QString FoundInText(const LibraryPlan& plan);
 // Why it cannot be read or written: file and line, and what was expected.
 QString WhyNoImport(const ImportError& error);
 
-// The sentence in the desktop's language.
-QString OfImport(const Sentence& sentence);
-
 }  // namespace folionet

@@ -161,7 +161,7 @@ bool frmImport::IsRefused() {
   if (refusal.IsEmpty()) return false;
   const bool isStem = refusal.arguments[0] == "--stem";
   refusal.arguments[0] = FromQt((isStem ? m_ui->lblStem : m_ui->lblName)->text().remove(QLatin1Char('&')));
-  m_ui->txtFound->setPlainText(OfImport(refusal));
+  m_ui->txtFound->setPlainText(InDesktopLanguage(refusal, "Import"));
   (isStem ? m_ui->txtStem : m_ui->txtName)->setFocus();
   return true;
 }

@@ -19,9 +19,9 @@ inline QString ToQt(std::string_view utf8) {
 
 inline std::string FromQt(const QString& text) { return text.toStdString(); }
 
-// Of a pattern that is marked by Words("QObject", ...).
-inline QString InDesktopLanguage(const Sentence& sentence) {
-  const QByteArray pattern = QCoreApplication::translate("QObject", sentence.pattern).toUtf8();
+// Of a pattern that is marked by Words(context, ...).
+inline QString InDesktopLanguage(const Sentence& sentence, const char* context = "QObject") {
+  const QByteArray pattern = QCoreApplication::translate(context, sentence.pattern).toUtf8();
   return ToQt(Sentence{pattern.constData(), sentence.arguments}.InEnglish());
 }
 

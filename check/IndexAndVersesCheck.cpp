@@ -183,7 +183,6 @@ void CheckIndexAndVerses(CheckedLibrary& library, const TranslationFiles& files)
   } else {
     library.CheckLetterCase(files.index, files.properIndex);
   }
-  library.glob.Imported = {};
   try {
     library.glob.Imported = ReadImportedText(files.text).value_or(ImportedText());
     CheckImportedCharset(library, files.text);

@@ -16,13 +16,12 @@
 namespace folionet {
 namespace {
 
-constexpr char kGiveCharset[] = "Give the charset that it is in: --set \"%1\".";
 constexpr CharsetWords kOfFile{"other-charset", "The file is in UTF-8, and the pages are in %1.",
                                "The file is not in UTF-8, and the pages are.",
-                               "The file is not in %1, the charset of the pages.", kGiveCharset};
+                               "The file is not in %1, the charset of the pages."};
 constexpr CharsetWords kOfName{"other-charset", "The name is in UTF-8, and the pages are in %1.",
                                "The name is not in UTF-8, and the pages are.",
-                               "The name is not in %1, the charset of the pages.", kGiveCharset};
+                               "The name is not in %1, the charset of the pages."};
 
 // Nothing where the sample fits the pages.
 std::optional<Finding> FindOtherCharset(const CheckedLibrary& library, const TextSample& sample,

@@ -18,7 +18,6 @@ constexpr CharsetWords kOfText{
     .isUtf8 = Words("QObject", "The text of the translation is UTF-8, the pages %1."),
     .isNotUtf8 = Words("QObject", "The text of the translation is not UTF-8, the pages are."),
     .isOther = Words("QObject", "The text of the translation is not in %1, the charset of the pages."),
-    .remedy = "Give the charset that it is in: --set \"%1\".",
 };
 constexpr CharsetWords kOfTitles{
     .kind = "titles-charset",
@@ -32,7 +31,6 @@ constexpr CharsetWords kOfName{
     .isUtf8 = Words("QObject", "The name of the translation is UTF-8, the pages %1."),
     .isNotUtf8 = Words("QObject", "The name of the translation is not UTF-8, the pages are."),
     .isOther = Words("QObject", "The name of the translation is not in %1, the charset of the pages."),
-    .remedy = "Give the charset that it is in: --set \"%1\".",
 };
 
 // As FindMismatch, of what becomes names of pages or stands in each of them: a damaged byte counts too.

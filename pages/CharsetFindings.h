@@ -16,7 +16,7 @@ struct CharsetWords {
   const char* isUtf8;
   const char* isNotUtf8;
   const char* isOther;
-  const char* remedy;
+  const char* remedy = "Give the charset that it is in: --set \"%1\".";
 };
 
 Finding OtherCharset(const CharsetWords& words, const CharsetMismatch& mismatch, const CodePage& codePage);

@@ -10,6 +10,7 @@
 #include "BuildTitles.h"
 #include "CodePage.h"
 #include "FileNames.h"
+#include "OptionTable.h"
 #include "RecordReader.h"
 #include "RunTimeError.h"
 #include "Text.h"
@@ -44,7 +45,7 @@ bool IsKnownLanguage(const std::string& code, const std::string& list) {
   return *uloc_getISO3Language(language.c_str()) != '\0' || language.size() == 3 || IsListed(list, code);
 }
 
-void AddWord(const char* key, std::string_view text, std::vector<Finding>& findings) {
+void AddWord(std::string_view key, std::string_view text, std::vector<Finding>& findings) {
   const std::string_view word = FindUnknownWord(text);
   if (word.empty()) return;
   findings.push_back(
@@ -52,7 +53,7 @@ void AddWord(const char* key, std::string_view text, std::vector<Finding>& findi
               {Words("QObject",
                      "%1 in the setting %2 is no dynamic word, and stands in the pages as it is; the words "
                      "are %bible%, %bk%, %ch% and %vs%."),
-               {std::string(word), key}},
+               {std::string(word), std::string(key)}},
               {"Correct it."}));
 }
 
@@ -103,14 +104,9 @@ std::vector<Finding> FindInTypedTexts(const TypedTexts& typed) {
                                {Words("QObject", "No list of languages knows the page language %1."), {language}},
                                {"Give one that is listed with --set \"Lang=CODE NAME\", or add it to lang.txt."}));
   }
-  const PageOptions& options = typed.options;
-  AddWord("index_html", options.frmPAgeTitles.txtIndex_html, findings);
-  AddWord("PageTitles", options.frmPAgeTitles.txtPageTitles, findings);
-  AddWord("KeywordsI", options.frmKeywords.txtKeywordsI, findings);
-  AddWord("DescriptionI", options.frmKeywords.txtDescriptionI, findings);
-  AddWord("Keywords", options.frmKeywords.txtKeyWords, findings);
-  AddWord("Description", options.frmKeywords.txtDescription, findings);
-  AddWord("LinkToMain", options.frmLinkToMAin.txtLinkToMain, findings);
+  for (const Option& option : OptionTable()) {
+    if (option.form == OptionForm::kTemplate) AddWord(option.key, OptionText(option, typed.options), findings);
+  }
   AddHtmlWord(kHeaderFile, typed.texts.CustomHeader, findings);
   AddHtmlWord(kFooterFile, typed.texts.CustomFooter, findings);
   AddCharset(kHeaderFile, typed, typed.texts.CustomHeader, findings);

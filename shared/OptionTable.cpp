@@ -60,27 +60,27 @@ constexpr std::array kTable{
     Option{"chkAllCaps", kFlag, "0", kEffects, kWithDialog, kAt<kEffectsOf, &Effects::chkAllCaps>},
     Option{"chkUnderline", kFlag, "0", kEffects, kWithDialog, kAt<kEffectsOf, &Effects::chkUnderline>},
     Option{"chkRollover", kFlag, "1", kEffects, kWithDialog, kAt<kEffectsOf, &Effects::chkRollover>},
-    Option{"KeywordsI", kText,
+    Option{"KeywordsI", kTemplate,
            "%bible%, Online Bible, Versalia, Folionet, Free Online Bible, Free Bible, Christian literature, how to "
            "know Jesus, Christian Bible, Holy Scripture, God's Word",
            kKeywords, kWithDialog, kAt<&Page::frmKeywords, &MetaOptions::txtKeywordsI>},
-    Option{"DescriptionI", kText,
+    Option{"DescriptionI", kTemplate,
            "Read the %bible% Online or make your own for your Website or PC. Click on link at bottom of page to "
            "find out how...",
            kKeywords, kWithDialog, kAt<&Page::frmKeywords, &MetaOptions::txtDescriptionI>},
-    Option{"Keywords", kText,
+    Option{"Keywords", kTemplate,
            "%bible% %bk% %ch%:%vs%, Online Bible, Versalia, Folionet, Free %bible% Online Bible, Free %bible% "
            "Bible, Christian literature, how to know Jesus, Christian Bible, Holy Scripture, God's Word",
            kKeywords, kWithDialog, kAt<&Page::frmKeywords, &MetaOptions::txtKeyWords>},
-    Option{"Description", kText,
+    Option{"Description", kTemplate,
            "Read the %bible% %bk% %ch%:%vs% Online or make your own for your Website or PC. Click on link at "
            "bottom of page to find out how...",
            kKeywords, kWithDialog, kAt<&Page::frmKeywords, &MetaOptions::txtDescription>},
-    Option{"index_html", kText, "Read the %bible% Online.", kPageTitles, kWithDialog,
+    Option{"index_html", kTemplate, "Read the %bible% Online.", kPageTitles, kWithDialog,
            kAt<&Page::frmPAgeTitles, &PageTitleOptions::txtIndex_html>},
-    Option{"PageTitles", kText, "FREE Online %bible%. %bk% Chapter %ch%:%vs%.", kPageTitles, kWithDialog,
+    Option{"PageTitles", kTemplate, "FREE Online %bible%. %bk% Chapter %ch%:%vs%.", kPageTitles, kWithDialog,
            kAt<&Page::frmPAgeTitles, &PageTitleOptions::txtPageTitles>},
-    Option{"LinkToMain", kText, "Main Index: %bible%", kLinkToMain, kWithDialog,
+    Option{"LinkToMain", kTemplate, "Main Index: %bible%", kLinkToMain, kWithDialog,
            kAt<&Page::frmLinkToMAin, &LinkToMainOptions::txtLinkToMain>},
     Option{"LCR", kNumber, "2", kLinkToMain, kAtOnce, kAt<&Page::frmLinkToMAin, &LinkToMainOptions::LCR>},
     Option{"LinkBackSize", kNumber, "3", kLinkToMain, kAtOnce, kAt<&Page::frmLinkToMAin, &LinkToMainOptions::cboSize>},
@@ -166,6 +166,7 @@ std::string_view Describe(OptionForm form) {
       return "a number of points";
     case kEntry:
       return "a code, a blank and a description";
+    case kTemplate:
     case kText:
       break;
   }
@@ -194,6 +195,7 @@ int CheckOption(OptionForm form, std::string_view text) {
     }
     case kEntry:
       return CodeOfEntry(text).empty() ? kInvalidProcedureCall : 0;
+    case kTemplate:
     case kText:
       break;
   }

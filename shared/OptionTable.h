@@ -23,7 +23,8 @@ enum class OptionForm {
   kBoolean,    // True or False
   kNumber,     // a 16-bit decimal integer
   kPointSize,  // a decimal number of points, such as 10.5
-  kEntry,      // an entry of the lists of encodings: a code, a blank and a description
+  kEntry,      // an entry of the lists of encodings: a code, a blank and a description; free text, as the next
+  kTemplate,   // a text that may hold dynamic words, which a look through typed texts checks
   kText,       // as it stands
 };
 
@@ -77,7 +78,7 @@ std::size_t PlaceOf(const Option& option);
 std::string_view Describe(OptionForm form);
 
 // Whether a person types it as he likes, not as a number or one of a few words.
-constexpr bool IsFreeText(OptionForm form) { return form == OptionForm::kText || form == OptionForm::kEntry; }
+constexpr bool IsFreeText(OptionForm form) { return form >= OptionForm::kEntry; }
 
 // 0 when `text` has the form; otherwise the number of the run-time error that reading it is.
 int CheckOption(OptionForm form, std::string_view text);

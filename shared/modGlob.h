@@ -35,7 +35,7 @@ struct ImportedText {
 
 class IndexReading;
 
-// The values that the whole program shares, made in main and handed down by reference. Names and titles are the bytes
+// The values that the whole program shares, made once and handed down by reference. Names and titles are the bytes
 // of Versalia's files; folders are paths.
 struct ModGlob {
   std::string InstallPath;  // Versalia's folder, ending in a separator as Versalia stores it

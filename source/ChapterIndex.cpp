@@ -49,7 +49,7 @@ std::uint8_t ByteOf(const RecordReader& records, std::string_view field) {
 class IndexReading {
  public:
   IndexReading(const std::string& path, bool isImported)
-      : m_path(path), m_isImported(isImported), m_stamp(StampOf(path)), lastInput(LastInput({})) {
+      : lastInput(LastInput({})), m_path(path), m_isImported(isImported), m_stamp(StampOf(path)) {
     try {
       RecordReader records(path, Subject::kChapterIndex);
       Fields fields;
@@ -78,17 +78,6 @@ class IndexReading {
     return missing;
   }
 
- private:
-  using Fields = std::array<std::string_view, kFields>;
-
-  std::string m_path;
-  bool m_isImported;
-  std::optional<FileStamp> m_stamp;
-  std::array<std::bitset<kByteValues>, kBooks + 1> m_isThere;
-  std::int64_t m_lastBook = kInt32Min;  // stands for none
-  std::size_t m_bookCount = 0;
-
- public:
   std::array<std::int16_t, kBooks + 1> chapters{};
   std::vector<ChapterEntry> entries{1, ChapterEntry{}};
   std::optional<RunTimeError> countFailure;
@@ -96,6 +85,8 @@ class IndexReading {
   std::string lastInput;  // the fields at which entries failed
 
  private:
+  using Fields = std::array<std::string_view, kFields>;
+
   bool ReadOn(RecordReader& records, Fields& fields) {
     try {
       if (!records.Next(fields)) return false;
@@ -146,6 +137,13 @@ class IndexReading {
                       ByteOf(records, fields[kVersesField])};
     entries.push_back({});
   }
+
+  std::string m_path;
+  bool m_isImported;
+  std::optional<FileStamp> m_stamp;
+  std::array<std::bitset<kByteValues>, kBooks + 1> m_isThere;
+  std::int64_t m_lastBook = kInt32Min;  // stands for none
+  std::size_t m_bookCount = 0;
 };
 
 namespace {

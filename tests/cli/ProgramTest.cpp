@@ -20,12 +20,20 @@ TEST(ProgramTest, HelpFitsAScreenAndGivesAnExample) {
                                                                      {"import", "--help"}}) {
     const ProgramResult result = RunCli(arguments, home.Path());
     EXPECT_EQ(result.status, 0);
-    EXPECT_NE(result.output.find("\nExample:\n  folionet-cli "), std::string::npos) << result.output;
+    const std::string example = "\nExample:\n  folionet-cli " + (arguments.size() > 1 ? arguments[0] : "");
+    EXPECT_NE(result.output.find(example), std::string::npos) << result.output;
     std::istringstream lines(result.output);
     int count = 0;
     for (std::string line; std::getline(lines, line); ++count) EXPECT_LE(line.size(), 80U) << line;
     EXPECT_LE(count, arguments.front() == "import" ? 28 : 23) << result.output;  // that one names the forms of texts
   }
+}
+
+TEST(ProgramTest, TellsInOrderWhereResultsAndRemarksGoToOnePlace) {
+  const TemporaryFolder home;
+  home.Write("site/index.html", "<a href=none.html>");
+  const ProgramResult run = RunProgram({"/bin/sh", "-c", "\"$0\" verify site 2>&1", FOLIONET_CLI}, home.Path());
+  EXPECT_TRUE(run.output.starts_with("index.html:1: ")) << run.output;
 }
 
 TEST(ProgramTest, TellsThatItsResultCannotBeWritten) {

@@ -68,6 +68,10 @@ const Row kRows[] = {
     {"TwoLinksToOneFile",
      "mkdir out/a; mv out/exodus_1.html out/a/b; for page in genesis_2 exodus_1; do ln -sf a/b out/$page.html; done",
      "true"},
+    {"ALinkToAPageThatMayNotBeWritten",
+     "mv out/exodus_1.html out/a; ln -s a out/exodus_1.html; mv out/exodus_2.html out/b; ln -s b out/exodus_2.html; "
+     "echo >> out/b",
+     "chmod 444 out/[ab]"},
     {"APageOfTwoNames", kLinked, "true"},
     {"APageOfTwoNamesInAFolderThatMayNotBeWritten", kLinked, "chmod 555 out"},
     {"APageOfTwoNamesInAFolderOfAnother",

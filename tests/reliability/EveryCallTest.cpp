@@ -112,7 +112,7 @@ TEST_F(Compiles, OverAnOlderSite) {
   const auto arrange = [](const TemporaryFolder& home) {
     ArrangeLibrary(home);
     home.Write("site/genesis_1.html", "a person's page");
-    home.Write("site/exodus_1.html", kOurLine + std::string(5000, 'x'));
+    home.Write("site/leviticus_1.html", kOurLine + std::string(5000, 'x'));
     const std::string page = home.Write(std::string("site/") + kOfTwoNames, kOurLine + std::string("shorter"));
     std::filesystem::create_hard_link(page, home.Path() + "copy.html");
     home.Write("site/not-ours.html", "not ours");

@@ -192,7 +192,6 @@ void BibleBuilder::AddBreak() {
 void BibleBuilder::BeginCanonicalTitle() {
   if (m_isInVerse && m_verse.IsEmpty()) return;  // it stands where it belongs
   m_isInTitle = true;
-  m_title.Break();
 }
 
 void BibleBuilder::EndCanonicalTitle() {

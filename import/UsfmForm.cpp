@@ -232,9 +232,7 @@ void UsfmForm::BeginLine(MarkerKind kind, std::string_view name) {
     m_note.clear();
   }
   m_styles.clear();
-  if (m_isInCanonicalTitle) m_builder.EndCanonicalTitle();
-  m_isInCanonicalTitle = false;
-  m_builder.AddBreak();
+  m_builder.EndCanonicalTitle();  // a break, where none is open
   switch (kind) {
     case MarkerKind::kBook:
       m_role = Role::kBook;
@@ -254,7 +252,6 @@ void UsfmForm::BeginLine(MarkerKind kind, std::string_view name) {
       return;
     case MarkerKind::kCanonicalTitle:
       m_role = Role::kText;
-      m_isInCanonicalTitle = true;
       m_builder.BeginCanonicalTitle();
       return;
     case MarkerKind::kSidebar:

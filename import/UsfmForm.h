@@ -64,7 +64,6 @@ class UsfmForm : public TextForm {
   bool m_isInAttributes = false;
   bool m_isInMilestone = false;
   bool m_isInSidebar = false;
-  bool m_isInCanonicalTitle = false;
 };
 
 }  // namespace folionet

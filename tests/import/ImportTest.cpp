@@ -144,8 +144,10 @@ TEST(Lines, AreReadOrToldWithTheirNumber) {
       {"Ge1:1,Mark,my,2,words", "1 1:1 Mark,my,2,words|"},
       {std::string(1000, '\n') + "Jude,1,5,\"a\nb\"\n", "65 1:5 a b|"},
       {"Ge1:1z a; b", "1 1:1z a; b|"},
-      {"1,1,1,1,a, b", "1 1:1 a, b|"},
+      {"1,1,1,1,a", "1 1:1 a|"},
       {"Jude\t1\t1\ta\nJude\t1\t2", "65 1:1 a|65 1:2 |"},
+      {"t;b;c;v\na;Jude;1;1\nb;Jude;1",
+       "3: Jude 1:1: a verse such as \"GEN 1:1 In the beginning\" was expected: \"b;Jude;1\""},
       {"\\h Ruth\n\\p", "0: A Bible text was expected: USFM, USX, USFX, OSIS, Zefania XML, or one verse a line."},
       {"2 John 1x2\nGe1:1 a", "0: A Bible text was expected: USFM, USX, USFX, OSIS, Zefania XML, or one verse a line."},
       {"Ge0:1 In", "1: Genesis: a chapter from 1 to 255 was expected: \"0\""},
@@ -187,13 +189,13 @@ TEST(Text, IsInTheCharsetThatTheFileTells) {
   const std::string part = "\u00C0\u0800\U00010000\\+nd a|b\\+nd*c//d~/\\f + \\ft e\\f*\\zz g|h\\zz*";
   std::string given;
   std::string expected;
-  for (int i = 0; i < 1500; ++i) {
+  for (int i = 0; i < 30; ++i) {
     given += part;
     expected += "\u00C0\u0800\U00010000ac d\u00A0/g";
   }
-  for (std::size_t before = 0; before < part.size(); ++before) {
-    const std::string head = std::string(before % 2 == 0 ? "" : "\uFEFF") + "\\id JUD\n\\ide 1252\n\\v 1 ";
-    const std::string filling(before, 'a');
+  for (std::size_t before = 0; before < 2 * part.size(); ++before) {
+    const std::string head = std::string(before < part.size() ? "" : "\uFEFF") + "\\id JUD\n\\ide 1252\n\\v 1 ";
+    const std::string filling(64900 + before, 'a');
     EXPECT_TRUE(Outcome(head + filling + given) == "65 1:1 " + filling + expected + "|") << before;
   }
 }

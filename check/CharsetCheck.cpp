@@ -9,7 +9,6 @@
 #include "ImportedText.h"
 #include "Installation.h"
 #include "Paths.h"
-#include "Text.h"
 #include "TextCharset.h"
 #include "Utf8.h"
 

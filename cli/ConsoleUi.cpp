@@ -3,7 +3,6 @@
 #include <unistd.h>
 
 #include <cstdio>
-#include <utility>
 
 #include "ErrorReport.h"
 #include "FindingLines.h"

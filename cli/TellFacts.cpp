@@ -1,7 +1,5 @@
 #include "TellFacts.h"
 
-#include "RunFacts.h"
-
 namespace folionet {
 namespace {
 

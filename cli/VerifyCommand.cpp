@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <csignal>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "CommandEnd.h"

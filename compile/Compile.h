@@ -1,8 +1,5 @@
 #pragma once
 
-#include <cstdint>
-
-#include "CodePage.h"
 #include "CompileRequest.h"
 #include "UserInterface.h"
 #include "modGlob.h"

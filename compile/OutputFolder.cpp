@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <set>
 #include <string_view>
-#include <unordered_map>
 
 #include "ChapterNav.h"
 #include "FileNames.h"

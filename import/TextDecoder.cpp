@@ -3,7 +3,6 @@
 #include <unicode/ucnv.h>
 
 #include <algorithm>
-#include <array>
 
 #include "CharsetLabels.h"
 #include "RunTimeError.h"

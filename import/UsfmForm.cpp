@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "LineReader.h"
-#include "RunTimeError.h"
 #include "Text.h"
 
 namespace folionet {

@@ -5,7 +5,6 @@
 #include <string>
 
 #include "LateLibrary.h"
-#include "LineReader.h"
 #include "Text.h"
 #include "TextFault.h"
 

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "LineReader.h"
 #include "RunTimeError.h"
 #include "Text.h"
 

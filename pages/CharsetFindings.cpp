@@ -1,7 +1,5 @@
 #include "CharsetFindings.h"
 
-#include <utility>
-
 namespace folionet {
 namespace {
 

@@ -4,8 +4,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cstdint>
-#include <utility>
 
 #include "Addresses.h"
 #include "HtmlReader.h"

@@ -3,7 +3,6 @@
 #include <exception>
 #include <mutex>
 #include <optional>
-#include <utility>
 
 #include "ImportText.h"
 

@@ -2,7 +2,6 @@
 
 #include <QShowEvent>
 #include <utility>
-#include <vector>
 
 #include "CustomHtml.h"
 #include "EncodingInUse.h"

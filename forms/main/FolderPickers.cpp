@@ -6,7 +6,6 @@
 #include <cerrno>
 #include <future>
 #include <memory>
-#include <utility>
 
 #include "BackgroundWork.h"
 #include "CompileRequest.h"

@@ -18,7 +18,6 @@
 #include "Paths.h"
 #include "QtText.h"
 #include "RunTimeError.h"
-#include "Validation.h"
 #include "VerseFileReader.h"
 #include "WholeFile.h"
 

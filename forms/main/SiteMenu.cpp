@@ -7,7 +7,6 @@
 #include <utility>
 
 #include "BuildInfo.h"
-#include "OptionLoading.h"
 #include "QtText.h"
 #include "RunTimeError.h"
 #include "TranslationNames.h"

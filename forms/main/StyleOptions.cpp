@@ -4,7 +4,6 @@
 #include <utility>
 
 #include "OptionLoading.h"
-#include "QtText.h"
 #include "RunTimeError.h"
 #include "ui_frmMain.h"
 

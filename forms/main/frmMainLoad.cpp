@@ -1,7 +1,6 @@
 #include <string>
 
 #include "BuildInfo.h"
-#include "ChapterIndex.h"
 #include "EncodingInUse.h"
 #include "FactLines.h"
 #include "FolderPickers.h"

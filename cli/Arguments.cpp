@@ -285,7 +285,6 @@ Arguments ParseArguments(int argc, char** argv) {
   try {
     app.parse(argc, argv);
   } catch (const CLI::ParseError& error) {
-    asked.run = nullptr;
     std::ostringstream output;
     std::ostringstream errors;
     asked.status = app.exit(error, output, errors) == 0 ? kExitDone : kExitUsage;

@@ -154,6 +154,10 @@ TEST_F(Compiles, EndBetweenTwoPagesOnceTheyAreStopped) {
   StrikeEach(job, {"stop15", "stop2", "stop1"}, {"write", "unlink", "rename"}, look);
   EXPECT_GT(removals.count(false), 15U);
   EXPECT_EQ(removals.count(true), 9U);
+  // One who has left it to itself, as nohup does, is not heard.
+  job.command = With({"/usr/bin/env", "--ignore-signal=HUP"}, job.command);
+  StrikeEach(job, {"stop1"}, {"unlink"},
+             [](const auto& /*home*/, const FaultyRun& run, const auto& /*kind*/) { EXPECT_EQ(run.result.status, 0); });
 }
 
 // The list of the run that was killed, or could not be written, is lost with it: the next one tells all that the two

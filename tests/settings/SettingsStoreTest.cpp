@@ -55,9 +55,9 @@ TEST(SettingsStoreTest, ChangesWhatIsSavedAndNothingElse) {
     EXPECT_EQ(SettingsStore(folder.Path()).Text("Font"), "Arial");
   }
   const TemporaryFolder folder;
-  folder.Write("Folionet.ini", "\xFF\xFE[");
+  folder.Write("Folionet.ini", "\xFF\xFE\x3D\xD8");
   EXPECT_THROW(SettingsStore(folder.Path()).SaveText("Font", "Arial"), RunTimeError);
-  EXPECT_EQ(folder.Read("Folionet.ini"), "\xFF\xFE[");
+  EXPECT_EQ(folder.Read("Folionet.ini"), "\xFF\xFE\x3D\xD8");
 }
 
 TEST(SettingsStoreTest, AFailedSaveIsToldAndNotTriedAgain) {

@@ -49,7 +49,7 @@ TEST(CodePageTest, EncodesWhatTheCodePageHoldsAndReferencesTheRest) {
       {"iso-8859-7", "Ψ—", "\xD8&#8212;"},
       {"utf-8", "Ψ—𝄞", "Ψ—𝄞"},
       {"windows-1252", "𝄞", "&#119070;"},
-      {"shift_jis", "表", "\x95\x5C"},
+      {"shift_jis", "表¥", "\x95\x5C&#165;"},
       {"windows-1252", "a\xFF", "a\xFF"},
       {"windows-1251", "a\u200Db", "a&#8205;b"},
       {"iso-8859-16", "ȚÿЖ\u0085", "\xDE\xFF&#1046;\x85"},

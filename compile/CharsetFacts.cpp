@@ -43,25 +43,23 @@ std::optional<CharsetMismatch> FindAnyMismatch(const std::string& text, const Co
 }
 
 Finding Difference(bool isTextUtf8) {
-  return {.kind = "charsets-differ",
-          .severity = Severity::kWarning,
-          .what = {isTextUtf8 ? Words("QObject",
-                                      "The text of the translation is UTF-8 and the book titles are not: no charset of "
-                                      "the pages fits both.")
-                              : Words("QObject",
-                                      "The book titles are UTF-8 and the text of the translation is not: no charset of "
-                                      "the pages fits both."),
-                   {}},
-          .remedy = {"Give other titles with --language-file, or convert one of the two files."}};
+  return Warning("charsets-differ",
+                 {isTextUtf8 ? Words("QObject",
+                                     "The text of the translation is UTF-8 and the book titles are not: no charset of "
+                                     "the pages fits both.")
+                             : Words("QObject",
+                                     "The book titles are UTF-8 and the text of the translation is not: no charset of "
+                                     "the pages fits both."),
+                  {}},
+                 {"Give other titles with --language-file, or convert one of the two files."});
 }
 
 // What an imported text was noted to be in when it was written is not what its file holds now.
 Finding NotAsImported(const CompileRequest& request, const ModGlob& glob) {
-  return {.kind = "text-charset",
-          .severity = Severity::kWarning,
-          .what = {Words("QObject", "The text of the translation is not in %1, which its import has noted in %2."),
-                   {glob.Imported.charset, ImportedTextFile(request.txtFilename)}},
-          .remedy = {"Import the text again with --replace, or correct charset= there."}};
+  return Warning("text-charset",
+                 {Words("QObject", "The text of the translation is not in %1, which its import has noted in %2."),
+                  {glob.Imported.charset, ImportedTextFile(request.txtFilename)}},
+                 {"Import the text again with --replace, or correct charset= there."});
 }
 
 }  // namespace

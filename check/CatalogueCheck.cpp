@@ -6,7 +6,7 @@
 #include "Catalogue.h"
 #include "CharsetCheck.h"
 #include "FileNames.h"
-#include "ImportedText.h"
+#include "ImportedTextFile.h"
 #include "Installation.h"
 #include "LineReader.h"
 #include "Paths.h"

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "CharsetFindings.h"
-#include "ImportedText.h"
+#include "ImportedTextFile.h"
 #include "Installation.h"
 #include "Paths.h"
 #include "TextCharset.h"

@@ -4,7 +4,7 @@
 
 #include "ChapterOrder.h"
 #include "CharsetCheck.h"
-#include "ImportedText.h"
+#include "ImportedTextFile.h"
 #include "LineReader.h"
 #include "Numbers.h"
 #include "Paths.h"

@@ -3,7 +3,7 @@
 #include <utility>
 
 #include "CharsetFindings.h"
-#include "ImportedText.h"
+#include "ImportedTextFile.h"
 #include "Installation.h"
 #include "Paths.h"
 #include "TextCharset.h"

@@ -7,7 +7,7 @@
 
 #include "CharsetFindings.h"
 #include "CodePage.h"
-#include "ImportedText.h"
+#include "ImportedTextFile.h"
 #include "TextCharset.h"
 
 namespace folionet {

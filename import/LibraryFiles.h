@@ -13,7 +13,7 @@
 //   Sysdefs/BOOKS_<STEM>.TXT             the book titles of the translation; with a number where that name is taken
 //   Index/<STEM>.TXT.INDEX               the chapter index
 //   Modules/Bible/<STEM>.TXT             the verses                        (LibraryWriter.h)
-//   Modules/Bible/<STEM>.TXT.folionet    what else is known of it          (ImportedText.h)
+//   Modules/Bible/<STEM>.TXT.folionet    what else is known of it          (ImportedTextFile.h)
 
 namespace folionet {
 

@@ -9,7 +9,7 @@
 #include "FlowingText.h"
 #include "ImportError.h"
 #include "ImportFindings.h"
-#include "ImportedText.h"
+#include "ImportedTextFile.h"
 #include "LibraryTitles.h"
 #include "Paths.h"
 #include "ProgramFolder.h"

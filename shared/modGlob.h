@@ -19,7 +19,8 @@ struct ChapterEntry {
   std::uint8_t Verses = 0;
 };
 
-// What is known of a translation that was imported beside what Versalia's files can say; all UTF-8.
+// What is known of a translation that was imported beside what Versalia's files can say, as source/ImportedTextFile.h
+// reads it; all UTF-8.
 struct ImportedText {
   std::string name;       // display name
   std::string language;   // code, such as "en"; empty when the text did not tell

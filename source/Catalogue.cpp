@@ -8,7 +8,7 @@
 #include "ChosenText.h"
 #include "FileNames.h"
 #include "FolderLister.h"
-#include "ImportedText.h"
+#include "ImportedTextFile.h"
 #include "Installation.h"
 #include "Numbers.h"
 #include "Paths.h"

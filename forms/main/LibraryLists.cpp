@@ -10,7 +10,7 @@
 #include "ChapterIndex.h"
 #include "ChosenText.h"
 #include "EncodingInUse.h"
-#include "ImportedText.h"
+#include "ImportedTextFile.h"
 #include "OptionLoading.h"
 #include "Paths.h"
 #include "QtText.h"

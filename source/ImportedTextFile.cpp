@@ -1,4 +1,4 @@
-#include "ImportedText.h"
+#include "ImportedTextFile.h"
 
 #include <array>
 #include <string_view>

@@ -180,7 +180,7 @@ TEST(OptionsTest, OfAFileThatCannotBeReadAreNotWrittenOver) {
 
 // A change of the charset that was killed, and a file of which others have saved before the next start.
 TEST(SettingsStoreTest, AnUnfinishedChangeIsMadeInLaterSettingsAndUndoneForOtherLaterFiles) {
-  const std::string before = "[Keys]\nCharset=a b\n";
+  const std::string before = "[Keys]\nCharset=a b\nOld=1\n";
   const std::string after = "[Keys]\nCharset=c d\n";
   const struct {
     std::string header, ini, wantedHeader, wantedIni;

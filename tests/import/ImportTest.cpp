@@ -119,7 +119,7 @@ TEST(Lines, OfSixtySixNamesStandForTheBooksInOrder) {
 }
 
 TEST(Lines, AreReadOrToldWithTheirNumber) {
-  const std::string large(70000, 'a');
+  const std::string large(200000, 'a');
   const std::pair<std::string, std::string> cases[] = {
       {"Ge1:1 " + large + "\nGe1:2 b", "1 1:1 " + large + "|1 1:2 b|"},
       {"\xEF\xBB\xBFGe1:1 In the beginning\r\n\r\n \t\r\nGEN 1:2 And\n1 Samuel 3:4 And\nII Kings 2:1: came: to\nMat "
@@ -143,6 +143,7 @@ TEST(Lines, AreReadOrToldWithTheirNumber) {
       {"\"Ge1:1\",\"a, b\"\n", "1 1:1 a, b|"},
       {"Ge1:1,Mark,my,2,words", "1 1:1 Mark,my,2,words|"},
       {std::string(1000, '\n') + "Jude,1,5,\"a\nb\"\n", "65 1:5 a b|"},
+      {"Ge1:1 a\n\n" + std::string((4 << 20) + 1, 'b'), "3: Genesis 1:1: a line of at most 4 MiB was expected"},
       {"Ge1:1z a; b", "1 1:1z a; b|"},
       {"1,1,1,1,a", "1 1:1 a|"},
       {"Jude\t1\t1\ta\nJude\t1\t2", "65 1:1 a|65 1:2 |"},

@@ -39,7 +39,6 @@ void TellNoDisplay(QtMsgType type, const QMessageLogContext& /*context*/, const 
   std::fprintf(stderr,
                "%sfolionet: the form cannot be opened, for there is no display. \"folionet-cli compile\" needs none.\n",
                detail.constData());
-  std::fflush(stderr);
   _exit(kExitFailed);
 }
 

@@ -50,7 +50,6 @@ class HelpPage : public QTextBrowser {
   void doSetSource(const QUrl& place, QTextDocument::ResourceType type) override {
     QTextBrowser::doSetSource(place, type);
     setTextCursor(PlaceOf(*document(), place.fragment()));
-    if (place.hasFragment()) scrollToAnchor(place.fragment());
   }
 
   // Without a selection the links would be gone through from the first or the last one of all.
@@ -82,8 +81,11 @@ HelpWindow::HelpWindow(QWidget* parent) : QDialog(parent), m_page(new HelpPage(t
   m_page->setOpenExternalLinks(true);
   m_page->document()->setDefaultStyleSheet(QStringLiteral("pre { white-space: pre-wrap; }"));  // none scrolls sideways
   auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
-  buttons->button(QDialogButtonBox::Close)->setText(tr("&Close"));
+  QPushButton* close = buttons->button(QDialogButtonBox::Close);
+  close->setObjectName(QStringLiteral("cmdClose"));
+  close->setText(tr("&Close"));
   QPushButton* contents = buttons->addButton(tr("C&ontents"), QDialogButtonBox::ActionRole);
+  contents->setObjectName(QStringLiteral("cmdContents"));
   contents->setAutoDefault(false);
   connect(contents, &QPushButton::clicked, this, [this] { ShowTopic({}); });
   connect(buttons, &QDialogButtonBox::rejected, this, &HelpWindow::reject);

@@ -122,6 +122,8 @@ TEST_F(Looks, TheSampleLinkLooksAsInAPage) {
   };
   EXPECT_EQ(Get<QComboBox>("frmEffects.cboFont").count(), QFontDatabase::families().size());
   EXPECT_EQ(ColourOf("frmEffects.lblRColor", QPalette::Window), 4478310);
+  EXPECT_GE(Get("frmEffects.lblRColor").minimumWidth(), 12 * m_form->fontMetrics().averageCharWidth())
+      << "without a word";
   const QSize size = link.sizeHint();
   EXPECT_EQ(FromQt(link.font().family()), "Verdana") << "the page's";
   EXPECT_EQ(colour(), 16711680);
@@ -173,7 +175,13 @@ TEST_F(Looks, ButtonAndBoxesSuitThePalette) {
     QApplication::setPalette(QPalette(ToQt(window)));
     QApplication::processEvents();
     auto& button = Get<QPushButton>("cmdCompile");
+    button.setText(QStringLiteral("Compile"));
+    const QImage captioned = button.grab().toImage();
     button.setText({});
+    EXPECT_NE(button.grab().toImage(), captioned);
+    const auto& wide = Get<QPushButton>("cmdRestoreAll");
+    EXPECT_GE(wide.sizeHint().width(), wide.fontMetrics().horizontalAdvance(wide.text()) + 16)
+        << "room beside a caption";
     double least = 100;
     for (const bool isSpecial : {false, true}) {
       button.setDefault(isSpecial);
@@ -188,6 +196,8 @@ TEST_F(Looks, ButtonAndBoxesSuitThePalette) {
     EXPECT_GE(least, 4.5) << window;
     for (const char* box : {"txtFilename", "frmKeywords.txtKeyWordsOK"}) {
       EXPECT_EQ(ColourOf(box, QPalette::Base), window) << box;
+      EXPECT_EQ(ColourOf(box, QPalette::PlaceholderText), ColourOf(box, QPalette::Text)) << box;
+      EXPECT_NEAR(Get(box).palette().color(QPalette::PlaceholderText).alphaF(), 0.6, 0.01) << box;
     }
     QApplication::setActiveWindow(m_form.get());
     Get("txthttpRoot").setFocus();
@@ -196,6 +206,13 @@ TEST_F(Looks, ButtonAndBoxesSuitThePalette) {
       return FromQt(Get(name).grab().toImage().pixelColor(x, y));
     };
     EXPECT_EQ(seen("txthttpRoot", 100, 4), ColourOf("txthttpRoot", QPalette::Base)) << "with the focus";
+    EXPECT_EQ(seen("txtSample", 1, 20), ColourOf("txtSample", QPalette::Base)) << "up to the frame";
+    const QImage arrow = Get("txthttpRoot").actions()[0]->icon().pixmap(64).toImage();
+    EXPECT_NEAR(arrow.pixelColor(44, 32).lightness(),
+                QColor(ToQt(ColourOf("cmdHelp", QPalette::ButtonText))).lightness(), 2);
+    Get("cmdHelp").setFocus();
+    EXPECT_EQ(seen("cmdHelp", 3, Get("cmdHelp").height() / 2), ColourOf("cmdHelp", QPalette::ButtonText))
+        << "a ring within";
     for (const char* framed : {"frmOutput", "progressCompile"}) {
       const double contrast = ContrastRatio(seen(framed, 0, Get(framed).height() / 2), kDark);
       EXPECT_TRUE(window != kDark || (contrast > 1.6 && contrast < 3)) << framed << contrast;
@@ -329,7 +346,8 @@ TEST_F(Looks, AMirroredFormKeepsTheOrderOfSentences) {
   ASSERT_TRUE(Start());
   EXPECT_TRUE(Get<QLabel>("lblWarning").alignment().testFlags(Qt::AlignRight | Qt::AlignAbsolute));
   EXPECT_TRUE(Get<QLineEdit>("txtBibleSel").alignment().testFlags(Qt::AlignRight | Qt::AlignAbsolute));
-  Click("cmdImport");
+  for (const char* opener : {"cmdPageEncoding", "frmEncoding.cmdAddNew", "cmdImport"}) Click(opener);
+  EXPECT_TRUE(Get<QLabel>("frmAddnew.lblLangAbbr").alignment().testFlags(Qt::AlignRight | Qt::AlignAbsolute));
   const QString hint = Get<QPlainTextEdit>("frmImport.txtFound").placeholderText();
   EXPECT_EQ(hint.back(), QChar(0x200E)) << "the full stop stands behind the last line";
   QApplication::setLayoutDirection(Qt::LeftToRight);

@@ -68,6 +68,8 @@ void AddLook(const QWidget& control, Traits& traits) {
   Add("unframed", control.inherits("QLineEdit") && !control.property("frame").toBool(), traits);
   Add("selectable", isLabel && control.property("textInteractionFlags").toInt() == Qt::TextSelectableByMouse, traits);
   Add("at its end", control.property("readOnly").toBool() && control.property("cursorPosition").toInt() > 0, traits);
+  Add("framed", isLabel && control.property("frameShape").toInt() != 0 && control.property("margin").toInt() > 0,
+      traits);
   Add("hand", control.cursor().shape() == Qt::PointingHandCursor, traits);
   constexpr int kUsual = static_cast<int>(Qt::AlignLeft) | static_cast<int>(Qt::AlignVCenter);
   const int place = control.property("alignment").toInt() & ~kUsual;
@@ -109,6 +111,7 @@ Traits TraitsOf(const QWidget& control) {
                  {"read-only", "readOnly"},
                  {"typed", "editable"},
                  {"default", "default"},
+                 {"follows links", "openExternalLinks"},
                  {"wraps", "wordWrap"}},
                 traits);
   const QString key = control.property("shortcut").value<QKeySequence>().toString();
@@ -123,6 +126,8 @@ Traits TraitsOfWindow(const QWidget& window) {
   Traits traits;
   AddProperties(window, {{"title", "windowTitle"}},
                 {{"open", "visible"}, {"drops", "acceptDrops"}, {"grip", "sizeGripEnabled"}}, traits);
+  Add("scrolls", window.findChild<QWidget*>(QStringLiteral("scrContent"), Qt::FindDirectChildrenOnly) != nullptr,
+      traits);
   QStringList keys;
   for (const auto* shortcut : window.findChildren<QShortcut*>(Qt::FindDirectChildrenOnly)) {
     keys << shortcut->key().toString();

@@ -280,6 +280,7 @@ TEST(FormUiTest, AFolderOfALibraryIsEnteredOrThatOfAnImportedText) {
         EXPECT_EQ(found.startsWith(QDir::homePath() + "/no text\n"), path.startsWith('~')) << FromQt(found);
       }
       EXPECT_EQ(FromQt(form.findChild<QLineEdit*>("txtStem")->placeholderText()), "TEXT");
+      EXPECT_EQ(FromQt(form.findChild<QLineEdit*>("txtName")->selectedText()), "text") << "typing replaces it";
       form.findChild<QPushButton*>("cmdImport")->click();
     });
     const auto* about = box.findChild<QLabel*>("lblAbout");
@@ -367,6 +368,7 @@ TEST(FormUiTest, TheReportCanBeCopiedWhole) {
       EXPECT_EQ(FromQt(window.windowTitle()), "An Error has ocurred.");
       auto* report = window.findChild<QPlainTextEdit*>(QStringLiteral("txtErr"));
       EXPECT_EQ(report->font().families().first(), "Fixedsys");
+      EXPECT_EQ(report->font().styleHint(), QFont::Monospace);
       EXPECT_TRUE(report->textInteractionFlags().testFlag(Qt::TextSelectableByMouse));
       EXPECT_TRUE(report->toPlainText().startsWith(QStringLiteral("An Error has occured.\nTitle        : Folionet\n")));
       EXPECT_TRUE(report->toPlainText().contains(QStringLiteral("Module       : GetLang.\nError Number : 53\n")));

@@ -74,7 +74,6 @@ HelpWindow::HelpWindow(QWidget* parent) : QDialog(parent), m_page(new HelpPage(t
   constexpr QSize kAround(8, 60);  // of a frame and a title bar
   setObjectName(QStringLiteral("HelpWindow"));
   setWindowTitle(tr("Folionet Help"));
-  setMinimumSize(200, 150);
   resize(kSize.boundedTo(screen()->availableSize() - kAround));
   m_page->setObjectName(QStringLiteral("helpPage"));
   m_page->setAccessibleName(tr("Help"));

@@ -8,7 +8,6 @@
 #include "CodePage.h"
 #include "CommonOptions.h"
 #include "ConsoleUi.h"
-#include "ExitStatus.h"
 #include "Installation.h"
 #include "PageOptions.h"
 #include "PageTexts.h"

@@ -2,7 +2,6 @@
 
 #include <QObject>
 #include <memory>
-#include <set>
 #include <string>
 
 #include "BackgroundWork.h"

@@ -29,6 +29,10 @@ endif()
 # alone, read once for all that share the FIRST target's. script/check-includes holds that each source names what it uses of
 # them, as does a build without (debug).
 function(folionet_precompile target first header)
+  # The engine is what is fuzzed. Options that the headers are read with are those of all that share them.
+  if(FOLIONET_SANITIZE AND first STREQUAL "folionet_shared")
+    target_compile_options(${target} PRIVATE -fsanitize=fuzzer-no-link)
+  endif()
   if(target STREQUAL first)
     target_precompile_headers(${target} PRIVATE ${PROJECT_SOURCE_DIR}/${header})
   else()

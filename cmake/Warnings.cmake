@@ -5,7 +5,7 @@ target_compile_options(folionet_warnings INTERFACE
 
 if(FOLIONET_SANITIZE)
   add_compile_definitions(FUZZING_BUILD_MODE_UNSAFE_FOR_PRODUCTION)
-  add_compile_options(-fsanitize=fuzzer-no-link,address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
   add_link_options(-fsanitize=address,undefined)
 endif()
 

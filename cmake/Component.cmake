@@ -19,7 +19,8 @@ endfunction()
 # What ccache needs to know to keep what is made with precompiled headers.
 if(NOT CMAKE_DISABLE_PRECOMPILE_HEADERS)
   if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
-    add_compile_options(-fpch-preprocess)
+    # Its collector of garbage goes through all that was precompiled each time: seldom is a seventh quicker for the forms.
+    add_compile_options(-fpch-preprocess --param=ggc-min-heapsize=524288)
   else()
     add_compile_options("SHELL:-Xclang -fno-pch-timestamp")
   endif()

@@ -98,6 +98,7 @@ TEST_F(Looks, ALargeScreenKeepsTheContentTogether) {
   };
   EXPECT_EQ(place("frmDialogs").bottom(), place("frmOutput").bottom());
   EXPECT_NEAR(place("page").center().x(), m_form->width() / 2, 1);
+  EXPECT_EQ(place("lblBibleName").width(), place("lblhttpRoot").width()) << "the labels are one column";
   // In a wide font the words need more of it.
   const int words = 200 * m_form->fontMetrics().averageCharWidth();
   EXPECT_LE(place("page").width(), std::max(m_form->width() * 9 / 10, words));
@@ -194,6 +195,7 @@ TEST_F(Looks, ButtonAndBoxesSuitThePalette) {
       }
     }
     EXPECT_GE(least, 4.5) << window;
+    EXPECT_NE(ColourOf("cmdCompile", QPalette::Button), ColourOf("cmdHelp", QPalette::Button)) << "it stands out";
     for (const char* box : {"txtFilename", "frmKeywords.txtKeyWordsOK"}) {
       EXPECT_EQ(ColourOf(box, QPalette::Base), window) << box;
       EXPECT_EQ(ColourOf(box, QPalette::PlaceholderText), ColourOf(box, QPalette::Text)) << box;

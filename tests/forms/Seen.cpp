@@ -70,6 +70,7 @@ void AddLook(const QWidget& control, Traits& traits) {
   Add("at its end", control.property("readOnly").toBool() && control.property("cursorPosition").toInt() > 0, traits);
   Add("framed", isLabel && control.property("frameShape").toInt() != 0 && control.property("margin").toInt() > 0,
       traits);
+  Add("menu", control.contextMenuPolicy() == Qt::ActionsContextMenu, traits);
   Add("hand", control.cursor().shape() == Qt::PointingHandCursor, traits);
   constexpr int kUsual = static_cast<int>(Qt::AlignLeft) | static_cast<int>(Qt::AlignVCenter);
   const int place = control.property("alignment").toInt() & ~kUsual;

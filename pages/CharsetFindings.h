@@ -13,9 +13,9 @@ namespace folionet {
 // charset of the pages, in the remedy the setting that a person gives.
 struct CharsetWords {
   FindingKind kind;
-  const char* isUtf8;
-  const char* isNotUtf8;
-  const char* isOther;
+  const char* isUtf8 = "";
+  const char* isNotUtf8 = "";
+  const char* isOther = "";
   const char* remedy = "Give the charset that it is in: --set \"%1\".";
 };
 

@@ -34,8 +34,8 @@ struct BrokenTarget {
 
 struct FaultWords {
   FindingKind kind;
-  const char* onOne;   // page: %1 is what is named, %3 the name that is there
-  const char* onMany;  // pages: %2 is their number
+  const char* onOne = "";   // page: %1 is what is named, %3 the name that is there
+  const char* onMany = "";  // pages: %2 is their number
 };
 
 // Words what is found in a site, and what a person does about it.

@@ -12,6 +12,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iomanip>
+#include <iterator>
 #include <sstream>
 #include <stdexcept>
 #include <string_view>
@@ -76,13 +77,6 @@ std::vector<ScriptCase> ReadScript(const fs::path& path) {
     }
   }
   return cases;
-}
-
-bool UsesForms(const ScriptCase& script) {
-  return std::any_of(script.steps.begin(), script.steps.end(), [](const ScriptStep& step) {
-    const auto has = [&](const char* text) { return step.line.find(text) != std::string::npos; };
-    return step.line.starts_with("start") || (step.line[0] == '$' && (has(" folionet") || has(" bin/folionet ")));
-  });
 }
 
 // How many lines a line such as "> (16 lines more)" stands for; 0 for any other line.
@@ -160,14 +154,13 @@ void WriteTimes(const std::string& path, const std::string& text, std::size_t ti
 std::vector<ScriptCase> ReadScripts(Drives what) {
   std::vector<fs::path> paths;
   for (const auto& entry : fs::directory_iterator(RUNS_FOLDER)) {
-    if (entry.path().extension() == ".runs") paths.push_back(entry.path());
+    const bool drivesForms = entry.path().filename().string().starts_with("form_");
+    if (entry.path().extension() == ".runs" && drivesForms == (what == Drives::kForms)) paths.push_back(entry.path());
   }
   std::sort(paths.begin(), paths.end());
   std::vector<ScriptCase> cases;
   for (const fs::path& path : paths) {
-    for (ScriptCase& script : ReadScript(path)) {
-      if (UsesForms(script) == (what == Drives::kForms)) cases.push_back(std::move(script));
-    }
+    std::ranges::move(ReadScript(path), std::back_inserter(cases));
   }
   return cases;
 }

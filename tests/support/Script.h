@@ -28,7 +28,8 @@ struct ScriptCase {
 // Does what a line says and gives it as it should stand, with the lines that come of it.
 using StepRunner = std::function<std::vector<std::string>(const std::string& line)>;
 
-// The cases of all files of runs that drive the forms, or the others; a name that a file has twice throws.
+// The cases of all files of runs that drive the forms, whose names begin with "form_", or of the others; a name that a
+// file has twice throws.
 enum class Drives { kPrograms, kForms };
 std::vector<ScriptCase> ReadScripts(Drives what);
 

@@ -17,11 +17,6 @@
 namespace folionet {
 namespace {
 
-bool LeadsSomewhere(const std::string& path) {
-  struct stat status {};
-  return stat(path.c_str(), &status) == 0;
-}
-
 // What a folder answers that is a view of the system itself, in which no person makes a file, whatever its mode says; 0
 // for one of a disk.
 int WhyMakesNone(const FileHandle& folder) {
@@ -38,16 +33,19 @@ int WhyNotMakeFolders(const std::string& path, Doing doing) {
     const std::string folder = path.substr(0, end);
     const std::size_t length = end - start;
     start = end + 1;
-    if (length == 0 || (!isAboveMissing && FolderExists(folder))) continue;
+    struct stat status {};
+    // One look, as another program may make the folder meanwhile.
+    const bool isThere = !isAboveMissing && stat(NativePath(folder).c_str(), &status) == 0;
+    if (length == 0 || (isThere && S_ISDIR(status.st_mode))) continue;
     const bool isLast = path.find_first_not_of('/', end) == std::string::npos;
-    if (!isLast && LeadsSomewhere(folder)) return ENOTDIR;
+    if (!isLast && isThere) return ENOTDIR;
     if (doing == Doing::kChange) {
       const int systemError = mkdir(folder.c_str(), 0777) == 0 ? 0 : errno;
       if (systemError != 0 && !FolderExists(folder)) return systemError;
     } else if (isAboveMissing) {
       if (length > NAME_MAX) return ENAMETOOLONG;
     } else if (const int systemError = WhyNotMake(AT_FDCWD, folder); systemError != 0) {
-      return systemError;
+      if (!FolderExists(folder)) return systemError;
     } else {
       isAboveMissing = true;
     }
